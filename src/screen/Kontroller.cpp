@@ -1,0 +1,50 @@
+#include "screen/Kontroller.h"
+
+#include <algorithm>
+
+namespace velora {
+
+int AcilirListe::Bul(MetinBakis metin) const {
+    const auto yer = std::find(ogeler.begin(), ogeler.end(), metin);
+    return yer == ogeler.end() ? -1 : static_cast<int>(yer - ogeler.begin());
+}
+
+void AcilirListe::Sec(int sira) {
+    if (sira == secili || sira < 0 || sira >= static_cast<int>(ogeler.size()))
+        return;
+    secili = sira;
+    if (tiklandi)
+        tiklandi();
+}
+
+void AcilirListe::Sec(MetinBakis metin) {
+    if (secili >= 0 && Metni() == metin)
+        return;
+    Sec(Bul(metin));
+}
+
+void AcilirListe::SessizSec(MetinBakis metin) {
+    const int sira = Bul(metin);
+    if (sira >= 0)
+        secili = sira;
+}
+
+void AcilirListe::MetinAta(MetinBakis metin) {
+    secili = Bul(metin);
+    serbest = metin;
+}
+
+void Zamanlayici::Calis() {
+    if (icinde_ || aralik == 0 || !tik)
+        return;
+    struct Icinde {
+        bool& bayrak;
+        explicit Icinde(bool& b) : bayrak(b) { bayrak = true; }
+        ~Icinde() { bayrak = false; }
+        Icinde(const Icinde&) = delete;
+        Icinde& operator=(const Icinde&) = delete;
+    } icinde(icinde_);
+    tik();
+}
+
+} // namespace velora

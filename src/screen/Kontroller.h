@@ -1,0 +1,138 @@
+#pragma once
+
+#include <array>
+#include <cassert>
+#include <cstdint>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "storage/Metin.h"
+
+namespace velora {
+
+/// A colour as the files hold it: red in the low byte, then green, then blue.
+using RenkDegeri = std::int32_t;
+
+inline constexpr RenkDegeri kBeyaz = 0xFFFFFF;
+
+/// Items numbered from 1, as the fields of the screens are.
+template <class T, std::size_t Adet>
+class BirTabanli {
+  public:
+    static constexpr int kAdet = static_cast<int>(Adet);
+
+    T& operator[](int no) { return ogeler_[Sira(no)]; }
+    const T& operator[](int no) const { return ogeler_[Sira(no)]; }
+    auto begin() { return ogeler_.begin(); }
+    auto end() { return ogeler_.end(); }
+    auto begin() const { return ogeler_.begin(); }
+    auto end() const { return ogeler_.end(); }
+
+  private:
+    static std::size_t Sira(int no) {
+        assert(no >= 1 && no <= kAdet);
+        return static_cast<std::size_t>(no - 1);
+    }
+    std::array<T, Adet> ogeler_{};
+};
+
+/// Where something stands on its screen, in twips (15 twips are one logical pixel).
+struct Yer {
+    double sol = 0;
+    double ust = 0;
+    double genislik = 0;
+    double yukseklik = 0;
+
+    double Sag() const { return sol + genislik; }
+    double Alt() const { return ust + yukseklik; }
+    bool operator==(const Yer&) const = default;
+};
+
+struct Etiket {
+    Metin baslik;
+    bool gorunur = true;
+    RenkDegeri zemin = kBeyaz;
+    RenkDegeri yazi = 0;
+    Yer yer;
+};
+
+struct MetinKutusu {
+    Metin metin;
+    bool etkin = true;
+    bool kilitli = false;
+    bool beyazZemin = true; ///< false: the grey of a field that can't be used
+    int enUzun = 0;         ///< characters that typing may reach; 0 for no limit. Text set by code stands whole.
+};
+
+/// A box with a tick. `deger` is 0 or 1; a file may bring another number, which then stands as it is.
+struct OnayKutusu {
+    int deger = 0;
+    bool etkin = true;
+    std::function<void()> tiklandi; ///< the screen's handler, set by the screen
+
+    /// Gives the box a value. The handler runs only when the value is another one.
+    void Ata(int yeni) {
+        if (yeni == deger)
+            return;
+        deger = yeni;
+        if (tiklandi)
+            tiklandi();
+    }
+};
+
+struct Dugme {
+    Metin baslik;
+    Metin ipucu;
+    bool etkin = true;
+    bool gorunur = true;
+};
+
+/// A list to choose one entry from.
+struct AcilirListe {
+    std::vector<Metin> ogeler;
+    int secili = -1;     ///< index of the chosen entry, -1 for none
+    Metin serbest;       ///< with no entry chosen: the text that stands in the field all the same
+    bool etkin = true;
+    std::function<void()> tiklandi; ///< the screen's handler, set by the screen
+
+    /// What the field shows: the chosen entry or the free text.
+    Metin Metni() const { return secili < 0 ? serbest : ogeler[static_cast<std::size_t>(secili)]; }
+    /// Index of the first entry of that text, -1 when there is none.
+    int Bul(MetinBakis metin) const;
+
+    /// Chooses another entry and runs the handler. The entry already chosen, or one that isn't there: nothing.
+    void Sec(int sira);
+    /// The same by its text. An unlisted text leaves the choice and runs nothing.
+    void Sec(MetinBakis metin);
+    /// Chooses by its text and runs nothing; an unlisted text leaves the choice.
+    void SessizSec(MetinBakis metin);
+    /// Takes the text as it stands, listed or not, and runs nothing.
+    void MetinAta(MetinBakis metin);
+};
+
+struct ListeSatiri {
+    std::vector<Metin> sutun; ///< column texts; one that is missing shows as empty
+    Metin tag;
+    RenkDegeri yazi = 0;
+};
+
+struct ListeGorunumu {
+    std::vector<Metin> basliklar;
+    std::vector<ListeSatiri> satirlar;
+    int secili = -1; ///< index of the marked row, -1 for none
+};
+
+/// A timer of a screen. It runs while `aralik` isn't 0. The outside calls `Calis` when it is due.
+struct Zamanlayici {
+    int aralik = 0;            ///< milliseconds; 0 stops it
+    std::function<void()> tik; ///< the screen's handler, set by the screen
+
+    /// Runs the handler, unless it is running already or the timer has been stopped: a due tick waits.
+    void Calis();
+
+  private:
+    bool icinde_ = false;
+};
+
+} // namespace velora

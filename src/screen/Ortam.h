@@ -1,0 +1,68 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include "storage/Metin.h"
+
+namespace velora {
+
+/// Every screen of the program. The outside world finds a screen's window by it.
+enum class EkranAdi { Splash, FormTablo, FormAyarlar, FormResmiTatil };
+
+enum class Simge { Bilgi, Soru, Uyari, Kritik };
+enum class KutuDugmeleri { Tamam, EvetHayir };
+enum class Cevap { Tamam, Evet, Hayir };
+
+struct MesajKutusu {
+    Metin metin; ///< a line break is one "\n"
+    Metin baslik = u"Velora";
+    Simge simge = Simge::Bilgi;
+    KutuDugmeleri dugmeler = KutuDugmeleri::Tamam;
+};
+
+struct GirdiKutusu {
+    Metin metin;
+    Metin baslik = u"Velora";
+    Metin baslangic;
+};
+
+/// The only door to the outside. A program in a window, a test and a tool differ in what they put in here; each
+/// function must be set before a screen is used.
+struct Ortam {
+    struct Sor {
+        /// Shows the box and waits for the answer. Closing a question box is a no.
+        std::function<Cevap(const MesajKutusu&)> mesaj;
+        /// What was typed; empty text when it was cancelled.
+        std::function<Metin(const GirdiKutusu&)> girdi;
+    } sor;
+
+    struct Goster {
+        /// Shows the screen's window, calls `gorununce` once it stands, and returns.
+        std::function<void(EkranAdi, const std::function<void()>& gorununce)> ac;
+        /// The same, but returns only when the window is closed.
+        std::function<void(EkranAdi, const std::function<void()>& gorununce)> modal;
+        /// Closes the screen's window, if there is one.
+        std::function<void(EkranAdi)> gizle;
+    } goster;
+
+    struct Zaman {
+        /// The local time of the machine.
+        std::function<std::chrono::local_seconds()> simdi;
+    } zaman;
+
+    struct Olaylar {
+        /// Lets pending events run: painting, timers and clicks arrive here, inside the caller.
+        std::function<void()> isle;
+        /// Ends the program, with all its screens.
+        std::function<void()> bitir;
+    } olaylar;
+
+    struct Odak {
+        /// Gives the keyboard focus to a control of a screen, by its name.
+        std::function<void(EkranAdi, MetinBakis kontrol)> ver;
+    } odak;
+};
+
+} // namespace velora

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "screen/Ortam.h"
+
+namespace velora {
+
+struct Program;
+
+/// The screens that stand on the display, from the lowest to the topmost. A screen is activated when it is first
+/// shown, and again when a screen that stood over it closes. Boxes, menus and other programs activate nothing.
+class EkranYigini {
+  public:
+    using Etkinlestir = std::function<void()>;
+
+    void Koy(EkranAdi ad, Etkinlestir etkinlestir);
+    void Al(EkranAdi ad);
+    /// Activates the topmost screen.
+    void UsttekiniEtkinlestir() const;
+    bool Acik(EkranAdi ad) const;
+
+  private:
+    struct Kayit {
+        EkranAdi ad;
+        Etkinlestir etkinlestir;
+    };
+    std::vector<Kayit> kayitlar_;
+};
+
+/// Holds one screen of the program. The first use makes the screen with its design values and runs its `Load`;
+/// `Bosalt` drops it with all it held, and the next use loads afresh.
+///
+/// A handler may unload its own screen and run on: a screen lives until the last call that was made through its
+/// holder has returned. After the unload such a handler may only touch other screens.
+///
+/// A screen is a struct with a constructor that takes the program. `Load()` is required, `Activate()` is not.
+template <class Ekran>
+class Pencere {
+  public:
+    Pencere(Program& program, EkranAdi ad) : program_(program), ad_(ad) {}
+    Pencere(const Pencere&) = delete;
+    Pencere& operator=(const Pencere&) = delete;
+
+    /// The screen, loaded on first use, and kept alive as long as the answer is held.
+    std::shared_ptr<Ekran> Tut();
+    std::shared_ptr<Ekran> operator->() { return Tut(); }
+
+    /// Asks without loading.
+    bool Yuklu() const { return ekran_ != nullptr; }
+
+    /// Shows the screen beside the others and returns.
+    void Goster();
+    /// Shows the screen over the others and returns when it has closed.
+    void GosterModal();
+    /// Unloads the screen and closes its window.
+    void Bosalt();
+
+  private:
+    void Etkinlestir();
+
+    Program& program_;
+    EkranAdi ad_;
+    std::shared_ptr<Ekran> ekran_;
+};
+
+} // namespace velora

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "storage/Metin.h"
+#include "storage/YazimBicimi.h"
+#include "storage/dosya/Dosyalar.h"
+
+namespace velora {
+
+inline constexpr int kAnaDegerSayisi = 20;
+inline constexpr int kDetayDegerSayisi = 39;
+inline constexpr int kHizmetSayisi = 17;
+
+/// The empty masks, as the screen holds and the files store them.
+inline constexpr MetinBakis kBosTarih = u"__.__.____";
+inline constexpr MetinBakis kBosSaat = u"__:__";
+
+/// The main file as a list of untyped values, in the order of the file: `deger[0]` is value 1.
+/// Its life is the life of the values: what a reading can't fill stays from the reading before.
+struct AnaDegerler {
+    std::array<Metin, kAnaDegerSayisi> deger;
+
+    /// The value with this number, 1 to 20. Values 1-18 are `Kay1` ... `Kay18`, 19 `Check18`, 20 `Check19`.
+    const Metin& No(int no) const { return deger[static_cast<std::size_t>(no - 1)]; }
+};
+
+/// The details file as a list of untyped values: 1-17 the services, 18-34 their notes, 35 `Aciklamalar`,
+/// 36 `Option1`, 37 `Option2`, 38 `Combo1`, 39 `Label20`.
+struct DetayDegerler {
+    std::array<Metin, kDetayDegerSayisi> deger;
+    const Metin& No(int no) const { return deger[static_cast<std::size_t>(no - 1)]; }
+};
+
+struct Odeme {
+    Metin tarih;    ///< dd.mm.yyyy
+    Metin tutar;    ///< a plain number in text form
+    Metin aciklama;
+};
+
+/// Each fills what the file holds, in order, and leaves the rest as it was. False when the file can't be opened.
+bool AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef);
+bool DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef);
+/// Adds the payments of the file to the list. A payment whose date is blank adds nothing.
+bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef);
+
+/// Main record: every double quote goes, every comma becomes a full stop.
+Metin AnaTemizle(MetinBakis metin);
+/// Details: every comma becomes a full stop, every double quote an apostrophe.
+Metin DetayTemizle(MetinBakis metin);
+
+/// A main record to be written. `Kay` texts are written as they are: clean them before, on the fields.
+struct AnaKayit {
+    std::array<Metin, 18> kay; ///< `kay[0]` is `Kay1`
+    int check18 = 1;
+    int check19 = 0;
+};
+
+/// A details record to be written. Notes and free text are cleaned while writing, the menu's two texts are not.
+struct DetayKaydi {
+    std::array<int, kHizmetSayisi> check{};
+    std::array<Metin, kHizmetSayisi> tt;
+    Metin aciklamalar;
+    bool option1 = true; ///< firm
+    bool option2 = false; ///< pre-reservation
+    Metin combo1;
+    Metin label20;
+};
+
+std::string AnaBayt(const AnaKayit& kayit);
+/// 38 lines: each value on its own, 36 and 37 on one line.
+std::string DetayBayt(const DetayKaydi& kayit);
+std::string OdemeBayt(const std::vector<Odeme>& odemeler);
+
+bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit);
+bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit);
+/// An empty list leaves no file.
+bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler);
+
+} // namespace velora

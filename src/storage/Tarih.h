@@ -1,0 +1,25 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+
+#include "storage/Metin.h"
+
+namespace velora {
+
+/// A civil day of the calendar, never an instant.
+using Gun = std::chrono::year_month_day;
+
+/// The day that a text of the form dd.mm.yyyy names. One-digit days and months are taken too. Empty when the
+/// text has another form or the calendar has no such day.
+std::optional<Gun> TarihCoz(MetinBakis metin);
+
+/// dd.mm.yyyy
+Metin TarihMetni(const Gun& gun);
+
+/// A date text through one of the patterns "ddd", "dddd", "dd.mm.yyyy", "yyyy", "mm", "dd". Day names are
+/// Turkish, short (Pzt) and long (Pazartesi). A text that is no real date comes back unchanged, and so does one
+/// asked for in another pattern.
+Metin Bicimle(MetinBakis tarih, MetinBakis desen);
+
+} // namespace velora

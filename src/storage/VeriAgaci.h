@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+
+#include "storage/Metin.h"
+#include "storage/dosya/Dosyalar.h"
+
+namespace velora {
+
+/// The day part of a reservation: the day slot or the evening slot.
+enum class GunduzGece { Gunduz, Gece };
+
+inline constexpr MetinBakis kDetayEki = u"-Detay";
+inline constexpr MetinBakis kOdemeEki = u"-Odeme";
+
+/// " - Gündüz" or " - Gece".
+MetinBakis DilimEki(GunduzGece dilim);
+
+/// ".01." to ".12."; `ay` 1 to 12.
+Metin AyEki(unsigned ay);
+
+/// The day file name, as in "05.01.2012 - Gündüz". The year is taken as it stands.
+Metin GunAnahtari(unsigned gun, unsigned ay, MetinBakis yil, GunduzGece dilim);
+
+/// The date of a day file name as text, dd.mm.yyyy, taken out by position: characters 1-2, 4-5 and 7-10.
+Metin AnahtarTarihi(MetinBakis ad);
+
+/// The slot that the last three characters of a selected day tell: "düz" is the day slot, anything else the
+/// evening slot.
+GunduzGece AnahtarDilimi(MetinBakis ad);
+
+/// True for names that end in "Detay" or "Odeme": never a main record.
+bool EslikDosyasi(MetinBakis ad);
+
+/// The pattern "0?.*;1?.*;2?.*;3?.*": a digit from 0 to 3, one further character, a dot, anything.
+bool GunDosyasiDeseni(MetinBakis ad);
+
+/// The paths of the data tree. Names are joined as they stand; nothing is escaped or cleaned.
+class VeriAgaci {
+  public:
+    explicit VeriAgaci(const Dosyalar& dosyalar) : dosyalar_(dosyalar) {}
+
+    /// A file directly in the program's folder.
+    Metin KokYolu(MetinBakis ad) const;
+    Metin SalonKlasoru(MetinBakis salon) const;
+    Metin YilKlasoru(MetinBakis salon, MetinBakis yil) const;
+    /// The companions are this path with `kDetayEki` or `kOdemeEki` behind it.
+    Metin GunYolu(MetinBakis salon, MetinBakis yil, MetinBakis gunAnahtari) const;
+
+    /// True when the main file of exactly this path is there: the day and slot is taken.
+    bool RezervasyonVarMi(const Metin& yol) const;
+
+    /// Makes the hall folder, then the year folder in it. Failures are passed over.
+    void KlasorHazirla(MetinBakis salon, MetinBakis yil) const;
+
+  private:
+    const Dosyalar& dosyalar_;
+};
+
+} // namespace velora

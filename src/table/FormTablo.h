@@ -1,0 +1,144 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "screen/Kontroller.h"
+#include "storage/VeriAgaci.h"
+
+namespace velora {
+
+struct Program;
+
+inline constexpr int kAySayisi = 12;
+inline constexpr int kGunSayisi = 31;
+inline constexpr int kSatirSayisi = 24;
+
+/// The mark of a head picked for the ruler: red 255, green 128, blue 0. It stands in no setting.
+inline constexpr RenkDegeri kBaslikIsareti = 33023;
+
+/// The rows of the table, January to December, in each month the day slot first.
+enum SatirAdi {
+    OcakGunduz, OcakGece, SubatGunduz, SubatGece, MartGunduz, MartGece,
+    NisanGunduz, NisanGece, MayisGunduz, MayisGece, HaziranGunduz, HaziranGece,
+    TemmuzGunduz, TemmuzGece, AgustosGunduz, AgustosGece, EylulGunduz, EylulGece,
+    EkimGunduz, EkimGece, KasimGunduz, KasimGece, AralikGunduz, AralikGece
+};
+
+constexpr SatirAdi Satir(int ay, GunduzGece dilim) {
+    return static_cast<SatirAdi>(2 * (ay - 1) + (dilim == GunduzGece::Gece ? 1 : 0));
+}
+constexpr int SatirAyi(SatirAdi satir) { return satir / 2 + 1; }
+constexpr GunduzGece SatirDilimi(SatirAdi satir) {
+    return satir % 2 == 0 ? GunduzGece::Gunduz : GunduzGece::Gece;
+}
+
+/// One slot of one day. Its back colour is the day's state for all other logic: it has no other record of being
+/// taken.
+struct Hucre {
+    Metin baslik;            ///< short weekday name; empty while hidden
+    bool gorunur = false;
+    RenkDegeri zemin = kBeyaz;
+    RenkDegeri yazi = 0;
+    Metin tag;               ///< summary of the reservation, ten parts with "|" between; empty on a free cell
+    Metin ipucu;             ///< the holiday's name
+    bool otomatikSurukleme = false; ///< true while it can be dragged
+};
+
+/// One of the 24 rows.
+struct TabloSatiri {
+    BirTabanli<Hucre, kGunSayisi> gun;
+    double ust = 0;       ///< twips
+    double yukseklik = 0; ///< twips
+};
+
+/// The pictures that show which of a month's two rows is which.
+enum class SiraResmi { Image1, Image2 }; ///< day slot on top, evening slot on top
+
+struct AyResmi {
+    SiraResmi resim = SiraResmi::Image2;
+    bool gorunur = false;
+    Yer yer;
+};
+
+struct Cerceve {
+    bool gorunur = false;
+    Yer yer;
+};
+
+/// The main screen: for the hall selected in `Salon` and the year selected in `Sene`, a table of twelve months with
+/// two rows each and 31 day columns. The cells are the working memory of the screen. All lengths are twips.
+struct FormTablo {
+    explicit FormTablo(Program& program);
+
+    // --- what the outside calls ---
+    void Load();
+    void Activate();
+    /// Lays the table out for an inner width and height of the screen, in twips.
+    void Resize(double icGenislik, double icYukseklik);
+    /// The pointer moved over the bare screen, outside the cells.
+    void MouseMove();
+    void Salon_Click();
+    void Sene_Click();
+    void ALabel_Click(int gun);
+    void AyAdi_Click(int ay);
+    /// A click on a cell.
+    void Hucre_Click();
+
+    // --- procedures under the names of their hidden buttons ---
+    void Command1(); ///< "Listele": the full scan and repaint
+    void Command3(); ///< "HaftaSonu": heads, free days, weekends
+    void Command4(); ///< "Gun İptali": cells of days that exist, with their weekday names
+    void Command5(); ///< "Resmi Tatiller"
+    void Command6(); ///< "Bugün": is one of today's slots taken?
+    void GecmisGunler();
+    void CetvelAc();
+    void CetvelSil();
+    void UyariGoster();
+
+    // --- timers ---
+    void CetvelTimer_Tick();
+    void GunTimer_Tick();
+    void Saatsay_Tick();
+    void DuyuruKontrol_Tick();
+
+    Metin baslik; ///< title of the screen
+    AcilirListe Salon;
+    AcilirListe Sene;
+    std::array<TabloSatiri, kSatirSayisi> satirlar;
+    BirTabanli<Etiket, kGunSayisi> Gunler; ///< back of the head of each day column
+    BirTabanli<Etiket, kGunSayisi> ALabel; ///< day numbers in the heads
+    BirTabanli<Etiket, kAySayisi> AyAdi;   ///< month names in capitals
+    BirTabanli<Etiket, kAySayisi> AyZemin; ///< bar behind the name of the month
+    BirTabanli<AyResmi, kAySayisi> GunduzGece;
+    Cerceve BuGun;       ///< frame about today's column of the current month, in `Renk(16)`
+    Cerceve HizliSecim;  ///< frame of the ruler
+    int HizliAy = 0;     ///< month picked in the heads, 0 for none
+    int HizliGun = 0;    ///< day picked in the heads, 0 for none
+    Etiket Ekran;        ///< floating hover label
+    Metin SeciliTarih;   ///< day file name of the cell under the pointer
+    Metin SeciliTarih2;  ///< the same, frozen at the last press
+    int tasimamoducheck = 0; ///< 1 while move mode is open
+    int TutarDegistir = 0;   ///< 1: the user may change amounts
+    int Check1 = 0;          ///< "Hatirlatma": 0 until the first Activate
+    int Dklabel = 0;         ///< ticks of `Saatsay`
+    Metin UserNamem;         ///< the active user
+    Etiket Picture1;         ///< warning panel
+    Etiket UyariBaslik;      ///< its title
+    ListeGorunumu Liste;     ///< its list
+    bool Image3 = false;     ///< the bell: a personal reminder falls on today
+    Zamanlayici CetvelTimer;
+    Zamanlayici GunTimer;
+    Zamanlayici OzelHatirlatTimer;
+    Zamanlayici Saatsay;
+    Zamanlayici DuyuruKontrol;
+
+    Hucre& Gozu(int ay, velora::GunduzGece dilim, int gun) {
+        return satirlar[static_cast<std::size_t>(Satir(ay, dilim))].gun[gun];
+    }
+
+  private:
+    Program& program_;
+};
+
+} // namespace velora
