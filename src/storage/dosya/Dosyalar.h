@@ -16,14 +16,15 @@ inline constexpr char16_t kAyrac = u'\\';
 
 enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 
-/// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path that
-/// doesn't lie below the root is refused: it must begin with the root, and none of its names may be "." or "..",
-/// or hold a character that a name can't hold on any of the systems the program runs on, such as "/", ":" or NUL.
-/// An empty name between two separators is passed over.
+/// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path
+/// that doesn't lie below the root is refused: it must begin with the root, and none of its names may be "."
+/// or "..", or hold a character that a name can't hold on any of the systems the program runs on, such as
+/// "/", ":" or NUL. Neither may it be made of dots and blanks alone. An empty name between two separators is
+/// passed over.
 ///
 /// Nothing here throws and nothing is reported but by the return value: a failing step is passed over by its
-/// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows; bytes of a name that are no UTF-8 survive a
-/// listing and can be opened again.
+/// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows; bytes of a name that are no UTF-8 survive
+/// a listing and can be opened again.
 class Dosyalar {
   public:
     explicit Dosyalar(const std::filesystem::path& kok);
@@ -38,32 +39,33 @@ class Dosyalar {
     /// lists nothing.
     std::vector<Metin> Listele(const Metin& klasor) const;
 
-    /// The whole file, or nothing when it can't be opened or read.
+    /// The whole file, or nothing when it can't be opened or read. A file of more than 256 MiB can't be read.
     std::optional<std::string> Oku(const Metin& yol) const;
 
-    /// One file of a folder, as `KlasoruOku` hands it over. The views last until the call returns.
+    /// One file of a folder, as `KlasoruOku` hands it over. The views last until `ver` returns.
     struct OkunanDosya {
         MetinBakis ad;
-        bool acildi;             ///< false: it is there but can't be opened or read; `bayt` is empty
-        std::string_view bayt;   ///< at most `enCok` bytes from its beginning
+        bool acildi;           ///< false: it is there but can't be opened or read; `bayt` is empty
+        std::string_view bayt; ///< at most `enCok` bytes from its beginning
     };
 
-    /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok` limits
-    /// what is read of each file, so that a huge stray file costs neither memory nor time.
+    /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok`
+    /// limits what is read of each file, so that a huge stray file costs neither memory nor time.
     void KlasoruOku(const Metin& klasor, std::size_t enCok,
                     const std::function<void(const OkunanDosya&)>& ver) const;
 
-    /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the new
-    /// one goes over it in a single write, filled up with line ends to the old length, and then the file is cut to
-    /// its length. Room on the disk is taken beforehand where the system can do that; when there is none, the old
-    /// text stays. A new file whose text can't be put down is removed again. False on failure.
+    /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
+    /// new one goes over it in a single write, filled up with line ends to the old length, and then the file
+    /// is cut to its length. Room on the disk is taken beforehand where the system can do that; when there is
+    /// none, the old text stays. A new file whose text can't be put down is removed again. False on failure.
     bool Yaz(const Metin& yol, std::string_view bayt) const;
 
-    /// Puts the bytes at the end of the file, which is made when missing. When they can't be put down whole, the
-    /// file gets its old length back.
+    /// Puts the bytes at the end of the file, which is made when missing. When they can't be put down whole,
+    /// the file gets its old length back.
     bool Ekle(const Metin& yol, std::string_view bayt) const;
 
-    /// Copies a file over another, with the care of `Yaz`. False when the source can't be read.
+    /// Copies a file over another, with the care of `Yaz`. False when the source can't be read. `ariza` is
+    /// asked for the copy with the target's path, then for the reading and the writing in it.
     bool Kopyala(const Metin& kaynak, const Metin& hedef) const;
 
     bool Sil(const Metin& yol) const;
@@ -71,7 +73,8 @@ class Dosyalar {
     /// Makes one folder, the last name of the path. False when it can't, also when it is there already.
     bool KlasorYap(const Metin& yol) const;
 
-    /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad disk.
+    /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
+    /// disk.
     std::function<bool(DosyaIsi, const Metin& yol)> ariza;
     /// For tests: room that is left on the disk, in bytes that a write may still add.
     std::optional<std::size_t> bosYer;
@@ -83,13 +86,15 @@ class Dosyalar {
     Metin kok_;
 };
 
-/// True when two file names are the same name on this system: letter by letter, without regard to case on Windows.
+/// True when two file names are the same name on this system: letter by letter, without regard to case on
+/// Windows.
 bool AyniAd(MetinBakis bir, MetinBakis iki);
 
 /// The order of listings: by name, without regard to case.
 bool AdSirasi(MetinBakis bir, MetinBakis iki);
 
-/// A path's text and back; lossless.
+/// A path's text and back; lossless. Nothing comes back for a text that no path can hold.
 Metin YolMetni(const std::filesystem::path& yol);
+std::optional<std::filesystem::path> MetinYolu(MetinBakis metin);
 
 } // namespace velora
