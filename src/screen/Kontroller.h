@@ -62,7 +62,7 @@ struct MetinKutusu {
     bool etkin = true;
     bool kilitli = false;
     bool beyazZemin = true; ///< false: the grey of a field that can't be used
-    int enUzun = 0;         ///< characters that typing may reach; 0 for no limit. Text set by code stands whole.
+    int enUzun = 0; ///< characters that typing may reach; 0 for no limit. Text set by code stands whole.
 };
 
 /// A box with a tick. `deger` is 0 or 1; a file may bring another number, which then stands as it is.
@@ -91,8 +91,8 @@ struct Dugme {
 /// A list to choose one entry from.
 struct AcilirListe {
     std::vector<Metin> ogeler;
-    int secili = -1;     ///< index of the chosen entry, -1 for none
-    Metin serbest;       ///< with no entry chosen: the text that stands in the field all the same
+    int secili = -1; ///< index of the chosen entry, -1 for none
+    Metin serbest;   ///< with no entry chosen: the text that stands in the field all the same
     bool etkin = true;
     std::function<void()> tiklandi; ///< the screen's handler, set by the screen
 
@@ -101,7 +101,8 @@ struct AcilirListe {
     /// Index of the first entry of that text, -1 when there is none.
     int Bul(MetinBakis metin) const;
 
-    /// Chooses another entry and runs the handler. The entry already chosen, or one that isn't there: nothing.
+    /// Chooses another entry and runs the handler. The entry already chosen, or one that isn't there:
+    /// nothing.
     void Sec(int sira);
     /// The same by its text. An unlisted text leaves the choice and runs nothing.
     void Sec(MetinBakis metin);
@@ -112,7 +113,7 @@ struct AcilirListe {
 };
 
 struct ListeSatiri {
-    std::vector<Metin> sutun; ///< column texts; one that is missing shows as empty
+    std::vector<Metin> sutun; ///< column texts
     Metin tag;
     RenkDegeri yazi = 0;
 };

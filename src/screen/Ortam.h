@@ -28,8 +28,8 @@ struct GirdiKutusu {
     Metin baslangic;
 };
 
-/// The only door to the outside. A program in a window, a test and a tool differ in what they put in here; each
-/// function must be set before a screen is used.
+/// The only door to the outside. A program in a window, a test and a tool differ in what they put in here;
+/// each function must be set before a screen is used.
 struct Ortam {
     struct Sor {
         /// Shows the box and waits for the answer. Closing a question box is a no.

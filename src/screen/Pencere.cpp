@@ -23,7 +23,8 @@ void EkranYigini::UsttekiniEtkinlestir() const {
 }
 
 bool EkranYigini::Acik(EkranAdi ad) const {
-    return std::any_of(kayitlar_.begin(), kayitlar_.end(), [ad](const Kayit& kayit) { return kayit.ad == ad; });
+    return std::any_of(kayitlar_.begin(), kayitlar_.end(),
+                       [ad](const Kayit& kayit) { return kayit.ad == ad; });
 }
 
 } // namespace velora

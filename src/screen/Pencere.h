@@ -10,8 +10,9 @@ namespace velora {
 
 struct Program;
 
-/// The screens that stand on the display, from the lowest to the topmost. A screen is activated when it is first
-/// shown, and again when a screen that stood over it closes. Boxes, menus and other programs activate nothing.
+/// The screens that stand on the display, from the lowest to the topmost. A screen is activated when it is
+/// first shown, and again when a screen that stood over it closes. Boxes, menus and other programs activate
+/// nothing.
 class EkranYigini {
   public:
     using Etkinlestir = std::function<void()>;
@@ -30,11 +31,11 @@ class EkranYigini {
     std::vector<Kayit> kayitlar_;
 };
 
-/// Holds one screen of the program. The first use makes the screen with its design values and runs its `Load`;
-/// `Bosalt` drops it with all it held, and the next use loads afresh.
+/// Holds one screen of the program. The first use makes the screen with its design values and runs its
+/// `Load`; `Bosalt` drops it with all it held, and the next use loads afresh.
 ///
-/// A handler may unload its own screen and run on: a screen lives until the last call that was made through its
-/// holder has returned. After the unload such a handler may only touch other screens.
+/// A handler may unload its own screen and run on: a screen lives until the last call that was made through
+/// its holder has returned. After the unload such a handler may only touch other screens.
 ///
 /// A screen is a struct with a constructor that takes the program. `Load()` is required, `Activate()` is not.
 template <class Ekran>

@@ -2,11 +2,13 @@
 
 namespace velora {
 
-Program::Program(Ortam ortam, const std::filesystem::path& kok)
-    : ortam(std::move(ortam)), dosyalar(kok), agac(dosyalar), Splash(*this, EkranAdi::Splash),
+Program::Program(Ortam disDunya, const std::filesystem::path& kok)
+    : ortam(std::move(disDunya)), dosyalar(kok), agac(dosyalar), Splash(*this, EkranAdi::Splash),
       FormTablo(*this, EkranAdi::FormTablo), FormAyarlar(*this, EkranAdi::FormAyarlar),
       FormResmiTatil(*this, EkranAdi::FormResmiTatil) {}
 
-Gun Program::Bugun() const { return std::chrono::floor<std::chrono::days>(ortam.zaman.simdi()); }
+Gun Program::Bugun() const {
+    return Gun(std::chrono::floor<std::chrono::days>(ortam.zaman.simdi()));
+}
 
 } // namespace velora

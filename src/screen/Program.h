@@ -16,7 +16,7 @@ struct FormResmiTatil;
 /// The whole program: its screens by their own names, the data tree and the outside world.
 struct Program {
     /// `kok` is the program's folder, in which the data tree stands.
-    Program(Ortam ortam, const std::filesystem::path& kok);
+    Program(Ortam disDunya, const std::filesystem::path& kok);
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
@@ -74,7 +74,7 @@ void Pencere<Ekran>::Bosalt() {
 
 template <class Ekran>
 void Pencere<Ekran>::Etkinlestir() {
-    if constexpr (requires(Ekran& e) { e.Activate(); })
+    if constexpr (requires(Ekran & e) { e.Activate(); })
         if (Yuklu())
             Tut()->Activate();
 }

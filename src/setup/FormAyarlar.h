@@ -12,9 +12,9 @@ inline constexpr int kRenkSayisi = 25;
 inline constexpr MetinBakis kGunduzGeceSirasi = u"Gündüz / Gece";
 inline constexpr MetinBakis kGeceGunduzSirasi = u"Gece / Gündüz";
 
-/// "Genel Program Ayarları": the settings of the program and their live store. Readers ask for a value whenever
-/// they need it; the first asking loads the screen from `Settings.dll` and `Visible.dll`, an unload drops what was
-/// not saved.
+/// "Genel Program Ayarları": the settings of the program and their live store. Readers ask for a value
+/// whenever they need it; the first asking loads the screen from `Settings.dll` and `Visible.dll`, an unload
+/// drops what was not saved.
 struct FormAyarlar {
     explicit FormAyarlar(Program& program);
 
@@ -23,8 +23,9 @@ struct FormAyarlar {
 
     /// Colour `n`, 0 to 24.
     RenkDegeri Renk(int n) const { return renkler[static_cast<std::size_t>(n)]; }
-    bool AyGorunur(int ay) const { return Aylar[ay].deger != 0; }
-    /// True when the day slot stands on top in each month. Any text but "Gündüz / Gece" means the other order.
+    bool AyGorunur(int ay) const { return Aylar[ay].deger == 1; }
+    /// True when the day slot stands on top in each month. Any text but "Gündüz / Gece" means the other
+    /// order.
     bool GunduzUstte() const { return GunduzGece.Metni() == kGunduzGeceSirasi; }
 
     void Check3_Click();

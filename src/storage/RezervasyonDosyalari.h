@@ -34,12 +34,13 @@ struct DetayDegerler {
 };
 
 struct Odeme {
-    Metin tarih;    ///< dd.mm.yyyy
-    Metin tutar;    ///< a plain number in text form
+    Metin tarih; ///< dd.mm.yyyy
+    Metin tutar; ///< a plain number in text form
     Metin aciklama;
 };
 
-/// Each fills what the file holds, in order, and leaves the rest as it was. False when the file can't be opened.
+/// Each fills what the file holds, in order, and leaves the rest as it was. False when the file can't be
+/// opened.
 bool AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef);
 bool DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef);
 /// Adds the payments of the file to the list. A payment whose date is blank adds nothing.
@@ -57,12 +58,13 @@ struct AnaKayit {
     int check19 = 0;
 };
 
-/// A details record to be written. Notes and free text are cleaned while writing, the menu's two texts are not.
+/// A details record to be written. Notes and free text are cleaned while writing, the menu's two texts are
+/// not.
 struct DetayKaydi {
     std::array<int, kHizmetSayisi> check{};
     std::array<Metin, kHizmetSayisi> tt;
     Metin aciklamalar;
-    bool option1 = true; ///< firm
+    bool option1 = true;  ///< firm
     bool option2 = false; ///< pre-reservation
     Metin combo1;
     Metin label20;

@@ -18,8 +18,8 @@ std::optional<Gun> TarihCoz(MetinBakis metin);
 Metin TarihMetni(const Gun& gun);
 
 /// A date text through one of the patterns "ddd", "dddd", "dd.mm.yyyy", "yyyy", "mm", "dd". Day names are
-/// Turkish, short (Pzt) and long (Pazartesi). A text that is no real date comes back unchanged, and so does one
-/// asked for in another pattern.
+/// Turkish, short (Pzt) and long (Pazartesi). A text that is no real date comes back unchanged, and so does
+/// one asked for in another pattern.
 Metin Bicimle(MetinBakis tarih, MetinBakis desen);
 
 } // namespace velora

@@ -9,11 +9,12 @@
 
 namespace velora {
 
-/// Reads the values of a record file, one after another, from its bytes. A value is found by its position alone.
-/// The bytes must outlive the reader.
+/// Reads the values of a record file, one after another, from its bytes. A value is found by its position
+/// alone. The bytes must outlive the reader.
 ///
 /// - Blanks, tabs and line ends before a value are skipped.
-/// - A value that begins with a double quote goes to the next one, line breaks included, or to the end of the file
+/// - A value that begins with a double quote goes to the next one, line breaks included, or to the end of the
+/// file
 ///   when there is no other. Blanks and tabs behind it are skipped, then one comma or one line end. Any other
 ///   character there begins the next value.
 /// - Any other value goes up to the next comma or line end, without the blanks at its end.
@@ -33,8 +34,7 @@ class DegerOkuyucu {
 
     /// Fills the targets in order and returns how many it could fill. The others keep what they held.
     template <class... Hedef>
-        requires(sizeof...(Hedef) > 1)
-    int Oku(Hedef&... hedef) {
+    requires(sizeof...(Hedef) > 1) int Oku(Hedef&... hedef) {
         return (0 + ... + static_cast<int>(Oku(hedef)));
     }
 
@@ -48,8 +48,8 @@ class DegerOkuyucu {
 /// Gathers the text of a record file. A call of `Yaz` is one write statement: its values with a comma between
 /// them, and a line end (CR LF) after the last.
 ///
-/// Texts go between double quotes just as they are: a double quote inside a text is neither doubled nor escaped.
-/// Whole numbers are written bare.
+/// Texts go between double quotes just as they are: a double quote inside a text is neither doubled nor
+/// escaped. Whole numbers are written bare.
 class DegerYazici {
   public:
     template <class... Deger>

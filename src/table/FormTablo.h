@@ -9,6 +9,8 @@
 namespace velora {
 
 struct Program;
+class YilOkumasi;
+struct HatirlatmaDegerleri;
 
 inline constexpr int kAySayisi = 12;
 inline constexpr int kGunSayisi = 31;
@@ -17,31 +19,56 @@ inline constexpr int kSatirSayisi = 24;
 /// The mark of a head picked for the ruler: red 255, green 128, blue 0. It stands in no setting.
 inline constexpr RenkDegeri kBaslikIsareti = 33023;
 
+/// The half period of the blinking frames, in milliseconds.
+inline constexpr int kYanipSonme = 300;
+
 /// The rows of the table, January to December, in each month the day slot first.
 enum SatirAdi {
-    OcakGunduz, OcakGece, SubatGunduz, SubatGece, MartGunduz, MartGece,
-    NisanGunduz, NisanGece, MayisGunduz, MayisGece, HaziranGunduz, HaziranGece,
-    TemmuzGunduz, TemmuzGece, AgustosGunduz, AgustosGece, EylulGunduz, EylulGece,
-    EkimGunduz, EkimGece, KasimGunduz, KasimGece, AralikGunduz, AralikGece
+    OcakGunduz,
+    OcakGece,
+    SubatGunduz,
+    SubatGece,
+    MartGunduz,
+    MartGece,
+    NisanGunduz,
+    NisanGece,
+    MayisGunduz,
+    MayisGece,
+    HaziranGunduz,
+    HaziranGece,
+    TemmuzGunduz,
+    TemmuzGece,
+    AgustosGunduz,
+    AgustosGece,
+    EylulGunduz,
+    EylulGece,
+    EkimGunduz,
+    EkimGece,
+    KasimGunduz,
+    KasimGece,
+    AralikGunduz,
+    AralikGece
 };
 
 constexpr SatirAdi Satir(int ay, GunduzGece dilim) {
     return static_cast<SatirAdi>(2 * (ay - 1) + (dilim == GunduzGece::Gece ? 1 : 0));
 }
-constexpr int SatirAyi(SatirAdi satir) { return satir / 2 + 1; }
+constexpr int SatirAyi(SatirAdi satir) {
+    return satir / 2 + 1;
+}
 constexpr GunduzGece SatirDilimi(SatirAdi satir) {
     return satir % 2 == 0 ? GunduzGece::Gunduz : GunduzGece::Gece;
 }
 
-/// One slot of one day. Its back colour is the day's state for all other logic: it has no other record of being
-/// taken.
+/// One slot of one day. Its back colour is the day's state for all other logic: it has no other record of
+/// being taken.
 struct Hucre {
-    Metin baslik;            ///< short weekday name; empty while hidden
+    Metin baslik; ///< short weekday name; empty while hidden
     bool gorunur = false;
     RenkDegeri zemin = kBeyaz;
     RenkDegeri yazi = 0;
-    Metin tag;               ///< summary of the reservation, ten parts with "|" between; empty on a free cell
-    Metin ipucu;             ///< the holiday's name
+    Metin tag;   ///< summary of the reservation, ten parts with "|" between; empty on a free cell
+    Metin ipucu; ///< the holiday's name
     bool otomatikSurukleme = false; ///< true while it can be dragged
 };
 
@@ -66,8 +93,9 @@ struct Cerceve {
     Yer yer;
 };
 
-/// The main screen: for the hall selected in `Salon` and the year selected in `Sene`, a table of twelve months with
-/// two rows each and 31 day columns. The cells are the working memory of the screen. All lengths are twips.
+/// The main screen: for the hall selected in `Salon` and the year selected in `Sene`, a table of twelve
+/// months with two rows each and 31 day columns. The cells are the working memory of the screen. All lengths
+/// are twips.
 struct FormTablo {
     explicit FormTablo(Program& program);
 
@@ -100,6 +128,7 @@ struct FormTablo {
     void CetvelTimer_Tick();
     void GunTimer_Tick();
     void Saatsay_Tick();
+    void OzelHatirlatTimer_Tick();
     void DuyuruKontrol_Tick();
 
     Metin baslik; ///< title of the screen
@@ -111,13 +140,13 @@ struct FormTablo {
     BirTabanli<Etiket, kAySayisi> AyAdi;   ///< month names in capitals
     BirTabanli<Etiket, kAySayisi> AyZemin; ///< bar behind the name of the month
     BirTabanli<AyResmi, kAySayisi> GunduzGece;
-    Cerceve BuGun;       ///< frame about today's column of the current month, in `Renk(16)`
-    Cerceve HizliSecim;  ///< frame of the ruler
-    int HizliAy = 0;     ///< month picked in the heads, 0 for none
-    int HizliGun = 0;    ///< day picked in the heads, 0 for none
-    Etiket Ekran;        ///< floating hover label
-    Metin SeciliTarih;   ///< day file name of the cell under the pointer
-    Metin SeciliTarih2;  ///< the same, frozen at the last press
+    Cerceve BuGun;           ///< frame about today's column of the current month, in `Renk(16)`
+    Cerceve HizliSecim;      ///< frame of the ruler
+    int HizliAy = 0;         ///< month picked in the heads, 0 for none
+    int HizliGun = 0;        ///< day picked in the heads, 0 for none
+    Etiket Ekran;            ///< floating hover label
+    Metin SeciliTarih;       ///< day file name of the cell under the pointer
+    Metin SeciliTarih2;      ///< the same, frozen at the last press
     int tasimamoducheck = 0; ///< 1 while move mode is open
     int TutarDegistir = 0;   ///< 1: the user may change amounts
     int Check1 = 0;          ///< "Hatirlatma": 0 until the first Activate
@@ -127,6 +156,7 @@ struct FormTablo {
     Etiket UyariBaslik;      ///< its title
     ListeGorunumu Liste;     ///< its list
     bool Image3 = false;     ///< the bell: a personal reminder falls on today
+    bool Image3a = true;     ///< which of its two pictures the bell shows; they alternate
     Zamanlayici CetvelTimer;
     Zamanlayici GunTimer;
     Zamanlayici OzelHatirlatTimer;
@@ -137,8 +167,30 @@ struct FormTablo {
         return satirlar[static_cast<std::size_t>(Satir(ay, dilim))].gun[gun];
     }
 
+    /// Where a cell stands, shown or not.
+    Yer HucreYeri(SatirAdi satir, int gun) const;
+    /// True when the year in `Sene` is the year of today.
+    bool BuYil() const;
+
   private:
+    void SalonlariYukle();
+    void SeneleriDoldur();
+    void OzelHatirlatmaBak();
+    void HatirlatmaGoster(bool var);
+    void RezervasyonlariBoya(const YilOkumasi& okuma, HatirlatmaDegerleri& hatirlatma);
+    void SutunlariYerlestir();
+    void SatirlariYerlestir();
+    void BasliklariYerlestir();
+    void BuGunYerlestir();
+    void AyBasliklariniGoster();
+    template <std::size_t Adet>
+    void BasligiSec(BirTabanli<Etiket, Adet>& basliklar, int no, int& hizli);
+    void GecmisBoya(int ay, int ilkGun, int sonGun);
+
     Program& program_;
+    double icGenislik_ = 0;
+    double icYukseklik_ = 0;
+    bool yerlesti_ = false;
 };
 
 } // namespace velora

@@ -16,14 +16,14 @@ inline constexpr char16_t kAyrac = u'\\';
 
 enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 
-/// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path that
-/// doesn't lie below the root is refused: it must begin with the root, and none of its names may be "." or "..",
-/// or hold a character that a name can't hold on any of the systems the program runs on, such as "/", ":" or NUL.
-/// An empty name between two separators is passed over.
+/// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path
+/// that doesn't lie below the root is refused: it must begin with the root, and none of its names may be "."
+/// or "..", or hold a character that a name can't hold on any of the systems the program runs on, such as
+/// "/", ":" or NUL. An empty name between two separators is passed over.
 ///
 /// Nothing here throws and nothing is reported but by the return value: a failing step is passed over by its
-/// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows; bytes of a name that are no UTF-8 survive a
-/// listing and can be opened again.
+/// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows; bytes of a name that are no UTF-8 survive
+/// a listing and can be opened again.
 class Dosyalar {
   public:
     explicit Dosyalar(const std::filesystem::path& kok);
@@ -44,23 +44,23 @@ class Dosyalar {
     /// One file of a folder, as `KlasoruOku` hands it over. The views last until the call returns.
     struct OkunanDosya {
         MetinBakis ad;
-        bool acildi;             ///< false: it is there but can't be opened or read; `bayt` is empty
-        std::string_view bayt;   ///< at most `enCok` bytes from its beginning
+        bool acildi;           ///< false: it is there but can't be opened or read; `bayt` is empty
+        std::string_view bayt; ///< at most `enCok` bytes from its beginning
     };
 
-    /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok` limits
-    /// what is read of each file, so that a huge stray file costs neither memory nor time.
+    /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok`
+    /// limits what is read of each file, so that a huge stray file costs neither memory nor time.
     void KlasoruOku(const Metin& klasor, std::size_t enCok,
                     const std::function<void(const OkunanDosya&)>& ver) const;
 
-    /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the new
-    /// one goes over it in a single write, filled up with line ends to the old length, and then the file is cut to
-    /// its length. Room on the disk is taken beforehand where the system can do that; when there is none, the old
-    /// text stays. A new file whose text can't be put down is removed again. False on failure.
+    /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
+    /// new one goes over it in a single write, filled up with line ends to the old length, and then the file
+    /// is cut to its length. Room on the disk is taken beforehand where the system can do that; when there is
+    /// none, the old text stays. A new file whose text can't be put down is removed again. False on failure.
     bool Yaz(const Metin& yol, std::string_view bayt) const;
 
-    /// Puts the bytes at the end of the file, which is made when missing. When they can't be put down whole, the
-    /// file gets its old length back.
+    /// Puts the bytes at the end of the file, which is made when missing. When they can't be put down whole,
+    /// the file gets its old length back.
     bool Ekle(const Metin& yol, std::string_view bayt) const;
 
     /// Copies a file over another, with the care of `Yaz`. False when the source can't be read.
@@ -71,7 +71,8 @@ class Dosyalar {
     /// Makes one folder, the last name of the path. False when it can't, also when it is there already.
     bool KlasorYap(const Metin& yol) const;
 
-    /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad disk.
+    /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
+    /// disk.
     std::function<bool(DosyaIsi, const Metin& yol)> ariza;
     /// For tests: room that is left on the disk, in bytes that a write may still add.
     std::optional<std::size_t> bosYer;
@@ -83,7 +84,8 @@ class Dosyalar {
     Metin kok_;
 };
 
-/// True when two file names are the same name on this system: letter by letter, without regard to case on Windows.
+/// True when two file names are the same name on this system: letter by letter, without regard to case on
+/// Windows.
 bool AyniAd(MetinBakis bir, MetinBakis iki);
 
 /// The order of listings: by name, without regard to case.

@@ -1,0 +1,165 @@
+#include "table/FormTablo.h"
+
+#include "access/Splash.h"
+#include "screen/Program.h"
+#include "screen/Surum.h"
+#include "setup/FormAyarlar.h"
+#include "storage/YazimBicimi.h"
+
+namespace velora {
+
+namespace {
+
+constexpr std::array<MetinBakis, kAySayisi> kAyAdlari{u"OCAK",  u"ŞUBAT",   u"MART",   u"NİSAN",
+                                                      u"MAYIS", u"HAZİRAN", u"TEMMUZ", u"AĞUSTOS",
+                                                      u"EYLÜL", u"EKİM",    u"KASIM",  u"ARALIK"};
+
+constexpr int kYilPayi = 10; // years that `Sene` offers before and after the current one
+constexpr int kSaatsayAraligi = 50'000;
+constexpr int kDuyuruAraligi = 2'500;
+constexpr int kHatirlatmaAraligi = 500;
+constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that finds this count
+
+} // namespace
+
+FormTablo::FormTablo(Program& program) : program_(program) {
+    for (int gun = 1; gun <= kGunSayisi; ++gun)
+        ALabel[gun].baslik = SayiMetni(gun);
+    for (int ay = 1; ay <= kAySayisi; ++ay)
+        AyAdi[ay].baslik = kAyAdlari[static_cast<std::size_t>(ay - 1)];
+    UyariBaslik.baslik = u"YAKLAŞAN REZERVASYON UYARILARI";
+    Picture1.gorunur = Ekran.gorunur = false;
+    Salon.tiklandi = [this] { Salon_Click(); };
+    Sene.tiklandi = [this] { Sene_Click(); };
+    CetvelTimer.tik = [this] { CetvelTimer_Tick(); };
+    GunTimer.tik = [this] { GunTimer_Tick(); };
+    OzelHatirlatTimer.tik = [this] { OzelHatirlatTimer_Tick(); };
+    Saatsay.tik = [this] { Saatsay_Tick(); };
+    DuyuruKontrol.tik = [this] { DuyuruKontrol_Tick(); };
+}
+
+void FormTablo::Load() {
+    baslik = u"Velora " + Metin(kSurum);
+    SalonlariYukle();
+    SeneleriDoldur();
+    for (const Metin& salon : Salon.ogeler)
+        program_.agac.KlasorHazirla(salon, Sene.Metni());
+    Salon.Sec(0);
+    Command1();
+    OzelHatirlatmaBak();
+    program_.OlaylariIsle();
+    UyariGoster();
+    Dklabel = 0;
+    Saatsay.aralik = kSaatsayAraligi;
+}
+
+void FormTablo::SalonlariYukle() {
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Salon.dat"));
+    if (!bayt)
+        return;
+    DegerOkuyucu okuyucu(*bayt);
+    Metin salon;
+    while (!okuyucu.Sonda() && okuyucu.Oku(salon))
+        if (!Kirp(salon).empty())
+            Salon.ogeler.push_back(salon);
+}
+
+void FormTablo::SeneleriDoldur() {
+    const int buYil = static_cast<int>(program_.Bugun().year());
+    for (int yil = buYil - kYilPayi; yil <= buYil + kYilPayi; ++yil)
+        Sene.ogeler.push_back(SayiMetni(yil));
+    // Chosen without its click: at the start only the halls of the list get a folder, not an empty hall name.
+    Sene.SessizSec(SayiMetni(buYil));
+}
+
+bool FormTablo::BuYil() const {
+    return Sene.Metni() == SayiMetni(static_cast<int>(program_.Bugun().year()));
+}
+
+void FormTablo::Salon_Click() {
+    program_.ortam.odak.ver(EkranAdi::FormTablo, u"Picture4");
+    CetvelSil();
+    Command1();
+}
+
+void FormTablo::Sene_Click() {
+    program_.ortam.odak.ver(EkranAdi::FormTablo, u"Picture4");
+    CetvelSil();
+    // Only the year folder: a hall folder that is gone stays gone until the next start.
+    program_.dosyalar.KlasorYap(program_.agac.YilKlasoru(Salon.Metni(), Sene.Metni()));
+    Command1();
+    if (!BuYil())
+        BuGun.gorunur = false;
+}
+
+void FormTablo::MouseMove() {
+    Ekran.gorunur = false;
+    if (!BuYil())
+        BuGun.gorunur = false;
+    else if (GunTimer.aralik == 0 && !BuGun.gorunur)
+        BuGun.gorunur = true;
+}
+
+void FormTablo::Activate() {
+    if (Liste.satirlar.empty())
+        Picture1.gorunur = false;
+    {
+        const auto ayarlar = program_.FormAyarlar.Tut();
+        Picture1.zemin = ayarlar->Renk(14);
+        UyariBaslik.yazi = ayarlar->Renk(15);
+    }
+    Check1 = 1;
+    program_.OlaylariIsle();
+    if (program_.Splash->Check1 == 1)
+        DuyuruKontrol.aralik = kDuyuruAraligi;
+}
+
+void FormTablo::Hucre_Click() {
+    CetvelSil();
+}
+
+void FormTablo::UyariGoster() {
+    Command1();
+    program_.OlaylariIsle();
+}
+
+void FormTablo::Command6() {
+    const Gun bugun = program_.Bugun();
+    bool dolu = false;
+    for (const auto dilim : {velora::GunduzGece::Gunduz, velora::GunduzGece::Gece}) {
+        const Metin ad = TarihMetni(bugun) + Metin(DilimEki(dilim));
+        dolu = dolu || program_.agac.RezervasyonVarMi(program_.agac.GunYolu(Salon.Metni(), Sene.Metni(), ad));
+    }
+    GunTimer.aralik = dolu ? kYanipSonme : 0;
+    program_.OlaylariIsle();
+    BuGun.gorunur = true;
+}
+
+void FormTablo::GunTimer_Tick() {
+    if (BuYil())
+        BuGun.gorunur = !BuGun.gorunur;
+}
+
+void FormTablo::HatirlatmaGoster(bool var) {
+    Image3 = var;
+    OzelHatirlatTimer.aralik = var ? kHatirlatmaAraligi : 0;
+}
+
+void FormTablo::OzelHatirlatTimer_Tick() {
+    Image3a = !Image3a;
+}
+
+void FormTablo::Saatsay_Tick() {
+    if (Dklabel == kDuyuruTiki) {
+        DuyuruKontrol.aralik = kDuyuruAraligi;
+        Dklabel = 0;
+    } else {
+        ++Dklabel;
+    }
+}
+
+void FormTablo::DuyuruKontrol_Tick() {
+    DuyuruKontrol.aralik = 0;
+}
+
+} // namespace velora

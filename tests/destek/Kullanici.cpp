@@ -1,0 +1,71 @@
+#include "destek/Kullanici.h"
+
+#include <array>
+#include <map>
+
+#include "access/Splash.h"
+#include "maintenance/FormResmiTatil.h"
+#include "setup/FormAyarlar.h"
+#include "table/Yerlesim.h"
+
+namespace velora::test {
+
+Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {}
+
+void Kullanici::ProgramiAc() {
+    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    program_->FormTablo.Tut();
+    Boyutla(1280, 620);
+    program_->FormTablo.Goster();
+}
+
+void Kullanici::ProgramiKapat() {
+    program_.reset();
+}
+
+FormTablo& Kullanici::Tablo() {
+    return *program_->FormTablo.Tut();
+}
+
+void Kullanici::SalonSec(MetinBakis salon) {
+    Tablo().Salon.Sec(salon);
+}
+void Kullanici::YilSec(MetinBakis yil) {
+    Tablo().Sene.Sec(yil);
+}
+void Kullanici::GunBasligina(int gun) {
+    Tablo().ALabel_Click(gun);
+}
+void Kullanici::AyBasligina(int ay) {
+    Tablo().AyAdi_Click(ay);
+}
+void Kullanici::Goze() {
+    Tablo().Hucre_Click();
+}
+void Kullanici::ImleciBosaGotur() {
+    Tablo().MouseMove();
+}
+
+void Kullanici::Boyutla(int genislik, int yukseklik) {
+    constexpr double kTwip = 15;
+    Tablo().Resize(TabloIcGenisligi(genislik * kTwip), TabloIcYuksekligi(yukseklik * kTwip));
+}
+
+void Kullanici::Bekle(int milisaniye) {
+    constexpr int kAdim = 100;
+    FormTablo& tablo = Tablo();
+    const std::array<Zamanlayici*, 5> hepsi{&tablo.CetvelTimer, &tablo.GunTimer, &tablo.OzelHatirlatTimer,
+                                            &tablo.Saatsay, &tablo.DuyuruKontrol};
+    std::map<Zamanlayici*, int> gecen;
+    for (int an = 0; an < milisaniye; an += kAdim)
+        for (Zamanlayici* zamanlayici : hepsi) {
+            gecen[zamanlayici] = zamanlayici->aralik == 0 ? 0 : gecen[zamanlayici] + kAdim;
+            if (zamanlayici->aralik != 0 && gecen[zamanlayici] >= zamanlayici->aralik) {
+                gecen[zamanlayici] = 0;
+                zamanlayici->Calis();
+            }
+        }
+    ortam.simdi += std::chrono::duration_cast<std::chrono::seconds>(std::chrono::milliseconds(milisaniye));
+}
+
+} // namespace velora::test

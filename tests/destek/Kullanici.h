@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+#include "destek/GeciciAgac.h"
+#include "destek/SahteOrtam.h"
+#include "screen/Program.h"
+#include "table/FormTablo.h"
+
+namespace velora::test {
+
+/// A person at the desk: a program over a data tree, and the verbs of working with it. No toolkit is needed.
+class Kullanici {
+  public:
+    Kullanici(const GeciciAgac& agac, Gun bugun);
+
+    /// Starts the program: the table is loaded, laid out and brought to the front.
+    void ProgramiAc();
+    /// Ends it and throws away all that was in memory.
+    void ProgramiKapat();
+
+    void SalonSec(MetinBakis salon);
+    void YilSec(MetinBakis yil);
+    void GunBasligina(int gun);
+    void AyBasligina(int ay);
+    /// A click on a cell.
+    void Goze();
+    /// The pointer moves over the bare screen.
+    void ImleciBosaGotur();
+    /// The window takes another size, in logical pixels.
+    void Boyutla(int genislik, int yukseklik);
+    /// Time goes by: each timer ticks as often as it is due in so many milliseconds.
+    void Bekle(int milisaniye);
+
+    FormTablo& Tablo();
+    Hucre& Goz(int gun, int ay, velora::GunduzGece dilim) { return Tablo().Gozu(ay, dilim, gun); }
+    Program& Prog() { return *program_; }
+
+    SahteOrtam ortam;
+
+  private:
+    const GeciciAgac& agac_;
+    std::unique_ptr<Program> program_;
+};
+
+} // namespace velora::test
