@@ -69,12 +69,15 @@ Metin TelefonNo(Rastgele& rastgele, MetinBakis alanKodu) {
 
 /// Eleven digits that can't be a person's: real ones end in an even digit.
 Metin KimlikNumarasi(Rastgele& rastgele) {
-    Metin metin = SayiMetni(rastgele.Arasi(10000, 99999)) + SayiMetni(rastgele.Arasi(10000, 99999));
-    return metin + SayiMetni(rastgele.Arasi(0, 4) * 2 + 1);
+    Metin metin = SayiMetni(rastgele.Arasi(10000, 99999));
+    metin += SayiMetni(rastgele.Arasi(10000, 99999));
+    metin += SayiMetni(rastgele.Arasi(0, 4) * 2 + 1);
+    return metin;
 }
 
 Metin AdresMetni(Rastgele& rastgele, MetinBakis yore) {
-    Metin metin = Birlestir(Birini(rastgele, Mahalleler()), u" ", Birini(rastgele, Caddeler()));
+    Metin metin(Birini(rastgele, Mahalleler()));
+    metin.append(u" ").append(Birini(rastgele, Caddeler()));
     metin.append(u" No: ").append(SayiMetni(rastgele.Arasi(1, 140)));
     return metin.append(u"\r\n").append(yore);
 }
@@ -86,9 +89,10 @@ void Kisiler(AnaKayit& ana, const Nitelik& nitelik, Rastgele& rastgele) {
                        ? Metin(Birini(rastgele, Kurumlar()))
                        : Birlestir(Birini(rastgele, kadin ? KadinAdlari() : ErkekAdlari()), u" ", soyad);
     Kay(ana, Yore) = Birini(rastgele, Yoreler());
-    if (nitelik.ciftVar)
-        Kay(ana, GelinDamat) =
-            Birlestir(Birini(rastgele, KadinAdlari()), u" / ", Birini(rastgele, ErkekAdlari()));
+    if (nitelik.ciftVar) {
+        const MetinBakis gelin = Birini(rastgele, KadinAdlari());
+        Kay(ana, GelinDamat) = Birlestir(gelin, u" / ", Birini(rastgele, ErkekAdlari()));
+    }
     Kay(ana, NitelikAlani) = nitelik.ad;
     if (rastgele.Yuzde(60))
         Kay(ana, Telefon) = TelefonNo(rastgele, u"0312");
@@ -173,7 +177,8 @@ Rezervasyon RezervasyonYap(const Istek& istek, const Dilim& dilim, Rastgele& ras
     rezervasyon.yil = static_cast<int>(dilim.gun.year());
     const int bugun = GunNo(istek.bugun);
     const int gun = GunNo(dilim.gun);
-    rezervasyon.sozlesmeGunu = std::min(gun - rastgele.Arasi(15, 300), bugun - rastgele.Arasi(0, 90));
+    const int onceden = rastgele.Arasi(15, 300);
+    rezervasyon.sozlesmeGunu = std::min(gun - onceden, bugun - rastgele.Arasi(0, 90));
 
     const Nitelik& nitelik = NitelikSec(rastgele);
     AnaKayit& ana = rezervasyon.ana;
