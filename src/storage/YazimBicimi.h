@@ -80,8 +80,9 @@ class DegerYazici {
     void Ekle(MetinBakis metin);
     void Ekle(const Metin& metin) { Ekle(MetinBakis(metin)); }
     void Ekle(const char16_t* metin) { Ekle(MetinBakis(metin)); }
+    /// A single character is no number: it doesn't compile.
     template <std::integral Sayi>
-    void Ekle(Sayi sayi) {
+    requires(!std::same_as<Sayi, char16_t> && !std::same_as<Sayi, char>) void Ekle(Sayi sayi) {
         EkleSayi(static_cast<std::int64_t>(sayi));
     }
     void EkleSayi(std::int64_t sayi);
