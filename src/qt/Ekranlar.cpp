@@ -9,7 +9,8 @@ namespace {
 
 template <class Pencere>
 void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
-    ortam.Tanit(ekran, [&program]() -> std::unique_ptr<QWidget> { return std::make_unique<Pencere>(program); });
+    ortam.Tanit(ekran,
+                [&program]() -> std::unique_ptr<QWidget> { return std::make_unique<Pencere>(program); });
 }
 
 } // namespace

@@ -3,12 +3,12 @@
 #include <exception>
 #include <utility>
 
-#include <QtLogging>
+#include <QtGlobal>
 
 namespace velora {
 
-/// Every call from the toolkit into the screens goes through here: an exception ends the handler that threw it,
-/// is told on the error stream, and never reaches the toolkit, which couldn't carry it.
+/// Every call from the toolkit into the screens goes through here: an exception ends the handler that threw
+/// it, is told on the error stream, and never reaches the toolkit, which couldn't carry it.
 template <class Is>
 void Koru(Is&& is) noexcept {
     try {

@@ -2,8 +2,8 @@
 
 namespace velora {
 
-/// While one of these lives, "let pending events run" lets none in. For handlers that the toolkit calls in the
-/// middle of its own work, such as a resize, where events from inside would find it half done.
+/// While one of these lives, "let pending events run" lets none in. For handlers that the toolkit calls in
+/// the middle of its own work, such as a resize, where events from inside would find it half done.
 class OlayKilidi {
   public:
     OlayKilidi() { ++sayi_; }

@@ -17,9 +17,7 @@ namespace {
 /// Ends a loop when the window it waits for is gone from the display, whoever closed it.
 class KapanisGozcusu : public QObject {
   public:
-    KapanisGozcusu(QWidget& pencere, QEventLoop& dongu) : dongu_(dongu) {
-        pencere.installEventFilter(this);
-    }
+    KapanisGozcusu(QWidget& pencere, QEventLoop& dongu) : dongu_(dongu) { pencere.installEventFilter(this); }
     bool eventFilter(QObject* nesne, QEvent* olay) override {
         if (olay->type() == QEvent::Hide && !olay->spontaneous())
             dongu_.quit();

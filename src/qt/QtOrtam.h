@@ -10,8 +10,8 @@
 
 namespace velora {
 
-/// The outside world in windows. It makes the window of a screen when the screen is shown and drops it when the
-/// screen is hidden. Must outlive the program that uses its functions.
+/// The outside world in windows. It makes the window of a screen when the screen is shown and drops it when
+/// the screen is hidden. Must outlive the program that uses its functions.
 class QtOrtam {
   public:
     using Uretici = std::function<std::unique_ptr<QWidget>()>;

@@ -3,14 +3,10 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-namespace {
-
-// Stands outside the namespace because the resource's own function does.
-void KaynaklariYukle() {
+// Stands outside all namespaces because the resource's own function does.
+static void KaynaklariYukle() {
     Q_INIT_RESOURCE(simgeler);
 }
-
-} // namespace
 
 namespace velora {
 

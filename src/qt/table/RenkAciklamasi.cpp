@@ -39,9 +39,9 @@ RenkAciklamasi::RenkAciklamasi(Program& program, Baglayici& baglayici, QWidget* 
         const bool gunduzUstte = ayarlar->GunduzUstte();
         std::vector<Ornek> yeni;
         for (const Aciklama& aciklama : kAciklamalar) {
-            const int ust = gunduzUstte ? aciklama.gunduz : aciklama.gece;
-            const int alt = gunduzUstte ? aciklama.gece : aciklama.gunduz;
-            yeni.push_back({QMetin(aciklama.ad), ayarlar->Renk(ust), ayarlar->Renk(alt)});
+            const RenkDegeri gunduz = ayarlar->Renk(aciklama.gunduz);
+            const RenkDegeri gece = ayarlar->Renk(aciklama.gece);
+            yeni.push_back({QMetin(aciklama.ad), gunduzUstte ? gunduz : gece, gunduzUstte ? gece : gunduz});
         }
         if (yeni == ornekler_)
             return;

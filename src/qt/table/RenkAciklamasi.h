@@ -11,8 +11,8 @@ namespace velora {
 class Baglayici;
 struct Program;
 
-/// What the colours of the cells mean: one small sample for each state, day and evening slot one over the other,
-/// in the colours of the settings. Where it is too narrow for all, the last ones are left out.
+/// What the colours of the cells mean: one small sample for each state, day and evening slot one over the
+/// other, in the colours of the settings. Where it is too narrow for all, the last ones are left out.
 class RenkAciklamasi : public QWidget {
   public:
     RenkAciklamasi(Program& program, Baglayici& baglayici, QWidget* ust);

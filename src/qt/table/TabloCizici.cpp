@@ -15,10 +15,11 @@ namespace velora {
 
 namespace {
 
-constexpr int kYaziPayi = 4;         // logical pixels that a text leaves free in its place, both sides together
-constexpr int kEnKucukYazi = 6;      // device pixels
-constexpr double kCerceveEni = 3;    // logical pixels
-constexpr int kPictogramBoyu = 16;   // logical pixels
+constexpr int kYaziPayi = 4;       // logical pixels that a text leaves free in its place, both sides together
+constexpr int kEnKucukYazi = 6;    // device pixels
+constexpr double kCerceveEni = 3;  // logical pixels
+constexpr double kCerceveDisi = 1; // of that, what reaches into the neighbours
+constexpr int kPictogramBoyu = 16; // logical pixels
 constexpr double kPictogramOrani = 0.8; // of the height of its row at most
 
 /// The texts of a list of labels or cells, each once.
@@ -182,7 +183,9 @@ void TabloCizici::AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const Ta
 }
 
 QRect TabloCizici::CerceveBolgesi(const TabloDuzeni& duzen, const QRect& cift) {
-    return cift.adjusted(-duzen.Cizgi(), -duzen.Cizgi(), duzen.Cizgi(), duzen.Cizgi());
+    // Mostly outside, over the thin lines, so that it leaves room for the captions.
+    const int dis = duzen.Cizgi() + static_cast<int>(std::lround(kCerceveDisi * duzen.Olcek()));
+    return cift.adjusted(-dis, -dis, dis, dis);
 }
 
 void TabloCizici::Cerceve(QPainter& boyaci, const TabloDuzeni& duzen, const velora::Cerceve& cerceve,

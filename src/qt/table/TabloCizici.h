@@ -14,21 +14,22 @@ namespace velora {
 
 /// The colours of the table that are no colours of the model.
 struct TabloTonlari {
-    QColor zemin;                    ///< where nothing stands
-    QColor cizgi{214, 216, 219};     ///< between cells
-    QColor cetvel{255, 128, 0};      ///< frame of the ruler
-    QColor cerceveIci{255, 255, 255}; ///< thin line on the inside of a frame, so that it stands out on any cell
+    QColor zemin;                ///< where nothing stands
+    QColor cizgi{214, 216, 219}; ///< between cells
+    QColor cetvel{255, 128, 0};  ///< frame of the ruler
+    QColor cerceveIci{255, 255,
+                      255}; ///< thin line on the inside of a frame, so that it stands out on any cell
 };
 
-/// Paints the year table from the model of its screen, on a widget or into a picture. Texts and pictograms are
-/// shaped once and kept for the next painting.
+/// Paints the year table from the model of its screen, on a widget or into a picture. Texts and pictograms
+/// are shaped once and kept for the next painting.
 class TabloCizici {
   public:
     /// `yaziTipi` is the interface font at its own size; in cells too small for it, it is taken smaller.
     TabloCizici(const QFont& yaziTipi, const TabloTonlari& tonlar);
 
-    /// Paints what lies in `bolge`, in device pixels. The painter's unit is the logical pixel. `bugunRengi` is the
-    /// colour of today's frame.
+    /// Paints what lies in `bolge`, in device pixels. The painter's unit is the logical pixel. `bugunRengi`
+    /// is the colour of today's frame.
     void Ciz(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, const QRect& bolge,
              RenkDegeri bugunRengi);
 
@@ -63,7 +64,8 @@ class TabloCizici {
 
     void OlculeriKur(const FormTablo& tablo, const TabloDuzeni& duzen);
     QFont SiganTip(const QStringList& metinler, QSize yer, bool kalin) const;
-    void GunBasliklari(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, const QRect& bolge);
+    void GunBasliklari(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen,
+                       const QRect& bolge);
     void AyBasligi(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, int ay);
     void AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, int ay,
                      const QRect& bolge);

@@ -22,10 +22,10 @@ struct TabloIsabeti {
 
 /// Where the parts of the table are painted: the twips of the model snapped to whole device pixels.
 ///
-/// The rows of the model overlap a little. Here each has only its visible part: a month goes from the middle of
-/// its overlap with the month before to the middle of that with the month behind it, less a gap, and its two
-/// rows share that evenly. So the rows of the whole table differ by one device pixel at most, and so do the
-/// columns. All rectangles are device pixels, from the upper left corner of the table.
+/// The rows of the model overlap a little. Here each has only its visible part: a month goes from the middle
+/// of its overlap with the month before to the middle of that with the month behind it, less a gap, and its
+/// two rows share that evenly. So the rows of the whole table differ by one device pixel at most, and so do
+/// the columns. All rectangles are device pixels, from the upper left corner of the table.
 class TabloDuzeni {
   public:
     TabloDuzeni() = default;

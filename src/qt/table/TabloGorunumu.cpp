@@ -23,16 +23,18 @@ constexpr double kTwipPikseli = 15;
 
 class Iz {
   public:
-    void Ekle(std::uint64_t sayi) { deger_ = (deger_ ^ sayi) * 0x100000001B3ULL + (deger_ >> 29U); }
+    void Ekle(std::uint64_t sayi) {
+        deger_ = (deger_ ^ sayi) * std::uint64_t{0x100000001B3} + (deger_ >> 29U);
+    }
     void Ekle(const Metin& metin) { Ekle(std::hash<Metin>()(metin)); }
-    void Ekle(double sayi) { Ekle(std::hash<double>()(sayi)); }
+    void EkleTwip(double sayi) { Ekle(std::hash<double>()(sayi)); }
     void Ekle(RenkDegeri zemin, RenkDegeri yazi, bool gorunur) {
         Ekle((std::uint64_t{static_cast<std::uint32_t>(zemin)} << 32U | static_cast<std::uint32_t>(yazi)) ^
-             (gorunur ? 1ULL << 63U : 0ULL));
+             (gorunur ? std::uint64_t{1} << 63U : 0));
     }
     void Ekle(const Yer& yer) {
         for (const double sayi : {yer.sol, yer.ust, yer.genislik, yer.yukseklik})
-            Ekle(sayi);
+            EkleTwip(sayi);
     }
     void Ekle(const Etiket& etiket) {
         Ekle(etiket.zemin, etiket.yazi, etiket.gorunur);
@@ -42,7 +44,7 @@ class Iz {
     std::uint64_t Deger() const { return deger_; }
 
   private:
-    std::uint64_t deger_ = 0xCBF29CE484222325ULL;
+    std::uint64_t deger_ = 0xCBF29CE484222325;
 };
 
 } // namespace
@@ -50,8 +52,8 @@ class Iz {
 std::uint64_t TabloIzi(const FormTablo& tablo) {
     Iz iz;
     for (const TabloSatiri& satir : tablo.satirlar) {
-        iz.Ekle(satir.ust);
-        iz.Ekle(satir.yukseklik);
+        iz.EkleTwip(satir.ust);
+        iz.EkleTwip(satir.yukseklik);
         for (const Hucre& hucre : satir.gun) {
             iz.Ekle(hucre.zemin, hucre.yazi, hucre.gorunur);
             iz.Ekle(hucre.baslik);
@@ -64,7 +66,7 @@ std::uint64_t TabloIzi(const FormTablo& tablo) {
         for (const Etiket& etiket : *basliklar)
             iz.Ekle(etiket);
     for (const AyResmi& resim : tablo.GunduzGece) {
-        iz.Ekle(static_cast<std::uint64_t>(resim.resim) * 2 + (resim.gorunur ? 1 : 0));
+        iz.Ekle(static_cast<std::uint64_t>(resim.resim) * 2U + (resim.gorunur ? 1U : 0U));
         iz.Ekle(resim.yer);
     }
     return iz.Deger();

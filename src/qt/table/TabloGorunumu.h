@@ -7,13 +7,15 @@
 
 #include "qt/table/TabloCizici.h"
 
+class QHelpEvent;
+
 namespace velora {
 
 class Baglayici;
 struct Program;
 
-/// The year table on the window: one widget, painted from the cell model. It reports its size to the screen in
-/// twips, takes clicks on heads and cells, and shows the tool tips of the cells.
+/// The year table on the window: one widget, painted from the cell model. It reports its size to the screen
+/// in twips, takes clicks on heads and cells, and shows the tool tips of the cells.
 class TabloGorunumu : public QWidget {
   public:
     TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* ust);

@@ -26,7 +26,8 @@ constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
 
 /// A drop-down with its caption before it; `yazi` has the access key marked, `ad` is what it is called.
-QComboBox* EtiketliListe(QHBoxLayout& serit, const QString& yazi, const QString& ad, const QString& nesneAdi) {
+QComboBox* EtiketliListe(QHBoxLayout& serit, const QString& yazi, const QString& ad,
+                         const QString& nesneAdi) {
     auto* etiket = new QLabel(yazi);
     auto* liste = new QComboBox;
     liste->setObjectName(nesneAdi);
@@ -57,7 +58,10 @@ TabloPenceresi::TabloPenceresi(Program& program)
     gorunum_ = new TabloGorunumu(program, *baglayici_, orta);
     gorunum_->setObjectName(QStringLiteral("Picture4"));
     gorunum_->setAccessibleName(QStringLiteral("Yıl tablosu"));
-    sutun->addWidget(gorunum_, 1);
+    auto* cerceve = new QHBoxLayout;
+    cerceve->setContentsMargins(kAralik / 2, 0, kAralik / 2, 0);
+    cerceve->addWidget(gorunum_);
+    sutun->addLayout(cerceve, 1);
     setCentralWidget(orta);
     DurumSeridiKur();
     ZamanlayicilariBagla(*tablo);
