@@ -9,6 +9,8 @@ namespace velora {
 
 /// The text that the bytes stand for, one unit for each byte.
 Metin KodCoz(std::string_view bayt);
+/// The same into a text that is there already, so that a loop needs no memory of its own.
+void KodCoz(std::string_view bayt, Metin& hedef);
 
 /// The bytes of a text. A character outside the code page becomes "?", a surrogate pair one "?".
 std::string KodYaz(MetinBakis metin);

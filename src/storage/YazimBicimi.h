@@ -14,9 +14,8 @@ namespace velora {
 ///
 /// - Blanks, tabs and line ends before a value are skipped.
 /// - A value that begins with a double quote goes to the next one, line breaks included, or to the end of the
-/// file
-///   when there is no other. Blanks and tabs behind it are skipped, then one comma or one line end. Any other
-///   character there begins the next value.
+///   file when there is no other. Blanks and tabs behind it are skipped, then one comma or one line end. Any
+///   other character there begins the next value.
 /// - Any other value goes up to the next comma or line end, without the blanks at its end.
 class DegerOkuyucu {
   public:
@@ -80,8 +79,9 @@ class DegerYazici {
     void Ekle(MetinBakis metin);
     void Ekle(const Metin& metin) { Ekle(MetinBakis(metin)); }
     void Ekle(const char16_t* metin) { Ekle(MetinBakis(metin)); }
+    /// A single character is no number: it doesn't compile.
     template <std::integral Sayi>
-    void Ekle(Sayi sayi) {
+    requires(!std::same_as<Sayi, char16_t> && !std::same_as<Sayi, char>) void Ekle(Sayi sayi) {
         EkleSayi(static_cast<std::int64_t>(sayi));
     }
     void EkleSayi(std::int64_t sayi);

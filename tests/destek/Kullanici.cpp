@@ -1,7 +1,6 @@
 #include "destek/Kullanici.h"
 
 #include <array>
-#include <map>
 
 #include "access/Splash.h"
 #include "maintenance/FormResmiTatil.h"
@@ -13,6 +12,7 @@ namespace velora::test {
 Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {}
 
 void Kullanici::ProgramiAc() {
+    gecen_.clear();
     program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
     program_->FormTablo.Tut();
     Boyutla(1280, 620);
@@ -56,12 +56,11 @@ void Kullanici::Bekle(int milisaniye) {
     FormTablo& tablo = Tablo();
     const std::array<Zamanlayici*, 5> hepsi{&tablo.CetvelTimer, &tablo.GunTimer, &tablo.OzelHatirlatTimer,
                                             &tablo.Saatsay, &tablo.DuyuruKontrol};
-    std::map<Zamanlayici*, int> gecen;
     for (int an = 0; an < milisaniye; an += kAdim)
         for (Zamanlayici* zamanlayici : hepsi) {
-            gecen[zamanlayici] = zamanlayici->aralik == 0 ? 0 : gecen[zamanlayici] + kAdim;
-            if (zamanlayici->aralik != 0 && gecen[zamanlayici] >= zamanlayici->aralik) {
-                gecen[zamanlayici] = 0;
+            gecen_[zamanlayici] = zamanlayici->aralik == 0 ? 0 : gecen_[zamanlayici] + kAdim;
+            if (zamanlayici->aralik != 0 && gecen_[zamanlayici] >= zamanlayici->aralik) {
+                gecen_[zamanlayici] = 0;
                 zamanlayici->Calis();
             }
         }

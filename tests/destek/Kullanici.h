@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 
 #include "destek/GeciciAgac.h"
@@ -41,6 +42,7 @@ class Kullanici {
   private:
     const GeciciAgac& agac_;
     std::unique_ptr<Program> program_;
+    std::map<Zamanlayici*, int> gecen_; // milliseconds since each timer's last tick
 };
 
 } // namespace velora::test

@@ -29,8 +29,9 @@ Ortam SahteOrtam::Ver() {
     ortam.zaman.simdi = [this] { return simdi; };
     ortam.olaylar.isle = [this] {
         ++olaySayisi;
-        if (olayda)
-            olayda(olaySayisi);
+        // A copy: what runs may take itself out.
+        if (const auto is = olayda)
+            is(olaySayisi);
     };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };

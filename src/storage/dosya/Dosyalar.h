@@ -19,7 +19,8 @@ enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 /// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path
 /// that doesn't lie below the root is refused: it must begin with the root, and none of its names may be "."
 /// or "..", or hold a character that a name can't hold on any of the systems the program runs on, such as
-/// "/", ":" or NUL. An empty name between two separators is passed over.
+/// "/", ":" or NUL. Neither may it be made of dots and blanks alone. An empty name between two separators is
+/// passed over.
 ///
 /// Nothing here throws and nothing is reported but by the return value: a failing step is passed over by its
 /// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows; bytes of a name that are no UTF-8 survive
@@ -38,10 +39,10 @@ class Dosyalar {
     /// lists nothing.
     std::vector<Metin> Listele(const Metin& klasor) const;
 
-    /// The whole file, or nothing when it can't be opened or read.
+    /// The whole file, or nothing when it can't be opened or read. A file of more than 256 MiB can't be read.
     std::optional<std::string> Oku(const Metin& yol) const;
 
-    /// One file of a folder, as `KlasoruOku` hands it over. The views last until the call returns.
+    /// One file of a folder, as `KlasoruOku` hands it over. The views last until `ver` returns.
     struct OkunanDosya {
         MetinBakis ad;
         bool acildi;           ///< false: it is there but can't be opened or read; `bayt` is empty
@@ -63,7 +64,8 @@ class Dosyalar {
     /// the file gets its old length back.
     bool Ekle(const Metin& yol, std::string_view bayt) const;
 
-    /// Copies a file over another, with the care of `Yaz`. False when the source can't be read.
+    /// Copies a file over another, with the care of `Yaz`. False when the source can't be read. `ariza` is
+    /// asked for the copy with the target's path, then for the reading and the writing in it.
     bool Kopyala(const Metin& kaynak, const Metin& hedef) const;
 
     bool Sil(const Metin& yol) const;
@@ -91,7 +93,8 @@ bool AyniAd(MetinBakis bir, MetinBakis iki);
 /// The order of listings: by name, without regard to case.
 bool AdSirasi(MetinBakis bir, MetinBakis iki);
 
-/// A path's text and back; lossless.
+/// A path's text and back; lossless. Nothing comes back for a text that no path can hold.
 Metin YolMetni(const std::filesystem::path& yol);
+std::optional<std::filesystem::path> MetinYolu(MetinBakis metin);
 
 } // namespace velora

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <random>
+
+#include "OrnekFirma.h"
+#include "screen/Program.h"
+
+namespace velora::olcum {
+
+/// A program folder with one hall and one year in which every slot of 12 times 31 days is taken.
+class OlcumAgaci {
+  public:
+    OlcumAgaci() {
+        std::random_device rastgele;
+        do
+            kok_ = std::filesystem::temp_directory_path() / ("velora-olcum-" + std::to_string(rastgele()));
+        while (!std::filesystem::create_directory(kok_));
+        ornek::Istek istek;
+        istek.salon = 1;
+        istek.yil = 1;
+        istek.rezervasyon = ornek::kEnCokRezervasyon;
+        istek.tumAdlar = true;
+        istek.bugun = Bugun();
+        salon_ = ornek::FirmaYap(Dosyalar(kok_), istek).salonlar.at(0);
+    }
+    ~OlcumAgaci() {
+        std::error_code hata;
+        std::filesystem::remove_all(kok_, hata);
+    }
+    OlcumAgaci(const OlcumAgaci&) = delete;
+    OlcumAgaci& operator=(const OlcumAgaci&) = delete;
+
+    static constexpr Gun Bugun() {
+        return {std::chrono::year{2026}, std::chrono::month{6}, std::chrono::day{15}};
+    }
+    const std::filesystem::path& Kok() const { return kok_; }
+    std::filesystem::path YilYolu() const { return kok_ / salon_ / "2026"; }
+
+  private:
+    std::filesystem::path kok_;
+    Metin salon_;
+};
+
+/// An outside world in which nothing happens.
+inline Ortam OlcumOrtami(Gun bugun) {
+    Ortam ortam;
+    ortam.sor.mesaj = [](const MesajKutusu&) { return Cevap::Tamam; };
+    ortam.sor.girdi = [](const GirdiKutusu&) { return Metin(); };
+    ortam.goster.ac = ortam.goster.modal = [](EkranAdi, const std::function<void()>&) {};
+    ortam.goster.gizle = [](EkranAdi) {};
+    ortam.zaman.simdi = [bugun] { return std::chrono::local_seconds(std::chrono::local_days(bugun)); };
+    ortam.olaylar.isle = ortam.olaylar.bitir = [] {};
+    ortam.odak.ver = [](EkranAdi, MetinBakis) {};
+    return ortam;
+}
+
+} // namespace velora::olcum

@@ -1,0 +1,115 @@
+#include "storage/RezervasyonDosyalari.h"
+
+#include <algorithm>
+
+namespace velora {
+namespace {
+
+template <class Degerler>
+bool DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef) {
+    const auto bayt = dosyalar.Oku(yol);
+    if (!bayt)
+        return false;
+    DegerOkuyucu okuyucu(*bayt);
+    for (Metin& deger : hedef.deger)
+        if (!okuyucu.Oku(deger))
+            break;
+    return true;
+}
+
+Metin VirgulNokta(MetinBakis metin) {
+    Metin sonuc(metin);
+    std::replace(sonuc.begin(), sonuc.end(), u',', u'.');
+    return sonuc;
+}
+
+MetinBakis Secenek(bool secili) {
+    return secili ? u"1" : u"0";
+}
+
+} // namespace
+
+bool AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef) {
+    return DegerlerOku(dosyalar, yol, hedef);
+}
+
+bool DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef) {
+    return DegerlerOku(dosyalar, yol, hedef);
+}
+
+bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef) {
+    const auto bayt = dosyalar.Oku(yol);
+    if (!bayt)
+        return false;
+    DegerOkuyucu okuyucu(*bayt);
+    // Outside the loop: a last record that is cut short keeps the values of the one before it.
+    Odeme odeme;
+    while (!okuyucu.Sonda()) {
+        okuyucu.Oku(odeme.tarih, odeme.tutar, odeme.aciklama);
+        if (!Kirp(odeme.tarih).empty())
+            hedef.push_back(odeme);
+    }
+    return true;
+}
+
+Metin AnaTemizle(MetinBakis metin) {
+    Metin sonuc = VirgulNokta(metin);
+    std::erase(sonuc, u'"');
+    return sonuc;
+}
+
+Metin DetayTemizle(MetinBakis metin) {
+    Metin sonuc = VirgulNokta(metin);
+    std::replace(sonuc.begin(), sonuc.end(), u'"', u'\'');
+    return sonuc;
+}
+
+std::string AnaBayt(const AnaKayit& kayit) {
+    DegerYazici yazici;
+    for (const Metin& kay : kayit.kay)
+        yazici.Parca(kay);
+    yazici.Parca(kayit.check18);
+    yazici.Parca(kayit.check19);
+    yazici.SatirSonu();
+    return yazici.Bayt();
+}
+
+std::string DetayBayt(const DetayKaydi& kayit) {
+    DegerYazici yazici;
+    for (const int check : kayit.check)
+        yazici.Yaz(check);
+    for (const Metin& tt : kayit.tt)
+        yazici.Yaz(DetayTemizle(tt));
+    yazici.Yaz(DetayTemizle(kayit.aciklamalar));
+    yazici.Yaz(Secenek(kayit.option1), Secenek(kayit.option2));
+    yazici.Yaz(kayit.combo1);
+    yazici.Yaz(kayit.label20);
+    return yazici.Bayt();
+}
+
+std::string OdemeBayt(const std::vector<Odeme>& odemeler) {
+    DegerYazici yazici;
+    for (const Odeme& odeme : odemeler)
+        yazici.Yaz(odeme.tarih, odeme.tutar, odeme.aciklama);
+    return yazici.Bayt();
+}
+
+bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit) {
+    return dosyalar.Yaz(yol, AnaBayt(kayit));
+}
+
+bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit) {
+    return dosyalar.Yaz(yol, DetayBayt(kayit));
+}
+
+bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler) {
+    if (!odemeler.empty())
+        return dosyalar.Yaz(yol, OdemeBayt(odemeler));
+    if (dosyalar.Sil(yol) || !dosyalar.VarMi(yol))
+        return true;
+    // A file that can't be removed must not bring the payments back.
+    dosyalar.Yaz(yol, {});
+    return false;
+}
+
+} // namespace velora

@@ -1,0 +1,75 @@
+#include "storage/VeriAgaci.h"
+
+namespace velora {
+namespace {
+
+Metin Ekle(Metin yol, MetinBakis ad) {
+    yol += kAyrac;
+    yol += ad;
+    return yol;
+}
+
+} // namespace
+
+MetinBakis DilimEki(GunduzGece dilim) {
+    return dilim == GunduzGece::Gunduz ? u" - Gündüz" : u" - Gece";
+}
+
+Metin AyEki(unsigned ay) {
+    return u'.' + IkiHane(ay) + u'.';
+}
+
+Metin GunAnahtari(unsigned gun, unsigned ay, MetinBakis yil, GunduzGece dilim) {
+    Metin ad = IkiHane(gun) + AyEki(ay);
+    ad += yil;
+    ad += DilimEki(dilim);
+    return ad;
+}
+
+Metin AnahtarTarihi(MetinBakis ad) {
+    Metin tarih(Parca(ad, 1, 2));
+    tarih += u'.';
+    tarih += Parca(ad, 4, 2);
+    tarih += u'.';
+    tarih += Parca(ad, 7, 4);
+    return tarih;
+}
+
+GunduzGece AnahtarDilimi(MetinBakis ad) {
+    return Son(ad, 3) == u"düz" ? GunduzGece::Gunduz : GunduzGece::Gece;
+}
+
+bool EslikDosyasi(MetinBakis ad) {
+    return ad.ends_with(u"Detay") || ad.ends_with(u"Odeme");
+}
+
+bool GunDosyasiDeseni(MetinBakis ad) {
+    return ad.size() >= 3 && u'0' <= ad[0] && ad[0] <= u'3' && ad[2] == u'.';
+}
+
+Metin VeriAgaci::KokYolu(MetinBakis ad) const {
+    return Ekle(dosyalar_.Kok(), ad);
+}
+
+Metin VeriAgaci::SalonKlasoru(MetinBakis salon) const {
+    return Ekle(dosyalar_.Kok(), salon);
+}
+
+Metin VeriAgaci::YilKlasoru(MetinBakis salon, MetinBakis yil) const {
+    return Ekle(SalonKlasoru(salon), yil);
+}
+
+Metin VeriAgaci::GunYolu(MetinBakis salon, MetinBakis yil, MetinBakis gunAnahtari) const {
+    return Ekle(YilKlasoru(salon, yil), gunAnahtari);
+}
+
+bool VeriAgaci::RezervasyonVarMi(const Metin& yol) const {
+    return dosyalar_.VarMi(yol);
+}
+
+void VeriAgaci::KlasorHazirla(MetinBakis salon, MetinBakis yil) const {
+    dosyalar_.KlasorYap(SalonKlasoru(salon));
+    dosyalar_.KlasorYap(YilKlasoru(salon, yil));
+}
+
+} // namespace velora

@@ -1,0 +1,51 @@
+#include "storage/dosya/AdListesi.h"
+
+#include <algorithm>
+
+#include "storage/Harf.h"
+#include "storage/dosya/Dosyalar.h"
+
+namespace velora {
+namespace {
+
+constexpr std::size_t kAnahtarBoyu = 8;
+constexpr char16_t kTasan = 0xFF;
+
+/// Letters beyond one byte share the highest value, and what stands behind the first of them may not count
+/// any more: such names come out equal and are compared in full.
+std::uint64_t Anahtar(MetinBakis ad) {
+    std::uint64_t anahtar = 0;
+    std::size_t yer = 0;
+    while (yer < kAnahtarBoyu) {
+        const char16_t harf = yer < ad.size() ? std::min(SiraHarfi(ad[yer]), kTasan) : u'\0';
+        anahtar = anahtar << 8U | harf;
+        ++yer;
+        if (harf == kTasan)
+            break;
+    }
+    return yer < kAnahtarBoyu ? anahtar << 8U * (kAnahtarBoyu - yer) : anahtar;
+}
+
+} // namespace
+
+bool AdSirasi(MetinBakis bir, MetinBakis iki) {
+    const auto [b, i] =
+        std::mismatch(bir.begin(), bir.end(), iki.begin(), iki.end(),
+                      [](char16_t x, char16_t y) { return x == y || SiraHarfi(x) == SiraHarfi(y); });
+    if (b != bir.end() && i != iki.end())
+        return SiraHarfi(*b) < SiraHarfi(*i);
+    return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
+}
+
+void AdListesi::Ekle(MetinBakis ad) {
+    adlar_.push_back({Anahtar(ad), harfler_.size(), ad.size()});
+    harfler_ += ad;
+}
+
+void AdListesi::Sirala() {
+    std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) {
+        return bir.anahtar != iki.anahtar ? bir.anahtar < iki.anahtar : AdSirasi(Bakis(bir), Bakis(iki));
+    });
+}
+
+} // namespace velora

@@ -1,0 +1,194 @@
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "storage/dosya/Aktarim.h"
+#include "storage/dosya/Dosyalar.h"
+#include "storage/dosya/Sistem.h"
+#include "storage/dosya/Utf8.h"
+
+namespace velora {
+
+Metin YolMetni(const std::filesystem::path& yol) {
+    Metin metin;
+    Utf8Coz(yol.native(), metin);
+    return metin;
+}
+
+std::optional<std::filesystem::path> MetinYolu(MetinBakis metin) {
+    std::string bayt;
+    if (!Utf8Ekle(metin, bayt))
+        return {};
+    return std::filesystem::path(std::move(bayt));
+}
+
+bool AyniAd(MetinBakis bir, MetinBakis iki) {
+    return bir == iki;
+}
+
+namespace sistem {
+namespace {
+
+constexpr mode_t kDosyaHakki = 0666;
+constexpr mode_t kKlasorHakki = 0777;
+
+// A pipe must not stop us, nor a terminal become ours.
+constexpr int kHerAcilis = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+int Bayraklar(Kip kip) {
+    switch (kip) {
+    case Kip::Oku:
+        return O_RDONLY | kHerAcilis;
+    case Kip::Guncelle:
+        return O_RDWR | kHerAcilis;
+    case Kip::Yeni:
+        return O_WRONLY | O_CREAT | O_EXCL | kHerAcilis;
+    }
+    return -1;
+}
+
+/// Repeats a call that a signal broke off.
+template <class Cagri>
+auto Sabirla(Cagri cagri) {
+    auto sonuc = cagri();
+    while (sonuc < 0 && errno == EINTR)
+        sonuc = cagri();
+    return sonuc;
+}
+
+int No(std::intptr_t tutamac) {
+    return static_cast<int>(tutamac);
+}
+
+std::optional<std::size_t> Adet(ssize_t sonuc) {
+    return sonuc < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(sonuc));
+}
+
+} // namespace
+
+Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
+    const int no = Sabirla([&] { return ::open(yol.c_str(), Bayraklar(kip), kDosyaHakki); });
+    if (no < 0)
+        return errno == ENOENT ? Acilis::Yok : Acilis::Olmadi;
+    tutamac_ = no;
+    struct stat bilgi {};
+    if (::fstat(no, &bilgi) == 0 && S_ISREG(bilgi.st_mode))
+        return Acilis::Acildi;
+    Kapat();
+    return Acilis::Olmadi;
+}
+
+std::optional<std::uint64_t> AcikDosya::Boy() const {
+    struct stat bilgi {};
+    if (::fstat(No(tutamac_), &bilgi) != 0)
+        return {};
+    return static_cast<std::uint64_t>(bilgi.st_size);
+}
+
+std::optional<std::size_t> AcikDosya::Oku(std::uint64_t konum, char* hedef, std::size_t adet) {
+    return Adet(Sabirla([&] { return ::pread(No(tutamac_), hedef, adet, static_cast<off_t>(konum)); }));
+}
+
+std::size_t AcikDosya::Yaz(std::uint64_t konum, std::string_view bayt) {
+    const auto giden =
+        Sabirla([&] { return ::pwrite(No(tutamac_), bayt.data(), bayt.size(), static_cast<off_t>(konum)); });
+    return Adet(giden).value_or(0);
+}
+
+bool AcikDosya::YerAyir(std::uint64_t boy) {
+#ifdef FALLOC_FL_KEEP_SIZE
+    const auto ayir = [&] {
+        return ::fallocate(No(tutamac_), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(boy));
+    };
+    return Sabirla(ayir) == 0 || (errno != ENOSPC && errno != EDQUOT);
+#else
+    static_cast<void>(boy);
+    return true;
+#endif
+}
+
+bool AcikDosya::Kes(std::uint64_t boy) {
+    return Sabirla([&] { return ::ftruncate(No(tutamac_), static_cast<off_t>(boy)); }) == 0;
+}
+
+bool AcikDosya::Kapat() {
+    if (tutamac_ == kKapali)
+        return true;
+    const int sonuc = ::close(No(tutamac_));
+    tutamac_ = kKapali;
+    // After a signal the file is closed all the same.
+    return sonuc == 0 || errno == EINTR;
+}
+
+struct Klasor::Ic {
+    DIR* akis = nullptr;
+    std::string ad; ///< kept for its memory
+
+    ~Ic() {
+        if (akis != nullptr)
+            ::closedir(akis);
+    }
+
+    bool Duz(const dirent& kayit) const {
+        if (kayit.d_type != DT_LNK && kayit.d_type != DT_UNKNOWN)
+            return kayit.d_type == DT_REG;
+        struct stat bilgi {};
+        return ::fstatat(::dirfd(akis), static_cast<const char*>(kayit.d_name), &bilgi, 0) == 0 &&
+               S_ISREG(bilgi.st_mode);
+    }
+};
+
+Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
+    ic_->akis = ::opendir(yol.c_str());
+}
+
+Klasor::~Klasor() = default;
+
+bool Klasor::Sonraki(Metin& ad) {
+    while (const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr) {
+        if (!ic_->Duz(*kayit))
+            continue;
+        Utf8Coz(static_cast<const char*>(kayit->d_name), ad);
+        return true;
+    }
+    return false;
+}
+
+std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, std::string& tampon) {
+    ic_->ad.clear();
+    if (!Utf8Ekle(ad, ic_->ad))
+        return {};
+    const int no =
+        Sabirla([&] { return ::openat(::dirfd(ic_->akis), ic_->ad.c_str(), Bayraklar(Kip::Oku)); });
+    if (no < 0)
+        return {};
+    // Closes on every way out, also when the buffer can't grow.
+    struct Kapatan {
+        int no;
+        ~Kapatan() { ::close(no); }
+    } const kapatan{no};
+    const auto boy = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
+        return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
+    });
+    if (!boy)
+        return {};
+    return std::string_view(tampon).substr(0, *boy);
+}
+
+bool DuzDosya(const std::filesystem::path& yol) {
+    struct stat bilgi {};
+    return ::stat(yol.c_str(), &bilgi) == 0 && S_ISREG(bilgi.st_mode);
+}
+
+bool DosyaSil(const std::filesystem::path& yol) {
+    return ::unlink(yol.c_str()) == 0;
+}
+
+bool KlasorYap(const std::filesystem::path& yol) {
+    return ::mkdir(yol.c_str(), kKlasorHakki) == 0;
+}
+
+} // namespace sistem
+} // namespace velora

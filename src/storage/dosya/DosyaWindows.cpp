@@ -1,0 +1,215 @@
+#define NOMINMAX
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include "storage/dosya/Aktarim.h"
+#include "storage/dosya/Dosyalar.h"
+#include "storage/dosya/Sistem.h"
+
+namespace velora {
+
+Metin YolMetni(const std::filesystem::path& yol) {
+    return {yol.native().begin(), yol.native().end()};
+}
+
+std::optional<std::filesystem::path> MetinYolu(MetinBakis metin) {
+    return std::filesystem::path(std::wstring(metin.begin(), metin.end()));
+}
+
+bool AyniAd(MetinBakis bir, MetinBakis iki) {
+    const std::wstring a(bir.begin(), bir.end());
+    const std::wstring b(iki.begin(), iki.end());
+    return ::CompareStringOrdinal(a.c_str(), static_cast<int>(a.size()), b.c_str(),
+                                  static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
+}
+
+namespace sistem {
+namespace {
+
+// One call takes a length of 32 bits.
+constexpr std::size_t kEnCokCagri = 1U << 30U;
+
+// ERROR_DISK_QUOTA_EXCEEDED, which not every header has.
+constexpr DWORD kKotaDoldu = 1295;
+
+constexpr DWORD kHerkesle = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// The path in the form that has no limit of 260 letters and knows no device names such as "CON". That form
+/// takes every name literally, so the dots and blanks at a name's end, which the other form drops, are
+/// dropped here.
+std::wstring UzunYol(const std::filesystem::path& yol) {
+    const std::wstring kok = yol.root_name().native();
+    const bool ag = kok.starts_with(L"\\\\");
+    std::wstring sonuc = ag ? L"\\\\?\\UNC" + kok.substr(1) : L"\\\\?\\" + kok;
+    for (const std::filesystem::path& parca : yol.relative_path()) {
+        const std::wstring& ad = parca.native();
+        sonuc += L'\\';
+        sonuc.append(ad, 0, ad.find_last_not_of(L". ") + 1);
+    }
+    return yol.has_relative_path() ? sonuc : sonuc + L'\\';
+}
+
+HANDLE Tutamac(std::intptr_t tutamac) {
+    return reinterpret_cast<HANDLE>(tutamac);
+}
+
+HANDLE Ac(const std::wstring& yol, Kip kip) {
+    const DWORD hak = kip == Kip::Oku ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
+    const DWORD paylasim = kip == Kip::Oku ? kHerkesle : FILE_SHARE_READ;
+    const DWORD nasil = kip == Kip::Yeni ? CREATE_NEW : OPEN_EXISTING;
+    return ::CreateFileW(yol.c_str(), hak, paylasim, nullptr, nasil, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+OVERLAPPED Konum(std::uint64_t konum) {
+    OVERLAPPED yer{};
+    yer.Offset = static_cast<DWORD>(konum);
+    yer.OffsetHigh = static_cast<DWORD>(konum >> 32U);
+    return yer;
+}
+
+DWORD Adet(std::size_t adet) {
+    return static_cast<DWORD>(std::min(adet, kEnCokCagri));
+}
+
+std::optional<std::size_t> KonumdanOku(HANDLE dosya, std::uint64_t konum, char* hedef, std::size_t adet) {
+    OVERLAPPED yer = Konum(konum);
+    DWORD gelen = 0;
+    if (::ReadFile(dosya, hedef, Adet(adet), &gelen, &yer) == 0 && ::GetLastError() != ERROR_HANDLE_EOF)
+        return {};
+    return gelen;
+}
+
+LARGE_INTEGER Buyuk(std::uint64_t sayi) {
+    LARGE_INTEGER buyuk{};
+    buyuk.QuadPart = static_cast<LONGLONG>(sayi);
+    return buyuk;
+}
+
+bool DosyaMi(DWORD oznitelik) {
+    return oznitelik != INVALID_FILE_ATTRIBUTES && (oznitelik & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+} // namespace
+
+Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
+    const HANDLE dosya = sistem::Ac(UzunYol(yol), kip);
+    if (dosya == INVALID_HANDLE_VALUE)
+        return ::GetLastError() == ERROR_FILE_NOT_FOUND ? Acilis::Yok : Acilis::Olmadi;
+    tutamac_ = reinterpret_cast<std::intptr_t>(dosya);
+    if (::GetFileType(dosya) == FILE_TYPE_DISK)
+        return Acilis::Acildi;
+    Kapat();
+    return Acilis::Olmadi;
+}
+
+std::optional<std::uint64_t> AcikDosya::Boy() const {
+    LARGE_INTEGER boy{};
+    if (::GetFileSizeEx(Tutamac(tutamac_), &boy) == 0)
+        return {};
+    return static_cast<std::uint64_t>(boy.QuadPart);
+}
+
+std::optional<std::size_t> AcikDosya::Oku(std::uint64_t konum, char* hedef, std::size_t adet) {
+    return KonumdanOku(Tutamac(tutamac_), konum, hedef, adet);
+}
+
+std::size_t AcikDosya::Yaz(std::uint64_t konum, std::string_view bayt) {
+    OVERLAPPED yer = Konum(konum);
+    DWORD giden = 0;
+    const bool oldu = ::WriteFile(Tutamac(tutamac_), bayt.data(), Adet(bayt.size()), &giden, &yer) != 0;
+    return oldu ? giden : 0;
+}
+
+bool AcikDosya::YerAyir(std::uint64_t boy) {
+    FILE_ALLOCATION_INFO bilgi{};
+    bilgi.AllocationSize = Buyuk(boy);
+    if (::SetFileInformationByHandle(Tutamac(tutamac_), FileAllocationInfo, &bilgi, sizeof bilgi) != 0)
+        return true;
+    const DWORD hata = ::GetLastError();
+    return hata != ERROR_DISK_FULL && hata != ERROR_HANDLE_DISK_FULL && hata != kKotaDoldu;
+}
+
+bool AcikDosya::Kes(std::uint64_t boy) {
+    return ::SetFilePointerEx(Tutamac(tutamac_), Buyuk(boy), nullptr, FILE_BEGIN) != 0 &&
+           ::SetEndOfFile(Tutamac(tutamac_)) != 0;
+}
+
+bool AcikDosya::Kapat() {
+    if (tutamac_ == kKapali)
+        return true;
+    const bool oldu = ::CloseHandle(Tutamac(tutamac_)) != 0;
+    tutamac_ = kKapali;
+    return oldu;
+}
+
+struct Klasor::Ic {
+    std::wstring yol; ///< with a separator at its end
+    HANDLE arama = INVALID_HANDLE_VALUE;
+    WIN32_FIND_DATAW bulunan{};
+    bool var = false; ///< `bulunan` holds an entry that wasn't handed over yet
+
+    ~Ic() {
+        if (arama != INVALID_HANDLE_VALUE)
+            ::FindClose(arama);
+    }
+};
+
+Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
+    ic_->yol = UzunYol(yol);
+    if (ic_->yol.back() != L'\\')
+        ic_->yol += L'\\';
+    ic_->arama = ::FindFirstFileExW((ic_->yol + L'*').c_str(), FindExInfoBasic, &ic_->bulunan,
+                                    FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    ic_->var = ic_->arama != INVALID_HANDLE_VALUE;
+}
+
+Klasor::~Klasor() = default;
+
+bool Klasor::Sonraki(Metin& ad) {
+    while (ic_->var) {
+        const bool dosya = DosyaMi(ic_->bulunan.dwFileAttributes);
+        if (dosya) {
+            const std::wstring_view bulunan(static_cast<const wchar_t*>(ic_->bulunan.cFileName));
+            ad.assign(bulunan.begin(), bulunan.end());
+        }
+        ic_->var = ::FindNextFileW(ic_->arama, &ic_->bulunan) != 0;
+        if (dosya)
+            return true;
+    }
+    return false;
+}
+
+std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, std::string& tampon) {
+    const HANDLE dosya = sistem::Ac(ic_->yol + std::wstring(ad.begin(), ad.end()), Kip::Oku);
+    if (dosya == INVALID_HANDLE_VALUE)
+        return {};
+    // Closes on every way out, also when the buffer can't grow.
+    struct Kapatan {
+        HANDLE dosya;
+        ~Kapatan() { ::CloseHandle(dosya); }
+    } const kapatan{dosya};
+    std::uint64_t konum = 0;
+    const auto boy = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
+        const auto gelen = KonumdanOku(dosya, konum, hedef, adet);
+        konum += gelen.value_or(0);
+        return gelen;
+    });
+    if (!boy)
+        return {};
+    return std::string_view(tampon).substr(0, *boy);
+}
+
+bool DuzDosya(const std::filesystem::path& yol) {
+    return DosyaMi(::GetFileAttributesW(UzunYol(yol).c_str()));
+}
+
+bool DosyaSil(const std::filesystem::path& yol) {
+    return ::DeleteFileW(UzunYol(yol).c_str()) != 0;
+}
+
+bool KlasorYap(const std::filesystem::path& yol) {
+    return ::CreateDirectoryW(UzunYol(yol).c_str(), nullptr) != 0;
+}
+
+} // namespace sistem
+} // namespace velora

@@ -1,0 +1,227 @@
+#include "storage/dosya/Dosyalar.h"
+
+#include <algorithm>
+#include <exception>
+#include <memory>
+
+#include "storage/dosya/AdListesi.h"
+#include "storage/dosya/Aktarim.h"
+#include "storage/dosya/Sistem.h"
+
+namespace velora {
+namespace {
+
+using sistem::AcikDosya;
+using sistem::Acilis;
+using sistem::Kip;
+
+// Read whole, a longer file would only cost the memory of the machine.
+constexpr std::uint64_t kEnUzunOkuma = 256U << 20U;
+
+/// What a system throws is memory running out. That is a failed step as any other.
+template <class Is>
+auto Sessiz(Is is) noexcept -> decltype(is()) {
+    try {
+        return is();
+    } catch (const std::exception&) {
+        return decltype(is()){};
+    }
+}
+
+/// No system of the two takes these in a name, and a name of dots and blanks alone can mean another folder.
+bool AdUygun(MetinBakis ad) {
+    const bool yasak = std::any_of(ad.begin(), ad.end(), [](char16_t harf) {
+        return harf < u' ' || MetinBakis(u"<>:\"/\\|?*").find(harf) != MetinBakis::npos;
+    });
+    return !yasak && ad.find_first_not_of(u". ") != MetinBakis::npos;
+}
+
+std::filesystem::path Mutlak(const std::filesystem::path& yol) {
+    std::error_code hata;
+    const auto mutlak = std::filesystem::absolute(yol, hata);
+    return hata ? yol : mutlak;
+}
+
+/// Runs the work on the file, on a disk as narrow as the test wants it.
+template <class Is>
+bool Yerle(AcikDosya& dosya, const std::optional<std::size_t>& yer, Is is) {
+    if (!yer)
+        return is(dosya);
+    DarDosya<AcikDosya> dar(dosya, *yer);
+    return is(dar);
+}
+
+bool YeniYaz(const std::filesystem::path& yol, std::string_view bayt, const std::optional<std::size_t>& yer) {
+    AcikDosya dosya;
+    if (dosya.Ac(yol, Kip::Yeni) != Acilis::Acildi)
+        return false;
+    const bool yazildi = Yerle(dosya, yer, [&](auto& hedef) { return HepsiniYaz(hedef, 0, bayt); });
+    if (dosya.Kapat() && yazildi)
+        return true;
+    sistem::DosyaSil(yol);
+    return false;
+}
+
+/// Writes a file that is there with `is`, and makes one that isn't.
+template <class Is>
+bool EskiVeyaYeni(const std::filesystem::path& yol, std::string_view bayt,
+                  const std::optional<std::size_t>& yer, Is is) {
+    AcikDosya dosya;
+    switch (dosya.Ac(yol, Kip::Guncelle)) {
+    case Acilis::Acildi:
+        return Yerle(dosya, yer, is) && dosya.Kapat();
+    case Acilis::Yok:
+        return YeniYaz(yol, bayt, yer);
+    case Acilis::Olmadi:
+        break;
+    }
+    return false;
+}
+
+AdListesi AdlariAl(sistem::Klasor& klasor) {
+    AdListesi adlar;
+    Metin ad;
+    while (klasor.Sonraki(ad))
+        adlar.Ekle(ad);
+    adlar.Sirala();
+    return adlar;
+}
+
+} // namespace
+
+Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), kok_(YolMetni(kokYolu_)) {
+    while (!kok_.empty() &&
+           (kok_.back() == u'/' || kok_.back() == std::filesystem::path::preferred_separator))
+        kok_.pop_back();
+}
+
+std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& yol) const {
+    if ((ariza && ariza(is, yol)) || !yol.starts_with(kok_))
+        return {};
+    std::filesystem::path sonuc = kokYolu_;
+    MetinBakis kalan = MetinBakis(yol).substr(kok_.size());
+    bool kokMu = true;
+    while (!kalan.empty()) {
+        if (kalan.front() != kAyrac)
+            return {};
+        kalan.remove_prefix(1);
+        const MetinBakis ad = kalan.substr(0, kalan.find(kAyrac));
+        kalan.remove_prefix(ad.size());
+        if (ad.empty())
+            continue;
+        const auto parca = AdUygun(ad) ? MetinYolu(ad) : std::nullopt;
+        if (!parca)
+            return {};
+        sonuc /= *parca;
+        kokMu = false;
+    }
+    if (kokMu && is != DosyaIsi::Listele)
+        return {};
+    return sonuc;
+}
+
+bool Dosyalar::VarMi(const Metin& yol) const {
+    return Sessiz([&] {
+        const auto p = Cevir(DosyaIsi::VarMi, yol);
+        return p && sistem::DuzDosya(*p);
+    });
+}
+
+std::vector<Metin> Dosyalar::Listele(const Metin& klasor) const {
+    return Sessiz([&]() -> std::vector<Metin> {
+        const auto p = Cevir(DosyaIsi::Listele, klasor);
+        if (!p)
+            return {};
+        sistem::Klasor acik(*p);
+        const AdListesi adlar = AdlariAl(acik);
+        std::vector<Metin> liste;
+        liste.reserve(adlar.Sayi());
+        for (std::size_t i = 0; i < adlar.Sayi(); ++i)
+            liste.emplace_back(adlar[i]);
+        return liste;
+    });
+}
+
+std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
+    return Sessiz([&]() -> std::optional<std::string> {
+        const auto p = Cevir(DosyaIsi::Oku, yol);
+        AcikDosya dosya;
+        if (!p || dosya.Ac(*p, Kip::Oku) != Acilis::Acildi)
+            return {};
+        const auto boy = dosya.Boy();
+        if (!boy || *boy > kEnUzunOkuma)
+            return {};
+        std::string bayt(static_cast<std::size_t>(*boy) + 1, '\0');
+        const auto okunan = OkuHepsini(dosya, kEnUzunOkuma, bayt);
+        if (!okunan)
+            return {};
+        bayt.resize(*okunan);
+        return bayt;
+    });
+}
+
+void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
+                          const std::function<void(const OkunanDosya&)>& ver) const {
+    struct Okuma {
+        explicit Okuma(const std::filesystem::path& yol) : klasor(yol) {}
+        sistem::Klasor klasor;
+        AdListesi adlar;
+        std::string tampon;
+    };
+    const auto okuma = Sessiz([&]() -> std::unique_ptr<Okuma> {
+        const auto p = Cevir(DosyaIsi::Listele, klasor);
+        if (!p)
+            return nullptr;
+        auto acilan = std::make_unique<Okuma>(*p);
+        acilan->adlar = AdlariAl(acilan->klasor);
+        return acilan;
+    });
+    for (std::size_t i = 0; okuma && i < okuma->adlar.Sayi(); ++i) {
+        const MetinBakis ad = okuma->adlar[i];
+        const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
+            if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
+                return {};
+            return okuma->klasor.Oku(ad, enCok, okuma->tampon);
+        });
+        ver({ad, bayt.has_value(), bayt.value_or(std::string_view())});
+    }
+}
+
+bool Dosyalar::Yaz(const Metin& yol, std::string_view bayt) const {
+    return Sessiz([&] {
+        const auto p = Cevir(DosyaIsi::Yaz, yol);
+        return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return UzerineYaz(dosya, bayt); });
+    });
+}
+
+bool Dosyalar::Ekle(const Metin& yol, std::string_view bayt) const {
+    return Sessiz([&] {
+        const auto p = Cevir(DosyaIsi::Ekle, yol);
+        return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return SonunaYaz(dosya, bayt); });
+    });
+}
+
+bool Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
+    return Sessiz([&] {
+        if (!Cevir(DosyaIsi::Kopyala, hedef))
+            return false;
+        const auto bayt = Oku(kaynak);
+        return bayt && Yaz(hedef, *bayt);
+    });
+}
+
+bool Dosyalar::Sil(const Metin& yol) const {
+    return Sessiz([&] {
+        const auto p = Cevir(DosyaIsi::Sil, yol);
+        return p && sistem::DosyaSil(*p);
+    });
+}
+
+bool Dosyalar::KlasorYap(const Metin& yol) const {
+    return Sessiz([&] {
+        const auto p = Cevir(DosyaIsi::KlasorYap, yol);
+        return p && sistem::KlasorYap(*p);
+    });
+}
+
+} // namespace velora

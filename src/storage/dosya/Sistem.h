@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "storage/Metin.h"
+
+/// What the file module needs of the system. Each system has one file that holds just this; all rules of the
+/// file module stand above it. Nothing here checks a path. Plain files only: a folder, a pipe or a device
+/// never opens.
+namespace velora::sistem {
+
+enum class Kip {
+    Oku,      ///< reading
+    Guncelle, ///< reading and writing over a file that is there
+    Yeni      ///< writing a file that isn't there yet
+};
+
+enum class Acilis { Acildi, Yok, Olmadi };
+
+class AcikDosya {
+  public:
+    AcikDosya() = default;
+    AcikDosya(const AcikDosya&) = delete;
+    AcikDosya& operator=(const AcikDosya&) = delete;
+    ~AcikDosya() { Kapat(); }
+
+    Acilis Ac(const std::filesystem::path& yol, Kip kip);
+
+    std::optional<std::uint64_t> Boy() const;
+
+    /// How many bytes were read from `konum` on, 0 at the end of the file. Nothing on failure.
+    std::optional<std::size_t> Oku(std::uint64_t konum, char* hedef, std::size_t adet);
+
+    /// Writes at `konum` in one call. How many bytes were taken, 0 on failure.
+    std::size_t Yaz(std::uint64_t konum, std::string_view bayt);
+
+    /// Takes room on the disk for a file of this length; its length stays. False only when it is sure that
+    /// there is no room: a system that can't tell says true.
+    bool YerAyir(std::uint64_t boy);
+
+    /// Cuts the file to this length.
+    bool Kes(std::uint64_t boy);
+
+    /// False when the system took back what it had promised.
+    bool Kapat();
+
+  private:
+    static constexpr std::intptr_t kKapali = -1;
+    std::intptr_t tutamac_ = kKapali;
+};
+
+/// A folder that is listed, and whose files are then read by name.
+class Klasor {
+  public:
+    /// A folder that can't be opened lists nothing.
+    explicit Klasor(const std::filesystem::path& yol);
+    Klasor(const Klasor&) = delete;
+    Klasor& operator=(const Klasor&) = delete;
+    ~Klasor();
+
+    /// The name of the next plain file, in the order of the disk. False after the last.
+    bool Sonraki(Metin& ad);
+
+    /// The bytes of a file of this folder, at most `enCok` of them, in `tampon`, which grows when it must and
+    /// is there to be used again. Nothing when the file can't be opened or read.
+    std::optional<std::string_view> Oku(MetinBakis ad, std::size_t enCok, std::string& tampon);
+
+  private:
+    struct Ic;
+    std::unique_ptr<Ic> ic_;
+};
+
+bool DuzDosya(const std::filesystem::path& yol);
+bool DosyaSil(const std::filesystem::path& yol);
+bool KlasorYap(const std::filesystem::path& yol);
+
+} // namespace velora::sistem

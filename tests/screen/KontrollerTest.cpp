@@ -1,0 +1,122 @@
+#include "screen/Kontroller.h"
+
+#include <gtest/gtest.h>
+
+namespace velora::test {
+
+class AcilirListeTest : public ::testing::Test {
+  protected:
+    AcilirListeTest() {
+        liste.ogeler = {u"A", u"B", u"B", u"C"};
+        liste.tiklandi = [this] { ++tik; };
+    }
+    AcilirListe liste;
+    int tik = 0;
+};
+
+TEST_F(AcilirListeTest, ChoosingAnotherEntryRunsTheClickOnce) {
+    liste.Sec(u"B");
+    EXPECT_EQ(liste.secili, 1);
+    EXPECT_EQ(tik, 1);
+    liste.Sec(3);
+    EXPECT_EQ(liste.Metni(), u"C");
+    EXPECT_EQ(tik, 2);
+}
+
+TEST_F(AcilirListeTest, ChoosingTheSameEntryRunsNothing) {
+    liste.Sec(u"B");
+    liste.Sec(u"B");
+    liste.Sec(1);
+    EXPECT_EQ(tik, 1);
+}
+
+TEST_F(AcilirListeTest, TextOfTheSecondOfTwoEqualEntriesKeepsTheSecond) {
+    liste.Sec(2);
+    liste.Sec(u"B");
+    EXPECT_EQ(liste.secili, 2);
+    EXPECT_EQ(tik, 1);
+}
+
+TEST_F(AcilirListeTest, UnlistedTextOrIndexLeavesTheChoiceAndRunsNothing) {
+    liste.Sec(u"B");
+    liste.Sec(u"yok");
+    liste.Sec(-1);
+    liste.Sec(4);
+    EXPECT_EQ(liste.Metni(), u"B");
+    EXPECT_EQ(tik, 1);
+}
+
+TEST_F(AcilirListeTest, SilentChoiceRunsNothing) {
+    liste.SessizSec(u"C");
+    EXPECT_EQ(liste.secili, 3);
+    liste.SessizSec(u"yok");
+    EXPECT_EQ(liste.secili, 3);
+    EXPECT_EQ(tik, 0);
+}
+
+TEST_F(AcilirListeTest, TextSetAsItStandsMayBeUnlisted) {
+    liste.MetinAta(u"başka");
+    EXPECT_EQ(liste.secili, -1);
+    EXPECT_EQ(liste.Metni(), u"başka");
+    liste.MetinAta(u"C");
+    EXPECT_EQ(liste.secili, 3);
+    EXPECT_EQ(liste.Metni(), u"C");
+    EXPECT_EQ(tik, 0);
+}
+
+TEST(OnayKutusuTest, ClickRunsOnlyWhenTheValueChanges) {
+    OnayKutusu kutu;
+    int tik = 0;
+    kutu.tiklandi = [&tik] { ++tik; };
+    kutu.Ata(0);
+    EXPECT_EQ(tik, 0);
+    kutu.Ata(1);
+    kutu.Ata(1);
+    EXPECT_EQ(tik, 1);
+}
+
+TEST(ZamanlayiciTest, TickIsNotEnteredAgainWhileItRuns) {
+    Zamanlayici zamanlayici;
+    int sayac = 0;
+    zamanlayici.aralik = 5;
+    zamanlayici.tik = [&] {
+        ++sayac;
+        zamanlayici.Calis(); // events run inside the tick, and the next one is due
+    };
+    zamanlayici.Calis();
+    EXPECT_EQ(sayac, 1);
+    zamanlayici.Calis();
+    EXPECT_EQ(sayac, 2);
+}
+
+TEST(ZamanlayiciTest, StoppedTimerDoesNotTick) {
+    Zamanlayici zamanlayici;
+    int sayac = 0;
+    zamanlayici.tik = [&] { ++sayac; };
+    zamanlayici.Calis();
+    EXPECT_EQ(sayac, 0);
+}
+
+TEST(ZamanlayiciTest, TimerThatThrewTicksAgain) {
+    Zamanlayici zamanlayici;
+    zamanlayici.aralik = 5;
+    int sayac = 0;
+    zamanlayici.tik = [&] {
+        if (++sayac == 1)
+            throw 1;
+    };
+    EXPECT_THROW(zamanlayici.Calis(), int);
+    zamanlayici.Calis();
+    EXPECT_EQ(sayac, 2);
+}
+
+TEST(BirTabanliTest, ItemsAreNumberedFromOne) {
+    BirTabanli<int, 3> dizi;
+    int no = 0;
+    for (int& oge : dizi)
+        oge = ++no;
+    EXPECT_EQ(dizi[1], 1);
+    EXPECT_EQ(dizi[3], 3);
+}
+
+} // namespace velora::test

@@ -1,0 +1,123 @@
+#include "screen/Pencere.h"
+
+#include <gtest/gtest.h>
+
+#include "destek/GeciciAgac.h"
+#include "destek/SahteOrtam.h"
+#include "screen/Program.h"
+
+namespace velora::test {
+
+namespace {
+
+std::vector<std::string>& Gunluk() {
+    static std::vector<std::string> gunluk;
+    return gunluk;
+}
+
+struct AltEkran {
+    explicit AltEkran(Program&) {}
+    ~AltEkran() { Gunluk().emplace_back("alt gitti"); }
+    void Load() { Gunluk().emplace_back("alt yüklendi"); }
+    void Activate() { Gunluk().emplace_back("alt öne geldi"); }
+    int alan = 7;
+};
+
+struct UstEkran {
+    explicit UstEkran(Program&) {}
+    void Load() {}
+    void Activate() { Gunluk().emplace_back("üst öne geldi"); }
+};
+
+} // namespace
+
+class PencereTest : public ::testing::Test {
+  protected:
+    PencereTest() { Gunluk().clear(); }
+    ~PencereTest() override { Gunluk().clear(); }
+
+    GeciciAgac agac;
+    SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    Program program{ortam.Ver(), agac.Kok()};
+    Pencere<AltEkran> alt{program, EkranAdi::FormTablo};
+    Pencere<UstEkran> ust{program, EkranAdi::FormAyarlar};
+};
+
+TEST_F(PencereTest, FirstUseLoadsTheScreenAndLaterUsesDont) {
+    EXPECT_EQ(alt->alan, 7);
+    alt->alan = 8;
+    EXPECT_EQ(alt->alan, 8);
+    EXPECT_EQ(Gunluk(), std::vector<std::string>{"alt yüklendi"});
+}
+
+TEST_F(PencereTest, AskingWhetherItIsLoadedLoadsNothing) {
+    EXPECT_FALSE(alt.Yuklu());
+    EXPECT_TRUE(Gunluk().empty());
+}
+
+TEST_F(PencereTest, UnloadDropsWhatItHeldAndTheNextUseLoadsAfresh) {
+    alt->alan = 8;
+    alt.Bosalt();
+    EXPECT_FALSE(alt.Yuklu());
+    EXPECT_EQ(alt->alan, 7);
+    EXPECT_EQ(Gunluk(), (std::vector<std::string>{"alt yüklendi", "alt gitti", "alt yüklendi"}));
+    EXPECT_EQ(ortam.gizlenenler, std::vector<EkranAdi>{EkranAdi::FormTablo});
+}
+
+TEST_F(PencereTest, UnloadOfAScreenThatWasNeverLoadedDoesNothing) {
+    alt.Bosalt();
+    EXPECT_TRUE(ortam.gizlenenler.empty());
+    EXPECT_TRUE(Gunluk().empty());
+}
+
+TEST_F(PencereTest, ScreenUnloadedByItsOwnHandlerLivesUntilTheHandlerReturns) {
+    {
+        const auto tutulan = alt.Tut();
+        alt.Bosalt();
+        EXPECT_EQ(tutulan->alan, 7);
+        EXPECT_EQ(Gunluk(), std::vector<std::string>{"alt yüklendi"});
+    }
+    EXPECT_EQ(Gunluk().back(), "alt gitti");
+}
+
+TEST_F(PencereTest, ScreenIsActivatedWhenShownAndWhenTheScreenOverItCloses) {
+    alt.Goster();
+    ust.GosterModal();
+    EXPECT_EQ(Gunluk(),
+              (std::vector<std::string>{"alt yüklendi", "alt öne geldi", "üst öne geldi", "alt öne geldi"}));
+}
+
+TEST_F(PencereTest, BoxOverAScreenActivatesNothing) {
+    alt.Goster();
+    Gunluk().clear();
+    ortam.Bekle(BeklenenKutu{u"Velora", u"Emin misiniz?", Simge::Soru, Cevap::Evet});
+    EXPECT_EQ(program.ortam.sor.mesaj({u"Emin misiniz?", u"Velora", Simge::Soru, KutuDugmeleri::EvetHayir}),
+              Cevap::Evet);
+    EXPECT_TRUE(Gunluk().empty());
+}
+
+TEST_F(PencereTest, ModalScreenThatUnloadsItselfLeavesTheOneBelowOnTop) {
+    alt.Goster();
+    ortam.modalda[EkranAdi::FormAyarlar] = [this] {
+        ust.Bosalt();
+        EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormAyarlar));
+    };
+    ust.GosterModal();
+    EXPECT_FALSE(ust.Yuklu());
+    EXPECT_TRUE(program.yigin.Acik(EkranAdi::FormTablo));
+    EXPECT_EQ(Gunluk().back(), "alt öne geldi");
+}
+
+TEST_F(PencereTest, ScreenUnloadedByItsOwnActivateIsNotActivatedAgain) {
+    ortam.modalda[EkranAdi::FormAyarlar] = [this] { alt.Bosalt(); };
+    alt.Goster();
+    Gunluk().clear();
+    ust.GosterModal();
+    EXPECT_EQ(Gunluk(), (std::vector<std::string>{"üst öne geldi", "alt gitti"}));
+}
+
+TEST_F(PencereTest, TodayComesFromTheOutsideWorld) {
+    EXPECT_EQ(TarihMetni(program.Bugun()), u"15.06.2012");
+}
+
+} // namespace velora::test

@@ -1,0 +1,200 @@
+#include "setup/FormAyarlar.h"
+
+#include <gtest/gtest.h>
+
+#include "destek/GeciciAgac.h"
+#include "destek/Kayitlar.h"
+#include "destek/SahteOrtam.h"
+#include "screen/Program.h"
+
+namespace velora::test {
+
+namespace {
+
+const std::string kHepsiAcik = "1,1,1,1,1,1,1,1,1,1,1,1,1\r\n";
+
+constexpr std::array<RenkDegeri, 25> kVarsayilan{
+    0x008000, 0xFFFFFF, 0x80FFFF, 0,        0xFFFFFF, 0,        0x0000FF, 0xFFFFFF, 0x5CDFF1,
+    0,        0xEBEBEB, 0,        0x0000C0, 0xFFFFFF, 0x0000C0, 0xFFFFFF, 0x0000FF, 0xC0C0C0,
+    0xFFFFFF, 0x00FF00, 0xFFFFFF, 0x00C000, 0xFFFFFF, 0xFFC0FF, 0};
+
+} // namespace
+
+class FormAyarlarTest : public ::testing::Test {
+  protected:
+    FormAyarlar& Ayarlar() { return *program.FormAyarlar.Tut(); }
+
+    void VarsayilanBekle() {
+        for (int i = 0; i < kRenkSayisi; ++i)
+            EXPECT_EQ(Ayarlar().Renk(i), kVarsayilan[static_cast<std::size_t>(i)]) << i;
+        EXPECT_EQ(Ayarlar().UyariGun.metin, u"5");
+        EXPECT_EQ(Ayarlar().UyariGun2.metin, u"10");
+        EXPECT_EQ(Ayarlar().Check1.deger, 0);
+        EXPECT_EQ(Ayarlar().Check2.deger, 1);
+        EXPECT_TRUE(Ayarlar().Check2.etkin);
+        EXPECT_EQ(Ayarlar().Check3.deger, 1);
+        EXPECT_EQ(Ayarlar().Check4.deger, 0);
+        EXPECT_EQ(Ayarlar().GunduzGece.Metni(), u"Gece / Gündüz");
+        EXPECT_EQ(Ayarlar().Check5.deger, 1);
+        EXPECT_EQ(Ayarlar().Check6.deger, 1);
+        EXPECT_EQ(Ayarlar().Check7.deger, 0);
+        for (int ay = 1; ay <= 12; ++ay)
+            EXPECT_TRUE(Ayarlar().AyGorunur(ay)) << ay;
+    }
+
+    GeciciAgac agac;
+    SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    Program program{ortam.Ver(), agac.Kok()};
+};
+
+TEST_F(FormAyarlarTest, WithNeitherFileAllDefaultsStandAndNoFileIsMade) {
+    VarsayilanBekle();
+    EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
+    EXPECT_FALSE(agac.DosyaVar(u"Visible.dll"));
+}
+
+TEST_F(FormAyarlarTest, BothFilesAreReadFieldByField) {
+    agac.Koy(u"Settings.dll",
+             "100,101,102,103,104,105,106,107,108,109,110,111,112,113,114,115,116,117,118,119,120,"
+             "121,122,123,124,\"6\",\"a\xFE\",1,0,\"G\xFCnd\xFCz / Gece\",0,0,1\r\n");
+    agac.Koy(u"Visible.dll", "1,0,1,0,1,0,1,0,1,0,1,0,0\r\n");
+    for (int i = 0; i < kRenkSayisi; ++i)
+        EXPECT_EQ(Ayarlar().Renk(i), 100 + i);
+    EXPECT_EQ(Ayarlar().UyariGun.metin, u"6");
+    EXPECT_EQ(Ayarlar().UyariGun2.metin, u"aş");
+    EXPECT_EQ(Ayarlar().Check1.deger, 1);
+    EXPECT_EQ(Ayarlar().Check2.deger, 0);
+    EXPECT_TRUE(Ayarlar().GunduzUstte());
+    EXPECT_EQ(Ayarlar().Check5.deger, 0);
+    EXPECT_EQ(Ayarlar().Check6.deger, 0);
+    EXPECT_EQ(Ayarlar().Check7.deger, 1);
+    EXPECT_FALSE(Ayarlar().Check2.etkin) << "no numbers at all leave nothing to choose";
+    for (int ay = 1; ay <= 12; ++ay)
+        EXPECT_EQ(Ayarlar().AyGorunur(ay), ay % 2 == 1) << ay;
+    EXPECT_EQ(Ayarlar().Check3.deger, 0);
+    EXPECT_EQ(Ayarlar().Check4.deger, 0);
+}
+
+TEST_F(FormAyarlarTest, MissingVisibleDropsTheColoursOfAGoodSettingsFileToo) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
+    VarsayilanBekle();
+}
+
+TEST_F(FormAyarlarTest, MissingSettingsDropsAGoodVisibleFileToo) {
+    agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0,0\r\n");
+    VarsayilanBekle();
+}
+
+TEST_F(FormAyarlarTest, ThirtyTwoValuesGiveAllDefaults) {
+    Metin kisa = AyarMetni(1, u"77");
+    kisa.erase(kisa.rfind(u','));
+    agac.KoyMetin(u"Settings.dll", kisa);
+    agac.Koy(u"Visible.dll", kHepsiAcik);
+    VarsayilanBekle();
+}
+
+TEST_F(FormAyarlarTest, TwelveMonthValuesGiveAllDefaults) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
+    agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0\r\n");
+    VarsayilanBekle();
+}
+
+// The first two boxes go through the numeric reader, the others through a plain conversion: the difference is
+// meant.
+TEST_F(FormAyarlarTest, WordInTheFirstBoxIsZeroAndNoError) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(28, u"\"abc\""));
+    agac.Koy(u"Visible.dll", kHepsiAcik);
+    EXPECT_EQ(Ayarlar().Check1.deger, 0);
+    program.FormAyarlar.Bosalt();
+    agac.KoyMetin(u"Settings.dll", AyarMetni(29, u"\"abc\"").replace(0, 5, u"77"));
+    EXPECT_EQ(Ayarlar().Check2.deger, 0);
+    EXPECT_EQ(Ayarlar().Renk(0), 77);
+}
+
+TEST_F(FormAyarlarTest, WordInAnyOtherNumberGivesAllDefaults) {
+    for (const int alan : {1, 25, 31, 32, 33}) {
+        agac.KoyMetin(u"Settings.dll",
+                      AyarMetni(alan, u"\"abc\"").replace(0, alan == 1 ? 0 : 5, alan == 1 ? u"" : u"77"));
+        agac.Koy(u"Visible.dll", kHepsiAcik);
+        program.FormAyarlar.Bosalt();
+        VarsayilanBekle();
+    }
+}
+
+TEST_F(FormAyarlarTest, QuotedNumbersCountAsNumbers) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(31, u"\"0\""));
+    agac.Koy(u"Visible.dll", "\"1\",0,1,1,1,1,1,1,1,1,1,1,1\r\n");
+    EXPECT_EQ(Ayarlar().Check5.deger, 0);
+    EXPECT_TRUE(Ayarlar().AyGorunur(1));
+    EXPECT_FALSE(Ayarlar().AyGorunur(2));
+}
+
+// The master box is set first, and the stored months win over what its click made of them.
+TEST_F(FormAyarlarTest, StoredMonthsWinOverTheMasterBox) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni());
+    agac.Koy(u"Visible.dll", "0,1,1,1,1,1,1,1,1,1,1,1,1\r\n");
+    EXPECT_FALSE(Ayarlar().AyGorunur(1));
+    EXPECT_TRUE(Ayarlar().AyGorunur(2));
+    program.FormAyarlar.Bosalt();
+    agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0,0\r\n");
+    for (int ay = 1; ay <= 12; ++ay)
+        EXPECT_FALSE(Ayarlar().AyGorunur(ay));
+}
+
+TEST_F(FormAyarlarTest, ThirdTextOfTheSlotOrderIsKeptAndCountsAsEveningOnTop) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(30, u"\"Akşam önce\""));
+    agac.Koy(u"Visible.dll", kHepsiAcik);
+    EXPECT_EQ(Ayarlar().GunduzGece.Metni(), u"Akşam önce");
+    EXPECT_FALSE(Ayarlar().GunduzUstte());
+    EXPECT_EQ(Ayarlar().Check4.deger, 0);
+}
+
+// Setting the order counts as a change; the flag is cleared last of all.
+TEST_F(FormAyarlarTest, LoadedDayOnTopOrderIsNoChange) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(30, u"\"Gündüz / Gece\""));
+    agac.Koy(u"Visible.dll", kHepsiAcik);
+    EXPECT_TRUE(Ayarlar().GunduzUstte());
+    EXPECT_EQ(Ayarlar().Check4.deger, 0);
+    Ayarlar().GunduzGece.Sec(u"Gece / Gündüz");
+    EXPECT_EQ(Ayarlar().Check4.deger, 1);
+}
+
+TEST_F(FormAyarlarTest, MasterBoxTicksAndClearsAllMonths) {
+    Ayarlar().Check3.Ata(0);
+    for (int ay = 1; ay <= 12; ++ay)
+        EXPECT_FALSE(Ayarlar().AyGorunur(ay));
+    Ayarlar().Check3.Ata(1);
+    for (int ay = 1; ay <= 12; ++ay)
+        EXPECT_TRUE(Ayarlar().AyGorunur(ay));
+}
+
+TEST_F(FormAyarlarTest, NoNumbersAtAllDisablesTheAutomaticOnesAndKeepsTheirValue) {
+    Ayarlar().Check7.Ata(1);
+    EXPECT_FALSE(Ayarlar().Check2.etkin);
+    EXPECT_EQ(Ayarlar().Check2.deger, 1);
+    Ayarlar().Check7.Ata(0);
+    EXPECT_TRUE(Ayarlar().Check2.etkin);
+}
+
+TEST_F(FormAyarlarTest, UnloadDropsEditsAndTheNextReadingLoadsTheFilesAgain) {
+    Ayarlar().Check6.Ata(0);
+    program.FormAyarlar.Bosalt();
+    EXPECT_EQ(Ayarlar().Check6.deger, 1);
+}
+
+TEST_F(FormAyarlarTest, NegativeAndHugeColoursAreKeptOrRefusedAsWholeNumbers) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(5, u"-2147483643"));
+    agac.Koy(u"Visible.dll", kHepsiAcik);
+    EXPECT_EQ(Ayarlar().Renk(4), -2147483643);
+    program.FormAyarlar.Bosalt();
+    agac.KoyMetin(u"Settings.dll", AyarMetni(5, u"99999999999"));
+    VarsayilanBekle();
+}
+
+TEST_F(FormAyarlarTest, GarbageGivesAllDefaults) {
+    agac.Koy(u"Settings.dll", std::string(200'000, '"'));
+    agac.Koy(u"Visible.dll", std::string(200'000, '\xFF'));
+    VarsayilanBekle();
+}
+
+} // namespace velora::test

@@ -1,0 +1,121 @@
+#include "table/TabloTest.h"
+
+namespace velora::test {
+
+class Cetvel : public TabloTest {
+  protected:
+    void IsaretBekle(int gun, int ay) {
+        for (int i = 1; i <= kGunSayisi; ++i)
+            EXPECT_EQ(kullanici.Tablo().Gunler[i].zemin, i == gun ? 33023 : 32768) << i;
+        for (int i = 1; i <= kAySayisi; ++i)
+            EXPECT_EQ(kullanici.Tablo().AyZemin[i].zemin, i == ay ? 33023 : 32768) << i;
+    }
+};
+
+TEST_F(Cetvel, OnePickMarksItsHeadAndShowsNoFrame) {
+    kullanici.ProgramiAc();
+    kullanici.GunBasligina(5);
+    IsaretBekle(5, 0);
+    EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
+    EXPECT_EQ(kullanici.Tablo().CetvelTimer.aralik, 0);
+}
+
+TEST_F(Cetvel, SecondPickStartsTheFrameAtTheCrossing) {
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    const FormTablo& tablo = kullanici.Tablo();
+    IsaretBekle(5, 3);
+    EXPECT_TRUE(tablo.HizliSecim.gorunur);
+    EXPECT_EQ(tablo.CetvelTimer.aralik, 300);
+    const Yer hucre = tablo.HucreYeri(OcakGunduz, 1);
+    EXPECT_EQ(tablo.HizliSecim.yer, (Yer{tablo.ALabel[5].yer.sol + 20, tablo.AyZemin[3].yer.ust,
+                                         hucre.genislik + 10, 2 * hucre.yukseklik + 30}));
+}
+
+TEST_F(Cetvel, FrameIsThirtyLowerWithTheDaySlotOnTop) {
+    AyarKoy(30, u"\"Gündüz / Gece\"");
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    EXPECT_EQ(kullanici.Tablo().HizliSecim.yer.yukseklik,
+              2 * kullanici.Tablo().HucreYeri(OcakGunduz, 1).yukseklik);
+}
+
+TEST_F(Cetvel, SecondClickOnTheSameHeadChangesNothing) {
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    kullanici.Bekle(300);
+    EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
+    kullanici.GunBasligina(5);
+    EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur) << "the ruler opens only when a pick changes";
+    IsaretBekle(5, 3);
+}
+
+TEST_F(Cetvel, ClickOnAnotherHeadMovesMarkAndFrame) {
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    kullanici.GunBasligina(9);
+    IsaretBekle(9, 3);
+    EXPECT_EQ(kullanici.Tablo().HizliSecim.yer.sol, kullanici.Tablo().ALabel[9].yer.sol + 20);
+}
+
+TEST_F(Cetvel, FrameBlinksWithItsTimer) {
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    kullanici.Bekle(300);
+    EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
+    kullanici.Bekle(300);
+    EXPECT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
+}
+
+TEST_F(Cetvel, FrameCanStandOverAMonthThatIsOff) {
+    AyKapat(3);
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    EXPECT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
+}
+
+class CetvelSonu : public Cetvel, public ::testing::WithParamInterface<void (*)(Kullanici&)> {};
+
+TEST_P(CetvelSonu, ClearsMarksPicksAndFrame) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(3);
+    kullanici.GunBasligina(5);
+    GetParam()(kullanici);
+    IsaretBekle(0, 0);
+    EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
+    EXPECT_EQ(kullanici.Tablo().HizliAy, 0);
+    EXPECT_EQ(kullanici.Tablo().HizliGun, 0);
+    EXPECT_EQ(kullanici.Tablo().CetvelTimer.aralik, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(CellHallOrYear, CetvelSonu,
+                         ::testing::Values([](Kullanici& k) { k.Goze(); },
+                                           [](Kullanici& k) { k.SalonSec(u"Salon B"); },
+                                           [](Kullanici& k) { k.YilSec(u"2013"); }));
+
+// A tick that was already on its way shows the frame once more; the ruler hides it twice for that reason.
+TEST_F(Cetvel, TickThatComesInBetweenLeavesTheFrameHidden) {
+    for (int nokta = 1; nokta <= 3; ++nokta) {
+        kullanici.ProgramiAc();
+        kullanici.AyBasligina(3);
+        kullanici.GunBasligina(5);
+        const int ilk = kullanici.ortam.olaySayisi;
+        kullanici.ortam.olayda = [&](int sira) {
+            if (sira == ilk + nokta)
+                kullanici.Tablo().CetvelTimer_Tick();
+        };
+        kullanici.Tablo().CetvelSil();
+        kullanici.ortam.olayda = nullptr;
+        EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur) << nokta;
+        EXPECT_EQ(kullanici.Tablo().HizliAy, 0);
+    }
+}
+
+} // namespace velora::test

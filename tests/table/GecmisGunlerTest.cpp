@@ -1,0 +1,84 @@
+#include "table/TabloTest.h"
+
+namespace velora::test {
+
+class GecmisGunler : public TabloTest {
+  protected:
+    GecmisGunler() { AyarKoy(28, u"1"); }
+
+    void Bugun(int yil, unsigned ay, unsigned gun) {
+        kullanici.ortam.simdi = std::chrono::local_days(
+            Gun{std::chrono::year{yil}, std::chrono::month{ay}, std::chrono::day{gun}});
+        kullanici.ProgramiAc();
+    }
+    bool Gecmis(int gun, int ay) {
+        const auto ayarlar = kullanici.Prog().FormAyarlar.Tut();
+        const Hucre& gunduz = kullanici.Goz(gun, ay, kGunduz);
+        const Hucre& gece = kullanici.Goz(gun, ay, kGece);
+        EXPECT_EQ(gunduz.zemin == ayarlar->Renk(17), gece.zemin == ayarlar->Renk(17));
+        return gunduz.zemin == ayarlar->Renk(17) && gunduz.yazi == ayarlar->Renk(18);
+    }
+    /// Every day before this one is past, and none from it on.
+    void GecmisBekle(int ay, int gun) {
+        for (int a = 1; a <= kAySayisi; ++a)
+            for (int g = 1; g <= kGunSayisi; ++g)
+                EXPECT_EQ(Gecmis(g, a), a < ay || (a == ay && g < gun)) << g << '.' << a;
+    }
+};
+
+TEST_F(GecmisGunler, NoDayIsPastOnTheFirstOfJanuary) {
+    Bugun(2012, 1, 1);
+    GecmisBekle(1, 1);
+}
+
+TEST_F(GecmisGunler, JanuaryAndFebruaryArePastOnTheFirstOfMarch) {
+    Bugun(2012, 3, 1);
+    GecmisBekle(3, 1);
+}
+
+TEST_F(GecmisGunler, TodayItselfIsNotPast) {
+    Bugun(2012, 6, 15);
+    GecmisBekle(6, 15);
+}
+
+TEST_F(GecmisGunler, NovemberIsPastAndNoDayOfDecemberOnTheFirstOfDecember) {
+    Bugun(2012, 12, 1);
+    GecmisBekle(12, 1);
+}
+
+TEST_F(GecmisGunler, FourteenDaysOfDecemberArePastOnTheFifteenth) {
+    Bugun(2012, 12, 15);
+    GecmisBekle(12, 15);
+}
+
+TEST_F(GecmisGunler, PastYearIsWhollyPastAndAFutureYearNotAtAll) {
+    Bugun(2012, 6, 15);
+    kullanici.YilSec(u"2011");
+    GecmisBekle(13, 1);
+    kullanici.YilSec(u"2013");
+    GecmisBekle(1, 1);
+}
+
+TEST_F(GecmisGunler, SwitchOffLeavesEveryYearAlone) {
+    AyarKoy(28, u"0");
+    Bugun(2012, 6, 15);
+    GecmisBekle(1, 1);
+    kullanici.YilSec(u"2011");
+    GecmisBekle(1, 1);
+}
+
+TEST_F(GecmisGunler, StoredTwoIsNotOn) {
+    AyarKoy(28, u"2");
+    Bugun(2012, 6, 15);
+    GecmisBekle(1, 1);
+}
+
+// A past reservation looks like a past free day; only its tag still tells of it.
+TEST_F(GecmisGunler, PastReservationLosesItsColoursAndKeepsItsTag) {
+    RezervasyonKoy(u"05.01.2012 - Gündüz");
+    Bugun(2012, 6, 15);
+    EXPECT_TRUE(Gecmis(5, 1));
+    EXPECT_EQ(kullanici.Goz(5, 1, kGunduz).tag, u"|11:00|Düğün|Gündüz|5000|1000|4000|Ali Veli|7|1");
+}
+
+} // namespace velora::test

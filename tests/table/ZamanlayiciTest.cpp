@@ -1,0 +1,113 @@
+#include "access/Splash.h"
+#include "table/TabloTest.h"
+
+namespace velora::test {
+
+class TabloZamanlayici : public TabloTest {
+  protected:
+    bool BuGunGorunur() { return kullanici.Tablo().BuGun.gorunur; }
+    int GunAraligi() { return kullanici.Tablo().GunTimer.aralik; }
+};
+
+TEST_F(TabloZamanlayici, SlowClockStartsTheCheckAtItsFourthTickAndThenAtEveryFourth) {
+    kullanici.ProgramiAc();
+    FormTablo& tablo = kullanici.Tablo();
+    for (int tur = 0; tur < 2; ++tur) {
+        for (int tik = 1; tik <= 3; ++tik) {
+            tablo.Saatsay.Calis();
+            EXPECT_EQ(tablo.DuyuruKontrol.aralik, 0);
+            EXPECT_EQ(tablo.Dklabel, tik);
+        }
+        tablo.Saatsay.Calis();
+        EXPECT_EQ(tablo.DuyuruKontrol.aralik, 2'500);
+        EXPECT_EQ(tablo.Dklabel, 0);
+        tablo.DuyuruKontrol.Calis();
+        EXPECT_EQ(tablo.DuyuruKontrol.aralik, 0) << "one shot";
+    }
+}
+
+TEST_F(TabloZamanlayici, FirstCheckComesAfterAboutTwoHundredSeconds) {
+    kullanici.ProgramiAc();
+    kullanici.Bekle(199'000);
+    EXPECT_EQ(kullanici.Tablo().Dklabel, 3);
+    kullanici.Bekle(1'500);
+    EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
+}
+
+TEST_F(TabloZamanlayici, TodaysFrameIsSteadyFromTheFirstLayoutThoughTodayMayBeTaken) {
+    RezervasyonKoy(u"15.06.2012 - Gece");
+    kullanici.ProgramiAc();
+    EXPECT_TRUE(BuGunGorunur());
+    EXPECT_EQ(GunAraligi(), 0) << "only a save, a move or a cancellation asks whether today is taken";
+}
+
+TEST_F(TabloZamanlayici, FrameBlinksWhenOneSlotOfTodayIsTakenAndIsSteadyWhenNone) {
+    for (const MetinBakis ad : {u"15.06.2012 - Gece", u"15.06.2012 - Gündüz"}) {
+        RezervasyonKoy(Metin(ad));
+        kullanici.ProgramiAc();
+        kullanici.Tablo().Command6();
+        EXPECT_EQ(GunAraligi(), 300);
+        kullanici.Bekle(300);
+        EXPECT_FALSE(BuGunGorunur());
+        kullanici.Bekle(300);
+        EXPECT_TRUE(BuGunGorunur());
+        std::filesystem::remove(agac.Yol(u"Salon A/2012/" + Metin(ad)));
+        kullanici.Tablo().Command6();
+        EXPECT_EQ(GunAraligi(), 0);
+        EXPECT_TRUE(BuGunGorunur());
+    }
+}
+
+TEST_F(TabloZamanlayici, ChangeOfHallDoesNotAskWhetherTodayIsTaken) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    RezervasyonKoy(u"15.06.2012 - Gece");
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Command6();
+    kullanici.SalonSec(u"Salon B");
+    EXPECT_EQ(GunAraligi(), 300);
+}
+
+TEST_F(TabloZamanlayici, FrameIsHiddenInAnotherYearAndComesBackOnlyWithThePointer) {
+    kullanici.ProgramiAc();
+    kullanici.YilSec(u"2013");
+    EXPECT_FALSE(BuGunGorunur());
+    kullanici.ImleciBosaGotur();
+    EXPECT_FALSE(BuGunGorunur());
+    kullanici.YilSec(u"2012");
+    EXPECT_FALSE(BuGunGorunur());
+    kullanici.ImleciBosaGotur();
+    EXPECT_TRUE(BuGunGorunur());
+}
+
+TEST_F(TabloZamanlayici, RunningTimerShowsNothingInAnotherYearAndBringsTheFrameBackInThisOne) {
+    RezervasyonKoy(u"15.06.2012 - Gece");
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Command6();
+    kullanici.YilSec(u"2013");
+    kullanici.Bekle(900);
+    EXPECT_FALSE(BuGunGorunur());
+    kullanici.YilSec(u"2012");
+    kullanici.ImleciBosaGotur();
+    EXPECT_FALSE(BuGunGorunur()) << "the pointer leaves a running timer alone";
+    kullanici.Bekle(300);
+    EXPECT_TRUE(BuGunGorunur());
+}
+
+// After a save in another year the frame shows until the next bare pointer move.
+TEST_F(TabloZamanlayici, AskingWhetherTodayIsTakenShowsTheFrameInAnotherYearToo) {
+    kullanici.ProgramiAc();
+    kullanici.YilSec(u"2013");
+    kullanici.Tablo().Command6();
+    EXPECT_TRUE(BuGunGorunur());
+    kullanici.ImleciBosaGotur();
+    EXPECT_FALSE(BuGunGorunur());
+}
+
+TEST_F(TabloZamanlayici, PointerOnTheBareScreenHidesTheHoverLabel) {
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Ekran.gorunur = true;
+    kullanici.ImleciBosaGotur();
+    EXPECT_FALSE(kullanici.Tablo().Ekran.gorunur);
+}
+
+} // namespace velora::test
