@@ -1,0 +1,22 @@
+#include "qt/Ekranlar.h"
+
+#include "qt/QtOrtam.h"
+#include "qt/table/TabloPenceresi.h"
+
+namespace velora {
+
+namespace {
+
+template <class Pencere>
+void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
+    ortam.Tanit(ekran,
+                [&program]() -> std::unique_ptr<QWidget> { return std::make_unique<Pencere>(program); });
+}
+
+} // namespace
+
+void EkranlariTanit(QtOrtam& ortam, Program& program) {
+    Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
+}
+
+} // namespace velora

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace velora {
+
+/// The gap that all distances between widgets are made of, in logical pixels.
+inline constexpr int kAralik = 8;
+
+/// One look for all windows on all systems: style, colours, and the system's interface font at its own size.
+void GorunumuKur();
+
+} // namespace velora

@@ -1,0 +1,58 @@
+#include "qt/Kutular.h"
+
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "qt/Ceviri.h"
+
+namespace velora {
+
+namespace {
+
+QMessageBox::Icon KutuSimgesi(Simge simge) {
+    switch (simge) {
+    case Simge::Soru:
+        return QMessageBox::Question;
+    case Simge::Uyari:
+        return QMessageBox::Warning;
+    case Simge::Kritik:
+        return QMessageBox::Critical;
+    case Simge::Bilgi:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+} // namespace
+
+Cevap MesajGoster(QWidget* ust, const MesajKutusu& kutu) {
+    QMessageBox pencere(ust);
+    pencere.setWindowTitle(QMetin(kutu.baslik));
+    pencere.setTextFormat(Qt::PlainText);
+    pencere.setText(QMetin(kutu.metin));
+    pencere.setIcon(KutuSimgesi(kutu.simge));
+    const bool soru = kutu.dugmeler == KutuDugmeleri::EvetHayir;
+    QPushButton* olumlu = pencere.addButton(soru ? QStringLiteral("Evet") : QStringLiteral("Tamam"),
+                                            soru ? QMessageBox::YesRole : QMessageBox::AcceptRole);
+    pencere.setDefaultButton(olumlu);
+    if (soru)
+        pencere.setEscapeButton(pencere.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole));
+    pencere.exec();
+    if (!soru)
+        return Cevap::Tamam;
+    return pencere.clickedButton() == olumlu ? Cevap::Evet : Cevap::Hayir;
+}
+
+Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
+    QInputDialog pencere(ust);
+    pencere.setInputMode(QInputDialog::TextInput);
+    pencere.setWindowTitle(QMetin(kutu.baslik));
+    pencere.setLabelText(QMetin(kutu.metin));
+    pencere.setTextValue(QMetin(kutu.baslangic));
+    pencere.setOkButtonText(QStringLiteral("Tamam"));
+    pencere.setCancelButtonText(QStringLiteral("İptal"));
+    return pencere.exec() == QInputDialog::Accepted ? MetinYap(pencere.textValue()) : Metin();
+}
+
+} // namespace velora

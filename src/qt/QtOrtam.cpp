@@ -1,0 +1,134 @@
+#include "qt/QtOrtam.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QEventLoop>
+
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Kutular.h"
+#include "qt/OlayKilidi.h"
+#include "qt/Saat.h"
+
+namespace velora {
+
+namespace {
+
+/// Ends a loop when the window it waits for is gone from the display, whoever closed it.
+class KapanisGozcusu : public QObject {
+  public:
+    KapanisGozcusu(QWidget& pencere, QEventLoop& dongu) : dongu_(dongu) { pencere.installEventFilter(this); }
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() == QEvent::Hide && !olay->spontaneous())
+            dongu_.quit();
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    QEventLoop& dongu_;
+};
+
+/// Questions come out of running handlers: what these have done so far must be seen behind the box.
+QWidget* KutununUstu() {
+    Baglayici::HepsiniTazele();
+    return QApplication::activeWindow();
+}
+
+void OlaylariIsle() {
+    Baglayici::HepsiniTazele();
+    if (!OlayKilidi::Kapali())
+        QCoreApplication::processEvents();
+}
+
+} // namespace
+
+void QtOrtam::SonraSil::operator()(QWidget* pencere) const {
+    pencere->hide();
+    pencere->deleteLater();
+}
+
+Ortam QtOrtam::Ver() {
+    Ortam ortam;
+    ortam.sor.mesaj = [](const MesajKutusu& kutu) { return MesajGoster(KutununUstu(), kutu); };
+    ortam.sor.girdi = [](const GirdiKutusu& kutu) { return GirdiAl(KutununUstu(), kutu); };
+    ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
+    ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
+    ortam.goster.gizle = [this](EkranAdi ekran) { Gizle(ekran); };
+    ortam.zaman.simdi = MakineSaati;
+    ortam.olaylar.isle = OlaylariIsle;
+    ortam.olaylar.bitir = [this] { Bitir(); };
+    ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
+    return ortam;
+}
+
+void QtOrtam::Tanit(EkranAdi ekran, Uretici uretici) {
+    ureticiler_[ekran] = std::move(uretici);
+}
+
+QWidget* QtOrtam::Pencere(EkranAdi ekran) const {
+    const auto yer = pencereler_.find(ekran);
+    return yer == pencereler_.end() ? nullptr : yer->second.get();
+}
+
+void QtOrtam::PencereleriBirak() {
+    // At once: no event loop may follow that would carry out a later deletion.
+    for (auto& [ekran, pencere] : pencereler_)
+        delete pencere.release();
+    pencereler_.clear();
+}
+
+QWidget* QtOrtam::Hazirla(EkranAdi ekran) {
+    if (QWidget* pencere = Pencere(ekran))
+        return pencere;
+    const auto uretici = ureticiler_.find(ekran);
+    if (uretici == ureticiler_.end())
+        return nullptr;
+    auto& yeni = pencereler_[ekran];
+    yeni.reset(uretici->second().release());
+    return yeni.get();
+}
+
+void QtOrtam::Ac(EkranAdi ekran, const std::function<void()>& gorununce) {
+    QWidget* pencere = Hazirla(ekran);
+    if (pencere == nullptr)
+        return;
+    pencere->show();
+    pencere->raise();
+    pencere->activateWindow();
+    gorununce();
+    Baglayici::HepsiniTazele();
+}
+
+void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
+    QWidget* pencere = Hazirla(ekran);
+    if (pencere == nullptr)
+        return;
+    QEventLoop dongu;
+    const KapanisGozcusu gozcu(*pencere, dongu);
+    pencere->setWindowModality(Qt::ApplicationModal);
+    Ac(ekran, gorununce);
+    // Its first activation may have closed it already.
+    if (Pencere(ekran) == pencere && pencere->isVisible())
+        dongu.exec();
+    Gizle(ekran);
+}
+
+void QtOrtam::Gizle(EkranAdi ekran) {
+    // Out of the map first: hiding a window may lead back here.
+    const auto dugum = pencereler_.extract(ekran);
+}
+
+void QtOrtam::OdakVer(EkranAdi ekran, MetinBakis kontrol) const {
+    const QWidget* pencere = Pencere(ekran);
+    if (pencere == nullptr)
+        return;
+    if (auto* parca = pencere->findChild<QWidget*>(QMetin(kontrol)))
+        parca->setFocus(Qt::OtherFocusReason);
+}
+
+void QtOrtam::Bitir() {
+    bitti_ = true;
+    QCoreApplication::exit(0);
+}
+
+} // namespace velora

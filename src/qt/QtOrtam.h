@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+
+#include <QWidget>
+
+#include "screen/Ortam.h"
+
+namespace velora {
+
+/// The outside world in windows. It makes the window of a screen when the screen is shown and drops it when
+/// the screen is hidden. Must outlive the program that uses its functions.
+class QtOrtam {
+  public:
+    using Uretici = std::function<std::unique_ptr<QWidget>()>;
+
+    /// The functions for the program.
+    Ortam Ver();
+
+    /// Tells how the window of a screen is made.
+    void Tanit(EkranAdi ekran, Uretici uretici);
+
+    /// The window of a screen, null while it has none.
+    QWidget* Pencere(EkranAdi ekran) const;
+
+    /// Drops all windows, before the screens go.
+    void PencereleriBirak();
+
+    /// True when the program was told to end.
+    bool Bitti() const { return bitti_; }
+
+  private:
+    /// A window may be dropped by a handler of its own: the toolkit gets its turn first.
+    struct SonraSil {
+        void operator()(QWidget* pencere) const;
+    };
+
+    QWidget* Hazirla(EkranAdi ekran);
+    void Ac(EkranAdi ekran, const std::function<void()>& gorununce);
+    void Modal(EkranAdi ekran, const std::function<void()>& gorununce);
+    void Gizle(EkranAdi ekran);
+    void OdakVer(EkranAdi ekran, MetinBakis kontrol) const;
+    void Bitir();
+
+    std::map<EkranAdi, Uretici> ureticiler_;
+    std::map<EkranAdi, std::unique_ptr<QWidget, SonraSil>> pencereler_;
+    bool bitti_ = false;
+};
+
+} // namespace velora

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include <QWidget>
+
+#include "qt/table/TabloCizici.h"
+
+class QHelpEvent;
+
+namespace velora {
+
+class Baglayici;
+struct Program;
+
+/// The year table on the window: one widget, painted from the cell model. It reports its size to the screen
+/// in twips, takes clicks on heads and cells, and shows the tool tips of the cells.
+class TabloGorunumu : public QWidget {
+  public:
+    TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* ust);
+
+    /// Where the parts of the table stand now.
+    const TabloDuzeni& Duzen() const { return duzen_; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void resizeEvent(QResizeEvent* olay) override;
+    void paintEvent(QPaintEvent* olay) override;
+    void mousePressEvent(QMouseEvent* olay) override;
+    void mouseDoubleClickEvent(QMouseEvent* olay) override;
+    void mouseReleaseEvent(QMouseEvent* olay) override;
+    void mouseMoveEvent(QMouseEvent* olay) override;
+    bool event(QEvent* olay) override;
+
+  private:
+    /// What a frame looks like: only its surroundings are painted when nothing else has changed.
+    struct CerceveGoruntusu {
+        bool gorunur = false;
+        QRect bolge; // device pixels
+        bool operator==(const CerceveGoruntusu&) const = default;
+    };
+
+    void Yerlestir();
+    void Tazele();
+    void CerceveTazele(CerceveGoruntusu& eski, const velora::Cerceve& cerceve);
+    void DuzeniKur(const FormTablo& tablo);
+    void Tikla(const TabloIsabeti& isabet);
+    void IpucuGoster(const QHelpEvent& olay);
+    /// What lies at a place; the place of a hidden cell is bare.
+    TabloIsabeti Isabet(QPointF yer) const;
+    QRect Mantiksal(const QRect& bolge) const;
+
+    Program& program_;
+    Baglayici& baglayici_;
+    std::weak_ptr<FormTablo> ekran_;
+    TabloCizici cizici_;
+    TabloDuzeni duzen_;
+    TabloIsabeti basilan_;
+    std::uint64_t iz_ = 0;
+    CerceveGoruntusu buGun_;
+    CerceveGoruntusu cetvel_;
+};
+
+/// A number that changes whenever the table, apart from its frames, has to be painted anew.
+std::uint64_t TabloIzi(const FormTablo& tablo);
+
+} // namespace velora

@@ -1,0 +1,146 @@
+#include "qt/table/TabloPenceresi.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTimer>
+
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
+#include "qt/Simgeler.h"
+#include "qt/table/RenkAciklamasi.h"
+#include "qt/table/TabloGorunumu.h"
+#include "screen/Program.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+constexpr int kSalonEni = 220;
+constexpr int kSeneEni = 96;
+constexpr int kZilBoyu = 24;
+constexpr int kSaatAraligi = 1'000;
+
+/// A drop-down with its caption before it; `yazi` has the access key marked, `ad` is what it is called.
+QComboBox* EtiketliListe(QHBoxLayout& serit, const QString& yazi, const QString& ad,
+                         const QString& nesneAdi) {
+    auto* etiket = new QLabel(yazi);
+    auto* liste = new QComboBox;
+    liste->setObjectName(nesneAdi);
+    liste->setAccessibleName(ad);
+    etiket->setBuddy(liste);
+    serit.addWidget(etiket);
+    serit.addWidget(liste);
+    return liste;
+}
+
+QPixmap ZilResmi(const QString& ad, const QWidget& parca) {
+    const double olcek = parca.devicePixelRatioF();
+    QPixmap resim = SimgeCiz(ad, parca.palette().color(QPalette::Highlight), qRound(kZilBoyu * olcek));
+    resim.setDevicePixelRatio(olcek);
+    return resim;
+}
+
+} // namespace
+
+TabloPenceresi::TabloPenceresi(Program& program)
+    : program_(program), baglayici_(new Baglayici(program.FormTablo.Tut(), this)) {
+    const auto tablo = program.FormTablo.Tut();
+    auto* orta = new QWidget;
+    auto* sutun = new QVBoxLayout(orta);
+    sutun->setContentsMargins(0, 0, 0, 0);
+    sutun->setSpacing(0);
+    sutun->addWidget(UstSerit(*tablo));
+    gorunum_ = new TabloGorunumu(program, *baglayici_, orta);
+    gorunum_->setObjectName(QStringLiteral("Picture4"));
+    gorunum_->setAccessibleName(QStringLiteral("Yıl tablosu"));
+    auto* cerceve = new QHBoxLayout;
+    cerceve->setContentsMargins(kAralik / 2, 0, kAralik / 2, 0);
+    cerceve->addWidget(gorunum_);
+    sutun->addLayout(cerceve, 1);
+    setCentralWidget(orta);
+    DurumSeridiKur();
+    ZamanlayicilariBagla(*tablo);
+    baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
+    setMinimumSize(1000, 560);
+    resize(1280, 720);
+    gorunum_->setFocus();
+}
+
+QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
+    auto* parca = new QWidget;
+    auto* serit = new QHBoxLayout(parca);
+    serit->setContentsMargins(kAralik, kAralik, kAralik, kAralik);
+    serit->setSpacing(kAralik);
+    QComboBox* salon =
+        EtiketliListe(*serit, QStringLiteral("&Salon"), QStringLiteral("Salon"), QStringLiteral("Salon"));
+    salon->setMinimumWidth(kSalonEni);
+    baglayici_->Bagla(*salon, tablo.Salon);
+    serit->addSpacing(kAralik);
+    QComboBox* sene = EtiketliListe(*serit, QStringLiteral("Çalışma &Yılı"), QStringLiteral("Çalışma Yılı"),
+                                    QStringLiteral("Sene"));
+    sene->setMinimumWidth(kSeneEni);
+    baglayici_->Bagla(*sene, tablo.Sene);
+    serit->addSpacing(kAralik);
+    serit->addWidget(ZilKur(tablo));
+    serit->addStretch(1);
+    serit->addWidget(new RenkAciklamasi(program_, *baglayici_, parca));
+    return parca;
+}
+
+QLabel* TabloPenceresi::ZilKur(FormTablo& tablo) {
+    auto* zil = new QLabel;
+    zil->setObjectName(QStringLiteral("Image3"));
+    zil->setAccessibleName(QStringLiteral("Hatırlatma"));
+    zil->setToolTip(QStringLiteral("Bu Tarihte Hatırlatma Var"));
+    const QPixmap sakin = ZilResmi(QStringLiteral("zil"), *this);
+    const QPixmap calan = ZilResmi(QStringLiteral("zil-calan"), *this);
+    baglayici_->Izle([zil, &tablo, sakin, calan] {
+        zil->setVisible(tablo.Image3);
+        zil->setPixmap(tablo.Image3a ? sakin : calan);
+    });
+    return zil;
+}
+
+void TabloPenceresi::DurumSeridiKur() {
+    statusBar()->setSizeGripEnabled(false);
+    tarih_ = new QLabel;
+    tarih_->setObjectName(QStringLiteral("Tarih"));
+    saat_ = new QLabel;
+    saat_->setObjectName(QStringLiteral("Saat"));
+    for (QLabel* panel : {tarih_, saat_}) {
+        panel->setContentsMargins(kAralik, 0, kAralik, 0);
+        statusBar()->addPermanentWidget(panel);
+    }
+    auto* saat = new QTimer(this);
+    connect(saat, &QTimer::timeout, this, [this] { Koru([this] { SaatiGoster(); }); });
+    saat->start(kSaatAraligi);
+    SaatiGoster();
+}
+
+void TabloPenceresi::SaatiGoster() {
+    const auto simdi = program_.ortam.zaman.simdi();
+    const std::chrono::hh_mm_ss gunIci(simdi - std::chrono::floor<std::chrono::days>(simdi));
+    tarih_->setText(QMetin(TarihMetni(program_.Bugun())));
+    saat_->setText(QMetin(IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
+                          IkiHane(static_cast<unsigned>(gunIci.minutes().count()))));
+}
+
+void TabloPenceresi::ZamanlayicilariBagla(FormTablo& tablo) {
+    baglayici_->Bagla(tablo.CetvelTimer, QStringLiteral("CetvelTimer"));
+    baglayici_->Bagla(tablo.GunTimer, QStringLiteral("GunTimer"));
+    baglayici_->Bagla(tablo.OzelHatirlatTimer, QStringLiteral("OzelHatirlatTimer"));
+    baglayici_->Bagla(tablo.Saatsay, QStringLiteral("Saatsay"));
+    baglayici_->Bagla(tablo.DuyuruKontrol, QStringLiteral("DuyuruKontrol"));
+}
+
+void TabloPenceresi::closeEvent(QCloseEvent* olay) {
+    olay->accept();
+    Koru([this] { program_.ortam.olaylar.bitir(); });
+}
+
+} // namespace velora

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QMainWindow>
+
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
+
+namespace velora {
+
+class Baglayici;
+class TabloGorunumu;
+struct FormTablo;
+struct Program;
+
+/// The window of the main screen: the drop-downs over the year table, the table, the status bar under it.
+class TabloPenceresi : public QMainWindow {
+  public:
+    explicit TabloPenceresi(Program& program);
+
+    const TabloGorunumu& Gorunum() const { return *gorunum_; }
+
+  protected:
+    void closeEvent(QCloseEvent* olay) override;
+
+  private:
+    QWidget* UstSerit(FormTablo& tablo);
+    QLabel* ZilKur(FormTablo& tablo);
+    void DurumSeridiKur();
+    void ZamanlayicilariBagla(FormTablo& tablo);
+    void SaatiGoster();
+
+    Program& program_;
+    Baglayici* baglayici_;
+    TabloGorunumu* gorunum_ = nullptr;
+    QLabel* tarih_ = nullptr;
+    QLabel* saat_ = nullptr;
+};
+
+} // namespace velora

@@ -1,0 +1,68 @@
+#include "gui/GuiFirma.h"
+
+#include <QTest>
+
+#include "destek/Kayitlar.h"
+#include "qt/Baglayici.h"
+#include "qt/Ekranlar.h"
+#include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
+
+namespace velora::test {
+
+namespace {
+
+std::chrono::local_seconds SabitSaat() {
+    using namespace std::chrono_literals;
+    return std::chrono::local_days(std::chrono::year(2026) / 5 / 21) + 10h + 30min;
+}
+
+} // namespace
+
+GuiFirma::GuiFirma() : simdi(SabitSaat()), program(Dis(), agac.Kok()) {
+    agac.KoyMetin(u"Salon.dat", u"\"" + Metin(kSalonA) + u"\"\r\n\"" + Metin(kSalonB) + u"\"\r\n");
+    EkranlariTanit(disDunya, program);
+}
+
+GuiFirma::~GuiFirma() {
+    disDunya.PencereleriBirak();
+}
+
+Ortam GuiFirma::Dis() {
+    Ortam ortam = disDunya.Ver();
+    ortam.zaman.simdi = [this] { return simdi; };
+    return ortam;
+}
+
+void GuiFirma::Rezervasyon(MetinBakis salon, MetinBakis gunAnahtari, bool on) const {
+    const Metin yil = Metin(gunAnahtari.substr(6, 4));
+    const Metin yol = Metin(salon) + u"/" + yil + u"/" + Metin(gunAnahtari);
+    agac.KoyMetin(yol, AnaMetni());
+    agac.KoyMetin(yol + u"-Detay", DetayMetni(on));
+}
+
+void GuiFirma::Ac(QSize boy) {
+    program.FormTablo.Goster();
+    Pencere().resize(boy);
+    QVERIFY(QTest::qWaitForWindowActive(&Pencere()));
+    QCoreApplication::processEvents();
+}
+
+QWidget& GuiFirma::PencereParcasi() {
+    return *disDunya.Pencere(EkranAdi::FormTablo);
+}
+
+TabloPenceresi& GuiFirma::Pencere() {
+    return dynamic_cast<TabloPenceresi&>(PencereParcasi());
+}
+
+TabloGorunumu& GuiFirma::Tablo() {
+    return dynamic_cast<TabloGorunumu&>(Bul<QWidget>("Picture4"));
+}
+
+QPoint GuiFirma::Orta(const QRect& yer) {
+    const double olcek = Tablo().Duzen().Olcek();
+    return (QRectF(yer).center() / olcek).toPoint();
+}
+
+} // namespace velora::test

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "destek/GeciciAgac.h"
+#include "qt/QtOrtam.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+class TabloGorunumu;
+class TabloPenceresi;
+} // namespace velora
+
+namespace velora::test {
+
+/// A firm with two halls in a program folder of its own, and the program in windows over it. Today is 21 May
+/// 2026, 10:30; a year of 365 days.
+class GuiFirma {
+  public:
+    GuiFirma();
+    ~GuiFirma();
+    GuiFirma(const GuiFirma&) = delete;
+    GuiFirma& operator=(const GuiFirma&) = delete;
+
+    /// Puts a reservation, before or while the program runs.
+    void Rezervasyon(MetinBakis salon, MetinBakis gunAnahtari, bool on) const;
+
+    /// Shows the main screen in this size.
+    void Ac(QSize boy = {1280, 720});
+
+    TabloPenceresi& Pencere();
+    TabloGorunumu& Tablo();
+    FormTablo& Model() { return *program.FormTablo.Tut(); }
+    /// A widget of the window by the name of its control.
+    template <class Parca>
+    Parca& Bul(const char* ad) {
+        return *PencereParcasi().findChild<Parca*>(QString::fromLatin1(ad));
+    }
+
+    /// The middle of a part of the table, in logical pixels, from its place in device pixels.
+    QPoint Orta(const QRect& yer);
+
+    GeciciAgac agac;
+    QtOrtam disDunya;
+    std::chrono::local_seconds simdi;
+    Program program;
+
+  private:
+    QWidget& PencereParcasi();
+    Ortam Dis();
+};
+
+inline constexpr MetinBakis kSalonA = u"Gül Salonu";
+inline constexpr MetinBakis kSalonB = u"Çınar Kır Bahçesi No.2";
+
+} // namespace velora::test

@@ -1,0 +1,211 @@
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "gui/GuiProgram.h"
+#include "qt/OlayKilidi.h"
+#include "qt/QtOrtam.h"
+
+using namespace velora;
+
+namespace {
+
+/// Runs inside the next box, once it stands.
+template <class Kutu>
+void Kutuda(const std::function<void(Kutu&)>& is) {
+    QTimer::singleShot(0, qApp, [is] {
+        auto* kutu = qobject_cast<Kutu*>(QApplication::activeModalWidget());
+        QVERIFY(kutu != nullptr);
+        is(*kutu);
+    });
+}
+
+QStringList Dugmeler(const QMessageBox& kutu) {
+    QStringList yazilar;
+    for (const QAbstractButton* dugme : kutu.buttons())
+        yazilar << dugme->text();
+    return yazilar;
+}
+
+} // namespace
+
+class QtOrtamTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init() {
+        disDunya_ = std::make_unique<QtOrtam>();
+        ortam_ = disDunya_->Ver();
+    }
+
+    void cleanup() { disDunya_->PencereleriBirak(); }
+
+    void a_message_box_shows_text_title_and_one_turkish_button() {
+        QStringList dugmeler;
+        QString metin;
+        QString baslik;
+        auto simge = QMessageBox::NoIcon;
+        Kutuda<QMessageBox>([&](QMessageBox& kutu) {
+            dugmeler = Dugmeler(kutu);
+            metin = kutu.text();
+            baslik = kutu.windowTitle();
+            simge = kutu.icon();
+            QTest::keyClick(&kutu, Qt::Key_Return);
+        });
+        const Cevap cevap =
+            ortam_.sor.mesaj({.metin = u"<b>Önce salon\nseçiniz</b>", .simge = Simge::Kritik});
+        QCOMPARE(cevap, Cevap::Tamam);
+        QCOMPARE(dugmeler, QStringList{QStringLiteral("Tamam")});
+        QCOMPARE(metin, QStringLiteral("<b>Önce salon\nseçiniz</b>"));
+        QCOMPARE(baslik, QStringLiteral("Velora"));
+        QCOMPARE(simge, QMessageBox::Critical);
+    }
+
+    void a_question_has_turkish_buttons_and_answers_by_the_one_pressed() {
+        for (const Cevap istenen : {Cevap::Evet, Cevap::Hayir}) {
+            QStringList dugmeler;
+            Kutuda<QMessageBox>([&](QMessageBox& kutu) {
+                dugmeler = Dugmeler(kutu);
+                for (QAbstractButton* dugme : kutu.buttons())
+                    if (dugme->text() ==
+                        (istenen == Cevap::Evet ? QStringLiteral("Evet") : QStringLiteral("Hayır")))
+                        QTest::mouseClick(dugme, Qt::LeftButton);
+            });
+            const Cevap cevap = ortam_.sor.mesaj(
+                {.metin = u"Emin misiniz?", .simge = Simge::Soru, .dugmeler = KutuDugmeleri::EvetHayir});
+            QCOMPARE(cevap, istenen);
+            QVERIFY(dugmeler.contains(QStringLiteral("Evet")));
+            QVERIFY(dugmeler.contains(QStringLiteral("Hayır")));
+            QCOMPARE(dugmeler.size(), 2);
+        }
+    }
+
+    void escape_and_closing_a_question_are_a_no() {
+        const MesajKutusu soru{
+            .metin = u"Emin misiniz?", .simge = Simge::Soru, .dugmeler = KutuDugmeleri::EvetHayir};
+        Kutuda<QMessageBox>([](QMessageBox& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
+        QCOMPARE(ortam_.sor.mesaj(soru), Cevap::Hayir);
+        Kutuda<QMessageBox>([](QMessageBox& kutu) { kutu.close(); });
+        QCOMPARE(ortam_.sor.mesaj(soru), Cevap::Hayir);
+    }
+
+    void an_input_box_gives_what_was_typed() {
+        QString tamam;
+        QString iptal;
+        Kutuda<QInputDialog>([&](QInputDialog& kutu) {
+            tamam = kutu.okButtonText();
+            iptal = kutu.cancelButtonText();
+            QTest::keyClicks(kutu.findChild<QLineEdit*>(), QStringLiteral("Gül Salonu"));
+            QTest::keyClick(&kutu, Qt::Key_Return);
+        });
+        QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}), Metin(u"Gül Salonu"));
+        QCOMPARE(tamam, QStringLiteral("Tamam"));
+        QCOMPARE(iptal, QStringLiteral("İptal"));
+    }
+
+    void a_cancelled_input_box_gives_empty_text() {
+        Kutuda<QInputDialog>([](QInputDialog& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
+        QVERIFY(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}).empty());
+    }
+
+    void a_window_is_made_at_its_first_showing_and_dropped_when_hidden() {
+        int yapilan = 0;
+        disDunya_->Tanit(EkranAdi::FormAyarlar, [&] {
+            ++yapilan;
+            return std::make_unique<QWidget>();
+        });
+        bool gorunurken = false;
+        ortam_.goster.ac(EkranAdi::FormAyarlar,
+                         [&] { gorunurken = disDunya_->Pencere(EkranAdi::FormAyarlar)->isVisible(); });
+        QVERIFY(gorunurken);
+        ortam_.goster.ac(EkranAdi::FormAyarlar, [] {});
+        QCOMPARE(yapilan, 1);
+        ortam_.goster.gizle(EkranAdi::FormAyarlar);
+        QVERIFY(disDunya_->Pencere(EkranAdi::FormAyarlar) == nullptr);
+        ortam_.goster.ac(EkranAdi::FormAyarlar, [] {});
+        QCOMPARE(yapilan, 2);
+    }
+
+    void a_modal_window_returns_when_it_is_closed_by_the_user_or_by_the_program() {
+        disDunya_->Tanit(EkranAdi::FormAyarlar, [] { return std::make_unique<QWidget>(); });
+        const std::vector<std::function<void()>> kapatmalar{
+            [this] { disDunya_->Pencere(EkranAdi::FormAyarlar)->close(); },
+            [this] { ortam_.goster.gizle(EkranAdi::FormAyarlar); }};
+        for (const auto& kapat : kapatmalar) {
+            bool modal = false;
+            QTimer::singleShot(20, this, [&] {
+                modal = disDunya_->Pencere(EkranAdi::FormAyarlar)->isModal();
+                kapat();
+            });
+            ortam_.goster.modal(EkranAdi::FormAyarlar, [] {});
+            QVERIFY(modal);
+            QVERIFY(disDunya_->Pencere(EkranAdi::FormAyarlar) == nullptr);
+        }
+    }
+
+    void a_modal_window_closed_by_its_first_activation_returns_at_once() {
+        disDunya_->Tanit(EkranAdi::FormAyarlar, [] { return std::make_unique<QWidget>(); });
+        ortam_.goster.modal(EkranAdi::FormAyarlar, [this] { ortam_.goster.gizle(EkranAdi::FormAyarlar); });
+        QVERIFY(disDunya_->Pencere(EkranAdi::FormAyarlar) == nullptr);
+    }
+
+    void the_focus_goes_to_a_control_by_its_name() {
+        disDunya_->Tanit(EkranAdi::FormAyarlar, [] {
+            auto pencere = std::make_unique<QWidget>();
+            auto* bir = new QLineEdit(pencere.get());
+            bir->setObjectName(QStringLiteral("Text1"));
+            auto* iki = new QLineEdit(pencere.get());
+            iki->setObjectName(QStringLiteral("Text2"));
+            return pencere;
+        });
+        ortam_.goster.ac(EkranAdi::FormAyarlar, [] {});
+        QVERIFY(QTest::qWaitForWindowActive(disDunya_->Pencere(EkranAdi::FormAyarlar)));
+        ortam_.odak.ver(EkranAdi::FormAyarlar, u"Text2");
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Text2"));
+        ortam_.odak.ver(EkranAdi::FormAyarlar, u"Text9");
+        ortam_.odak.ver(EkranAdi::Splash, u"Text1");
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Text2"));
+    }
+
+    void pending_events_run_unless_the_toolkit_is_in_the_middle_of_its_own_work() {
+        int sayi = 0;
+        QTimer::singleShot(0, this, [&] { ++sayi; });
+        {
+            const OlayKilidi kilit;
+            ortam_.olaylar.isle();
+            QCOMPARE(sayi, 0);
+        }
+        ortam_.olaylar.isle();
+        QCOMPARE(sayi, 1);
+    }
+
+    void the_clock_is_the_local_time_of_the_machine() {
+        const QDateTime once = QDateTime::currentDateTime();
+        const auto simdi = ortam_.zaman.simdi();
+        const QDateTime sonra = QDateTime::currentDateTime();
+        const std::chrono::year_month_day gun(std::chrono::floor<std::chrono::days>(simdi));
+        const auto saniye = std::chrono::duration_cast<std::chrono::seconds>(
+            simdi - std::chrono::floor<std::chrono::days>(simdi));
+        const QDateTime okunan(QDate(int(gun.year()), int(unsigned(gun.month())), int(unsigned(gun.day()))),
+                               QTime(0, 0).addSecs(static_cast<int>(saniye.count())));
+        QVERIFY(okunan >= once.addSecs(-1));
+        QVERIFY(okunan <= sonra);
+    }
+
+    void ending_the_program_is_remembered_also_before_its_loop_has_begun() {
+        QVERIFY(!disDunya_->Bitti());
+        ortam_.olaylar.bitir();
+        QVERIFY(disDunya_->Bitti());
+    }
+
+  private:
+    std::unique_ptr<QtOrtam> disDunya_;
+    Ortam ortam_;
+};
+
+VELORA_GUI_TEST(QtOrtamTest)
+#include "QtOrtamTest.moc"

@@ -1,0 +1,255 @@
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include "destek/Kayitlar.h"
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "qt/Ceviri.h"
+#include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
+
+using namespace velora;
+using namespace velora::test;
+
+namespace {
+
+/// Counts the runs of a list's click beside what it does.
+void Say(AcilirListe& liste, int& sayi) {
+    liste.tiklandi = [&sayi, asil = liste.tiklandi] {
+        ++sayi;
+        asil();
+    };
+}
+
+/// Chooses an entry as a person does with the mouse: opens the list and clicks on the entry.
+void FareyleSec(QComboBox& kutu, int sira) {
+    QTest::mouseClick(&kutu, Qt::LeftButton);
+    QTRY_VERIFY(kutu.view()->isVisible());
+    const QModelIndex oge = kutu.model()->index(sira, 0);
+    kutu.view()->scrollTo(oge);
+    QTest::qWait(QApplication::doubleClickInterval() +
+                 50); // the list takes an earlier release for its opening
+    QTest::mouseClick(kutu.view()->viewport(), Qt::LeftButton, {}, kutu.view()->visualRect(oge).center());
+}
+
+QColor PencereRengi(GuiFirma& firma, SatirAdi satir, int gun) {
+    const QRect yer = firma.Tablo().Duzen().Hucre(satir, gun);
+    return firma.Tablo().grab().toImage().pixelColor(yer.x() + 1, yer.center().y());
+}
+
+QString IpucuMetni(GuiFirma& firma, const QRect& yer) {
+    const QPoint nokta = firma.Orta(yer);
+    QHelpEvent olay(QEvent::ToolTip, nokta, firma.Tablo().mapToGlobal(nokta));
+    QApplication::sendEvent(&firma.Tablo(), &olay);
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
+} // namespace
+
+class TabloPenceresiTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void the_window_shows_the_models_title_lists_and_the_clock() {
+        GuiFirma firma;
+        firma.Ac();
+        QCOMPARE(firma.Pencere().windowTitle(), QMetin(firma.Model().baslik));
+        QCOMPARE(firma.Bul<QComboBox>("Salon").count(), 2);
+        QCOMPARE(firma.Bul<QComboBox>("Salon").currentText(), QMetin(kSalonA));
+        QCOMPARE(firma.Bul<QComboBox>("Sene").count(), 21);
+        QCOMPARE(firma.Bul<QComboBox>("Sene").currentText(), QStringLiteral("2026"));
+        QCOMPARE(firma.Bul<QLabel>("Tarih").text(), QStringLiteral("21.05.2026"));
+        QCOMPARE(firma.Bul<QLabel>("Saat").text(), QStringLiteral("10:30"));
+    }
+
+    void every_control_has_a_name_for_those_who_cannot_see_it() {
+        GuiFirma firma;
+        firma.Ac();
+        for (const char* ad : {"Salon", "Sene", "Picture4", "Image3"})
+            QVERIFY2(!firma.Bul<QWidget>(ad).accessibleName().isEmpty(), ad);
+    }
+
+    void choosing_a_hall_with_the_mouse_runs_its_click_once_and_repaints() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonB, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        int sayi = 0;
+        Say(firma.Model().Salon, sayi);
+        QCOMPARE(PencereRengi(firma, EylulGunduz, 10), QColor(255, 255, 128));
+        FareyleSec(firma.Bul<QComboBox>("Salon"), 1);
+        QTRY_COMPARE(sayi, 1);
+        QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonB));
+        QCOMPARE(PencereRengi(firma, EylulGunduz, 10), QColor(255, 0, 0));
+        QTest::qWait(50);
+        QCOMPARE(sayi, 1);
+    }
+
+    void choosing_a_year_with_the_keys_runs_its_click_once_and_gives_the_focus_to_the_table() {
+        GuiFirma firma;
+        firma.Ac();
+        int sayi = 0;
+        Say(firma.Model().Sene, sayi);
+        auto& sene = firma.Bul<QComboBox>("Sene");
+        sene.setFocus();
+        QTest::keyClick(&sene, Qt::Key_Down);
+        QCOMPARE(sayi, 1);
+        QCOMPARE(firma.Model().Sene.Metni(), Metin(u"2027"));
+        QVERIFY(firma.agac.KlasorVar(Metin(kSalonA) + u"/2027"));
+        QVERIFY(firma.Tablo().hasFocus());
+        QVERIFY(!firma.Model().BuGun.gorunur);
+    }
+
+    void the_wheel_over_a_list_after_a_choice_changes_nothing() {
+        GuiFirma firma;
+        firma.Ac();
+        auto& sene = firma.Bul<QComboBox>("Sene");
+        sene.setFocus();
+        QTest::keyClick(&sene, Qt::Key_Down);
+        QWheelEvent olay({5, 5}, sene.mapToGlobal(QPointF(5, 5)), {0, -120}, {0, -120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&sene, &olay);
+        QCOMPARE(firma.Model().Sene.Metni(), Metin(u"2027"));
+    }
+
+    void clicks_on_a_month_head_and_a_day_head_start_the_ruler_and_a_click_on_a_cell_ends_it() {
+        GuiFirma firma;
+        firma.Ac();
+        const TabloDuzeni& duzen = firma.Tablo().Duzen();
+        QTest::mouseClick(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.AyBasligi(8)));
+        QCOMPARE(firma.Model().HizliAy, 8);
+        QVERIFY(!firma.Model().HizliSecim.gorunur);
+        QTest::mouseClick(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.GunBasligi(17)));
+        QCOMPARE(firma.Model().HizliGun, 17);
+        QVERIFY(firma.Model().HizliSecim.gorunur);
+        const auto& saat = firma.Bul<QTimer>("CetvelTimer");
+        QVERIFY(saat.isActive());
+        QCOMPARE(saat.interval(), 300);
+        QTRY_VERIFY_WITH_TIMEOUT(!firma.Model().HizliSecim.gorunur, 2000);
+        QTRY_VERIFY_WITH_TIMEOUT(firma.Model().HizliSecim.gorunur, 2000);
+        QTest::mouseClick(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.Hucre(MartGece, 3)));
+        QVERIFY(!firma.Model().HizliSecim.gorunur);
+        QCOMPARE(firma.Model().HizliAy, 0);
+        QVERIFY(!saat.isActive());
+    }
+
+    void a_press_that_is_let_go_elsewhere_is_no_click() {
+        GuiFirma firma;
+        firma.Ac();
+        const TabloDuzeni& duzen = firma.Tablo().Duzen();
+        QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.GunBasligi(5)));
+        QTest::mouseRelease(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.GunBasligi(6)));
+        QCOMPARE(firma.Model().HizliGun, 0);
+    }
+
+    void a_hidden_cell_is_no_cell() {
+        GuiFirma firma;
+        firma.Ac();
+        const TabloDuzeni& duzen = firma.Tablo().Duzen();
+        QTest::mouseClick(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.GunBasligi(17)));
+        QTest::mouseClick(&firma.Tablo(), Qt::LeftButton, {}, firma.Orta(duzen.Hucre(SubatGunduz, 30)));
+        QCOMPARE(firma.Model().HizliGun, 17);
+    }
+
+    void moving_over_bare_ground_brings_todays_frame_back_and_over_a_cell_does_not() {
+        GuiFirma firma;
+        firma.Ac();
+        firma.Model().BuGun.gorunur = false;
+        const TabloDuzeni& duzen = firma.Tablo().Duzen();
+        QTest::mouseMove(&firma.Tablo(), firma.Orta(duzen.Hucre(MartGece, 3)));
+        QVERIFY(!firma.Model().BuGun.gorunur);
+        QTest::mouseMove(&firma.Tablo(), {20, 10});
+        QTRY_VERIFY(firma.Model().BuGun.gorunur);
+    }
+
+    void heads_show_a_hand_and_cells_an_arrow() {
+        GuiFirma firma;
+        firma.Ac();
+        const TabloDuzeni& duzen = firma.Tablo().Duzen();
+        QTest::mouseMove(&firma.Tablo(), firma.Orta(duzen.GunBasligi(5)));
+        QTRY_COMPARE(firma.Tablo().cursor().shape(), Qt::PointingHandCursor);
+        QTest::mouseMove(&firma.Tablo(), firma.Orta(duzen.Hucre(MartGece, 3)));
+        QTRY_COMPARE(firma.Tablo().cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void a_resize_lays_the_table_out_anew_and_leaves_colours_and_tags() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gece", true);
+        firma.Ac();
+        const double once = firma.Model().Gunler[31].yer.sol;
+        const Metin tag = firma.Model().Gozu(9, GunduzGece::Gece, 10).tag;
+        QVERIFY(!tag.empty());
+        firma.Pencere().resize(1600, 900);
+        QTRY_VERIFY(firma.Model().Gunler[31].yer.sol > once);
+        QCOMPARE(firma.Model().Gozu(9, GunduzGece::Gece, 10).tag, tag);
+        QCOMPARE(PencereRengi(firma, EylulGece, 10), QColor(0, 192, 0));
+        const QRect son = firma.Tablo().Duzen().HucreCifti(12, 31);
+        QVERIFY(firma.Tablo().width() - son.right() < 10);
+    }
+
+    void the_table_is_laid_out_and_shows_todays_frame_when_the_window_first_stands() {
+        GuiFirma firma;
+        firma.Ac();
+        QVERIFY(firma.Model().Gunler[1].yer.genislik > 0);
+        QVERIFY(firma.Model().BuGun.gorunur);
+        QCOMPARE(firma.Model().Check1, 1);
+    }
+
+    void a_holiday_tells_its_name_in_a_tool_tip_and_other_cells_tell_nothing() {
+        GuiFirma firma;
+        firma.agac.KoyMetin(u"Tatiller.dll", u"\"29.10.1923\",\"Cumhuriyet Bayramı\",\"Evet\",\"Genel\"\r\n");
+        firma.Ac();
+        const TabloDuzeni& duzen = firma.Tablo().Duzen();
+        QCOMPARE(IpucuMetni(firma, duzen.Hucre(EkimGece, 29)), QStringLiteral("Cumhuriyet Bayramı"));
+        QTRY_VERIFY(IpucuMetni(firma, duzen.Hucre(EkimGece, 28)).isEmpty());
+        QVERIFY(IpucuMetni(firma, duzen.GunBasligi(29)).isEmpty());
+    }
+
+    void the_bell_is_seen_only_when_a_reminder_falls_on_today() {
+        GuiFirma firma;
+        firma.Ac();
+        QVERIFY(!firma.Bul<QLabel>("Image3").isVisible());
+        OrnekKayit kayit;
+        kayit.hatirlat = u"21.05.2026";
+        kayit.check19 = 1;
+        firma.agac.KoyMetin(Metin(kSalonB) + u"/2026/05.06.2026 - Gece", AnaMetni(kayit));
+        auto& salon = firma.Bul<QComboBox>("Salon");
+        salon.setFocus();
+        QTest::keyClick(&salon, Qt::Key_Down);
+        QVERIFY(firma.Bul<QLabel>("Image3").isVisible());
+        QCOMPARE(firma.Bul<QTimer>("OzelHatirlatTimer").interval(), 500);
+    }
+
+    void the_slow_clock_runs_from_the_start() {
+        GuiFirma firma;
+        firma.Ac();
+        QVERIFY(firma.Bul<QTimer>("Saatsay").isActive());
+        QCOMPARE(firma.Bul<QTimer>("Saatsay").interval(), 50'000);
+        QVERIFY(!firma.Bul<QTimer>("GunTimer").isActive());
+    }
+
+    void closing_the_window_ends_the_program() {
+        GuiFirma firma;
+        firma.Ac();
+        firma.Pencere().close();
+        QVERIFY(firma.disDunya.Bitti());
+    }
+
+    void a_program_folder_without_any_file_opens_an_empty_table() {
+        GuiFirma firma;
+        std::filesystem::remove(firma.agac.Yol(u"Salon.dat"));
+        firma.Ac();
+        QCOMPARE(firma.Bul<QComboBox>("Salon").count(), 0);
+        QCOMPARE(PencereRengi(firma, EylulGunduz, 10), QColor(255, 255, 128));
+        QVERIFY(!firma.agac.KlasorVar(u"2026"));
+    }
+};
+
+VELORA_GUI_TEST(TabloPenceresiTest)
+#include "TabloPenceresiTest.moc"
