@@ -24,13 +24,10 @@ std::size_t CiplakSonu(std::string_view metin) {
     return static_cast<std::size_t>(son - metin.begin());
 }
 
-/// Steps past one comma or one line end, CR LF being one. Any other sign stays.
+/// Steps past one comma or one line end. Any other sign stays. The LF of a CR LF is left: it goes with what
+/// stands before the next value.
 void AyiriciGec(std::string_view& kalan) {
-    if (kalan.empty())
-        return;
-    if (kalan.size() > 1 && kalan[0] == '\r' && kalan[1] == '\n')
-        kalan.remove_prefix(2);
-    else if (kalan[0] == ',' || SatirSonuMu(kalan[0]))
+    if (!kalan.empty() && (kalan[0] == ',' || SatirSonuMu(kalan[0])))
         kalan.remove_prefix(1);
 }
 
