@@ -52,13 +52,13 @@ std::string TatilBayt(const Istek& istek) {
     const Metin yil = SayiMetni(static_cast<int>(istek.bugun.year()));
     DegerYazici yazici;
     for (const Tatil& tatil : ResmiTatiller())
-        yazici.Yaz(Metin(tatil.gunAy) + yil, tatil.ad, u"Evet", u"Genel");
+        yazici.Yaz(Metin(tatil.gunAy).append(yil), tatil.ad, u"Evet", u"Genel");
     // Near today but in this year, so that the open table shows it.
     const int bugun = GunNo(istek.bugun);
     const Gun sonra = GunuBul(bugun + 10);
     yazici.Yaz(TarihMetni(sonra.year() == istek.bugun.year() ? sonra : GunuBul(bugun - 10)), u"Salon Bakımı",
                u"Hayır", u"Özel");
-    yazici.Yaz(Metin(u"12.09.") + yil, u"Kuruluş Yıldönümü", u"Hayır", u"Özel");
+    yazici.Yaz(Metin(u"12.09.").append(yil), u"Kuruluş Yıldönümü", u"Hayır", u"Özel");
     return yazici.Bayt();
 }
 
@@ -85,10 +85,10 @@ class Yazar {
             agac_.GunYolu(salon, yil,
                           GunAnahtari(static_cast<unsigned>(r.dilim.gun.day()),
                                       static_cast<unsigned>(r.dilim.gun.month()), yil, r.dilim.dilim));
-        tamam_ =
-            tamam_ && AnaYaz(dosyalar_, yol, r.ana) && DetayYaz(dosyalar_, yol + Metin(kDetayEki), r.detay);
+        tamam_ = tamam_ && AnaYaz(dosyalar_, yol, r.ana) &&
+                 DetayYaz(dosyalar_, Metin(yol).append(kDetayEki), r.detay);
         if (tamam_ && !r.odemeler.empty())
-            tamam_ = OdemeYaz(dosyalar_, yol + Metin(kOdemeEki), r.odemeler);
+            tamam_ = OdemeYaz(dosyalar_, Metin(yol).append(kOdemeEki), r.odemeler);
     }
 
   private:

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <vector>
 
+#include "storage/KodSayfasi.h"
 #include "storage/YazimBicimi.h"
 #include "tools/OrnekGunler.h"
 #include "tools/OrnekMetinler.h"
@@ -20,9 +21,10 @@ struct Gider {
 
 /// The one kind of value that no writer of the records knows: only expenses have it.
 std::string TarihDegeri(const Gun& gun) {
-    const auto hane = [](unsigned sayi) { return (sayi < 10 ? "0" : "") + std::to_string(sayi); };
-    return "#" + std::to_string(static_cast<int>(gun.year())) + "-" +
-           hane(static_cast<unsigned>(gun.month())) + "-" + hane(static_cast<unsigned>(gun.day())) + "#,";
+    const std::string tarih = KodYaz(TarihMetni(gun));
+    std::string bayt = "#";
+    bayt.append(tarih, 6, 4).append("-").append(tarih, 3, 2).append("-").append(tarih, 0, 2);
+    return bayt.append("#,");
 }
 
 std::vector<Gider> Giderler(const Istek& istek, int yil, Rastgele& rastgele) {

@@ -44,9 +44,7 @@ Metin HerHarf(MetinBakis metin, Donusum donusum) {
 } // namespace
 
 char16_t SiraHarfi(char16_t harf) {
-    if (Arasinda(harf, u'a', u'z') || (Arasinda(harf, u'à', u'þ') && harf != u'÷'))
-        return static_cast<char16_t>(harf - kAralik);
-    return harf < u'ÿ' ? harf : Ara(kCiftler, &Cift::kucuk, &Cift::buyuk, harf);
+    return harf < u'ÿ' ? SikSiraHarfi(harf) : Ara(kCiftler, &Cift::kucuk, &Cift::buyuk, harf);
 }
 
 char16_t BuyukHarf(char16_t harf) {

@@ -21,4 +21,10 @@ Metin BuyukBas(MetinBakis metin);
 /// systems have it, and İ and ı are letters of their own.
 char16_t SiraHarfi(char16_t harf);
 
+/// The same for letters below ÿ, where a rule tells it. Listings ask for thousands.
+constexpr char16_t SikSiraHarfi(char16_t harf) {
+    const bool kucuk = (u'a' <= harf && harf <= u'z') || (u'à' <= harf && harf <= u'þ' && harf != u'÷');
+    return kucuk ? static_cast<char16_t>(harf - (u'a' - u'A')) : harf;
+}
+
 } // namespace velora

@@ -1,8 +1,8 @@
 #include "storage/YazimBicimi.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <cstring>
-#include <utility>
+#include <string>
 
 #include "storage/KodSayfasi.h"
 
@@ -17,68 +17,72 @@ bool SatirSonuMu(char c) {
     return c == '\r' || c == '\n';
 }
 
-/// The next of the three signs that end a bare value.
-std::size_t CiplakSonu(std::string_view metin) {
-    const auto son =
-        std::find_if(metin.begin(), metin.end(), [](char c) { return c == ',' || SatirSonuMu(c); });
-    return static_cast<std::size_t>(son - metin.begin());
+// A scan reads tens of thousands of short values, so the steps work on bare positions within [yer, son).
+
+const char* BasiGec(const char* yer, const char* son) {
+    while (yer != son && (Bosluk(*yer) || SatirSonuMu(*yer)))
+        ++yer;
+    return yer;
 }
 
 /// Steps past one comma or one line end, CR LF being one. Any other sign stays.
-void AyiriciGec(std::string_view& kalan) {
-    if (kalan.empty())
-        return;
-    if (kalan.size() > 1 && kalan[0] == '\r' && kalan[1] == '\n')
-        kalan.remove_prefix(2);
-    else if (kalan[0] == ',' || SatirSonuMu(kalan[0]))
-        kalan.remove_prefix(1);
+const char* AyiriciGec(const char* yer, const char* son) {
+    if (yer == son)
+        return yer;
+    if (*yer == ',' || *yer == '\n')
+        return yer + 1;
+    if (*yer != '\r')
+        return yer;
+    return yer + (son - yer > 1 && yer[1] == '\n' ? 2 : 1);
 }
 
-void BasiGec(std::string_view& kalan) {
-    std::size_t i = 0;
-    while (i < kalan.size() && (Bosluk(kalan[i]) || SatirSonuMu(kalan[i])))
-        ++i;
-    kalan.remove_prefix(i);
+/// The quote that ends the value, or the end of the file.
+const char* TirnakBul(const char* yer, const char* son) {
+    if (yer == son || *yer == '"')
+        return yer;
+    const auto* tirnak = static_cast<const char*>(std::memchr(yer, '"', static_cast<std::size_t>(son - yer)));
+    return tirnak == nullptr ? son : tirnak;
 }
 
-std::string_view TirnakliAl(std::string_view& kalan) {
-    kalan.remove_prefix(1);
-    const auto* tirnak =
-        kalan.empty() ? nullptr : static_cast<const char*>(std::memchr(kalan.data(), '"', kalan.size()));
-    if (tirnak == nullptr)
-        return std::exchange(kalan, kalan.substr(kalan.size()));
-    const auto uzunluk = static_cast<std::size_t>(tirnak - kalan.data());
-    const std::string_view deger = kalan.substr(0, uzunluk);
-    kalan.remove_prefix(uzunluk + 1);
-    while (!kalan.empty() && Bosluk(kalan.front()))
-        kalan.remove_prefix(1);
-    AyiriciGec(kalan);
-    return deger;
+/// From behind the opening quote: the value, and `yer` behind its separator.
+std::string_view TirnakliAl(const char*& yer, const char* son) {
+    const char* const bas = yer;
+    const char* const bitis = TirnakBul(yer, son);
+    yer = bitis == son ? son : bitis + 1;
+    while (yer != son && Bosluk(*yer))
+        ++yer;
+    yer = AyiriciGec(yer, son);
+    return {bas, static_cast<std::size_t>(bitis - bas)};
 }
 
-std::string_view CiplakAl(std::string_view& kalan) {
-    const std::size_t uzunluk = CiplakSonu(kalan);
-    std::string_view deger = kalan.substr(0, uzunluk);
-    kalan.remove_prefix(uzunluk);
-    AyiriciGec(kalan);
-    deger.remove_suffix(deger.size() - (deger.find_last_not_of(' ') + 1));
-    return deger;
+std::string_view CiplakAl(const char*& yer, const char* son) {
+    const char* const bas = yer;
+    while (yer != son && *yer != ',' && !SatirSonuMu(*yer))
+        ++yer;
+    const char* bitis = yer;
+    while (bitis != bas && bitis[-1] == ' ')
+        --bitis;
+    yer = AyiriciGec(yer, son);
+    return {bas, static_cast<std::size_t>(bitis - bas)};
+}
+
+/// One value from within [yer, son). False at the end.
+inline bool Al(const char*& yer, const char* son, std::string_view& deger) {
+    yer = BasiGec(yer, son);
+    if (yer == son)
+        return false;
+    deger = *yer == '"' ? TirnakliAl(++yer, son) : CiplakAl(yer, son);
+    return true;
 }
 
 } // namespace
 
 bool DegerOkuyucu::Sonda() const {
-    std::string_view kalan = kalan_;
-    BasiGec(kalan);
-    return kalan.empty();
+    return BasiGec(yer_, son_) == son_;
 }
 
 bool DegerOkuyucu::Oku(std::string_view& deger) {
-    BasiGec(kalan_);
-    if (kalan_.empty())
-        return false;
-    deger = kalan_.front() == '"' ? TirnakliAl(kalan_) : CiplakAl(kalan_);
-    return true;
+    return Al(yer_, son_, deger);
 }
 
 bool DegerOkuyucu::Oku(Metin& deger) {
@@ -90,10 +94,13 @@ bool DegerOkuyucu::Oku(Metin& deger) {
 }
 
 int DegerOkuyucu::Atla(int adet) {
+    // The position in a local: kept in the object it would be written back for every sign.
+    const char* yer = yer_;
     std::string_view deger;
     int atlanan = 0;
-    while (atlanan < adet && Oku(deger))
+    while (atlanan < adet && Al(yer, son_, deger))
         ++atlanan;
+    yer_ = yer;
     return atlanan;
 }
 

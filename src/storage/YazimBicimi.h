@@ -19,7 +19,7 @@ namespace velora {
 /// - Any other value goes up to the next comma or line end, without the blanks at its end.
 class DegerOkuyucu {
   public:
-    explicit DegerOkuyucu(std::string_view bayt) : kalan_(bayt) {}
+    explicit DegerOkuyucu(std::string_view bayt) : yer_(bayt.data()), son_(yer_ + bayt.size()) {}
 
     /// True when only blanks, tabs and line ends are left.
     bool Sonda() const;
@@ -41,7 +41,8 @@ class DegerOkuyucu {
     int Atla(int adet);
 
   private:
-    std::string_view kalan_;
+    const char* yer_;
+    const char* son_;
 };
 
 /// Gathers the text of a record file. A call of `Yaz` is one write statement: its values with a comma between

@@ -27,14 +27,14 @@ struct TaramaDegerleri {
     }
 };
 
-/// Ten parts with a bar between them. A bar inside a value isn't escaped.
-Metin TagMetni(const Metin& kullanici, GunduzGece dilim, const TaramaDegerleri& degerler) {
-    constexpr std::array<int, 6> kSonrakiler{8, 9, 10, 1, 14, 19};
-    Metin tag = kullanici + u'|' + degerler.No(12) + u'|' + degerler.No(4) + u'|' +
-                (dilim == GunduzGece::Gunduz ? u"Gündüz" : u"Gece");
-    for (const int no : kSonrakiler)
+/// Ten parts with a bar between them. A bar inside a value isn't escaped. The cell keeps its memory from scan to scan.
+void TagYaz(const Metin& kullanici, GunduzGece dilim, const TaramaDegerleri& degerler, Metin& tag) {
+    tag = kullanici;
+    for (const int no : {12, 4})
         (tag += u'|') += degerler.No(no);
-    return tag;
+    tag += dilim == GunduzGece::Gunduz ? u"|Gündüz" : u"|Gece";
+    for (const int no : {8, 9, 10, 1, 14, 19})
+        (tag += u'|') += degerler.No(no);
 }
 
 YilOkumasi KlasoruOku(const Program& program, const FormTablo& tablo) {
@@ -90,7 +90,7 @@ void FormTablo::RezervasyonlariBoya(const YilOkumasi& okuma, HatirlatmaDegerleri
                 Hucre& hucre = Gozu(ay, dilim, gun);
                 hucre.zemin = ayarlar->Renk(renk.zemin);
                 hucre.yazi = ayarlar->Renk(renk.yazi);
-                hucre.tag = TagMetni(UserNamem, dilim, degerler);
+                TagYaz(UserNamem, dilim, degerler, hucre.tag);
             }
 }
 

@@ -40,12 +40,11 @@ std::optional<AdYeri> AdiYerlestir(MetinBakis ad, MetinBakis yil) {
     const MetinBakis kuyruk = ad.substr(kTarihUzunlugu);
     for (const auto dilim : {GunduzGece::Gunduz, GunduzGece::Gece}) {
         const MetinBakis ek = DilimEki(dilim);
+        if (kuyruk.size() < ek.size() || !AyniAd(kuyruk.substr(0, ek.size()), ek))
+            continue;
         yer.dilim = dilim;
-        if (AyniAd(kuyruk, ek))
-            return yer;
-        yer.detay = kuyruk.size() > ek.size() && AyniAd(kuyruk.substr(0, ek.size()), ek) &&
-                    AyniAd(kuyruk.substr(ek.size()), kDetayEki);
-        if (yer.detay)
+        yer.detay = kuyruk.size() > ek.size();
+        if (!yer.detay || AyniAd(kuyruk.substr(ek.size()), kDetayEki))
             return yer;
     }
     return std::nullopt;
@@ -80,44 +79,54 @@ void YilOkumasi::Ekle(const Dosyalar::OkunanDosya& dosya) {
     if (yer)
         dilim = &dilimler_[static_cast<std::size_t>(yer->ay - 1)][static_cast<std::size_t>(yer->gun - 1)]
                           [static_cast<std::size_t>(yer->dilim)];
-    if (dilim != nullptr && yer->detay) {
-        DetayEkle(dosya.bayt, *dilim);
-        dilim = nullptr;
-    }
-    dosyalari_.push_back(AnaEkle(dosya.bayt, dilim));
+    DegerOkuyucu okuyucu(dosya.bayt);
+    if (dilim == nullptr || yer->detay)
+        dosyalari_.push_back(AnaOkumasi(okuyucu));
+    else
+        dosyalari_.push_back(AnaEkle(okuyucu, *dilim));
+    if (dilim != nullptr && yer->detay)
+        DetayEkle(okuyucu, *dilim);
 }
 
-void YilOkumasi::DetayEkle(std::string_view bayt, DilimOkumasi& dilim) const {
-    DegerOkuyucu okuyucu(bayt);
+AnaParcasi YilOkumasi::AnaOkumasi(DegerOkuyucu& okuyucu) const {
+    AnaParcasi parca;
+    parca.adet = okuyucu.Atla(kHatirlatmaTarihi - 1);
     std::string_view deger;
-    dilim.onVar = okuyucu.Atla(kOnRezervasyon - 1) == kOnRezervasyon - 1 && okuyucu.Oku(deger);
+    for (int no = kHatirlatmaTarihi; no <= kAnaDegerSayisi && okuyucu.Oku(deger); ++no)
+        DegerAl(no, deger, parca);
+    return parca;
+}
+
+/// The details, from behind what was read of them as of a main record.
+void YilOkumasi::DetayEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim) {
+    constexpr int kArasi = kOnRezervasyon - kAnaDegerSayisi - 1;
+    std::string_view deger;
+    dilim.onVar = okuyucu.Atla(kArasi) == kArasi && okuyucu.Oku(deger);
     dilim.on = dilim.onVar && BirMi(deger);
 }
 
-AnaParcasi YilOkumasi::AnaEkle(std::string_view bayt, DilimOkumasi* dilim) {
-    if (dilim != nullptr) {
-        dilim->dolu = true;
-        dilim->ilkDeger = static_cast<std::uint32_t>(sonlar_.size() - 1);
-    }
-    AnaParcasi parca;
-    DegerOkuyucu okuyucu(bayt);
+AnaParcasi YilOkumasi::AnaEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim) {
+    dilim.dolu = true;
+    dilim.ilkDeger = static_cast<std::uint32_t>(sonlar_.size() - 1);
     std::string_view deger;
     auto tag = kTagDegerleri.begin();
-    while (parca.adet < kAnaDegerSayisi && okuyucu.Oku(deger)) {
-        ++parca.adet;
-        if (parca.adet == kHatirlatmaTarihi)
-            parca.hatirlatma.bugun = deger == bugun_;
-        if (parca.adet == kHatirlatmaIsareti)
-            parca.hatirlatma.isaretli = BirMi(deger);
-        if (dilim != nullptr && tag != kTagDegerleri.end() && parca.adet == *tag) {
-            havuz_ += deger;
-            sonlar_.push_back(static_cast<std::uint32_t>(havuz_.size()));
-            ++tag;
-        }
+    for (int no = 1; no <= kAnaDegerSayisi && okuyucu.Oku(deger); ++no) {
+        DegerAl(no, deger, dilim.ana);
+        if (tag == kTagDegerleri.end() || no != *tag)
+            continue;
+        havuz_ += deger;
+        sonlar_.push_back(static_cast<std::uint32_t>(havuz_.size()));
+        ++tag;
     }
-    if (dilim != nullptr)
-        dilim->ana = parca;
-    return parca;
+    return dilim.ana;
+}
+
+void YilOkumasi::DegerAl(int no, std::string_view deger, AnaParcasi& parca) const {
+    parca.adet = no;
+    if (no == kHatirlatmaTarihi)
+        parca.hatirlatma.bugun = deger == bugun_;
+    if (no == kHatirlatmaIsareti)
+        parca.hatirlatma.isaretli = BirMi(deger);
 }
 
 void YilOkumasi::TagDegerleri(const DilimOkumasi& dilim,
@@ -125,7 +134,7 @@ void YilOkumasi::TagDegerleri(const DilimOkumasi& dilim,
     for (std::size_t i = 0; i < kTagDegerleri.size() && kTagDegerleri[i] <= dilim.ana.adet; ++i) {
         const std::uint32_t bas = sonlar_[dilim.ilkDeger + i];
         const std::uint32_t son = sonlar_[dilim.ilkDeger + i + 1];
-        hedef[i] = KodCoz(std::string_view(havuz_).substr(bas, son - bas));
+        KodCoz(std::string_view(havuz_).substr(bas, son - bas), hedef[i]);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "storage/VeriAgaci.h"
+#include "storage/YazimBicimi.h"
 #include "table/FormTablo.h"
 
 namespace velora {
@@ -62,8 +63,10 @@ class YilOkumasi {
 
   private:
     void Ekle(const Dosyalar::OkunanDosya& dosya);
-    void DetayEkle(std::string_view bayt, DilimOkumasi& dilim) const;
-    AnaParcasi AnaEkle(std::string_view bayt, DilimOkumasi* dilim);
+    AnaParcasi AnaOkumasi(DegerOkuyucu& okuyucu) const;
+    AnaParcasi AnaEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim);
+    void DegerAl(int no, std::string_view deger, AnaParcasi& parca) const;
+    static void DetayEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim);
 
     Metin yil_;
     std::string bugun_;

@@ -20,45 +20,29 @@ struct OkunanKayit {
     std::vector<Odeme> odemeler;
 };
 
-/// What every firm of these tests is asked for: the defaults on a fixed day.
-inline ornek::Istek SabitIstek() {
-    ornek::Istek istek;
-    istek.bugun = std::chrono::year(2026) / 6 / 17;
-    return istek;
-}
+/// The defaults on a fixed day.
+ornek::Istek SabitIstek();
+/// The same with so few reservations that making them costs no time.
+ornek::Istek KucukIstek();
 
-inline ornek::Sonuc FirmaYap(const GeciciAgac& agac, const ornek::Istek& istek) {
-    return ornek::FirmaYap(Dosyalar(agac.Kok()), istek);
-}
+ornek::Sonuc FirmaYap(const GeciciAgac& agac, const ornek::Istek& istek);
 
 /// All values of a record file, with objects of its own.
-inline std::vector<Metin> TumDegerler(const GeciciAgac& agac, const Metin& yol) {
-    const std::string bayt = agac.Bayt(yol);
-    DegerOkuyucu okuyucu(bayt);
-    std::vector<Metin> degerler;
-    for (Metin deger; okuyucu.Oku(deger);)
-        degerler.push_back(deger);
-    return degerler;
-}
+std::vector<Metin> TumDegerler(const GeciciAgac& agac, const Metin& yol);
 
-/// All reservations of the halls and years, by the names in the folders.
-inline std::vector<OkunanKayit> TumKayitlar(const GeciciAgac& kaynak, const ornek::Sonuc& sonuc) {
-    const Dosyalar dosyalar(kaynak.Kok());
-    const VeriAgaci agac(dosyalar);
-    std::vector<OkunanKayit> kayitlar;
-    for (const Metin& salon : sonuc.salonlar)
-        for (const int yil : sonuc.yillar)
-            for (const Metin& ad : dosyalar.Listele(agac.YilKlasoru(salon, SayiMetni(yil)))) {
-                if (!GunDosyasiDeseni(ad) || EslikDosyasi(ad))
-                    continue;
-                OkunanKayit kayit{salon, yil, ad, {}, {}, false, {}};
-                const Metin yol = agac.GunYolu(salon, SayiMetni(yil), ad);
-                AnaOku(dosyalar, yol, kayit.ana);
-                DetayOku(dosyalar, yol + Metin(kDetayEki), kayit.detay);
-                kayit.odemeVar = OdemeOku(dosyalar, yol + Metin(kOdemeEki), kayit.odemeler);
-                kayitlar.push_back(std::move(kayit));
-            }
-    return kayitlar;
-}
+/// The names of all files of a hall's year.
+std::vector<Metin> TumAdlar(const GeciciAgac& agac, const Metin& salon, int yil);
+
+/// All reservations of the firm's halls and years, by the names in the folders.
+std::vector<OkunanKayit> TumKayitlar(const GeciciAgac& agac, const ornek::Sonuc& sonuc);
+
+/// A firm with all defaults, made once for all tests that only look at it.
+struct VarsayilanFirma {
+    GeciciAgac agac;
+    ornek::Sonuc sonuc = FirmaYap(agac, SabitIstek());
+    std::vector<OkunanKayit> kayitlar = TumKayitlar(agac, sonuc);
+
+    static const VarsayilanFirma& Al();
+};
 
 } // namespace velora::test

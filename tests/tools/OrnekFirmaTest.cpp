@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -13,8 +14,7 @@ using ornek::Istek;
 using ornek::Sonuc;
 
 TEST(OrnekFirma, Has_the_two_halls_this_year_and_the_next) {
-    const GeciciAgac agac;
-    const Sonuc sonuc = FirmaYap(agac, SabitIstek());
+    const auto& [agac, sonuc, kayitlar] = VarsayilanFirma::Al();
     EXPECT_EQ(sonuc.durum, Durum::Tamam);
     EXPECT_EQ(sonuc.yillar, (std::vector{2026, 2027}));
     EXPECT_EQ(TumDegerler(agac, u"Salon.dat"), (std::vector<Metin>{u"Gül Salonu", u"Çınar Kır Bahçesi"}));
@@ -24,8 +24,7 @@ TEST(OrnekFirma, Has_the_two_halls_this_year_and_the_next) {
 }
 
 TEST(OrnekFirma, Writes_the_hall_list_byte_by_byte_as_the_hall_screen_would) {
-    const GeciciAgac agac;
-    FirmaYap(agac, SabitIstek());
+    const GeciciAgac& agac = VarsayilanFirma::Al().agac;
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"G\xFCl Salonu\"\r\n\"\xC7\xFDnar K\xFDr Bah\xE7"
                                        "esi\"\r\n");
 }
@@ -48,10 +47,8 @@ TEST(OrnekFirma, Has_so_many_reservations_in_each_hall_and_year_as_asked_for) {
 }
 
 TEST(OrnekFirma, Takes_no_slot_twice_and_names_each_reservation_by_a_day_of_its_year) {
-    const GeciciAgac agac;
-    const Sonuc sonuc = FirmaYap(agac, SabitIstek());
+    const std::vector<OkunanKayit>& kayitlar = VarsayilanFirma::Al().kayitlar;
     std::set<std::pair<Metin, Metin>> dilimler;
-    const std::vector<OkunanKayit> kayitlar = TumKayitlar(agac, sonuc);
     for (const OkunanKayit& kayit : kayitlar) {
         const Metin tarih = AnahtarTarihi(kayit.ad);
         EXPECT_TRUE(TarihCoz(tarih).has_value());
@@ -64,11 +61,9 @@ TEST(OrnekFirma, Takes_no_slot_twice_and_names_each_reservation_by_a_day_of_its_
 }
 
 TEST(OrnekFirma, Lies_denser_near_today_and_at_weekends) {
-    const GeciciAgac agac;
-    const Sonuc sonuc = FirmaYap(agac, SabitIstek());
     int yakin = 0;
     int haftaSonu = 0;
-    for (const OkunanKayit& kayit : TumKayitlar(agac, sonuc)) {
+    for (const OkunanKayit& kayit : VarsayilanFirma::Al().kayitlar) {
         const std::chrono::sys_days gun = TarihCoz(AnahtarTarihi(kayit.ad)).value();
         yakin += std::chrono::abs(gun - std::chrono::sys_days(SabitIstek().bugun)).count() <= 45 ? 1 : 0;
         haftaSonu += std::chrono::weekday(gun).iso_encoding() >= 6 ? 1 : 0;
@@ -87,8 +82,7 @@ TEST(OrnekFirma, Fills_every_real_slot_of_a_year_and_no_more_when_more_is_wanted
     const Sonuc sonuc = FirmaYap(agac, istek);
     EXPECT_EQ(sonuc.rezervasyon, 730U);
     EXPECT_EQ(sonuc.enAzRezervasyon, 730U);
-    EXPECT_EQ(Dosyalar(agac.Kok()).Listele(Dosyalar(agac.Kok()).Kok() + u"\\Gül Salonu\\2026").size(),
-              3 * 730 + 1U);
+    EXPECT_EQ(TumAdlar(agac, u"Gül Salonu", 2026).size(), 3 * 730 + 1U);
 }
 
 TEST(OrnekFirma, Fills_744_slots_with_three_files_each_when_every_month_is_to_have_31_days) {
@@ -103,15 +97,14 @@ TEST(OrnekFirma, Fills_744_slots_with_three_files_each_when_every_month_is_to_ha
     EXPECT_TRUE(agac.DosyaVar(u"Gül Salonu/2026/31.02.2026 - Gündüz"));
     EXPECT_TRUE(agac.DosyaVar(u"Gül Salonu/2026/31.02.2026 - Gündüz-Detay"));
     EXPECT_TRUE(agac.DosyaVar(u"Gül Salonu/2026/31.02.2026 - Gündüz-Odeme"));
-    EXPECT_EQ(Dosyalar(agac.Kok()).Listele(Dosyalar(agac.Kok()).Kok() + u"\\Gül Salonu\\2026").size(),
-              2232 + 1U);
+    EXPECT_EQ(TumAdlar(agac, u"Gül Salonu", 2026).size(), 2232 + 1U);
 }
 
 TEST(OrnekFirma, Refuses_a_folder_that_holds_a_firm_and_changes_nothing_in_it) {
     const GeciciAgac agac;
-    EXPECT_EQ(FirmaYap(agac, SabitIstek()).durum, Durum::Tamam);
+    EXPECT_EQ(FirmaYap(agac, KucukIstek()).durum, Durum::Tamam);
     const std::string once = agac.Resim();
-    Istek istek = SabitIstek();
+    Istek istek = KucukIstek();
     istek.tohum = 99;
     EXPECT_EQ(FirmaYap(agac, istek).durum, Durum::AgacVar);
     EXPECT_EQ(agac.Resim(), once);
@@ -121,8 +114,7 @@ TEST(OrnekFirma, Is_the_same_for_the_same_seed_and_day_and_another_for_another_s
     const GeciciAgac bir;
     const GeciciAgac iki;
     const GeciciAgac uc;
-    Istek istek = SabitIstek();
-    istek.rezervasyon = 20;
+    Istek istek = KucukIstek();
     FirmaYap(bir, istek);
     FirmaYap(iki, istek);
     istek.tohum = 2;
@@ -137,13 +129,13 @@ TEST(OrnekFirma, Says_so_and_leaves_no_hall_list_when_the_disk_is_full) {
     dosyalar.ariza = [](DosyaIsi is, const Metin& yol) {
         return is == DosyaIsi::Yaz && yol.ends_with(u"-Detay");
     };
-    EXPECT_EQ(ornek::FirmaYap(dosyalar, SabitIstek()).durum, Durum::Yazilamadi);
+    EXPECT_EQ(ornek::FirmaYap(dosyalar, KucukIstek()).durum, Durum::Yazilamadi);
     EXPECT_FALSE(agac.DosyaVar(u"Salon.dat"));
 }
 
 TEST(OrnekFirma, Has_the_holidays_of_every_year_and_two_days_of_its_own) {
     const GeciciAgac agac;
-    FirmaYap(agac, SabitIstek());
+    FirmaYap(agac, KucukIstek());
     const std::vector<Metin> degerler = TumDegerler(agac, u"Tatiller.dll");
     ASSERT_EQ(degerler.size(), 9 * 4U);
     const Metin gunler[] = {u"01.01.", u"23.04.", u"01.05.", u"19.05.", u"15.07.", u"30.08.", u"29.10."};
@@ -160,7 +152,7 @@ TEST(OrnekFirma, Has_the_holidays_of_every_year_and_two_days_of_its_own) {
 
 TEST(OrnekFirma, Has_its_own_days_in_this_year_also_at_the_end_of_december) {
     const GeciciAgac agac;
-    Istek istek = SabitIstek();
+    Istek istek = KucukIstek();
     istek.bugun = std::chrono::year(2026) / 12 / 30;
     FirmaYap(agac, istek);
     EXPECT_EQ(TumDegerler(agac, u"Tatiller.dll").at(7 * 4), u"20.12.2026");
@@ -168,7 +160,7 @@ TEST(OrnekFirma, Has_its_own_days_in_this_year_also_at_the_end_of_december) {
 
 TEST(OrnekFirma, Has_three_menus_with_a_name_and_a_content) {
     const GeciciAgac agac;
-    FirmaYap(agac, SabitIstek());
+    FirmaYap(agac, KucukIstek());
     const std::vector<Metin> degerler = TumDegerler(agac, u"Menuler.dat");
     EXPECT_EQ(degerler.size(), 6U);
     EXPECT_TRUE(std::ranges::none_of(degerler, [](const Metin& deger) { return deger.empty(); }));

@@ -1,6 +1,7 @@
 #include "storage/dosya/AdListesi.h"
 
 #include <algorithm>
+#include <array>
 
 #include "storage/Harf.h"
 #include "storage/dosya/Dosyalar.h"
@@ -11,13 +12,24 @@ namespace {
 constexpr std::size_t kAnahtarBoyu = 8;
 constexpr char16_t kTasan = 0xFF;
 
+constexpr std::array<char16_t, kTasan> kSira = [] {
+    std::array<char16_t, kTasan> sira{};
+    for (std::size_t i = 0; i < sira.size(); ++i)
+        sira[i] = SikSiraHarfi(static_cast<char16_t>(i));
+    return sira;
+}();
+
+char16_t Sira(char16_t harf) {
+    return harf < kSira.size() ? kSira[harf] : SiraHarfi(harf);
+}
+
 /// Letters beyond one byte share the highest value, and what stands behind the first of them may not count
 /// any more: such names come out equal and are compared in full.
 std::uint64_t Anahtar(MetinBakis ad) {
     std::uint64_t anahtar = 0;
     std::size_t yer = 0;
     while (yer < kAnahtarBoyu) {
-        const char16_t harf = yer < ad.size() ? std::min(SiraHarfi(ad[yer]), kTasan) : u'\0';
+        const char16_t harf = yer < ad.size() ? std::min(Sira(ad[yer]), kTasan) : u'\0';
         anahtar = anahtar << 8U | harf;
         ++yer;
         if (harf == kTasan)
@@ -29,11 +41,10 @@ std::uint64_t Anahtar(MetinBakis ad) {
 } // namespace
 
 bool AdSirasi(MetinBakis bir, MetinBakis iki) {
-    const auto [b, i] =
-        std::mismatch(bir.begin(), bir.end(), iki.begin(), iki.end(),
-                      [](char16_t x, char16_t y) { return x == y || SiraHarfi(x) == SiraHarfi(y); });
+    const auto [b, i] = std::mismatch(bir.begin(), bir.end(), iki.begin(), iki.end(),
+                                      [](char16_t x, char16_t y) { return x == y || Sira(x) == Sira(y); });
     if (b != bir.end() && i != iki.end())
-        return SiraHarfi(*b) < SiraHarfi(*i);
+        return Sira(*b) < Sira(*i);
     return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
 }
 

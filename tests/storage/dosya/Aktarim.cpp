@@ -1,0 +1,156 @@
+#include "storage/dosya/Aktarim.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+// The way a text goes over an old one, on a file that breaks where the test wants it.
+namespace velora {
+namespace {
+
+struct BozukDosya {
+    std::string icerik;
+    std::size_t enCokYazma = std::string::npos;  ///< bytes that one call takes
+    std::size_t toplamYazma = std::string::npos; ///< bytes that may be written before the device fails
+    std::size_t enUzun = std::string::npos;      ///< length beyond which it doesn't grow
+    bool yerVar = true;
+    int kesilmeyen = 0;               ///< cuts that fail before one works
+    std::vector<std::string> anlar{}; ///< what a reader would have seen after each step
+
+    std::optional<std::uint64_t> Boy() const { return icerik.size(); }
+    std::optional<std::size_t> Oku(std::uint64_t konum, char* hedef, std::size_t adet) const {
+        return icerik.copy(hedef, adet, konum);
+    }
+    bool YerAyir(std::uint64_t) const { return yerVar; }
+    std::size_t Yaz(std::uint64_t konum, std::string_view bayt) {
+        const std::size_t yer = enUzun > konum ? enUzun - konum : 0;
+        bayt = bayt.substr(0, std::min({enCokYazma, toplamYazma, yer}));
+        if (toplamYazma != std::string::npos)
+            toplamYazma -= bayt.size();
+        icerik.resize(std::max<std::size_t>(icerik.size(), konum + bayt.size()));
+        icerik.replace(konum, bayt.size(), bayt);
+        anlar.push_back(icerik);
+        return bayt.size();
+    }
+    bool Kes(std::uint64_t boy) {
+        if (kesilmeyen-- > 0)
+            return false;
+        icerik.resize(boy);
+        anlar.push_back(icerik);
+        return true;
+    }
+};
+
+const std::string kEski = "\"eski\",\"kayit\",1\r\n";
+const std::string kKisa = "\"y\"\r\n";
+const std::string kUzun = "\"yeni ve daha uzun\",\"kayit\",0\r\n";
+
+} // namespace
+
+TEST(UzerineYaz, Leaves_exactly_the_new_text) {
+    for (const std::string& eski : {std::string(), kEski, kUzun})
+        for (const std::string& yeni : {std::string(), kKisa, kEski, kUzun}) {
+            BozukDosya dosya{.icerik = eski};
+            EXPECT_TRUE(UzerineYaz(dosya, yeni));
+            EXPECT_EQ(dosya.icerik, yeni);
+        }
+}
+
+TEST(UzerineYaz, At_every_moment_the_file_holds_the_old_text_or_the_new_one_with_line_ends_behind_it) {
+    BozukDosya dosya{.icerik = kUzun};
+    ASSERT_TRUE(UzerineYaz(dosya, kKisa));
+    const std::string dolgulu = kKisa + std::string(kUzun.size() - kKisa.size(), '\n');
+    EXPECT_EQ(dosya.anlar, (std::vector<std::string>{dolgulu, kKisa}));
+}
+
+TEST(UzerineYaz, A_longer_text_goes_down_in_one_single_write) {
+    BozukDosya dosya{.icerik = kEski};
+    ASSERT_TRUE(UzerineYaz(dosya, kUzun));
+    EXPECT_EQ(dosya.anlar, (std::vector<std::string>{kUzun}));
+}
+
+TEST(UzerineYaz, A_disk_without_room_leaves_the_old_text_untouched) {
+    BozukDosya dosya{.icerik = kEski, .yerVar = false};
+    EXPECT_FALSE(UzerineYaz(dosya, kUzun));
+    EXPECT_EQ(dosya.icerik, kEski);
+    EXPECT_TRUE(dosya.anlar.empty());
+}
+
+TEST(UzerineYaz, A_full_disk_does_not_stand_in_the_way_of_a_shorter_text) {
+    BozukDosya dosya{.icerik = kEski, .enUzun = kEski.size(), .yerVar = false};
+    EXPECT_TRUE(UzerineYaz(dosya, kKisa));
+    EXPECT_EQ(dosya.icerik, kKisa);
+}
+
+TEST(UzerineYaz, A_write_that_comes_back_short_is_finished) {
+    for (const std::size_t parca : {1U, 3U, 7U}) {
+        BozukDosya dosya{.icerik = kEski, .enCokYazma = parca};
+        EXPECT_TRUE(UzerineYaz(dosya, kUzun));
+        EXPECT_EQ(dosya.icerik, kUzun);
+    }
+}
+
+TEST(UzerineYaz, A_device_that_stops_growing_in_the_middle_gets_the_old_text_back) {
+    for (std::size_t sinir = kEski.size(); sinir < kUzun.size(); ++sinir) {
+        BozukDosya dosya{.icerik = kEski, .enUzun = sinir};
+        EXPECT_FALSE(UzerineYaz(dosya, kUzun));
+        EXPECT_EQ(dosya.icerik, kEski) << sinir;
+    }
+}
+
+TEST(UzerineYaz, A_cut_that_fails_brings_the_old_text_back) {
+    BozukDosya dosya{.icerik = kUzun, .kesilmeyen = 1};
+    EXPECT_FALSE(UzerineYaz(dosya, kKisa));
+    EXPECT_EQ(dosya.icerik, kUzun);
+}
+
+TEST(UzerineYaz, A_device_that_dies_for_good_ends_the_call) {
+    BozukDosya dosya{.icerik = kEski, .toplamYazma = 4};
+    EXPECT_FALSE(UzerineYaz(dosya, kUzun));
+    EXPECT_EQ(dosya.icerik.size(), kEski.size());
+}
+
+TEST(SonunaYaz, Puts_the_bytes_behind_the_last_one) {
+    BozukDosya dosya{.icerik = kEski, .enCokYazma = 5};
+    EXPECT_TRUE(SonunaYaz(dosya, kUzun));
+    EXPECT_EQ(dosya.icerik, kEski + kUzun);
+}
+
+TEST(SonunaYaz, A_device_that_fails_in_the_middle_leaves_the_old_length) {
+    BozukDosya dosya{.icerik = kEski, .toplamYazma = 10};
+    EXPECT_FALSE(SonunaYaz(dosya, kUzun));
+    EXPECT_EQ(dosya.icerik, kEski);
+}
+
+TEST(Doldur, A_short_file_costs_one_call) {
+    int cagri = 0;
+    std::string tampon;
+    const auto oku = [&](char* hedef, std::size_t adet) -> std::optional<std::size_t> {
+        ++cagri;
+        return kEski.copy(hedef, adet);
+    };
+    EXPECT_EQ(Doldur(tampon, 1U << 20U, oku), kEski.size());
+    EXPECT_EQ(cagri, 1);
+    EXPECT_EQ(tampon.substr(0, kEski.size()), kEski);
+}
+
+TEST(Doldur, Never_reads_beyond_the_limit) {
+    for (const std::size_t sinir : {std::size_t{0}, std::size_t{1}, kOkumaTamponu, 3 * kOkumaTamponu + 1}) {
+        std::size_t verilen = 0;
+        std::string tampon;
+        const auto sonsuz = [&](char*, std::size_t adet) -> std::optional<std::size_t> {
+            verilen += adet;
+            return adet;
+        };
+        EXPECT_EQ(Doldur(tampon, sinir, sonsuz), sinir);
+        EXPECT_EQ(verilen, sinir);
+    }
+}
+
+TEST(Doldur, A_read_that_fails_fails_the_whole) {
+    std::string tampon;
+    EXPECT_EQ(Doldur(tampon, 10, [](char*, std::size_t) { return std::optional<std::size_t>(); }),
+              std::nullopt);
+}
+
+} // namespace velora
