@@ -14,7 +14,7 @@ namespace velora {
 
 /// The colours of the table that are no colours of the model.
 struct TabloTonlari {
-    QColor zemin;                ///< where nothing stands
+    QColor zemin{243, 244, 245}; ///< where nothing stands
     QColor cizgi{214, 216, 219}; ///< between cells
     QColor cetvel{255, 128, 0};  ///< frame of the ruler
     QColor cerceveIci{255, 255,
