@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "destek/GeciciAgac.h"
+#include "destek/SahteOrtam.h"
+#include "maintenance/FormResmiTatil.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "storage/KodSayfasi.h"
+#include "storage/RezervasyonDosyalari.h"
+#include "table/FormTablo.h"
+
+namespace velora::test {
+
+namespace {
+
+struct DosyaBolumu {
+    int alanSayisi = 0; // by the numbers of the table's rows
+    std::string ornek;  // bytes as they would stand on disk
+};
+
+std::string DiskBaytlari(const std::string& utf8) {
+    std::string bayt = KodYaz(std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).u16string());
+    for (std::size_t i = bayt.find('\n'); i != std::string::npos; i = bayt.find('\n', i + 2))
+        bayt.insert(i, 1, '\r');
+    return bayt;
+}
+
+/// The sections of the page that hold an example, by the name of their file.
+std::map<std::string, DosyaBolumu> SayfayiOku() {
+    std::map<std::string, DosyaBolumu> bolumler;
+    std::ifstream sayfa(VELORA_DOCS "/dosyalar.md");
+    std::string bolum;
+    std::string ornek;
+    bool ornekte = false;
+    for (std::string satir; std::getline(sayfa, satir);) {
+        if (satir.starts_with("```")) {
+            if (ornekte)
+                bolumler[bolum].ornek = DiskBaytlari(ornek);
+            else
+                EXPECT_EQ(satir.substr(3), bolum) << "an example names its own section";
+            ornekte = !ornekte;
+            ornek.clear();
+        } else if (ornekte) {
+            ornek += satir + '\n';
+        } else if (satir.starts_with("## ")) {
+            bolum = satir.substr(3);
+        } else if (satir.starts_with("| ") && std::isdigit(static_cast<unsigned char>(satir[2])) != 0) {
+            const std::string numara = satir.substr(2, satir.find(' ', 2) - 2);
+            const std::size_t tire = numara.find('-');
+            const int ilk = std::stoi(numara);
+            EXPECT_EQ(ilk, bolumler[bolum].alanSayisi + 1) << bolum << ": a number is missing";
+            bolumler[bolum].alanSayisi = tire == std::string::npos ? ilk : std::stoi(numara.substr(tire + 1));
+        }
+    }
+    return bolumler;
+}
+
+} // namespace
+
+class DosyalarSayfasi : public ::testing::Test {
+  protected:
+    std::map<std::string, DosyaBolumu> bolumler = SayfayiOku();
+    GeciciAgac agac;
+    SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{1}, std::chrono::day{5}}};
+    Program program{ortam.Ver(), agac.Kok()};
+};
+
+TEST_F(DosyalarSayfasi, EachExampleHoldsAsManyValuesAsItsTableHasFields) {
+    EXPECT_EQ(bolumler.size(), 7U);
+    for (const auto& [ad, bolum] : bolumler) {
+        DegerOkuyucu okuyucu(bolum.ornek);
+        EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
+        EXPECT_GT(bolum.alanSayisi, 0) << ad;
+    }
+}
+
+TEST_F(DosyalarSayfasi, ProgramReadsTheExamplesOfTheFirmsFiles) {
+    for (const char16_t* ad : {u"Salon.dat", u"Settings.dll", u"Visible.dll", u"Tatiller.dll"})
+        agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
+    EXPECT_EQ(program.FormTablo->Salon.ogeler, std::vector<Metin>{u"Gül Salonu"});
+    EXPECT_EQ(program.FormAyarlar->UyariGun.metin, u"7");
+    EXPECT_TRUE(program.FormAyarlar->GunduzUstte());
+    EXPECT_TRUE(program.FormAyarlar->AyGorunur(5));
+    EXPECT_FALSE(program.FormAyarlar->AyGorunur(6));
+    EXPECT_EQ(program.FormTablo->Gozu(10, velora::GunduzGece::Gece, 29).ipucu, u"Cumhuriyet Bayramı");
+}
+
+TEST_F(DosyalarSayfasi, ReadersOfAReservationReadItsThreeExamples) {
+    agac.Koy(u"a", bolumler["RezervasyonDosyasi"].ornek);
+    agac.Koy(u"b", bolumler["DetayDosyasi"].ornek);
+    agac.Koy(u"c", bolumler["OdemeDosyasi"].ornek);
+    AnaDegerler ana;
+    DetayDegerler detay;
+    std::vector<Odeme> odemeler;
+    ASSERT_TRUE(AnaOku(program.dosyalar, program.agac.KokYolu(u"a"), ana));
+    ASSERT_TRUE(DetayOku(program.dosyalar, program.agac.KokYolu(u"b"), detay));
+    ASSERT_TRUE(OdemeOku(program.dosyalar, program.agac.KokYolu(u"c"), odemeler));
+    EXPECT_EQ(ana.No(1), u"Ayşe Yılmaz");
+    EXPECT_EQ(ana.No(20), u"0");
+    EXPECT_EQ(detay.No(18), u"Üç katlı");
+    EXPECT_EQ(detay.No(39), u"Çorba\r\nTatlı");
+    EXPECT_EQ(std::count(bolumler["DetayDosyasi"].ornek.begin(), bolumler["DetayDosyasi"].ornek.end(), '\n'),
+              39)
+        << "38 lines and the line break within the menu";
+    ASSERT_EQ(odemeler.size(), 1U);
+    EXPECT_EQ(odemeler[0].aciklama, u"17 - Ayşe Yılmaz");
+}
+
+} // namespace velora::test
