@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <random>
 
-#include "OrnekFirma.h"
 #include "screen/Program.h"
+#include "tools/OrnekFirma.h"
 
 namespace velora::olcum {
 

@@ -66,7 +66,8 @@ install_missing() {
     quietly install "${as_root[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
-# Runs a command with its output in build/log/<name>.log. Shows the end of it only when the command fails.
+# Runs a command with its output in build/log/<name>.log. Shows the end of it only when the command fails, without
+# the steps of a build.
 quietly() {
     local name=$1 log=$LOGS/$1.log status
     shift
@@ -74,7 +75,7 @@ quietly() {
     "$@" >"$log" 2>&1 && return 0
     status=$?
     complain "--- $name: failed; the end of $log:"
-    tail -n 60 "$log" >&2
+    grep -vE '^\[[0-9]+/[0-9]+\] ' "$log" | tail -n 80 >&2
     return $status
 }
 

@@ -10,7 +10,7 @@ namespace velora::ornek {
 
 /// A slot of a year. With `Istek::tumAdlar` its day may be one that the month hasn't got.
 struct Dilim {
-    Gun gun;
+    Gun gun{};
     GunduzGece dilim = GunduzGece::Gunduz;
 };
 

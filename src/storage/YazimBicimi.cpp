@@ -25,15 +25,10 @@ const char* BasiGec(const char* yer, const char* son) {
     return yer;
 }
 
-/// Steps past one comma or one line end, CR LF being one. Any other sign stays.
+/// Steps past one comma or one line end. Any other sign stays. The LF of a CR LF is left: it goes with what
+/// stands before the next value.
 const char* AyiriciGec(const char* yer, const char* son) {
-    if (yer == son)
-        return yer;
-    if (*yer == ',' || *yer == '\n')
-        return yer + 1;
-    if (*yer != '\r')
-        return yer;
-    return yer + (son - yer > 1 && yer[1] == '\n' ? 2 : 1);
+    return yer != son && (*yer == ',' || SatirSonuMu(*yer)) ? yer + 1 : yer;
 }
 
 /// The quote that ends the value, or the end of the file.

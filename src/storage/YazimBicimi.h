@@ -13,9 +13,9 @@ namespace velora {
 /// alone. The bytes must outlive the reader.
 ///
 /// - Blanks, tabs and line ends before a value are skipped.
-/// - A value that begins with a double quote goes to the next one, line breaks included, or to the end of the
-///   file when there is no other. Blanks and tabs behind it are skipped, then one comma or one line end. Any
-///   other character there begins the next value.
+/// - A value that begins with a double quote goes to the next one, line breaks included, or to the end of
+///   the file when there is no other. Blanks and tabs behind it are skipped, then one comma or one line end.
+///   Any other character there begins the next value.
 /// - Any other value goes up to the next comma or line end, without the blanks at its end.
 class DegerOkuyucu {
   public:

@@ -142,7 +142,7 @@ TEST(YazimBicimiOzellik, Numbers_and_texts_keep_their_places_when_mixed) {
 
 TEST(YazimBicimiOzellik, Random_bytes_read_as_a_slow_reader_reads_them) {
     Rastgele rastgele(20120105);
-    for (int tur = 0; tur < 60000; ++tur) {
+    for (int tur = 0; tur < 20000; ++tur) {
         const std::string bayt = Karisik(rastgele);
         ASSERT_EQ(Oku(bayt), YavasOku(bayt)) << testing::PrintToString(bayt);
     }
@@ -153,7 +153,7 @@ TEST(YazimBicimiOzellik, A_damaged_record_neither_crashes_nor_hangs_the_reader) 
     const std::string saglam =
         "\"Ay\xFE"
         "e Y\xFDlmaz\",\"\",\"Rize\r\nMerkez\",\"1500\",1,0\r\n\"1\",\"0\"\r\n#2012-05-03#\r\n";
-    for (int tur = 0; tur < 30000; ++tur) {
+    for (int tur = 0; tur < 10000; ++tur) {
         std::string bayt = saglam;
         for (std::size_t i = 1 + Sayi(rastgele, 8); i > 0; --i)
             Boz(rastgele, bayt);
@@ -171,9 +171,9 @@ TEST(YazimBicimiOzellik, Line_ends_behind_a_record_change_nothing) {
     }
 }
 
-TEST(YazimBicimiOzellik, Megabytes_of_one_sign_are_read_in_one_go) {
+TEST(YazimBicimiOzellik, A_long_run_of_one_sign_is_read_to_its_end) {
     for (const char c : {'"', ',', ' ', '\n', 'x', '\0'}) {
-        const std::string bayt(1U << 20U, c);
+        const std::string bayt(1U << 17U, c);
         EXPECT_EQ(Oku(bayt).size(), YavasOku(bayt).size()) << static_cast<int>(c);
     }
 }

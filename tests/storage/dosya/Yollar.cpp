@@ -53,9 +53,10 @@ TEST(Yollar, Absolute_and_relative_paths_that_do_not_begin_with_the_root_are_ref
     const GeciciKok kok;
     kok.HamYaz(u"kaynak", "k");
     const Metin disi = YolMetni(kok.disi);
+    const Metin baskaKok(kok.dosyalar.Kok().size(), u'a');
     for (const Metin& yol :
          {Metin(), Metin(u"a"), Metin(u"\\a"), Metin(u"/tmp/velora-a"), Metin(u"C:\\a"), disi, disi + u"\\a",
-          disi + u"/a", kok.dosyalar.Kok() + u"a", kok.dosyalar.Kok() + u"/a"})
+          baskaKok, baskaKok + u"\\a", disi + u"/a", kok.dosyalar.Kok() + u"a", kok.dosyalar.Kok() + u"/a"})
         EXPECT_TRUE(HepsiReddetti(kok.dosyalar, yol)) << testing::PrintToString(yol);
     EXPECT_EQ(GirisSayisi(kok.disi), 1U);
     EXPECT_EQ(GirisSayisi(kok.yol), 1U);

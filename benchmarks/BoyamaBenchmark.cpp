@@ -1,0 +1,56 @@
+// The repaint of the whole table at 1920x1080 after a scan, beside filling the same picture with one colour.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+
+#include "OlcumAgaci.h"
+#include "qt/table/TabloCizici.h"
+#include "setup/FormAyarlar.h"
+#include "table/FormTablo.h"
+#include "table/Yerlesim.h"
+
+namespace velora::olcum {
+
+namespace {
+
+constexpr int kGenislik = 1920;
+constexpr int kYukseklik = 1080;
+constexpr double kTwip = 15;
+
+} // namespace
+
+void TumTablonunBoyanmasi(benchmark::State& durum) {
+    const OlcumAgaci agac;
+    Program program(OlcumOrtami(agac.Bugun()), agac.Kok());
+    FormTablo& tablo = *program.FormTablo.Tut();
+    tablo.Resize(TabloIcGenisligi(kGenislik * kTwip), TabloIcYuksekligi(kYukseklik * kTwip));
+    const TabloDuzeni duzen(tablo, 1);
+    TabloCizici cizici(QApplication::font(), {});
+    QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : durum) {
+        QPainter boyaci(&resim);
+        cizici.Ciz(boyaci, tablo, duzen, resim.rect(), program.FormAyarlar->Renk(16));
+    }
+}
+BENCHMARK(TumTablonunBoyanmasi)->Unit(benchmark::kMillisecond);
+
+void AyniResminDoldurulmasi(benchmark::State& durum) {
+    QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : durum) {
+        QPainter boyaci(&resim);
+        boyaci.fillRect(resim.rect(), Qt::white);
+    }
+}
+BENCHMARK(AyniResminDoldurulmasi)->Unit(benchmark::kMillisecond);
+
+} // namespace velora::olcum
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication uygulama(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
