@@ -119,28 +119,6 @@ class TabloPenceresiTest : public QObject {
         QCOMPARE(firma.Model().Sene.Metni(), Metin(u"2027"));
     }
 
-    void a_box_that_a_handler_shows_stands_over_a_table_that_is_up_to_date() {
-        GuiFirma firma;
-        firma.Ac();
-        FormTablo& tablo = firma.Model();
-        QImage kutuda;
-        QTimer::singleShot(0, this, [&] {
-            auto* kutu = QApplication::activeModalWidget();
-            QVERIFY(kutu != nullptr);
-            QTest::qWait(20);
-            kutuda = firma.Pencere().screen()->grabWindow(firma.Pencere().winId()).toImage();
-            kutu->close();
-        });
-        const QRect yer = firma.Tablo().Duzen().Hucre(EylulGunduz, 10);
-        tablo.Salon.tiklandi = [&] {
-            tablo.Gozu(9, GunduzGece::Gunduz, 10).zemin = 0xFF0000;
-            firma.program.ortam.sor.mesaj({.metin = u"Bekle"});
-        };
-        QTest::keyClick(&firma.Bul<QComboBox>("Salon"), Qt::Key_Down);
-        const QPoint nokta = firma.Tablo().mapTo(&firma.Pencere(), QPoint(yer.x() + 1, yer.center().y()));
-        QCOMPARE(kutuda.pixelColor(nokta), QColor(0, 0, 255));
-    }
-
     void a_quick_scan_shows_only_its_end() {
         GuiFirma firma;
         firma.Ac();
