@@ -9,7 +9,7 @@
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
-int main(int /*argc*/, char** argv) {
+static int Calistir(char** argv) {
     // The program has no command line: the toolkit sees none either.
     int argumanSayisi = 1;
     const QApplication uygulama(argumanSayisi, argv);
@@ -18,8 +18,14 @@ int main(int /*argc*/, char** argv) {
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());
     velora::Program program(disDunya.Ver(), programDizini);
     velora::EkranlariTanit(disDunya, program);
-    velora::Koru([&program] { program.FormTablo.Goster(); });
+    program.FormTablo.Goster();
     const int sonuc = disDunya.Bitti() ? 0 : QApplication::exec();
     disDunya.PencereleriBirak();
+    return sonuc;
+}
+
+int main(int /*argc*/, char** argv) {
+    int sonuc = 1;
+    velora::Koru([&sonuc, argv] { sonuc = Calistir(argv); });
     return sonuc;
 }

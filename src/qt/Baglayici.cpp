@@ -26,6 +26,7 @@ struct Ortak {
     std::vector<Baglayici*> canlilar;
     int derinlik = 0; // handlers that run, one inside the other
     bool tazeleniyor = false;
+    bool uzun = false;       // the outermost handler has begun to wait for the user
     QElapsedTimer baslangic; // of the outermost handler
 };
 
@@ -38,8 +39,10 @@ Ortak& Durum() {
 class IsSayaci {
   public:
     IsSayaci() {
-        if (Durum().derinlik++ == 0)
-            Durum().baslangic.start();
+        if (Durum().derinlik++ > 0)
+            return;
+        Durum().baslangic.start();
+        Durum().uzun = false;
     }
     ~IsSayaci() { --Durum().derinlik; }
     IsSayaci(const IsSayaci&) = delete;
@@ -94,7 +97,13 @@ void Baglayici::HepsiniTazele() {
 }
 
 bool Baglayici::KisaIsSuruyor() {
-    return Durum().derinlik > 0 && !Durum().baslangic.hasExpired(kKisaIs);
+    const Ortak& durum = Durum();
+    return durum.derinlik > 0 && !durum.uzun && !durum.baslangic.hasExpired(kKisaIs);
+}
+
+void Baglayici::KullaniciBekleniyor() {
+    Durum().uzun = true;
+    HepsiniTazele();
 }
 
 void Baglayici::Tazele() {

@@ -62,6 +62,9 @@ class Baglayici : public QObject {
     /// waits for its end.
     static bool KisaIsSuruyor();
 
+    /// Refreshes all widgets and takes the running handler for a long one from here on: it waits for the user.
+    static void KullaniciBekleniyor();
+
   protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 

@@ -30,7 +30,7 @@ class KapanisGozcusu : public QObject {
 
 /// Questions come out of running handlers: what these have done so far must be seen behind the box.
 QWidget* KutununUstu() {
-    Baglayici::HepsiniTazele();
+    Baglayici::KullaniciBekleniyor();
     return QApplication::activeWindow();
 }
 
@@ -103,6 +103,7 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
     QWidget* pencere = Hazirla(ekran);
     if (pencere == nullptr)
         return;
+    Baglayici::KullaniciBekleniyor();
     QEventLoop dongu;
     const KapanisGozcusu gozcu(*pencere, dongu);
     pencere->setWindowModality(Qt::ApplicationModal);

@@ -8,7 +8,7 @@
 namespace velora::test {
 
 int GuiTestleriniCalistir(QObject& testler, int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication uygulama(argc, argv);
     GorunumuKur();

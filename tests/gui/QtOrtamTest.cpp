@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "gui/GuiProgram.h"
+#include "qt/Baglayici.h"
 #include "qt/OlayKilidi.h"
 #include "qt/QtOrtam.h"
 
@@ -110,6 +111,29 @@ class QtOrtamTest : public QObject {
     void a_cancelled_input_box_gives_empty_text() {
         Kutuda<QInputDialog>([](QInputDialog& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
         QVERIFY(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}).empty());
+    }
+
+    void a_handler_that_waits_for_an_answer_is_no_quick_one_and_shows_what_it_has_done() {
+        const auto ekran = std::make_shared<int>(0);
+        QObject pencere;
+        Baglayici baglayici(ekran, &pencere);
+        int gorulen = 0;
+        baglayici.Izle([&] {
+            if (!Baglayici::KisaIsSuruyor())
+                gorulen = *ekran;
+        });
+        int kutuda = 0;
+        Kutuda<QMessageBox>([&](QMessageBox& kutu) {
+            kutuda = gorulen;
+            kutu.close();
+        });
+        baglayici.Calistir([&] {
+            *ekran = 8;
+            ortam_.sor.mesaj({.metin = u"Bekle"});
+            *ekran = 9;
+        });
+        QCOMPARE(kutuda, 8);
+        QCOMPARE(gorulen, 9);
     }
 
     void a_window_is_made_at_its_first_showing_and_dropped_when_hidden() {

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
@@ -116,6 +117,29 @@ class TabloPenceresiTest : public QObject {
                          Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&sene, &olay);
         QCOMPARE(firma.Model().Sene.Metni(), Metin(u"2027"));
+    }
+
+    void a_quick_scan_shows_only_its_end() {
+        GuiFirma firma;
+        firma.Ac();
+        FormTablo& tablo = firma.Model();
+        const QRect yer = firma.Tablo().Duzen().Hucre(EylulGunduz, 10);
+        const QPoint nokta = firma.Tablo().mapTo(&firma.Pencere(), QPoint(yer.x() + 1, yer.center().y()));
+        const auto ekrandaki = [&] {
+            return firma.Pencere().screen()->grabWindow(firma.Pencere().winId()).toImage().pixelColor(nokta);
+        };
+        QColor ortada;
+        tablo.Salon.tiklandi = [&] {
+            tablo.Gozu(9, GunduzGece::Gunduz, 10).zemin = 0x0000FF;
+            firma.program.OlaylariIsle();
+            ortada = ekrandaki();
+            tablo.Gozu(9, GunduzGece::Gunduz, 10).zemin = 0xFF0000;
+        };
+        const QColor once = ekrandaki();
+        QTest::keyClick(&firma.Bul<QComboBox>("Salon"), Qt::Key_Down);
+        QCoreApplication::processEvents();
+        QCOMPARE(ortada, once);
+        QCOMPARE(ekrandaki(), QColor(0, 0, 255));
     }
 
     void clicks_on_a_month_head_and_a_day_head_start_the_ruler_and_a_click_on_a_cell_ends_it() {
