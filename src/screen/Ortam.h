@@ -9,7 +9,19 @@
 namespace velora {
 
 /// Every screen of the program. The outside world finds a screen's window by it.
-enum class EkranAdi { Splash, FormTablo, FormAyarlar, FormResmiTatil };
+enum class EkranAdi {
+    Splash,
+    FormTablo,
+    FormAyarlar,
+    FormResmiTatil,
+    FormRenk,
+    FormSalonTanim,
+    FormSalonTanimAd,
+    FormMenuAyar,
+    FormMenuEkle,
+    FormKayit,
+    FormOdemeAl
+};
 
 enum class Simge { Bilgi, Soru, Uyari, Kritik };
 enum class KutuDugmeleri { Tamam, EvetHayir };

@@ -12,6 +12,13 @@ struct Splash;
 struct FormTablo;
 struct FormAyarlar;
 struct FormResmiTatil;
+struct FormRenk;
+struct FormSalonTanim;
+struct FormSalonTanimAd;
+struct FormMenuAyar;
+struct FormMenuEkle;
+struct FormKayit;
+struct FormOdemeAl;
 
 /// The whole program: its screens by their own names, the data tree and the outside world.
 struct Program {
@@ -29,6 +36,13 @@ struct Program {
     Pencere<velora::FormTablo> FormTablo;
     Pencere<velora::FormAyarlar> FormAyarlar;
     Pencere<velora::FormResmiTatil> FormResmiTatil;
+    Pencere<velora::FormRenk> FormRenk;
+    Pencere<velora::FormSalonTanim> FormSalonTanim;
+    Pencere<velora::FormSalonTanimAd> FormSalonTanimAd;
+    Pencere<velora::FormMenuAyar> FormMenuAyar;
+    Pencere<velora::FormMenuEkle> FormMenuEkle;
+    Pencere<velora::FormKayit> FormKayit;
+    Pencere<velora::FormOdemeAl> FormOdemeAl;
 
     /// Today, by the clock of the outside world.
     Gun Bugun() const;
