@@ -8,18 +8,18 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QLabel>
-#include <QLineEdit>
+#include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTimer>
 
 #include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
 
 namespace velora {
 
 namespace {
 
 constexpr int kKisaIs = 100; // milliseconds up to which a handler only shows its end
-constexpr int kSinirsiz = 32767;
 
 /// What all binders share.
 struct Ortak {
@@ -48,14 +48,6 @@ class IsSayaci {
     IsSayaci(const IsSayaci&) = delete;
     IsSayaci& operator=(const IsSayaci&) = delete;
 };
-
-void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk) {
-    if (parca.palette().color(rol) == renk)
-        return;
-    QPalette palet = parca.palette();
-    palet.setColor(rol, renk);
-    parca.setPalette(palet);
-}
 
 } // namespace
 
@@ -115,6 +107,11 @@ void Baglayici::Tazele() {
 }
 
 bool Baglayici::eventFilter(QObject* nesne, QEvent* olay) {
+    if (const auto alan = odaklananlar_.find(nesne); alan != odaklananlar_.end()) {
+        if (olay->type() == QEvent::FocusOut)
+            Calistir(alan->second);
+        return QObject::eventFilter(nesne, olay);
+    }
     const auto* parca = qobject_cast<QWidget*>(nesne);
     if (olay->type() != QEvent::Wheel || parca == nullptr || parca->hasFocus())
         return QObject::eventFilter(nesne, olay);
@@ -137,37 +134,34 @@ void Baglayici::Bagla(QCheckBox& kutu, OnayKutusu& model) {
     });
 }
 
-void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const Isleyici& degisti) {
-    connect(&kutu, &QLineEdit::textEdited, this, [this, &model, degisti](const QString& metin) {
-        Calistir([&model, &metin, &degisti] {
-            model.metin = MetinYap(metin);
-            if (degisti)
-                degisti();
-        });
-    });
-    Izle([&kutu, &model] {
-        const QSignalBlocker sus(&kutu);
-        const QString metin = QMetin(model.metin);
-        // The limit binds typing alone: a longer text that stands in the model stays whole.
-        const int sinir = model.enUzun > 0 ? model.enUzun : kSinirsiz;
-        kutu.setMaxLength(std::max({sinir, static_cast<int>(metin.size()), kutu.maxLength()}));
-        if (kutu.text() != metin)
-            kutu.setText(metin);
-        kutu.setMaxLength(std::max(sinir, static_cast<int>(metin.size())));
-        kutu.setEnabled(model.etkin);
-        kutu.setReadOnly(model.kilitli);
-        RenkVer(kutu, QPalette::Base,
-                model.beyazZemin ? QColor(Qt::white) : kutu.palette().color(QPalette::Window));
-    });
-}
-
 void Baglayici::Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tiklandi) {
-    connect(&dugme, &QAbstractButton::clicked, this, [this, tiklandi] { Calistir(tiklandi); });
+    connect(&dugme, &QAbstractButton::clicked, this, [this, &dugme, tiklandi] {
+        dugme.setFocus(Qt::OtherFocusReason);
+        Calistir(tiklandi);
+    });
     Izle([&dugme, &model] {
         dugme.setText(QMetin(model.baslik));
         dugme.setToolTip(QIpucu(model.ipucu));
         dugme.setEnabled(model.etkin);
         dugme.setVisible(model.gorunur);
+    });
+}
+
+void Baglayici::Bagla(QCheckBox& kutu, OnayKutusu& model, const Isleyici& birakildi) {
+    // First what the click changes, then what the released button does.
+    Bagla(kutu, model);
+    connect(&kutu, &QCheckBox::released, this, [this, &kutu, birakildi] {
+        QMetaObject::invokeMethod(
+            &kutu, [this, birakildi] { Calistir(birakildi); }, Qt::QueuedConnection);
+    });
+}
+
+void Baglayici::Bagla(QRadioButton& dugme, OnayKutusu& model) {
+    connect(&dugme, &QRadioButton::clicked, this, [this, &model] { Calistir([&model] { model.Ata(1); }); });
+    Izle([&dugme, &model] {
+        const QSignalBlocker sus(&dugme);
+        dugme.setChecked(model.deger == 1);
+        dugme.setEnabled(model.etkin);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include <QObject>
@@ -12,8 +13,11 @@
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
+class QDateEdit;
 class QLabel;
 class QLineEdit;
+class QPlainTextEdit;
+class QRadioButton;
 class QTreeWidget;
 
 namespace velora {
@@ -30,14 +34,32 @@ class Baglayici : public QObject {
   public:
     using Isleyici = std::function<void()>;
 
+    /// What a text field tells its screen.
+    struct AlanIsleri {
+        Isleyici degisti; ///< after each change by the user
+        Isleyici odakGitti;
+    };
+
     Baglayici(std::weak_ptr<const void> ekran, QObject* pencere);
     ~Baglayici() override;
     Baglayici(const Baglayici&) = delete;
     Baglayici& operator=(const Baglayici&) = delete;
 
     void Bagla(QCheckBox& kutu, OnayKutusu& model);
-    /// `degisti` runs after each change by the user.
-    void Bagla(QLineEdit& kutu, MetinKutusu& model, const Isleyici& degisti = {});
+    /// A field of one line, with the model's mask if it has one. What the user types or pastes goes through
+    /// `GirdiyiSuz`; a text set by code stands whole.
+    void Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
+    /// A field of many lines. The model's line ends are CR LF.
+    void Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
+    /// An editable list: the text is the model's, `ogeler` is what it offers.
+    void Bagla(QComboBox& kutu, MetinKutusu& model, const std::vector<Metin>& ogeler);
+    void Bagla(QDateEdit& kutu, TarihSecici& model);
+    /// A tick box whose handler also wants to know that the mouse was let go on it.
+    void Bagla(QCheckBox& kutu, OnayKutusu& model, const Isleyici& birakildi);
+    /// One of several exclusive choices.
+    void Bagla(QRadioButton& dugme, OnayKutusu& model);
+    /// The button takes the focus before its handler runs, also when Enter or an access key pressed it: the
+    /// field that was left comes first.
     void Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tiklandi);
     /// A list that hasn't the focus passes the wheel on: it turns what lies under the pointer, not a choice.
     void Bagla(QComboBox& kutu, AcilirListe& model);
@@ -70,9 +92,11 @@ class Baglayici : public QObject {
 
   private:
     void Tazele();
+    void OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyici& odakGitti);
 
     std::weak_ptr<const void> ekran_;
     std::vector<Isleyici> tazeleyenler_;
+    std::unordered_map<const QObject*, Isleyici> odaklananlar_; // what runs when a field is left
 };
 
 } // namespace velora

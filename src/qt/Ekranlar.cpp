@@ -1,6 +1,8 @@
 #include "qt/Ekranlar.h"
 
 #include "qt/QtOrtam.h"
+#include "qt/reservation/KayitPenceresi.h"
+#include "qt/reservation/OdemeAlPenceresi.h"
 #include "qt/table/TabloPenceresi.h"
 
 namespace velora {
@@ -17,6 +19,8 @@ void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
 
 void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
+    Tanit<KayitPenceresi>(ortam, program, EkranAdi::FormKayit);
+    Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
 }
 
 } // namespace velora

@@ -1,5 +1,7 @@
 #include "qt/Gorunum.h"
 
+#include <QWidget>
+
 #include <array>
 #include <utility>
 
@@ -47,6 +49,14 @@ void GorunumuKur() {
     for (const QPalette::ColorRole rol : kSolgunlar)
         palet.setColor(QPalette::Disabled, rol, QColor(kSolgun));
     QApplication::setPalette(palet);
+}
+
+void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk) {
+    if (parca.palette().color(rol) == renk)
+        return;
+    QPalette palet = parca.palette();
+    palet.setColor(rol, renk);
+    parca.setPalette(palet);
 }
 
 } // namespace velora

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QPalette>
+
+class QWidget;
+
 namespace velora {
 
 /// The gap that all distances between widgets are made of, in logical pixels.
@@ -7,5 +11,8 @@ inline constexpr int kAralik = 8;
 
 /// One look for all windows on all systems: style, colours, and the system's interface font at its own size.
 void GorunumuKur();
+
+/// Gives a widget a colour of its own; nothing happens when it has it.
+void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk);
 
 } // namespace velora

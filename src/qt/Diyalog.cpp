@@ -1,0 +1,29 @@
+#include "qt/Diyalog.h"
+
+#include <QCloseEvent>
+#include <QPushButton>
+
+#include "qt/Baglayici.h"
+
+namespace velora {
+
+Diyalog::Diyalog(std::weak_ptr<const void> ekran) : baglayici_(new Baglayici(std::move(ekran), this)) {}
+
+QPushButton* Diyalog::DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi) {
+    auto* dugme = new QPushButton(this);
+    dugme->setObjectName(QString::fromLatin1(ad));
+    baglayici_->Bagla(*dugme, model, tiklandi);
+    return dugme;
+}
+
+void Diyalog::reject() {
+    if (iptal_ != nullptr && iptal_->isEnabled())
+        iptal_->click();
+}
+
+void Diyalog::closeEvent(QCloseEvent* olay) {
+    olay->ignore();
+    reject();
+}
+
+} // namespace velora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QDialog>
+
+class QPushButton;
+
+namespace velora {
+
+class Baglayici;
+struct Dugme;
+
+/// The window of a screen that stands over others. Its X and the Esc key press the screen's own cancel button, and do
+/// nothing while that one is disabled: what closing means is the screen's to say.
+class Diyalog : public QDialog {
+  public:
+    explicit Diyalog(std::weak_ptr<const void> ekran);
+
+    void reject() override;
+
+  protected:
+    Baglayici& Bag() { return *baglayici_; }
+
+    /// A button under the name of its control, bound to it.
+    QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
+    void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
+
+    void closeEvent(QCloseEvent* olay) override;
+
+  private:
+    Baglayici* baglayici_;
+    QPushButton* iptal_ = nullptr;
+};
+
+} // namespace velora

@@ -1,0 +1,63 @@
+#include "qt/reservation/OdemeAlPenceresi.h"
+
+#include <QDateEdit>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
+#include "reservation/FormOdemeAl.h"
+#include "screen/Program.h"
+
+namespace velora {
+
+namespace {
+
+constexpr int kAlanEni = 260;
+
+template <class Parca>
+Parca* AlanEkle(QFormLayout& form, const char* ad, const QString& yazi) {
+    auto* parca = new Parca;
+    parca->setObjectName(QString::fromLatin1(ad));
+    parca->setAccessibleName(QString(yazi).remove(u'&'));
+    parca->setMinimumWidth(kAlanEni);
+    form.addRow(yazi, parca);
+    return parca;
+}
+
+} // namespace
+
+OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdemeAl.Tut()) {
+    const auto tut = program.FormOdemeAl.Tut();
+    FormOdemeAl* ekran = tut.get();
+    auto* sutun = new QVBoxLayout(this);
+    sutun->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
+    sutun->setSpacing(2 * kAralik);
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(kAralik);
+    form->setVerticalSpacing(kAralik);
+    Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih &Seçin")), ekran->DTPicker1);
+    auto* miktar = AlanEkle<QLineEdit>(*form, "Text1", QStringLiteral("&Miktar Girin"));
+    miktar->setAlignment(Qt::AlignRight);
+    Bag().Bagla(*miktar, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
+    Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("&Açıklama")), ekran->Aciklama);
+    auto* dugmeler = new QHBoxLayout;
+    dugmeler->setSpacing(kAralik);
+    dugmeler->addStretch(1);
+    auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    tamam->setDefault(true);
+    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
+    iptal->setAutoDefault(false);
+    IptalDugmesi(iptal);
+    dugmeler->addWidget(tamam);
+    dugmeler->addWidget(iptal);
+    sutun->addLayout(form);
+    sutun->addLayout(dugmeler);
+    setWindowTitle(QMetin(ekran->baslik));
+    miktar->setFocus();
+}
+
+} // namespace velora
