@@ -16,6 +16,7 @@ class QComboBox;
 class QDateEdit;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QPlainTextEdit;
 class QRadioButton;
 class QTreeWidget;
@@ -66,6 +67,8 @@ class Baglayici : public QObject {
     /// `secildi` runs when the user marks another row, `ciftTiklandi` on a double click.
     void Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& secildi = {},
                const Isleyici& ciftTiklandi = {});
+    /// A plain list; `secildi` runs when the user marks another entry.
+    void Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi = {});
     void Bagla(QLabel& etiket, Etiket& model);
     /// A timer that runs as long as the model's interval isn't 0. One that runs is started again only by
     /// another interval. `ad` is its name among the children of the binder.

@@ -3,6 +3,10 @@
 #include "qt/QtOrtam.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "qt/reservation/OdemeAlPenceresi.h"
+#include "qt/setup/AyarlarPenceresi.h"
+#include "qt/setup/MenuPencereleri.h"
+#include "qt/setup/RenkPenceresi.h"
+#include "qt/setup/SalonPencereleri.h"
 #include "qt/table/TabloPenceresi.h"
 
 namespace velora {
@@ -19,6 +23,12 @@ void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
 
 void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
+    Tanit<AyarlarPenceresi>(ortam, program, EkranAdi::FormAyarlar);
+    Tanit<RenkPenceresi>(ortam, program, EkranAdi::FormRenk);
+    Tanit<SalonTanimPenceresi>(ortam, program, EkranAdi::FormSalonTanim);
+    Tanit<SalonAdPenceresi>(ortam, program, EkranAdi::FormSalonTanimAd);
+    Tanit<MenuAyarPenceresi>(ortam, program, EkranAdi::FormMenuAyar);
+    Tanit<MenuEklePenceresi>(ortam, program, EkranAdi::FormMenuEkle);
     Tanit<KayitPenceresi>(ortam, program, EkranAdi::FormKayit);
     Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
 }

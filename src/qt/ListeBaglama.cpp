@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include <QHeaderView>
+#include <QListWidget>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
@@ -67,6 +68,27 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
             SatirlariKoy(liste, model.satirlar);
         konan = model;
         SeciliyiIsaretle(liste, model.secili);
+    });
+}
+
+void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi) {
+    connect(&liste, &QListWidget::currentRowChanged, this, [this, &model, secildi](int sira) {
+        Calistir([&model, &secildi, sira] {
+            model.secili = sira;
+            if (secildi)
+                secildi();
+        });
+    });
+    Izle([&liste, &model, konan = std::vector<Metin>()]() mutable {
+        const QSignalBlocker sus(&liste);
+        if (konan != model.ogeler) {
+            liste.clear();
+            for (const Metin& oge : model.ogeler)
+                liste.addItem(QMetin(oge));
+            konan = model.ogeler;
+        }
+        if (liste.currentRow() != model.secili)
+            liste.setCurrentRow(model.secili);
     });
 }
 

@@ -16,6 +16,7 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/Gorunum.h"
+#include "qt/Yerlesimler.h"
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
 
@@ -61,28 +62,12 @@ QString AlanAdi(const char* dizi, int no) {
     return QString::fromLatin1(dizi) + QString::number(no);
 }
 
-void Adlandir(QWidget& parca, const QString& nesneAdi, QString okunan) {
-    parca.setObjectName(nesneAdi);
-    parca.setAccessibleName(okunan.remove(u'&'));
-}
-
-QFormLayout* FormYap() {
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(kAralik);
-    form->setVerticalSpacing(kAralik);
-    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    return form;
-}
-
 } // namespace
 
 KayitPenceresi::KayitPenceresi(Program& program)
     : Diyalog(program.FormKayit.Tut()), program_(program), tut_(program.FormKayit.Tut()), ekran_(*tut_),
       sayfalar_(new QTabWidget) {
-    auto* sutun = new QVBoxLayout(this);
-    sutun->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
-    sutun->setSpacing(2 * kAralik);
+    QVBoxLayout* sutun = SutunKur(*this);
     sutun->addWidget(sayfalar_);
     sutun->addLayout(Dugmeler());
     sayfalar_->setObjectName(QStringLiteral("SSTab1"));
@@ -103,17 +88,12 @@ KayitPenceresi::KayitPenceresi(Program& program)
 }
 
 QLayout* KayitPenceresi::Dugmeler() {
-    auto* serit = new QHBoxLayout;
-    serit->setSpacing(kAralik);
-    serit->addStretch(1);
     auto* kaydet = DugmeYap("Command1", ekran_.Command1, [this] { ekran_.Command1_Click(); });
     kaydet->setDefault(true);
     auto* kapat = DugmeYap("Command2", ekran_.Command2, [this] { ekran_.Command2_Click(); });
     kapat->setAutoDefault(false);
     IptalDugmesi(kapat);
-    serit->addWidget(kaydet);
-    serit->addWidget(kapat);
-    return serit;
+    return DugmeSeridi({kaydet, kapat});
 }
 
 QWidget* KayitPenceresi::AlanYap(int no) {
@@ -171,7 +151,7 @@ QWidget* KayitPenceresi::GenelSayfasi() {
     auto* sutunlar = new QHBoxLayout(sayfa);
     sutunlar->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
     sutunlar->setSpacing(4 * kAralik);
-    QFormLayout* sol = FormYap();
+    QFormLayout* sol = FormKur();
     auto* tarih = new QLabel;
     Adlandir(*tarih, QStringLiteral("Tarih"), QStringLiteral("Rezervasyon Tarihi"));
     tarih->setTextFormat(Qt::PlainText);
@@ -182,7 +162,7 @@ QWidget* KayitPenceresi::GenelSayfasi() {
     sol->addRow(QStringLiteral("Rezervasyon Tarihi"), tarih);
     for (const AlanYazisi& alan : kSolAlanlar)
         AlanEkle(*sol, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
-    QFormLayout* sag = FormYap();
+    QFormLayout* sag = FormKur();
     for (const AlanYazisi& alan : kSagAlanlar)
         AlanEkle(*sag, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
     sag->addRow(DurumSecimi());
@@ -233,9 +213,7 @@ QWidget* KayitPenceresi::HatirlatmaSecimi() {
 
 QWidget* KayitPenceresi::MenuSayfasi() {
     auto* sayfa = new QWidget;
-    auto* sutun = new QVBoxLayout(sayfa);
-    sutun->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
-    sutun->setSpacing(kAralik);
+    QVBoxLayout* sutun = SutunKur(*sayfa);
     auto* secim = new QComboBox;
     Adlandir(*secim, QStringLiteral("Combo1"), QStringLiteral("Menü"));
     Bag().Bagla(*secim, ekran_.Combo1);

@@ -8,7 +8,7 @@
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
-#include "qt/Gorunum.h"
+#include "qt/Yerlesimler.h"
 #include "reservation/FormOdemeAl.h"
 #include "screen/Program.h"
 
@@ -21,8 +21,7 @@ constexpr int kAlanEni = 260;
 template <class Parca>
 Parca* AlanEkle(QFormLayout& form, const char* ad, const QString& yazi) {
     auto* parca = new Parca;
-    parca->setObjectName(QString::fromLatin1(ad));
-    parca->setAccessibleName(QString(yazi).remove(u'&'));
+    Adlandir(*parca, QString::fromLatin1(ad), yazi);
     parca->setMinimumWidth(kAlanEni);
     form.addRow(yazi, parca);
     return parca;
@@ -33,29 +32,20 @@ Parca* AlanEkle(QFormLayout& form, const char* ad, const QString& yazi) {
 OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdemeAl.Tut()) {
     const auto tut = program.FormOdemeAl.Tut();
     FormOdemeAl* ekran = tut.get();
-    auto* sutun = new QVBoxLayout(this);
-    sutun->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
-    sutun->setSpacing(2 * kAralik);
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(kAralik);
-    form->setVerticalSpacing(kAralik);
+    QVBoxLayout* sutun = SutunKur(*this);
+    QFormLayout* form = FormKur();
     Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih &Seçin")), ekran->DTPicker1);
     auto* miktar = AlanEkle<QLineEdit>(*form, "Text1", QStringLiteral("&Miktar Girin"));
     miktar->setAlignment(Qt::AlignRight);
     Bag().Bagla(*miktar, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
     Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("&Açıklama")), ekran->Aciklama);
-    auto* dugmeler = new QHBoxLayout;
-    dugmeler->setSpacing(kAralik);
-    dugmeler->addStretch(1);
     auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
     tamam->setDefault(true);
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
     iptal->setAutoDefault(false);
     IptalDugmesi(iptal);
-    dugmeler->addWidget(tamam);
-    dugmeler->addWidget(iptal);
     sutun->addLayout(form);
-    sutun->addLayout(dugmeler);
+    sutun->addLayout(DugmeSeridi({tamam, iptal}));
     setWindowTitle(QMetin(ekran->baslik));
     miktar->setFocus();
 }

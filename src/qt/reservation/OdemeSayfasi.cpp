@@ -10,6 +10,7 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/Gorunum.h"
+#include "qt/Yerlesimler.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "reservation/FormKayit.h"
 
@@ -24,9 +25,7 @@ constexpr int kTutarEni = 90;
 
 QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* sayfa = new QWidget;
-    auto* sutun = new QVBoxLayout(sayfa);
-    sutun->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
-    sutun->setSpacing(kAralik);
+    QVBoxLayout* sutun = SutunKur(*sayfa);
     auto* liste = new QTreeWidget;
     liste->setObjectName(QStringLiteral("Liste"));
     liste->setAccessibleName(QStringLiteral("Ödemeler"));

@@ -1,0 +1,165 @@
+#include "qt/setup/AyarlarPenceresi.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
+
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
+#include "qt/Yerlesimler.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "setup/RenkSatirlari.h"
+
+namespace velora {
+
+namespace {
+
+constexpr int kGunEni = 56;
+constexpr QSize kRenkKutusu(56, 22);
+constexpr int kAySutunu = 4; // months in a row
+
+QCheckBox* OnayYap(Baglayici& baglayici, const QString& ad, OnayKutusu& model) {
+    auto* kutu = new QCheckBox(QMetin(model.baslik));
+    Adlandir(*kutu, ad, kutu->text());
+    baglayici.Bagla(*kutu, model);
+    return kutu;
+}
+
+QHBoxLayout* GunSatiri(Baglayici& baglayici, const QString& ad, MetinKutusu& model, const QString& once,
+                       const QString& sonra) {
+    auto* satir = new QHBoxLayout;
+    satir->setSpacing(kAralik);
+    auto* kutu = new QLineEdit;
+    Adlandir(*kutu, ad, once);
+    kutu->setFixedWidth(kGunEni);
+    kutu->setAlignment(Qt::AlignRight);
+    baglayici.Bagla(*kutu, model);
+    satir->addWidget(new QLabel(once));
+    satir->addWidget(kutu);
+    satir->addWidget(new QLabel(sonra));
+    satir->addStretch(1);
+    return satir;
+}
+
+} // namespace
+
+AyarlarPenceresi::AyarlarPenceresi(Program& program) : Diyalog(program.FormAyarlar.Tut()) {
+    const auto tut = program.FormAyarlar.Tut();
+    FormAyarlar* ekran = tut.get();
+    auto* sutun = SutunKur(*this);
+    auto* sayfalar = new QTabWidget;
+    sayfalar->addTab(GenelSayfasi(*ekran), QMetin(ekran->sayfalar[0]));
+    sayfalar->addTab(GorunumSayfasi(*ekran), QMetin(ekran->sayfalar[1]));
+    auto* kaydet = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    kaydet->setDefault(true);
+    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
+    IptalDugmesi(iptal);
+    QHBoxLayout* serit = DugmeSeridi(
+        {kaydet, DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }), iptal});
+    serit->insertWidget(0, DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }));
+    sutun->addWidget(sayfalar, 1);
+    sutun->addLayout(serit);
+    setWindowTitle(QMetin(ekran->baslik));
+}
+
+QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
+    auto* sayfa = new QWidget;
+    auto* sutun = SutunKur(*sayfa);
+    sutun->addLayout(GunSatiri(Bag(), QStringLiteral("UyariGun"), ekran.UyariGun,
+                               QMetin(ekran.uyariGunBaslik), QMetin(ekran.uyariGunSonu)));
+    sutun->addLayout(GunSatiri(Bag(), QStringLiteral("UyariGun2"), ekran.UyariGun2,
+                               QMetin(ekran.uyariGun2Baslik), QMetin(ekran.uyariGunSonu)));
+    sutun->addSpacing(kAralik);
+    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check2"), ekran.Check2));
+    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check7"), ekran.Check7));
+    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check6"), ekran.Check6));
+    sutun->addSpacing(kAralik);
+    auto* sira = new QHBoxLayout;
+    sira->setSpacing(kAralik);
+    auto* liste = new QComboBox;
+    Adlandir(*liste, QStringLiteral("GunduzGece"), QMetin(ekran.gunduzGeceBaslik));
+    Bag().Bagla(*liste, ekran.GunduzGece);
+    sira->addWidget(new QLabel(QMetin(ekran.gunduzGeceBaslik)));
+    sira->addWidget(liste);
+    sira->addStretch(1);
+    sutun->addLayout(sira);
+    sutun->addSpacing(kAralik);
+    sutun->addWidget(AylarKutusu(ekran));
+    sutun->addStretch(1);
+    return sayfa;
+}
+
+QWidget* AyarlarPenceresi::AylarKutusu(FormAyarlar& ekran) {
+    auto* kutu = new QGroupBox;
+    auto* izgara = new QGridLayout(kutu);
+    izgara->setSpacing(kAralik);
+    izgara->addWidget(OnayYap(Bag(), QStringLiteral("Check3"), ekran.Check3), 0, 0, 1, kAySutunu);
+    for (int ay = 1; ay <= BirTabanli<OnayKutusu, 12>::kAdet; ++ay)
+        izgara->addWidget(OnayYap(Bag(), QStringLiteral("Aylar%1").arg(ay), ekran.Aylar[ay]),
+                          1 + (ay - 1) / kAySutunu, (ay - 1) % kAySutunu);
+    return kutu;
+}
+
+QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
+    auto* sayfa = new QWidget;
+    auto* izgara = new QGridLayout(sayfa);
+    izgara->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
+    izgara->setHorizontalSpacing(2 * kAralik);
+    izgara->setVerticalSpacing(kAralik);
+    izgara->addWidget(new QLabel(QMetin(kZeminRengi)), 0, 1);
+    izgara->addWidget(new QLabel(QMetin(kMetinRengi)), 0, 2);
+    int satir = 0;
+    for (const RenkSatiri& renkler : kRenkSatirlari)
+        RenkSatiriEkle(*izgara, ++satir, renkler, ekran);
+    izgara->setColumnStretch(3, 1);
+    izgara->setRowStretch(satir + 1, 1);
+    return sayfa;
+}
+
+void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler,
+                                      FormAyarlar& ekran) {
+    QString yazi = QMetin(renkler.baslik);
+    if (renkler.onay != nullptr) {
+        OnayKutusu& model = ekran.*renkler.onay;
+        yazi = QMetin(model.baslik);
+        const bool gecmis = renkler.onay == &FormAyarlar::Check1;
+        izgara.addWidget(OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), model),
+                         satir, 0);
+    } else {
+        izgara.addWidget(new QLabel(yazi), satir, 0);
+    }
+    izgara.addWidget(RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi), satir, 1);
+    if (renkler.yazi != kRenkYok)
+        izgara.addWidget(RenkKutusu(ekran, renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
+}
+
+QWidget* AyarlarPenceresi::RenkKutusu(FormAyarlar& ekran, int renk, const QString& ipucu,
+                                      const QString& okunan) {
+    auto* kutu = new QToolButton;
+    Adlandir(*kutu, QStringLiteral("Renk%1").arg(renk), okunan + QStringLiteral(", ") + ipucu);
+    kutu->setToolTip(ipucu);
+    kutu->setIconSize(kRenkKutusu);
+    connect(kutu, &QToolButton::clicked, this,
+            [this, &ekran, renk] { Bag().Calistir([&ekran, renk] { ekran.Renk_Click(renk); }); });
+    Bag().Izle([kutu, &ekran, renk, konan = QColor()]() mutable {
+        const QColor simdi = QRenk(ekran.Renk(renk));
+        if (simdi == konan)
+            return;
+        konan = simdi;
+        QPixmap resim(kRenkKutusu);
+        resim.fill(simdi);
+        kutu->setIcon(resim);
+    });
+    return kutu;
+}
+
+} // namespace velora

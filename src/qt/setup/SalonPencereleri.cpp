@@ -1,0 +1,67 @@
+#include "qt/setup/SalonPencereleri.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Yerlesimler.h"
+#include "screen/Program.h"
+#include "setup/FormSalonTanim.h"
+#include "setup/FormSalonTanimAd.h"
+
+namespace velora {
+
+namespace {
+
+constexpr int kAlanEni = 260;
+
+} // namespace
+
+SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : Diyalog(program.FormSalonTanim.Tut()) {
+    const auto tut = program.FormSalonTanim.Tut();
+    FormSalonTanim* ekran = tut.get();
+    auto* sutun = SutunKur(*this);
+    auto* baslik = new QLabel(QMetin(ekran->Label8.baslik));
+    auto* liste = new QListWidget;
+    Adlandir(*liste, QStringLiteral("List1"), baslik->text());
+    Bag().Bagla(*liste, ekran->List1, [ekran] { ekran->List1_Click(); });
+    auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
+    IptalDugmesi(kapat);
+    sutun->addWidget(baslik);
+    sutun->addWidget(liste, 1);
+    sutun->addLayout(
+        DugmeSeridi({DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }),
+                     DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }),
+                     DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }), kapat}));
+    setWindowTitle(QMetin(ekran->baslik));
+    resize(460, 340);
+}
+
+SalonAdPenceresi::SalonAdPenceresi(Program& program) : Diyalog(program.FormSalonTanimAd.Tut()) {
+    const auto tut = program.FormSalonTanimAd.Tut();
+    FormSalonTanimAd* ekran = tut.get();
+    auto* sutun = SutunKur(*this);
+    QFormLayout* form = FormKur();
+    auto* ad = new QLineEdit;
+    Adlandir(*ad, QStringLiteral("Text1"), QMetin(ekran->Label1.baslik));
+    ad->setMinimumWidth(kAlanEni);
+    Bag().Bagla(*ad, ekran->Text1);
+    form->addRow(QMetin(ekran->Label1.baslik), ad);
+    auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    tamam->setDefault(true);
+    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
+    IptalDugmesi(iptal);
+    sutun->addLayout(form);
+    sutun->addStretch(1);
+    sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    setWindowTitle(QMetin(ekran->baslik));
+    ad->setFocus();
+    ad->selectAll();
+}
+
+} // namespace velora
