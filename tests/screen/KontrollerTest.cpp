@@ -37,6 +37,43 @@ TEST_F(AcilirListeTest, Text_of_the_second_of_two_equal_entries_keeps_the_second
     EXPECT_EQ(tik, 1);
 }
 
+TEST_F(AcilirListeTest, EntryTakenOutBeforeTheChosenOneMovesTheChoiceWithItsEntry) {
+    liste.SessizSec(u"C");
+    liste.Sil(0);
+    EXPECT_EQ(liste.secili, 2);
+    EXPECT_EQ(liste.Metni(), u"C");
+    EXPECT_EQ(tik, 0);
+}
+
+TEST_F(AcilirListeTest, ChosenEntryTakenOutLeavesNoneChosenAndAnEmptyField) {
+    liste.MetinAta(u"C");
+    liste.Sil(3);
+    EXPECT_EQ(liste.secili, -1);
+    EXPECT_EQ(liste.Metni(), u"");
+    EXPECT_EQ(tik, 0);
+}
+
+TEST_F(AcilirListeTest, TakingOutWhatIsNotThereChangesNothing) {
+    liste.MetinAta(u"free text");
+    liste.Sil(-1);
+    liste.Sil(4);
+    EXPECT_EQ(liste.ogeler.size(), 4U);
+    EXPECT_EQ(liste.Metni(), u"free text");
+}
+
+TEST(ListeKutusu, MarkFollowsItsEntryWhenOthersAreTakenOut) {
+    ListeKutusu liste{{u"A", u"B", u"C"}, 1};
+    EXPECT_EQ(liste.Metni(), u"B");
+    liste.Sil(2);
+    EXPECT_EQ(liste.Metni(), u"B");
+    liste.Sil(0);
+    EXPECT_EQ(liste.secili, 0);
+    liste.Sil(0);
+    EXPECT_EQ(liste.secili, -1);
+    EXPECT_EQ(liste.Metni(), u"");
+    EXPECT_TRUE(liste.ogeler.empty());
+}
+
 TEST_F(AcilirListeTest, Unlisted_text_or_index_leaves_the_choice_and_runs_nothing) {
     liste.Sec(u"B");
     liste.Sec(u"yok");
