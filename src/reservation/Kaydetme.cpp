@@ -110,7 +110,7 @@ bool FormKayit::NumaraVar(const Metin& no) const {
 }
 
 void FormKayit::KlasoruVeKayitlariYaz() {
-    const Program& p = program_;
+    Program& p = program_;
     {
         const auto tablo = p.FormTablo.Tut();
         p.dosyalar.KlasorYap(p.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()));
