@@ -88,6 +88,13 @@ struct Dugme {
     bool gorunur = true;
 };
 
+/// An entry of a menu.
+struct MenuGirdisi {
+    Metin baslik;
+    bool etkin = true;
+    bool gorunur = true;
+};
+
 /// A list to choose one entry from.
 struct AcilirListe {
     std::vector<Metin> ogeler;
