@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "storage/Metin.h"
+#include "storage/Tarih.h"
 
 namespace velora {
 
@@ -63,6 +64,10 @@ struct MetinKutusu {
     bool kilitli = false;
     bool beyazZemin = true; ///< false: the grey of a field that can't be used
     int enUzun = 0; ///< characters that typing may reach; 0 for no limit. Text set by code stands whole.
+    /// "#" for a digit, all else stands as it is; empty for a box without a mask. `metin` holds the prompt
+    /// signs ("_") too: an empty "##:##" is "__:__".
+    Metin maske;
+    bool odaktaSecilir = false; ///< its whole text is selected when it gets the focus
 };
 
 /// A box with a tick. `deger` is 0 or 1; a file may bring another number, which then stands as it is.
@@ -93,6 +98,10 @@ struct MenuGirdisi {
     Metin baslik;
     bool etkin = true;
     bool gorunur = true;
+};
+
+struct TarihSecici {
+    Gun deger{};
 };
 
 /// A list to choose one entry from.

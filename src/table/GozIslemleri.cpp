@@ -2,6 +2,8 @@
 // behave alike. Free and taken are told by the back colour alone, compared with the colours as they are now.
 #include <algorithm>
 
+#include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Tarih.h"
@@ -13,6 +15,8 @@ namespace velora {
 namespace {
 
 constexpr double kEkranPayi = 100; // twips that the hover label reaches into its cell
+constexpr MetinBakis kGunduzBaslangici = u"11:00";
+constexpr MetinBakis kGeceBaslangici = u"20:00";
 
 bool ZeminlerdenBiri(Program& program, const Hucre& hucre, const auto& zeminler) {
     const auto ayarlar = program.FormAyarlar.Tut();
@@ -55,6 +59,26 @@ bool FormTablo::Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme) {
 
 void FormTablo::Hucre_Click() {
     CetvelSil();
+}
+
+void FormTablo::Hucre_DblClick(SatirAdi satir, int gun) {
+    // By the file, not by the colour: a past reservation opens, a free day has nothing to open.
+    KayitYukle(program_, program_.agac.GunYolu(Salon.Metni(), Sene.Metni(), GozAnahtari(satir, gun)));
+}
+
+void FormTablo::newkay_Click() {
+    if (Kirp(Salon.Metni()).empty()) {
+        program_.ortam.sor.mesaj({.metin = u"Lütfen Önce Salon Tanımı yapınız!", .simge = Simge::Kritik});
+        return;
+    }
+    {
+        const auto kayit = program_.FormKayit.Tut();
+        kayit->Tarih = SeciliTarih;
+        kayit->Kay[8].kilitli = false;
+        kayit->Kay[12].metin =
+            AnahtarDilimi(SeciliTarih) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
+    }
+    program_.FormKayit.GosterModal();
 }
 
 } // namespace velora

@@ -69,7 +69,7 @@ class DosyalarSayfasi : public ::testing::Test {
     Program program{ortam.Ver(), agac.Kok()};
 };
 
-TEST_F(DosyalarSayfasi, EachExampleHoldsAsManyValuesAsItsTableHasFields) {
+TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_fields) {
     EXPECT_EQ(bolumler.size(), 7U);
     for (const auto& [ad, bolum] : bolumler) {
         DegerOkuyucu okuyucu(bolum.ornek);
@@ -78,7 +78,7 @@ TEST_F(DosyalarSayfasi, EachExampleHoldsAsManyValuesAsItsTableHasFields) {
     }
 }
 
-TEST_F(DosyalarSayfasi, ProgramReadsTheExamplesOfTheFirmsFiles) {
+TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
     for (const char16_t* ad : {u"Salon.dat", u"Settings.dll", u"Visible.dll", u"Tatiller.dll"})
         agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
     EXPECT_EQ(program.FormTablo->Salon.ogeler, std::vector<Metin>{u"Gül Salonu"});
@@ -89,7 +89,7 @@ TEST_F(DosyalarSayfasi, ProgramReadsTheExamplesOfTheFirmsFiles) {
     EXPECT_EQ(program.FormTablo->Gozu(10, velora::GunduzGece::Gece, 29).ipucu, u"Cumhuriyet Bayramı");
 }
 
-TEST_F(DosyalarSayfasi, ReadersOfAReservationReadItsThreeExamples) {
+TEST_F(DosyalarSayfasi, Readers_of_a_reservation_read_its_three_examples) {
     agac.Koy(u"a", bolumler["RezervasyonDosyasi"].ornek);
     agac.Koy(u"b", bolumler["DetayDosyasi"].ornek);
     agac.Koy(u"c", bolumler["OdemeDosyasi"].ornek);

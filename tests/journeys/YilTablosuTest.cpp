@@ -34,7 +34,7 @@ class YilTablosu : public ::testing::Test {
     Kullanici kullanici{agac, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
 };
 
-TEST_F(YilTablosu, LookingThroughHallsAndYearsShowsThemAndChangesNoByte) {
+TEST_F(YilTablosu, Looking_through_halls_and_years_shows_them_and_changes_no_byte) {
     kullanici.ProgramiAc();
     const std::string ilkResim = agac.Resim(); // folders of the current year stand by now
     const auto renk = [&](int n) { return kullanici.Prog().FormAyarlar->Renk(n); };
@@ -69,7 +69,7 @@ TEST_F(YilTablosu, LookingThroughHallsAndYearsShowsThemAndChangesNoByte) {
     EXPECT_EQ(agac.Resim(), ilkResim);
 }
 
-TEST_F(YilTablosu, RecordWrittenBesideTheProgramShowsAtTheNextScan) {
+TEST_F(YilTablosu, Record_written_beside_the_program_shows_at_the_next_scan) {
     kullanici.ProgramiAc();
     const Dosyalar dosyalar(agac.Kok());
     const VeriAgaci veri(dosyalar);

@@ -14,7 +14,7 @@ class AcilirListeTest : public ::testing::Test {
     int tik = 0;
 };
 
-TEST_F(AcilirListeTest, ChoosingAnotherEntryRunsTheClickOnce) {
+TEST_F(AcilirListeTest, Choosing_another_entry_runs_the_click_once) {
     liste.Sec(u"B");
     EXPECT_EQ(liste.secili, 1);
     EXPECT_EQ(tik, 1);
@@ -23,21 +23,21 @@ TEST_F(AcilirListeTest, ChoosingAnotherEntryRunsTheClickOnce) {
     EXPECT_EQ(tik, 2);
 }
 
-TEST_F(AcilirListeTest, ChoosingTheSameEntryRunsNothing) {
+TEST_F(AcilirListeTest, Choosing_the_same_entry_runs_nothing) {
     liste.Sec(u"B");
     liste.Sec(u"B");
     liste.Sec(1);
     EXPECT_EQ(tik, 1);
 }
 
-TEST_F(AcilirListeTest, TextOfTheSecondOfTwoEqualEntriesKeepsTheSecond) {
+TEST_F(AcilirListeTest, Text_of_the_second_of_two_equal_entries_keeps_the_second) {
     liste.Sec(2);
     liste.Sec(u"B");
     EXPECT_EQ(liste.secili, 2);
     EXPECT_EQ(tik, 1);
 }
 
-TEST_F(AcilirListeTest, UnlistedTextOrIndexLeavesTheChoiceAndRunsNothing) {
+TEST_F(AcilirListeTest, Unlisted_text_or_index_leaves_the_choice_and_runs_nothing) {
     liste.Sec(u"B");
     liste.Sec(u"yok");
     liste.Sec(-1);
@@ -46,7 +46,7 @@ TEST_F(AcilirListeTest, UnlistedTextOrIndexLeavesTheChoiceAndRunsNothing) {
     EXPECT_EQ(tik, 1);
 }
 
-TEST_F(AcilirListeTest, SilentChoiceRunsNothing) {
+TEST_F(AcilirListeTest, Silent_choice_runs_nothing) {
     liste.SessizSec(u"C");
     EXPECT_EQ(liste.secili, 3);
     liste.SessizSec(u"yok");
@@ -54,7 +54,7 @@ TEST_F(AcilirListeTest, SilentChoiceRunsNothing) {
     EXPECT_EQ(tik, 0);
 }
 
-TEST_F(AcilirListeTest, TextSetAsItStandsMayBeUnlisted) {
+TEST_F(AcilirListeTest, Text_set_as_it_stands_may_be_unlisted) {
     liste.MetinAta(u"başka");
     EXPECT_EQ(liste.secili, -1);
     EXPECT_EQ(liste.Metni(), u"başka");
@@ -64,7 +64,7 @@ TEST_F(AcilirListeTest, TextSetAsItStandsMayBeUnlisted) {
     EXPECT_EQ(tik, 0);
 }
 
-TEST(OnayKutusuTest, ClickRunsOnlyWhenTheValueChanges) {
+TEST(OnayKutusuTest, Click_runs_only_when_the_value_changes) {
     OnayKutusu kutu;
     int tik = 0;
     kutu.tiklandi = [&tik] { ++tik; };
@@ -75,7 +75,7 @@ TEST(OnayKutusuTest, ClickRunsOnlyWhenTheValueChanges) {
     EXPECT_EQ(tik, 1);
 }
 
-TEST(ZamanlayiciTest, TickIsNotEnteredAgainWhileItRuns) {
+TEST(ZamanlayiciTest, Tick_is_not_entered_again_while_it_runs) {
     Zamanlayici zamanlayici;
     int sayac = 0;
     zamanlayici.aralik = 5;
@@ -89,7 +89,7 @@ TEST(ZamanlayiciTest, TickIsNotEnteredAgainWhileItRuns) {
     EXPECT_EQ(sayac, 2);
 }
 
-TEST(ZamanlayiciTest, StoppedTimerDoesNotTick) {
+TEST(ZamanlayiciTest, Stopped_timer_does_not_tick) {
     Zamanlayici zamanlayici;
     int sayac = 0;
     zamanlayici.tik = [&] { ++sayac; };
@@ -97,7 +97,7 @@ TEST(ZamanlayiciTest, StoppedTimerDoesNotTick) {
     EXPECT_EQ(sayac, 0);
 }
 
-TEST(ZamanlayiciTest, TimerThatThrewTicksAgain) {
+TEST(ZamanlayiciTest, Timer_that_threw_ticks_again) {
     Zamanlayici zamanlayici;
     zamanlayici.aralik = 5;
     int sayac = 0;
@@ -110,7 +110,7 @@ TEST(ZamanlayiciTest, TimerThatThrewTicksAgain) {
     EXPECT_EQ(sayac, 2);
 }
 
-TEST(BirTabanliTest, ItemsAreNumberedFromOne) {
+TEST(BirTabanliTest, Items_are_numbered_from_one) {
     BirTabanli<int, 3> dizi;
     int no = 0;
     for (int& oge : dizi)

@@ -43,19 +43,19 @@ class PencereTest : public ::testing::Test {
     Pencere<UstEkran> ust{program, EkranAdi::FormAyarlar};
 };
 
-TEST_F(PencereTest, FirstUseLoadsTheScreenAndLaterUsesDont) {
+TEST_F(PencereTest, First_use_loads_the_screen_and_later_uses_dont) {
     EXPECT_EQ(alt->alan, 7);
     alt->alan = 8;
     EXPECT_EQ(alt->alan, 8);
     EXPECT_EQ(Gunluk(), std::vector<std::string>{"alt yüklendi"});
 }
 
-TEST_F(PencereTest, AskingWhetherItIsLoadedLoadsNothing) {
+TEST_F(PencereTest, Asking_whether_it_is_loaded_loads_nothing) {
     EXPECT_FALSE(alt.Yuklu());
     EXPECT_TRUE(Gunluk().empty());
 }
 
-TEST_F(PencereTest, UnloadDropsWhatItHeldAndTheNextUseLoadsAfresh) {
+TEST_F(PencereTest, Unload_drops_what_it_held_and_the_next_use_loads_afresh) {
     alt->alan = 8;
     alt.Bosalt();
     EXPECT_FALSE(alt.Yuklu());
@@ -64,13 +64,13 @@ TEST_F(PencereTest, UnloadDropsWhatItHeldAndTheNextUseLoadsAfresh) {
     EXPECT_EQ(ortam.gizlenenler, std::vector<EkranAdi>{EkranAdi::FormTablo});
 }
 
-TEST_F(PencereTest, UnloadOfAScreenThatWasNeverLoadedDoesNothing) {
+TEST_F(PencereTest, Unload_of_a_screen_that_was_never_loaded_does_nothing) {
     alt.Bosalt();
     EXPECT_TRUE(ortam.gizlenenler.empty());
     EXPECT_TRUE(Gunluk().empty());
 }
 
-TEST_F(PencereTest, ScreenUnloadedByItsOwnHandlerLivesUntilTheHandlerReturns) {
+TEST_F(PencereTest, Screen_unloaded_by_its_own_handler_lives_until_the_handler_returns) {
     {
         const auto tutulan = alt.Tut();
         alt.Bosalt();
@@ -80,14 +80,14 @@ TEST_F(PencereTest, ScreenUnloadedByItsOwnHandlerLivesUntilTheHandlerReturns) {
     EXPECT_EQ(Gunluk().back(), "alt gitti");
 }
 
-TEST_F(PencereTest, ScreenIsActivatedWhenShownAndWhenTheScreenOverItCloses) {
+TEST_F(PencereTest, Screen_is_activated_when_shown_and_when_the_screen_over_it_closes) {
     alt.Goster();
     ust.GosterModal();
     EXPECT_EQ(Gunluk(),
               (std::vector<std::string>{"alt yüklendi", "alt öne geldi", "üst öne geldi", "alt öne geldi"}));
 }
 
-TEST_F(PencereTest, BoxOverAScreenActivatesNothing) {
+TEST_F(PencereTest, Box_over_a_screen_activates_nothing) {
     alt.Goster();
     Gunluk().clear();
     ortam.Bekle(BeklenenKutu{u"Velora", u"Emin misiniz?", Simge::Soru, Cevap::Evet});
@@ -96,7 +96,7 @@ TEST_F(PencereTest, BoxOverAScreenActivatesNothing) {
     EXPECT_TRUE(Gunluk().empty());
 }
 
-TEST_F(PencereTest, ModalScreenThatUnloadsItselfLeavesTheOneBelowOnTop) {
+TEST_F(PencereTest, Modal_screen_that_unloads_itself_leaves_the_one_below_on_top) {
     alt.Goster();
     ortam.modalda[EkranAdi::FormAyarlar] = [this] {
         ust.Bosalt();
@@ -108,7 +108,7 @@ TEST_F(PencereTest, ModalScreenThatUnloadsItselfLeavesTheOneBelowOnTop) {
     EXPECT_EQ(Gunluk().back(), "alt öne geldi");
 }
 
-TEST_F(PencereTest, ScreenUnloadedByItsOwnActivateIsNotActivatedAgain) {
+TEST_F(PencereTest, Screen_unloaded_by_its_own_Activate_is_not_activated_again) {
     ortam.modalda[EkranAdi::FormAyarlar] = [this] { alt.Bosalt(); };
     alt.Goster();
     Gunluk().clear();
@@ -116,7 +116,7 @@ TEST_F(PencereTest, ScreenUnloadedByItsOwnActivateIsNotActivatedAgain) {
     EXPECT_EQ(Gunluk(), (std::vector<std::string>{"üst öne geldi", "alt gitti"}));
 }
 
-TEST_F(PencereTest, TodayComesFromTheOutsideWorld) {
+TEST_F(PencereTest, Today_comes_from_the_outside_world) {
     EXPECT_EQ(TarihMetni(program.Bugun()), u"15.06.2012");
 }
 

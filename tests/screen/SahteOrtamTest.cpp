@@ -10,7 +10,7 @@ namespace {
 constexpr Gun kGun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}};
 } // namespace
 
-TEST(SahteOrtamTest, UnexpectedBoxFails) {
+TEST(SahteOrtamTest, Unexpected_box_fails) {
     EXPECT_NONFATAL_FAILURE(
         {
             SahteOrtam ortam(kGun);
@@ -19,7 +19,7 @@ TEST(SahteOrtamTest, UnexpectedBoxFails) {
         "unexpected box");
 }
 
-TEST(SahteOrtamTest, BoxThatNeverCameFails) {
+TEST(SahteOrtamTest, Box_that_never_came_fails) {
     EXPECT_NONFATAL_FAILURE(
         {
             SahteOrtam ortam(kGun);
@@ -28,7 +28,7 @@ TEST(SahteOrtamTest, BoxThatNeverCameFails) {
         "never came");
 }
 
-TEST(SahteOrtamTest, DifferentlyWordedBoxFails) {
+TEST(SahteOrtamTest, Differently_worded_box_fails) {
     EXPECT_NONFATAL_FAILURE(
         {
             SahteOrtam ortam(kGun);
@@ -38,7 +38,7 @@ TEST(SahteOrtamTest, DifferentlyWordedBoxFails) {
         "beklenen.metin");
 }
 
-TEST(SahteOrtamTest, QuestionAnsweredLikeAMessageFails) {
+TEST(SahteOrtamTest, Question_answered_like_a_message_fails) {
     EXPECT_NONFATAL_FAILURE(
         {
             SahteOrtam ortam(kGun);
@@ -48,7 +48,7 @@ TEST(SahteOrtamTest, QuestionAnsweredLikeAMessageFails) {
         "other buttons");
 }
 
-TEST(SahteOrtamTest, InputBoxGivesItsScriptedAnswer) {
+TEST(SahteOrtamTest, Input_box_gives_its_scripted_answer) {
     SahteOrtam ortam(kGun);
     ortam.Bekle(BeklenenGirdi{u"Başlık", u"Soru", u"cevap"});
     EXPECT_EQ(ortam.Ver().sor.girdi({u"Soru", u"Başlık", u""}), u"cevap");

@@ -47,13 +47,13 @@ class FormAyarlarTest : public ::testing::Test {
     Program program{ortam.Ver(), agac.Kok()};
 };
 
-TEST_F(FormAyarlarTest, WithNeitherFileAllDefaultsStandAndNoFileIsMade) {
+TEST_F(FormAyarlarTest, With_neither_file_all_defaults_stand_and_no_file_is_made) {
     VarsayilanBekle();
     EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
     EXPECT_FALSE(agac.DosyaVar(u"Visible.dll"));
 }
 
-TEST_F(FormAyarlarTest, BothFilesAreReadFieldByField) {
+TEST_F(FormAyarlarTest, Both_files_are_read_field_by_field) {
     agac.Koy(u"Settings.dll",
              "100,101,102,103,104,105,106,107,108,109,110,111,112,113,114,115,116,117,118,119,120,"
              "121,122,123,124,\"6\",\"a\xFE\",1,0,\"G\xFCnd\xFCz / Gece\",0,0,1\r\n");
@@ -75,17 +75,17 @@ TEST_F(FormAyarlarTest, BothFilesAreReadFieldByField) {
     EXPECT_EQ(Ayarlar().Check4.deger, 0);
 }
 
-TEST_F(FormAyarlarTest, MissingVisibleDropsTheColoursOfAGoodSettingsFileToo) {
+TEST_F(FormAyarlarTest, Missing_visible_drops_the_colours_of_a_good_settings_file_too_on_purpose) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
     VarsayilanBekle();
 }
 
-TEST_F(FormAyarlarTest, MissingSettingsDropsAGoodVisibleFileToo) {
+TEST_F(FormAyarlarTest, Missing_settings_drops_a_good_visible_file_too) {
     agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0,0\r\n");
     VarsayilanBekle();
 }
 
-TEST_F(FormAyarlarTest, ThirtyTwoValuesGiveAllDefaults) {
+TEST_F(FormAyarlarTest, Thirty_two_values_give_all_defaults_on_purpose) {
     Metin kisa = AyarMetni(1, u"77");
     kisa.erase(kisa.rfind(u','));
     agac.KoyMetin(u"Settings.dll", kisa);
@@ -93,7 +93,7 @@ TEST_F(FormAyarlarTest, ThirtyTwoValuesGiveAllDefaults) {
     VarsayilanBekle();
 }
 
-TEST_F(FormAyarlarTest, TwelveMonthValuesGiveAllDefaults) {
+TEST_F(FormAyarlarTest, Twelve_month_values_give_all_defaults) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
     agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0\r\n");
     VarsayilanBekle();
@@ -101,7 +101,7 @@ TEST_F(FormAyarlarTest, TwelveMonthValuesGiveAllDefaults) {
 
 // The first two boxes go through the numeric reader, the others through a plain conversion: the difference is
 // meant.
-TEST_F(FormAyarlarTest, WordInTheFirstBoxIsZeroAndNoError) {
+TEST_F(FormAyarlarTest, Word_in_the_first_box_is_zero_and_no_error_on_purpose) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(28, u"\"abc\""));
     agac.Koy(u"Visible.dll", kHepsiAcik);
     EXPECT_EQ(Ayarlar().Check1.deger, 0);
@@ -111,7 +111,7 @@ TEST_F(FormAyarlarTest, WordInTheFirstBoxIsZeroAndNoError) {
     EXPECT_EQ(Ayarlar().Renk(0), 77);
 }
 
-TEST_F(FormAyarlarTest, WordInAnyOtherNumberGivesAllDefaults) {
+TEST_F(FormAyarlarTest, Word_in_any_other_number_gives_all_defaults) {
     for (const int alan : {1, 25, 31, 32, 33}) {
         agac.KoyMetin(u"Settings.dll",
                       AyarMetni(alan, u"\"abc\"").replace(0, alan == 1 ? 0 : 5, alan == 1 ? u"" : u"77"));
@@ -121,7 +121,7 @@ TEST_F(FormAyarlarTest, WordInAnyOtherNumberGivesAllDefaults) {
     }
 }
 
-TEST_F(FormAyarlarTest, QuotedNumbersCountAsNumbers) {
+TEST_F(FormAyarlarTest, Quoted_numbers_count_as_numbers) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(31, u"\"0\""));
     agac.Koy(u"Visible.dll", "\"1\",0,1,1,1,1,1,1,1,1,1,1,1\r\n");
     EXPECT_EQ(Ayarlar().Check5.deger, 0);
@@ -130,7 +130,7 @@ TEST_F(FormAyarlarTest, QuotedNumbersCountAsNumbers) {
 }
 
 // The master box is set first, and the stored months win over what its click made of them.
-TEST_F(FormAyarlarTest, StoredMonthsWinOverTheMasterBox) {
+TEST_F(FormAyarlarTest, Stored_months_win_over_the_master_box) {
     agac.KoyMetin(u"Settings.dll", AyarMetni());
     agac.Koy(u"Visible.dll", "0,1,1,1,1,1,1,1,1,1,1,1,1\r\n");
     EXPECT_FALSE(Ayarlar().AyGorunur(1));
@@ -141,7 +141,7 @@ TEST_F(FormAyarlarTest, StoredMonthsWinOverTheMasterBox) {
         EXPECT_FALSE(Ayarlar().AyGorunur(ay));
 }
 
-TEST_F(FormAyarlarTest, ThirdTextOfTheSlotOrderIsKeptAndCountsAsEveningOnTop) {
+TEST_F(FormAyarlarTest, Third_text_of_the_slot_order_is_kept_and_counts_as_evening_on_top_on_purpose) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(30, u"\"Akşam önce\""));
     agac.Koy(u"Visible.dll", kHepsiAcik);
     EXPECT_EQ(Ayarlar().GunduzGece.Metni(), u"Akşam önce");
@@ -150,7 +150,7 @@ TEST_F(FormAyarlarTest, ThirdTextOfTheSlotOrderIsKeptAndCountsAsEveningOnTop) {
 }
 
 // Setting the order counts as a change; the flag is cleared last of all.
-TEST_F(FormAyarlarTest, LoadedDayOnTopOrderIsNoChange) {
+TEST_F(FormAyarlarTest, Loaded_day_on_top_order_is_no_change) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(30, u"\"Gündüz / Gece\""));
     agac.Koy(u"Visible.dll", kHepsiAcik);
     EXPECT_TRUE(Ayarlar().GunduzUstte());
@@ -159,7 +159,7 @@ TEST_F(FormAyarlarTest, LoadedDayOnTopOrderIsNoChange) {
     EXPECT_EQ(Ayarlar().Check4.deger, 1);
 }
 
-TEST_F(FormAyarlarTest, MasterBoxTicksAndClearsAllMonths) {
+TEST_F(FormAyarlarTest, Master_box_ticks_and_clears_all_months) {
     Ayarlar().Check3.Ata(0);
     for (int ay = 1; ay <= 12; ++ay)
         EXPECT_FALSE(Ayarlar().AyGorunur(ay));
@@ -168,7 +168,7 @@ TEST_F(FormAyarlarTest, MasterBoxTicksAndClearsAllMonths) {
         EXPECT_TRUE(Ayarlar().AyGorunur(ay));
 }
 
-TEST_F(FormAyarlarTest, NoNumbersAtAllDisablesTheAutomaticOnesAndKeepsTheirValue) {
+TEST_F(FormAyarlarTest, No_numbers_at_all_disables_the_automatic_ones_and_keeps_their_value) {
     Ayarlar().Check7.Ata(1);
     EXPECT_FALSE(Ayarlar().Check2.etkin);
     EXPECT_EQ(Ayarlar().Check2.deger, 1);
@@ -176,13 +176,13 @@ TEST_F(FormAyarlarTest, NoNumbersAtAllDisablesTheAutomaticOnesAndKeepsTheirValue
     EXPECT_TRUE(Ayarlar().Check2.etkin);
 }
 
-TEST_F(FormAyarlarTest, UnloadDropsEditsAndTheNextReadingLoadsTheFilesAgain) {
+TEST_F(FormAyarlarTest, Unload_drops_edits_and_the_next_reading_loads_the_files_again) {
     Ayarlar().Check6.Ata(0);
     program.FormAyarlar.Bosalt();
     EXPECT_EQ(Ayarlar().Check6.deger, 1);
 }
 
-TEST_F(FormAyarlarTest, NegativeAndHugeColoursAreKeptOrRefusedAsWholeNumbers) {
+TEST_F(FormAyarlarTest, Negative_and_huge_colours_are_kept_or_refused_as_whole_numbers) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(5, u"-2147483643"));
     agac.Koy(u"Visible.dll", kHepsiAcik);
     EXPECT_EQ(Ayarlar().Renk(4), -2147483643);
@@ -191,7 +191,7 @@ TEST_F(FormAyarlarTest, NegativeAndHugeColoursAreKeptOrRefusedAsWholeNumbers) {
     VarsayilanBekle();
 }
 
-TEST_F(FormAyarlarTest, GarbageGivesAllDefaults) {
+TEST_F(FormAyarlarTest, Garbage_gives_all_defaults) {
     agac.Koy(u"Settings.dll", std::string(200'000, '"'));
     agac.Koy(u"Visible.dll", std::string(200'000, '\xFF'));
     VarsayilanBekle();

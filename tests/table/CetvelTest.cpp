@@ -12,7 +12,7 @@ class Cetvel : public TabloTest {
     }
 };
 
-TEST_F(Cetvel, OnePickMarksItsHeadAndShowsNoFrame) {
+TEST_F(Cetvel, One_pick_marks_its_head_and_shows_no_frame) {
     kullanici.ProgramiAc();
     kullanici.GunBasligina(5);
     IsaretBekle(5, 0);
@@ -20,7 +20,7 @@ TEST_F(Cetvel, OnePickMarksItsHeadAndShowsNoFrame) {
     EXPECT_EQ(kullanici.Tablo().CetvelTimer.aralik, 0);
 }
 
-TEST_F(Cetvel, SecondPickStartsTheFrameAtTheCrossing) {
+TEST_F(Cetvel, Second_pick_starts_the_frame_at_the_crossing) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
@@ -33,7 +33,7 @@ TEST_F(Cetvel, SecondPickStartsTheFrameAtTheCrossing) {
                                          hucre.genislik + 10, 2 * hucre.yukseklik + 30}));
 }
 
-TEST_F(Cetvel, FrameIsThirtyLowerWithTheDaySlotOnTop) {
+TEST_F(Cetvel, Frame_is_thirty_lower_with_the_day_slot_on_top) {
     AyarKoy(30, u"\"Gündüz / Gece\"");
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
@@ -42,7 +42,7 @@ TEST_F(Cetvel, FrameIsThirtyLowerWithTheDaySlotOnTop) {
               2 * kullanici.Tablo().HucreYeri(OcakGunduz, 1).yukseklik);
 }
 
-TEST_F(Cetvel, SecondClickOnTheSameHeadChangesNothing) {
+TEST_F(Cetvel, Second_click_on_the_same_head_changes_nothing) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
@@ -53,7 +53,7 @@ TEST_F(Cetvel, SecondClickOnTheSameHeadChangesNothing) {
     IsaretBekle(5, 3);
 }
 
-TEST_F(Cetvel, ClickOnAnotherHeadMovesMarkAndFrame) {
+TEST_F(Cetvel, Click_on_another_head_moves_mark_and_frame) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
@@ -62,7 +62,7 @@ TEST_F(Cetvel, ClickOnAnotherHeadMovesMarkAndFrame) {
     EXPECT_EQ(kullanici.Tablo().HizliSecim.yer.sol, kullanici.Tablo().ALabel[9].yer.sol + 20);
 }
 
-TEST_F(Cetvel, FrameBlinksWithItsTimer) {
+TEST_F(Cetvel, Frame_blinks_with_its_timer) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
@@ -72,7 +72,7 @@ TEST_F(Cetvel, FrameBlinksWithItsTimer) {
     EXPECT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
 }
 
-TEST_F(Cetvel, FrameCanStandOverAMonthThatIsOff) {
+TEST_F(Cetvel, Frame_can_stand_over_a_month_that_is_off) {
     AyKapat(3);
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
@@ -82,7 +82,7 @@ TEST_F(Cetvel, FrameCanStandOverAMonthThatIsOff) {
 
 class CetvelSonu : public Cetvel, public ::testing::WithParamInterface<void (*)(Kullanici&)> {};
 
-TEST_P(CetvelSonu, ClearsMarksPicksAndFrame) {
+TEST_P(CetvelSonu, Clears_marks_picks_and_frame) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(CellHallOrYear, CetvelSonu,
                                            [](Kullanici& k) { k.YilSec(u"2013"); }));
 
 // A tick that was already on its way shows the frame once more; the ruler hides it twice for that reason.
-TEST_F(Cetvel, TickThatComesInBetweenLeavesTheFrameHidden) {
+TEST_F(Cetvel, Tick_that_comes_in_between_leaves_the_frame_hidden_on_purpose) {
     for (int nokta = 1; nokta <= 3; ++nokta) {
         kullanici.ProgramiAc();
         kullanici.AyBasligina(3);

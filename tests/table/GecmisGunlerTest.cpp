@@ -26,32 +26,32 @@ class GecmisGunler : public TabloTest {
     }
 };
 
-TEST_F(GecmisGunler, NoDayIsPastOnTheFirstOfJanuary) {
+TEST_F(GecmisGunler, No_day_is_past_on_the_first_of_January) {
     Bugun(2012, 1, 1);
     GecmisBekle(1, 1);
 }
 
-TEST_F(GecmisGunler, JanuaryAndFebruaryArePastOnTheFirstOfMarch) {
+TEST_F(GecmisGunler, January_and_February_are_past_on_the_first_of_March) {
     Bugun(2012, 3, 1);
     GecmisBekle(3, 1);
 }
 
-TEST_F(GecmisGunler, TodayItselfIsNotPast) {
+TEST_F(GecmisGunler, Today_itself_is_not_past) {
     Bugun(2012, 6, 15);
     GecmisBekle(6, 15);
 }
 
-TEST_F(GecmisGunler, NovemberIsPastAndNoDayOfDecemberOnTheFirstOfDecember) {
+TEST_F(GecmisGunler, November_is_past_and_no_day_of_December_on_the_first_of_December) {
     Bugun(2012, 12, 1);
     GecmisBekle(12, 1);
 }
 
-TEST_F(GecmisGunler, FourteenDaysOfDecemberArePastOnTheFifteenth) {
+TEST_F(GecmisGunler, Fourteen_days_of_December_are_past_on_the_fifteenth) {
     Bugun(2012, 12, 15);
     GecmisBekle(12, 15);
 }
 
-TEST_F(GecmisGunler, PastYearIsWhollyPastAndAFutureYearNotAtAll) {
+TEST_F(GecmisGunler, Past_year_is_wholly_past_and_a_future_year_not_at_all) {
     Bugun(2012, 6, 15);
     kullanici.YilSec(u"2011");
     GecmisBekle(13, 1);
@@ -59,7 +59,7 @@ TEST_F(GecmisGunler, PastYearIsWhollyPastAndAFutureYearNotAtAll) {
     GecmisBekle(1, 1);
 }
 
-TEST_F(GecmisGunler, SwitchOffLeavesEveryYearAlone) {
+TEST_F(GecmisGunler, Switch_off_leaves_every_year_alone) {
     AyarKoy(28, u"0");
     Bugun(2012, 6, 15);
     GecmisBekle(1, 1);
@@ -67,14 +67,14 @@ TEST_F(GecmisGunler, SwitchOffLeavesEveryYearAlone) {
     GecmisBekle(1, 1);
 }
 
-TEST_F(GecmisGunler, StoredTwoIsNotOn) {
+TEST_F(GecmisGunler, Stored_two_is_not_on_on_purpose) {
     AyarKoy(28, u"2");
     Bugun(2012, 6, 15);
     GecmisBekle(1, 1);
 }
 
 // A past reservation looks like a past free day; only its tag still tells of it.
-TEST_F(GecmisGunler, PastReservationLosesItsColoursAndKeepsItsTag) {
+TEST_F(GecmisGunler, Past_reservation_loses_its_colours_and_keeps_its_tag_on_purpose) {
     RezervasyonKoy(u"05.01.2012 - Gündüz");
     Bugun(2012, 6, 15);
     EXPECT_TRUE(Gecmis(5, 1));

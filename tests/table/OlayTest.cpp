@@ -19,7 +19,7 @@ class Olay : public TabloTest {
     }
 };
 
-TEST_F(Olay, HallChosenInTheMiddleOfAScanIsTheOneThatShowsInTheEnd) {
+TEST_F(Olay, Hall_chosen_in_the_middle_of_a_scan_is_the_one_that_shows_in_the_end) {
     RezervasyonKoy(u"05.01.2012 - Gündüz");
     agac.KoyMetin(u"Salon B/2012/06.02.2012 - Gece", AnaMetni({.ad = u"B Müşterisi"}));
     agac.KoyMetin(u"Salon B/2012/06.02.2012 - Gece-Detay", DetayMetni(true));
@@ -43,7 +43,7 @@ TEST_F(Olay, HallChosenInTheMiddleOfAScanIsTheOneThatShowsInTheEnd) {
     }
 }
 
-TEST_F(Olay, SettingsAndHolidaysUnloadedInTheMiddleOfAScanLeaveNothingDangling) {
+TEST_F(Olay, Settings_and_holidays_unloaded_in_the_middle_of_a_scan_leave_nothing_dangling) {
     RezervasyonKoy(u"05.01.2012 - Gündüz");
     agac.KoyMetin(u"Tatiller.dll", u"\"06.01.2012\",\"Bayram\",\"Evet\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
@@ -59,7 +59,7 @@ TEST_F(Olay, SettingsAndHolidaysUnloadedInTheMiddleOfAScanLeaveNothingDangling) 
     EXPECT_EQ(kullanici.Goz(6, 1, kGunduz).ipucu, u"Bayram");
 }
 
-TEST_F(Olay, ResizeInTheMiddleOfAResizeWins) {
+TEST_F(Olay, Resize_in_the_middle_of_a_resize_wins) {
     kullanici.ProgramiAc();
     kullanici.Boyutla(1600, 900);
     const Yer beklenen = kullanici.Tablo().HucreYeri(AralikGece, 31);

@@ -20,13 +20,13 @@ class TabloYukleme : public TabloTest {
     }
 };
 
-TEST_F(TabloYukleme, TitleIsTheNameAndTheVersion) {
+TEST_F(TabloYukleme, Title_is_the_name_and_the_version) {
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Tablo().baslik, u"Velora " + Metin(kSurum));
     EXPECT_EQ(kullanici.Tablo().baslik, u"Velora 1.0.0");
 }
 
-TEST_F(TabloYukleme, HallsComeInTheOrderOfTheFileAndBlankOnesAreLeftOut) {
+TEST_F(TabloYukleme, Halls_come_in_the_order_of_the_file_and_blank_ones_are_left_out) {
     agac.KoyMetin(u"Salon.dat",
                   u"\"Çınar. Bahçesi\"\r\n\"  \"\r\n\"\"\r\n\"Gül Salonu\"\r\n\"Gül Salonu\"\r\n");
     kullanici.ProgramiAc();
@@ -35,13 +35,13 @@ TEST_F(TabloYukleme, HallsComeInTheOrderOfTheFileAndBlankOnesAreLeftOut) {
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Çınar. Bahçesi");
 }
 
-TEST_F(TabloYukleme, TrailingBlankLineGivesNoSecondHall) {
+TEST_F(TabloYukleme, Trailing_blank_line_gives_no_second_hall) {
     agac.KoyMetin(u"Salon.dat", u"\"A\"\r\n\r\n");
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Tablo().Salon.ogeler, std::vector<Metin>{u"A"});
 }
 
-TEST_F(TabloYukleme, YearsGoFromTenBeforeToTenAfterTheCurrentOne) {
+TEST_F(TabloYukleme, Years_go_from_ten_before_to_ten_after_the_current_one) {
     kullanici.ProgramiAc();
     const AcilirListe& sene = kullanici.Tablo().Sene;
     ASSERT_EQ(sene.ogeler.size(), 21U);
@@ -50,7 +50,7 @@ TEST_F(TabloYukleme, YearsGoFromTenBeforeToTenAfterTheCurrentOne) {
     EXPECT_EQ(sene.Metni(), u"2012");
 }
 
-TEST_F(TabloYukleme, YearOutsideTheListCantBeSelected) {
+TEST_F(TabloYukleme, Year_outside_the_list_cant_be_selected) {
     kullanici.ProgramiAc();
     const int onceki = kullanici.ortam.olaySayisi;
     kullanici.YilSec(u"2030");
@@ -58,7 +58,7 @@ TEST_F(TabloYukleme, YearOutsideTheListCantBeSelected) {
     EXPECT_EQ(kullanici.ortam.olaySayisi, onceki) << "nothing ran";
 }
 
-TEST_F(TabloYukleme, EveryHallGetsItsFolderAndTheFolderOfTheCurrentYear) {
+TEST_F(TabloYukleme, Every_hall_gets_its_folder_and_the_folder_of_the_current_year) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Çınar. Kır Bahçesi\"\r\n");
     kullanici.ProgramiAc();
     EXPECT_TRUE(agac.KlasorVar(u"Salon A/2012"));
@@ -66,7 +66,7 @@ TEST_F(TabloYukleme, EveryHallGetsItsFolderAndTheFolderOfTheCurrentYear) {
     EXPECT_FALSE(agac.KlasorVar(u"Salon A/2013"));
 }
 
-TEST_F(TabloYukleme, EmptyHallListMakesNoYearFolderInTheRoot) {
+TEST_F(TabloYukleme, Empty_hall_list_makes_no_year_folder_in_the_root) {
     agac.Koy(u"Salon.dat", "");
     kullanici.ProgramiAc();
     EXPECT_FALSE(agac.KlasorVar(u"2012"));
@@ -76,14 +76,14 @@ TEST_F(TabloYukleme, EmptyHallListMakesNoYearFolderInTheRoot) {
 }
 
 // Literal: with no hall the path of the year is a folder directly in the root.
-TEST_F(TabloYukleme, YearClickWithoutAHallMakesTheYearFolderInTheRoot) {
+TEST_F(TabloYukleme, Year_click_without_a_hall_makes_the_year_folder_in_the_root_on_purpose) {
     std::filesystem::remove(agac.Yol(u"Salon.dat"));
     kullanici.ProgramiAc();
     kullanici.YilSec(u"2013");
     EXPECT_TRUE(agac.KlasorVar(u"2013"));
 }
 
-TEST_F(TabloYukleme, YearClickMakesOnlyTheYearFolderOfTheSelectedHall) {
+TEST_F(TabloYukleme, Year_click_makes_only_the_year_folder_of_the_selected_hall) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     kullanici.ProgramiAc();
     kullanici.YilSec(u"2013");
@@ -92,7 +92,7 @@ TEST_F(TabloYukleme, YearClickMakesOnlyTheYearFolderOfTheSelectedHall) {
 }
 
 // A hall folder removed by hand comes back at the next start, not at a change of the year.
-TEST_F(TabloYukleme, YearClickDoesNotBringBackAHallFolderThatIsGone) {
+TEST_F(TabloYukleme, Year_click_does_not_bring_back_a_hall_folder_that_is_gone_on_purpose) {
     kullanici.ProgramiAc();
     std::filesystem::remove_all(agac.Yol(u"Salon A"));
     kullanici.YilSec(u"2013");
@@ -102,23 +102,23 @@ TEST_F(TabloYukleme, YearClickDoesNotBringBackAHallFolderThatIsGone) {
 }
 
 // Selecting the first hall, the scan after it, the reminder look, and the scan that begins the warnings.
-TEST_F(TabloYukleme, StartScansTwiceLooksForRemindersAndScansForTheWarnings) {
+TEST_F(TabloYukleme, Start_scans_twice_looks_for_reminders_and_scans_for_the_warnings_on_purpose) {
     EXPECT_EQ(TaramaSayisi(), 4);
 }
 
-TEST_F(TabloYukleme, StartWithoutAHallScansOnceLooksForRemindersAndScansForTheWarnings) {
+TEST_F(TabloYukleme, Start_without_a_hall_scans_once_looks_for_reminders_and_scans_for_the_warnings) {
     std::filesystem::remove(agac.Yol(u"Salon.dat"));
     EXPECT_EQ(TaramaSayisi(), 3);
 }
 
-TEST_F(TabloYukleme, StartSetsTheSlowClock) {
+TEST_F(TabloYukleme, Start_sets_the_slow_clock) {
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Tablo().Saatsay.aralik, 50'000);
     EXPECT_EQ(kullanici.Tablo().Dklabel, 0);
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 0);
 }
 
-TEST_F(TabloYukleme, ShowingATreeThatWasCarriedOverChangesNoByteOfIt) {
+TEST_F(TabloYukleme, Showing_a_tree_that_was_carried_over_changes_no_byte_of_it) {
     agac.Koy(u"Salon.dat", "\"Salon A\"\r\n\"\xC7\xFDnar. B\xFC\xFC\"\r\n");
     agac.KlasorKoy(u"Çınar. Büü/2012");
     RezervasyonKoy(u"05.01.2012 - Gündüz", {.ad = u"Şükrü Ağaoğlu"}, true);
@@ -132,7 +132,7 @@ TEST_F(TabloYukleme, ShowingATreeThatWasCarriedOverChangesNoByteOfIt) {
     EXPECT_EQ(agac.Resim(), once);
 }
 
-TEST_F(TabloYukleme, ActivateSetsTheWarningColoursAndHidesOnlyAnEmptyPanel) {
+TEST_F(TabloYukleme, Activate_sets_the_warning_colours_and_hides_only_an_empty_panel) {
     AyarKoy(15, u"1234");
     kullanici.ProgramiAc();
     FormTablo& tablo = kullanici.Tablo();
@@ -150,7 +150,7 @@ TEST_F(TabloYukleme, ActivateSetsTheWarningColoursAndHidesOnlyAnEmptyPanel) {
     EXPECT_FALSE(tablo.Picture1.gorunur);
 }
 
-TEST_F(TabloYukleme, ActivateOnlineSetsTheAnnouncementCheckAndOfflineDoesNot) {
+TEST_F(TabloYukleme, Activate_online_sets_the_announcement_check_and_offline_does_not) {
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 0);
     kullanici.Prog().Splash->Check1 = 1;
@@ -158,7 +158,7 @@ TEST_F(TabloYukleme, ActivateOnlineSetsTheAnnouncementCheckAndOfflineDoesNot) {
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
 }
 
-TEST_F(TabloYukleme, ChangeOfHallOrYearGivesTheFocusAwayFromTheLists) {
+TEST_F(TabloYukleme, Change_of_hall_or_year_gives_the_focus_away_from_the_lists) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     kullanici.ProgramiAc();
     kullanici.ortam.odaklar.clear();

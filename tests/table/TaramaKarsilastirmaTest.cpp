@@ -71,7 +71,7 @@ class RastgeleAgac {
 
 class TaramaKarsilastirma : public TabloTest, public ::testing::WithParamInterface<unsigned> {};
 
-TEST_P(TaramaKarsilastirma, FastScanShowsWhatThePlainScanShows) {
+TEST_P(TaramaKarsilastirma, Fast_scan_shows_what_the_plain_scan_shows) {
     RastgeleAgac(agac, GetParam()).Yap();
     kullanici.ProgramiAc();
     FormTablo& tablo = kullanici.Tablo();

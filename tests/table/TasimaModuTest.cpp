@@ -42,7 +42,7 @@ class TasimaModu : public TabloTest {
     }
 };
 
-TEST_F(TasimaModu, MakesTakenCellsOfBothKindsAndSlotsDraggableAndNoFreeOne) {
+TEST_F(TasimaModu, Makes_taken_cells_of_both_kinds_and_slots_draggable_and_no_free_one) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     RezervasyonKoy(u"21.06.2012 - Gündüz", {}, true);
     RezervasyonKoy(u"22.06.2012 - Gece");
@@ -58,7 +58,7 @@ TEST_F(TasimaModu, MakesTakenCellsOfBothKindsAndSlotsDraggableAndNoFreeOne) {
     EXPECT_EQ(kullanici.Tablo().TasimaModuAc.baslik, u"Taşıma Modunu Aç");
 }
 
-TEST_F(TasimaModu, PastReservationIsNotDraggable) {
+TEST_F(TasimaModu, Past_reservation_is_not_draggable) {
     AyarKoy(28, u"1");
     RezervasyonKoy(u"10.06.2012 - Gündüz");
     kullanici.ProgramiAc();
@@ -66,7 +66,7 @@ TEST_F(TasimaModu, PastReservationIsNotDraggable) {
     EXPECT_EQ(Suruklenebilen(), 0);
 }
 
-TEST_F(TasimaModu, OpeningHidesTheHoverLabelAndItStaysHiddenWhileTheModeIsOpen) {
+TEST_F(TasimaModu, Opening_hides_the_hover_label_and_it_stays_hidden_while_the_mode_is_open) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     kullanici.ProgramiAc();
     kullanici.Uzerine({20, 6, kGunduz});
@@ -78,7 +78,7 @@ TEST_F(TasimaModu, OpeningHidesTheHoverLabelAndItStaysHiddenWhileTheModeIsOpen) 
     EXPECT_EQ(kullanici.Tablo().SeciliTarih, u"21.06.2012 - Gündüz");
 }
 
-TEST_F(TasimaModu, NoMenuOpensOnADraggableCell) {
+TEST_F(TasimaModu, No_menu_opens_on_a_draggable_cell) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     kullanici.ProgramiAc();
     kullanici.Tablo().TasimaModuAc_Click();
@@ -86,7 +86,7 @@ TEST_F(TasimaModu, NoMenuOpensOnADraggableCell) {
     EXPECT_TRUE(kullanici.SagTikla({21, 6, kGunduz}));
 }
 
-TEST_F(TasimaModu, DropOnItselfIsRefusedAndClosesTheMode) {
+TEST_F(TasimaModu, Drop_on_itself_is_refused_and_closes_the_mode) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     kullanici.Tablo().TasimaModuAc_Click();
@@ -96,7 +96,7 @@ TEST_F(TasimaModu, DropOnItselfIsRefusedAndClosesTheMode) {
     ModKapaliBekle();
 }
 
-TEST_F(TasimaModu, DropOnATakenCellIsRefusedAndBothReservationsStay) {
+TEST_F(TasimaModu, Drop_on_a_taken_cell_is_refused_and_both_reservations_stay) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     UcDosyaKoy(u"21.06.2012 - Gece", "B");
     kullanici.ProgramiAc();
@@ -109,7 +109,7 @@ TEST_F(TasimaModu, DropOnATakenCellIsRefusedAndBothReservationsStay) {
     EXPECT_FALSE(kullanici.Surukle({20, 6, kGunduz}, {22, 6, kGece})) << "one drop for each mode";
 }
 
-TEST_F(TasimaModu, NoToTheQuestionLeavesAllFilesAndClosesTheMode) {
+TEST_F(TasimaModu, No_to_the_question_leaves_all_files_and_closes_the_mode) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
@@ -120,7 +120,7 @@ TEST_F(TasimaModu, NoToTheQuestionLeavesAllFilesAndClosesTheMode) {
     ModKapaliBekle();
 }
 
-TEST_F(TasimaModu, DropOnTheEveningRowOfTheSameDayMakesItAnEveningReservation) {
+TEST_F(TasimaModu, Drop_on_the_evening_row_of_the_same_day_makes_it_an_evening_reservation) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     kullanici.Tablo().TasimaModuAc_Click();
@@ -133,7 +133,7 @@ TEST_F(TasimaModu, DropOnTheEveningRowOfTheSameDayMakesItAnEveningReservation) {
     ModKapaliBekle();
 }
 
-TEST_F(TasimaModu, TodaysFrameIsTestedAgainAfterAMove) {
+TEST_F(TasimaModu, Todays_frame_is_tested_again_after_a_move) {
     UcDosyaKoy(u"15.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     kullanici.Tablo().Command6();
@@ -148,7 +148,7 @@ TEST_F(TasimaModu, TodaysFrameIsTestedAgainAfterAMove) {
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 300);
 }
 
-TEST_F(TasimaModu, ReservationWithoutPaymentsMovesWithoutThemInSilence) {
+TEST_F(TasimaModu, Reservation_without_payments_moves_without_them_in_silence) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     std::filesystem::remove(agac.Yol(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));
     kullanici.ProgramiAc();
@@ -160,7 +160,7 @@ TEST_F(TasimaModu, ReservationWithoutPaymentsMovesWithoutThemInSilence) {
     DosyaYok(u"20.06.2012 - Gündüz");
 }
 
-TEST_F(TasimaModu, OldPaymentsAtTheTargetStayAndBelongToTheMovedReservationOnPurpose) {
+TEST_F(TasimaModu, Old_payments_at_the_target_stay_and_belong_to_the_moved_reservation_on_purpose) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     std::filesystem::remove(agac.Yol(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));
     agac.Koy(u"Salon A/2012/01.07.2012 - Gündüz-Odeme", "eski odeme");
@@ -171,7 +171,7 @@ TEST_F(TasimaModu, OldPaymentsAtTheTargetStayAndBelongToTheMovedReservationOnPur
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/01.07.2012 - Gündüz-Odeme"), "eski odeme");
 }
 
-TEST_F(TasimaModu, DropOnAPastReservationOverwritesItWithoutARefusalOnPurpose) {
+TEST_F(TasimaModu, Drop_on_a_past_reservation_overwrites_it_without_a_refusal_on_purpose) {
     AyarKoy(28, u"1");
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     UcDosyaKoy(u"10.06.2012 - Gündüz", "B");
@@ -184,7 +184,7 @@ TEST_F(TasimaModu, DropOnAPastReservationOverwritesItWithoutARefusalOnPurpose) {
     DosyaYok(u"20.06.2012 - Gündüz");
 }
 
-TEST_F(TasimaModu, DroppedColourLeavesTakenCellsOpenToADropUntilTheNextScanOnPurpose) {
+TEST_F(TasimaModu, Dropped_colour_leaves_taken_cells_open_to_a_drop_until_the_next_scan_on_purpose) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     UcDosyaKoy(u"21.06.2012 - Gece", "B");
     kullanici.ProgramiAc();
@@ -197,7 +197,7 @@ TEST_F(TasimaModu, DroppedColourLeavesTakenCellsOpenToADropUntilTheNextScanOnPur
     UcDosyaBekle(u"21.06.2012 - Gece", "A");
 }
 
-TEST_F(TasimaModu, DragFlagsStayByPositionOverAChangeOfHallAndADropThenChangesNothing) {
+TEST_F(TasimaModu, Drag_flags_stay_by_position_over_a_change_of_hall_and_a_drop_then_changes_nothing) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
@@ -211,7 +211,7 @@ TEST_F(TasimaModu, DragFlagsStayByPositionOverAChangeOfHallAndADropThenChangesNo
     ModKapaliBekle();
 }
 
-TEST_F(TasimaModu, ScanLeavesTheDragFlagsAlone) {
+TEST_F(TasimaModu, Scan_leaves_the_drag_flags_alone) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     kullanici.ProgramiAc();
     kullanici.Tablo().TasimaModuAc_Click();
@@ -219,7 +219,7 @@ TEST_F(TasimaModu, ScanLeavesTheDragFlagsAlone) {
     EXPECT_EQ(Suruklenebilen(), 1);
 }
 
-TEST_F(TasimaModu, FailedCopyDoesNotKeepTheSourceFromBeingDeletedOnPurpose) {
+TEST_F(TasimaModu, Failed_copy_does_not_keep_the_source_from_being_deleted_on_purpose) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     kullanici.Tablo().TasimaModuAc_Click();
@@ -234,7 +234,7 @@ TEST_F(TasimaModu, FailedCopyDoesNotKeepTheSourceFromBeingDeletedOnPurpose) {
     DosyaYok(u"20.06.2012 - Gündüz");
 }
 
-TEST_F(TasimaModu, CopiesComeBeforeDeletesAndEachGoesMainFileDetailsPayments) {
+TEST_F(TasimaModu, Copies_come_before_deletes_and_each_goes_main_file_details_payments) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     kullanici.Tablo().TasimaModuAc_Click();

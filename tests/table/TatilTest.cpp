@@ -5,7 +5,7 @@ namespace velora::test {
 
 class Tatil : public TabloTest {};
 
-TEST_F(Tatil, YearlyRowMarksItsDayInEveryYear) {
+TEST_F(Tatil, Yearly_row_marks_its_day_in_every_year) {
     agac.KoyMetin(u"Tatiller.dll", u"\"23.04.2010\",\"Ulusal Egemenlik\",\"Evet\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
     for (const MetinBakis yil : {u"2012", u"2005", u"2020"}) {
@@ -17,7 +17,7 @@ TEST_F(Tatil, YearlyRowMarksItsDayInEveryYear) {
     }
 }
 
-TEST_F(Tatil, RowThatIsNotYearlyMarksItsOwnYearOnly) {
+TEST_F(Tatil, Row_that_is_not_yearly_marks_its_own_year_only) {
     agac.KoyMetin(u"Tatiller.dll", u"\"30.08.2012\",\"Zafer\",\"Hayır\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
     RenkBekle(30, 8, kGunduz, 23, 24);
@@ -27,21 +27,21 @@ TEST_F(Tatil, RowThatIsNotYearlyMarksItsOwnYearOnly) {
 }
 
 // Yearly rows are painted first, whatever the order of the list.
-TEST_F(Tatil, RowOfTheYearWinsOverAYearlyRowThatStandsBehindIt) {
+TEST_F(Tatil, Row_of_the_year_wins_over_a_yearly_row_that_stands_behind_it_on_purpose) {
     agac.KoyMetin(u"Tatiller.dll",
                   u"\"01.05.2012\",\"B\",\"Hayır\",\"Özel\"\r\n\"01.05.2000\",\"A\",\"Evet\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Goz(1, 5, kGece).ipucu, u"B");
 }
 
-TEST_F(Tatil, LaterOfTwoYearlyRowsNamesTheDay) {
+TEST_F(Tatil, Later_of_two_yearly_rows_names_the_day) {
     agac.KoyMetin(u"Tatiller.dll",
                   u"\"01.05.2012\",\"B\",\"Evet\",\"Özel\"\r\n\"01.05.2000\",\"A\",\"Evet\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Goz(1, 5, kGece).ipucu, u"A");
 }
 
-TEST_F(Tatil, ReservationOnAHolidayShowsItsColoursAndTheHolidaysName) {
+TEST_F(Tatil, Reservation_on_a_holiday_shows_its_colours_and_the_holidays_name) {
     agac.KoyMetin(u"Tatiller.dll", u"\"23.04.2010\",\"Ulusal Egemenlik\",\"Evet\",\"Genel\"\r\n");
     RezervasyonKoy(u"23.04.2012 - Gece");
     kullanici.ProgramiAc();
@@ -51,7 +51,7 @@ TEST_F(Tatil, ReservationOnAHolidayShowsItsColoursAndTheHolidaysName) {
 }
 
 // With the switch off nothing happens at all: earlier tool tips aren't cleared either.
-TEST_F(Tatil, SwitchedOffLeavesOldToolTipsStandingWithoutColours) {
+TEST_F(Tatil, Switched_off_leaves_old_tool_tips_standing_without_colours_on_purpose) {
     agac.KoyMetin(u"Tatiller.dll", u"\"23.04.2010\",\"Ulusal Egemenlik\",\"Evet\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
     kullanici.Prog().FormAyarlar->Check5.deger = 0;
@@ -60,7 +60,14 @@ TEST_F(Tatil, SwitchedOffLeavesOldToolTipsStandingWithoutColours) {
     EXPECT_EQ(kullanici.Goz(23, 4, kGunduz).ipucu, u"Ulusal Egemenlik");
 }
 
-TEST_F(Tatil, OddDatesAndWordsMarkNothing) {
+TEST_F(Tatil, Stored_two_is_not_off_on_purpose) {
+    agac.KoyMetin(u"Tatiller.dll", u"\"23.04.2010\",\"Ulusal Egemenlik\",\"Evet\",\"Genel\"\r\n");
+    AyarKoy(31, u"2");
+    kullanici.ProgramiAc();
+    RenkBekle(23, 4, kGunduz, 23, 24);
+}
+
+TEST_F(Tatil, Odd_dates_and_words_mark_nothing) {
     agac.KoyMetin(u"Tatiller.dll",
                   u"\"32.04.2012\",\"x\",\"Evet\",\"\"\r\n\"00.04.2012\",\"x\",\"Evet\",\"\"\r\n"
                   u"\"1\",\"x\",\"Evet\",\"\"\r\n\"01.13.2012\",\"x\",\"Evet\",\"\"\r\n"

@@ -19,7 +19,7 @@ class Yerlesim : public TabloTest {
     const TabloSatiri& Sira(SatirAdi ad) { return kullanici.Tablo().satirlar[ad]; }
 };
 
-TEST_F(Yerlesim, ColumnsStandSideBySideFromFourteenHundredOn) {
+TEST_F(Yerlesim, Columns_stand_side_by_side_from_fourteen_hundred_on) {
     Ac();
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
         EXPECT_DOUBLE_EQ(kullanici.Tablo().Gunler[gun].yer.sol, 1400 + gun * kW);
@@ -30,7 +30,7 @@ TEST_F(Yerlesim, ColumnsStandSideBySideFromFourteenHundredOn) {
     }
 }
 
-TEST_F(Yerlesim, EveningOnTopGivesEqualRowsThatOverlapByAHundredAndByTwenty) {
+TEST_F(Yerlesim, Evening_on_top_gives_equal_rows_that_overlap_by_a_hundred_and_by_twenty) {
     Ac();
     for (int ay = 1; ay <= kAySayisi; ++ay) {
         const TabloSatiri& gece = Sira(Satir(ay, kGece));
@@ -45,7 +45,7 @@ TEST_F(Yerlesim, EveningOnTopGivesEqualRowsThatOverlapByAHundredAndByTwenty) {
     }
 }
 
-TEST_F(Yerlesim, DayOnTopGivesALowerDayRowAndOverlapsOfNinetyAndTwenty) {
+TEST_F(Yerlesim, Day_on_top_gives_a_lower_day_row_and_overlaps_of_ninety_and_twenty) {
     AyarKoy(30, u"\"Gündüz / Gece\"");
     Ac();
     for (int ay = 1; ay <= kAySayisi; ++ay) {
@@ -61,7 +61,7 @@ TEST_F(Yerlesim, DayOnTopGivesALowerDayRowAndOverlapsOfNinetyAndTwenty) {
     }
 }
 
-TEST_F(Yerlesim, AnyOtherTextOfTheOrderCountsAsEveningOnTop) {
+TEST_F(Yerlesim, Any_other_text_of_the_order_counts_as_evening_on_top) {
     AyarKoy(30, u"\"gündüz / gece\"");
     Ac();
     EXPECT_LT(Sira(OcakGece).ust, Sira(OcakGunduz).ust);
@@ -69,7 +69,7 @@ TEST_F(Yerlesim, AnyOtherTextOfTheOrderCountsAsEveningOnTop) {
 }
 
 // The order is read at each layout, and nothing lays the table out again by itself.
-TEST_F(Yerlesim, ChangedOrderShowsOnlyAtTheNextLayout) {
+TEST_F(Yerlesim, Changed_order_shows_only_at_the_next_layout_on_purpose) {
     Ac();
     kullanici.Prog().FormAyarlar->GunduzGece.MetinAta(kGunduzGeceSirasi);
     kullanici.Tablo().Command1();
@@ -78,7 +78,7 @@ TEST_F(Yerlesim, ChangedOrderShowsOnlyAtTheNextLayout) {
     EXPECT_LT(Sira(OcakGunduz).ust, Sira(OcakGece).ust);
 }
 
-TEST_F(Yerlesim, MonthHeadsCoverTheirTwoRowsAndCarryNameAndPicture) {
+TEST_F(Yerlesim, Month_heads_cover_their_two_rows_and_carry_name_and_picture) {
     Ac();
     const FormTablo& tablo = kullanici.Tablo();
     for (int ay = 1; ay <= kAySayisi; ++ay) {
@@ -94,7 +94,7 @@ TEST_F(Yerlesim, MonthHeadsCoverTheirTwoRowsAndCarryNameAndPicture) {
     EXPECT_EQ(tablo.AyAdi[12].baslik, u"ARALIK");
 }
 
-TEST_F(Yerlesim, MonthsKeepTheLengthOfTheirYear) {
+TEST_F(Yerlesim, Months_keep_the_length_of_their_year) {
     Ac();
     const std::array<int, 12> gunler{31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     for (int ay = 1; ay <= kAySayisi; ++ay)
@@ -109,14 +109,14 @@ TEST_F(Yerlesim, MonthsKeepTheLengthOfTheirYear) {
     EXPECT_TRUE(kullanici.Goz(28, 2, kGece).gorunur);
 }
 
-TEST_F(Yerlesim, CellsBearTheShortWeekdayNames) {
+TEST_F(Yerlesim, Cells_bear_the_short_weekday_names) {
     Ac();
     const std::array<MetinBakis, 7> adlar{u"Paz", u"Pzt", u"Sal", u"Çar", u"Per", u"Cum", u"Cmt"};
     for (int gun = 1; gun <= 14; ++gun) // 1 January 2012 was a Sunday
         EXPECT_EQ(kullanici.Goz(gun, 1, kGunduz).baslik, adlar[static_cast<std::size_t>((gun - 1) % 7)]);
 }
 
-TEST_F(Yerlesim, MonthThatIsOffLeavesItsBandEmptyAndMovesNoRow) {
+TEST_F(Yerlesim, Month_that_is_off_leaves_its_band_empty_and_moves_no_row) {
     Ac();
     const double haziran = Sira(HaziranGece).ust;
     AyKapat(5);
@@ -132,7 +132,7 @@ TEST_F(Yerlesim, MonthThatIsOffLeavesItsBandEmptyAndMovesNoRow) {
     EXPECT_DOUBLE_EQ(Sira(HaziranGece).ust, haziran);
 }
 
-TEST_F(Yerlesim, ResizeTouchesNoColourAndNoTag) {
+TEST_F(Yerlesim, Resize_touches_no_colour_and_no_tag) {
     RezervasyonKoy(u"05.01.2012 - Gündüz");
     Ac();
     const auto once = kullanici.Tablo().satirlar;
@@ -146,7 +146,7 @@ TEST_F(Yerlesim, ResizeTouchesNoColourAndNoTag) {
         }
 }
 
-TEST_F(Yerlesim, TodaysFrameStandsOnTheUpperRowOfTheMonth) {
+TEST_F(Yerlesim, Todays_frame_stands_on_the_upper_row_of_the_month) {
     Ac();
     EXPECT_EQ(kullanici.Tablo().BuGun.yer,
               (Yer{1400 + 15 * kW, Sira(HaziranGece).ust + 10, kW + 10, 2 * kH}));
@@ -156,14 +156,14 @@ TEST_F(Yerlesim, TodaysFrameStandsOnTheUpperRowOfTheMonth) {
               (Yer{1400 + 15 * kW, Sira(HaziranGunduz).ust, kW + 10, 2 * (kH - 20)}));
 }
 
-TEST_F(Yerlesim, WarningPanelIsCentred) {
+TEST_F(Yerlesim, Warning_panel_is_centred) {
     kullanici.ProgramiAc();
     kullanici.Tablo().Picture1.yer.genislik = 6000;
     kullanici.Tablo().Resize(kIcGenislik, kIcYukseklik);
     EXPECT_DOUBLE_EQ(kullanici.Tablo().Picture1.yer.sol, kIcGenislik / 2 - 3000);
 }
 
-TEST_F(Yerlesim, InnerLengthsThatAreAskedForFillTheGivenOnes) {
+TEST_F(Yerlesim, Inner_lengths_that_are_asked_for_fill_the_given_ones) {
     for (const MetinBakis sira : {u"\"Gündüz / Gece\"", u"\"Gece / Gündüz\""}) {
         AyarKoy(30, sira);
         kullanici.ProgramiAc();

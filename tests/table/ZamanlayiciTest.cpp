@@ -9,7 +9,7 @@ class TabloZamanlayici : public TabloTest {
     int GunAraligi() { return kullanici.Tablo().GunTimer.aralik; }
 };
 
-TEST_F(TabloZamanlayici, SlowClockStartsTheCheckAtItsFourthTickAndThenAtEveryFourth) {
+TEST_F(TabloZamanlayici, Slow_clock_starts_the_check_at_its_fourth_tick_and_then_at_every_fourth_on_purpose) {
     kullanici.ProgramiAc();
     FormTablo& tablo = kullanici.Tablo();
     for (int tur = 0; tur < 2; ++tur) {
@@ -26,7 +26,7 @@ TEST_F(TabloZamanlayici, SlowClockStartsTheCheckAtItsFourthTickAndThenAtEveryFou
     }
 }
 
-TEST_F(TabloZamanlayici, FirstCheckComesAfterAboutTwoHundredSeconds) {
+TEST_F(TabloZamanlayici, First_check_comes_after_about_two_hundred_seconds) {
     kullanici.ProgramiAc();
     kullanici.Bekle(199'000);
     EXPECT_EQ(kullanici.Tablo().Dklabel, 3);
@@ -34,14 +34,14 @@ TEST_F(TabloZamanlayici, FirstCheckComesAfterAboutTwoHundredSeconds) {
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
 }
 
-TEST_F(TabloZamanlayici, TodaysFrameIsSteadyFromTheFirstLayoutThoughTodayMayBeTaken) {
+TEST_F(TabloZamanlayici, Todays_frame_is_steady_from_the_first_layout_though_today_may_be_taken_on_purpose) {
     RezervasyonKoy(u"15.06.2012 - Gece");
     kullanici.ProgramiAc();
     EXPECT_TRUE(BuGunGorunur());
     EXPECT_EQ(GunAraligi(), 0) << "only a save, a move or a cancellation asks whether today is taken";
 }
 
-TEST_F(TabloZamanlayici, FrameBlinksWhenOneSlotOfTodayIsTakenAndIsSteadyWhenNone) {
+TEST_F(TabloZamanlayici, Frame_blinks_when_one_slot_of_today_is_taken_and_is_steady_when_none) {
     for (const MetinBakis ad : {u"15.06.2012 - Gece", u"15.06.2012 - Gündüz"}) {
         RezervasyonKoy(Metin(ad));
         kullanici.ProgramiAc();
@@ -58,7 +58,7 @@ TEST_F(TabloZamanlayici, FrameBlinksWhenOneSlotOfTodayIsTakenAndIsSteadyWhenNone
     }
 }
 
-TEST_F(TabloZamanlayici, ChangeOfHallDoesNotAskWhetherTodayIsTaken) {
+TEST_F(TabloZamanlayici, Change_of_hall_does_not_ask_whether_today_is_taken_on_purpose) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     RezervasyonKoy(u"15.06.2012 - Gece");
     kullanici.ProgramiAc();
@@ -67,7 +67,7 @@ TEST_F(TabloZamanlayici, ChangeOfHallDoesNotAskWhetherTodayIsTaken) {
     EXPECT_EQ(GunAraligi(), 300);
 }
 
-TEST_F(TabloZamanlayici, FrameIsHiddenInAnotherYearAndComesBackOnlyWithThePointer) {
+TEST_F(TabloZamanlayici, Frame_is_hidden_in_another_year_and_comes_back_only_with_the_pointer_on_purpose) {
     kullanici.ProgramiAc();
     kullanici.YilSec(u"2013");
     EXPECT_FALSE(BuGunGorunur());
@@ -79,7 +79,7 @@ TEST_F(TabloZamanlayici, FrameIsHiddenInAnotherYearAndComesBackOnlyWithThePointe
     EXPECT_TRUE(BuGunGorunur());
 }
 
-TEST_F(TabloZamanlayici, RunningTimerShowsNothingInAnotherYearAndBringsTheFrameBackInThisOne) {
+TEST_F(TabloZamanlayici, Running_timer_shows_nothing_in_another_year_and_brings_the_frame_back_in_this_one) {
     RezervasyonKoy(u"15.06.2012 - Gece");
     kullanici.ProgramiAc();
     kullanici.Tablo().Command6();
@@ -94,7 +94,7 @@ TEST_F(TabloZamanlayici, RunningTimerShowsNothingInAnotherYearAndBringsTheFrameB
 }
 
 // After a save in another year the frame shows until the next bare pointer move.
-TEST_F(TabloZamanlayici, AskingWhetherTodayIsTakenShowsTheFrameInAnotherYearToo) {
+TEST_F(TabloZamanlayici, Asking_whether_today_is_taken_shows_the_frame_in_another_year_too_on_purpose) {
     kullanici.ProgramiAc();
     kullanici.YilSec(u"2013");
     kullanici.Tablo().Command6();
@@ -103,7 +103,7 @@ TEST_F(TabloZamanlayici, AskingWhetherTodayIsTakenShowsTheFrameInAnotherYearToo)
     EXPECT_FALSE(BuGunGorunur());
 }
 
-TEST_F(TabloZamanlayici, PointerOnTheBareScreenHidesTheHoverLabel) {
+TEST_F(TabloZamanlayici, Pointer_on_the_bare_screen_hides_the_hover_label) {
     kullanici.ProgramiAc();
     kullanici.Tablo().Ekran.gorunur = true;
     kullanici.ImleciBosaGotur();

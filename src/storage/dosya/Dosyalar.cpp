@@ -161,7 +161,8 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
 }
 
 void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
-                          const std::function<void(const OkunanDosya&)>& ver) const {
+                          const std::function<void(const OkunanDosya&)>& ver,
+                          const std::function<bool(MetinBakis ad)>& istenen) const {
     struct Okuma {
         explicit Okuma(const std::filesystem::path& yol) : klasor(yol) {}
         sistem::Klasor klasor;
@@ -178,6 +179,8 @@ void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
     });
     for (std::size_t i = 0; okuma && i < okuma->adlar.Sayi(); ++i) {
         const MetinBakis ad = okuma->adlar[i];
+        if (istenen && !istenen(ad))
+            continue;
         const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
             if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
                 return {};

@@ -50,9 +50,11 @@ class Dosyalar {
     };
 
     /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok`
-    /// limits what is read of each file, so that a huge stray file costs neither memory nor time.
+    /// limits what is read of each file, so that a huge stray file costs neither memory nor time. A name that
+    /// `istenen` says no to is passed over and not opened.
     void KlasoruOku(const Metin& klasor, std::size_t enCok,
-                    const std::function<void(const OkunanDosya&)>& ver) const;
+                    const std::function<void(const OkunanDosya&)>& ver,
+                    const std::function<bool(MetinBakis ad)>& istenen = {}) const;
 
     /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
     /// new one goes over it in a single write, filled up with line ends to the old length, and then the file

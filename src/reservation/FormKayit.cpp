@@ -1,0 +1,189 @@
+#include "reservation/FormKayit.h"
+
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "storage/Sayi.h"
+#include "storage/YazimBicimi.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+constexpr std::array<MetinBakis, 8> kNitelikler{kNitelikSeciniz, u"Düğün",   u"Nişan",     u"Sünnet",
+                                                u"Toplantı",     u"Kokteyl", u"Konferans", u"Diğer"};
+constexpr MetinBakis kSaatMaskesi = u"##:##";
+constexpr MetinBakis kTarihMaskesi = u"##.##.####";
+constexpr int kOdemelerSayfasi = 2;
+
+void Ac(MetinKutusu& kutu, bool acik) {
+    kutu.etkin = kutu.beyazZemin = acik;
+}
+
+} // namespace
+
+FormKayit::FormKayit(Program& program) : program_(program) {
+    for (const MetinBakis nitelik : kNitelikler)
+        Kay4Listesi.emplace_back(nitelik);
+    Kay[4].metin = kNitelikSeciniz;
+    for (const int no : {12, 15}) {
+        Kay[no].maske = kSaatMaskesi;
+        Kay[no].metin = kBosSaat;
+    }
+    for (const int no : {13, 18}) {
+        Kay[no].maske = kTarihMaskesi;
+        Kay[no].metin = kBosTarih;
+    }
+    for (const int no : {1, 2, 3, 5, 6, 8, 12, 13, 15, 16, 17})
+        Kay[no].odaktaSecilir = true;
+    Kay[8].enUzun = 6;
+    Kay[16].enUzun = 11;
+    Kay[9].kilitli = Kay[10].kilitli = true;
+    SozlesmeNoAc(false);
+    Ac(Kay[18], false);
+    Option1.deger = Check18.deger = 1;
+    Option1.tiklandi = [this] { Option2.Ata(Option1.deger == 1 ? 0 : Option2.deger); };
+    Option2.tiklandi = [this] { Option1.Ata(Option2.deger == 1 ? 0 : Option1.deger); };
+    Check19.tiklandi = [this] { Check19_Change(); };
+    for (int no = 1; no <= kHizmetSayisi; ++no) {
+        Check[no].tiklandi = [this, no] { Check_Change(no); };
+        TT[no].enUzun = 75;
+        Ac(TT[no], false);
+    }
+    Aciklamalar.enUzun = Label20.enUzun = 5000;
+    Combo1.tiklandi = [this] { Combo1_Click(); };
+    Liste.basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
+}
+
+void FormKayit::Load() {
+    program_.FormTablo->CetvelSil();
+    if (KayitAc == 0)
+        Kay[13].metin = TarihMetni(program_.Bugun());
+    if (MenuleriOku()) {
+        if (KayitAc == 0)
+            Combo1.Sec(0);
+        if (SozlesmeNoOner())
+            return;
+    }
+    // One way out for whatever failed: the counter too, when only the menus are missing.
+    Kay[14].metin = u"1";
+    if (program_.FormAyarlar->Check2.deger != 1)
+        SozlesmeNoAc(true);
+}
+
+bool FormKayit::MenuleriOku() {
+    Combo1.ogeler.emplace_back(kMenuSeciniz);
+    ListCombo1.emplace_back();
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Menuler.dat"));
+    if (!bayt)
+        return false;
+    DegerOkuyucu okuyucu(*bayt);
+    Metin ad;
+    Metin icerik;
+    while (!okuyucu.Sonda()) {
+        if (okuyucu.Oku(ad, icerik) != 2)
+            return false;
+        if (ad.empty())
+            continue;
+        Combo1.ogeler.push_back(ad);
+        ListCombo1.push_back(icerik);
+    }
+    return true;
+}
+
+bool FormKayit::SozlesmeNoOner() {
+    const auto ayarlar = program_.FormAyarlar.Tut();
+    if (ayarlar->Check2.deger != 1)
+        SozlesmeNoAc(true);
+    if (ayarlar->Check7.deger == 1) {
+        SozlesmeNoAc(false);
+        Kay[14].metin.clear();
+        return true;
+    }
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Count.dat"));
+    Metin sonNo;
+    if (!bayt || !DegerOkuyucu(*bayt).Oku(sonNo))
+        return false;
+    Kay[14].metin = DuzMetin(SayisalDeger(sonNo) + 1);
+    return true;
+}
+
+void FormKayit::SozlesmeNoAc(bool acik) {
+    Kay[14].kilitli = !acik;
+    Kay[14].beyazZemin = acik;
+}
+
+void FormKayit::Activate() {
+    if (KayitAc == 1) {
+        SozlesmeNoAc(false);
+        Kay[8].kilitli = program_.FormTablo->TutarDegistir == 0;
+        baslik = u"Kayıt Düzenle";
+        Command1.baslik = u"Kaydet";
+        Command1.ipucu = u"Değişiklikleri Kaydet";
+        Command2.ipucu = u"Değişiklikleri Kaydetmeden Kapat";
+    }
+    Command9.etkin = Command7.etkin = false;
+    Command12();
+}
+
+void FormKayit::Command2_Click() {
+    Program& p = program_;
+    if (KayitAc == 0 && Basildi == 0 &&
+        p.ortam.sor.mesaj({u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                           u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
+                           u"Uyarı", Simge::Uyari, KutuDugmeleri::EvetHayir}) != Cevap::Evet)
+        return;
+    p.FormKayit.Bosalt();
+}
+
+void FormKayit::Check_Change(int no) {
+    const bool acik = Check[no].deger == 1;
+    Ac(TT[no], acik);
+    if (!acik)
+        TT[no].metin.clear();
+}
+
+void FormKayit::Check_MouseUp(int no) {
+    if (Check[no].deger == 1)
+        program_.ortam.odak.ver(EkranAdi::FormKayit, u"TT" + SayiMetni(no));
+}
+
+void FormKayit::Check19_Change() {
+    Ac(Kay[18], Check19.deger == 1);
+}
+
+void FormKayit::Check19_MouseUp() {
+    if (Check19.deger == 1)
+        program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay18");
+}
+
+void FormKayit::Combo1_Click() {
+    if (Combo1.secili >= 0)
+        Label20.metin = ListCombo1[static_cast<std::size_t>(Combo1.secili)];
+}
+
+void FormKayit::Kay8_LostFocus() {
+    Command12();
+}
+
+void FormKayit::Kay9_LostFocus() {
+    Kay[10].metin = DuzMetin(SayisalDeger(Kay[8].metin) - SayisalDeger(Kay[9].metin));
+}
+
+void FormKayit::Kay12_LostFocus() {
+    constexpr double kSonSaat = 23;
+    constexpr double kSonDakika = 59;
+    Metin& saat = Kay[12].metin;
+    const auto parca = [&saat](std::size_t ilk) { return Metin(Parca(saat, ilk, 2)); };
+    // Both rules in turn, each on what the one before has left.
+    if (SayisalDeger(parca(1)) > kSonSaat)
+        saat = u"00:" + parca(4);
+    if (SayisalDeger(parca(4)) > kSonDakika)
+        saat = parca(1) + u":00";
+}
+
+void FormKayit::Command4_Click() {
+    SSTab1 = kOdemelerSayfasi;
+}
+
+} // namespace velora

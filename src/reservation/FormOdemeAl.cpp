@@ -1,0 +1,35 @@
+#include "reservation/FormOdemeAl.h"
+
+#include "reservation/FormKayit.h"
+#include "screen/Program.h"
+#include "storage/Sayi.h"
+
+namespace velora {
+
+FormOdemeAl::FormOdemeAl(Program& program) : program_(program) {
+    Text1.enUzun = 6;
+}
+
+void FormOdemeAl::Load() {
+    DTPicker1.deger = program_.Bugun();
+    const auto kayit = program_.FormKayit.Tut();
+    Aciklama.metin = kayit->Kay[14].metin + u" - " + kayit->Kay[1].metin;
+}
+
+void FormOdemeAl::Text1_Change() {
+    Command1.etkin = !Kirp(Text1.metin).empty();
+}
+
+void FormOdemeAl::Command1_Click() {
+    Program& p = program_;
+    if (const double tutar = SayisalDeger(Text1.metin); tutar > 0)
+        p.FormKayit->Liste.satirlar.push_back(
+            {{TarihMetni(DTPicker1.deger), DuzMetin(tutar), Aciklama.metin}, {}, 0});
+    p.FormOdemeAl.Bosalt();
+}
+
+void FormOdemeAl::Command2_Click() {
+    program_.FormOdemeAl.Bosalt();
+}
+
+} // namespace velora

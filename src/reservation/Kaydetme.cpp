@@ -1,0 +1,163 @@
+// The save: from the fields to the three files of the reservation and the counter.
+#include "reservation/FormKayit.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "storage/Harf.h"
+#include "storage/YazimBicimi.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+struct AlanKontrolu {
+    int no;             ///< of the field
+    MetinBakis olmayan; ///< the trimmed text that isn't taken
+    const char16_t* mesaj;
+};
+
+/// In the order of the questions. Only a wholly empty mask is refused; a field that is off isn't asked.
+constexpr std::array<AlanKontrolu, 6> kKontroller{{
+    {12, kBosSaat, u"Lütfen başlama saatini giriniz!"},
+    {15, kBosSaat, u"Lütfen bitiş saatini giriniz!"},
+    {13, kBosTarih, u"Lütfen sözleşme tarihini giriniz!"},
+    {1, u"", u"Lütfen adı soyadı giriniz!"},
+    {4, kNitelikSeciniz, u"Lütfen niteliği seçiniz!"},
+    {18, kBosTarih, u"Lütfen bu tarihte hatırlatın tarihini giriniz!"},
+}};
+
+constexpr int kNumaraSirasi = 14;
+constexpr std::size_t kEnCokOkunan = std::size_t{1} << 20;
+
+} // namespace
+
+void FormKayit::Command1_Click() {
+    Program& p = program_;
+    if (!AlanlarTamam())
+        return;
+    for (const int no : {1, 2, 3, 7})
+        Kay[no].metin = BuyukBas(Kay[no].metin);
+    if (!NumaraUygun())
+        return;
+    KlasoruVeKayitlariYaz();
+    Kaydet();
+    p.OlaylariIsle();
+    if (KayitAc == 0 && p.FormAyarlar->Check7.deger != 1)
+        SayaciYaz();
+    p.OlaylariIsle();
+    Basildi = 1;
+    p.FormKayit.Bosalt();
+    p.OlaylariIsle();
+    const auto tablo = p.FormTablo.Tut();
+    if (tablo->Picture1.gorunur)
+        tablo->UyariGoster();
+    p.OlaylariIsle();
+    tablo->Command1();
+    p.OlaylariIsle();
+    tablo->Command6();
+    p.OlaylariIsle();
+}
+
+void FormKayit::Command11() {
+    if (!NumaraUygun())
+        return;
+    KlasoruVeKayitlariYaz();
+    if (KayitAc != 0)
+        return;
+    program_.dosyalar.Ekle(GunYolu() + Metin(kOdemeEki), {});
+    SayaciYaz();
+}
+
+bool FormKayit::AlanlarTamam() {
+    for (const auto& [no, olmayan, mesaj] : kKontroller)
+        if (Kay[no].etkin && Kirp(Kay[no].metin) == olmayan) {
+            AlanaDon(no, mesaj);
+            return false;
+        }
+    return true;
+}
+
+void FormKayit::AlanaDon(int no, const Metin& mesaj) {
+    program_.ortam.sor.mesaj({mesaj});
+    program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay" + SayiMetni(no));
+}
+
+bool FormKayit::NumaraUygun() {
+    // Only a new number can be taken twice: that of an existing record is locked.
+    if (KayitAc != 0 || !NumaraVar(Kay[kNumaraSirasi].metin))
+        return true;
+    AlanaDon(kNumaraSirasi, u"Bu sözleşme numarası ile kayıtlı bir sözleşme var!\n"
+                            u"Lütfen farklı bir sözleşme numarası giriniz.");
+    return false;
+}
+
+/// The rule walks all halls and years, but reads each name in the selected folder: a name that isn't there
+/// can't be read, and a number found twice is found all the same. So one pass over that folder is enough.
+/// Payments and expenses are read as main records too: of these, the amount of the fifth payment counts.
+bool FormKayit::NumaraVar(const Metin& no) const {
+    bool var = false;
+    Metin okunan;
+    const auto tablo = program_.FormTablo.Tut();
+    program_.dosyalar.KlasoruOku(
+        program_.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()), kEnCokOkunan,
+        [&](const Dosyalar::OkunanDosya& dosya) {
+            DegerOkuyucu okuyucu(dosya.bayt);
+            if (okuyucu.Atla(kNumaraSirasi - 1) == kNumaraSirasi - 1 && okuyucu.Oku(okunan))
+                var = var || (!Kirp(okunan).empty() && okunan == no);
+        },
+        [](MetinBakis ad) { return !ad.ends_with(u"Detay"); });
+    return var;
+}
+
+void FormKayit::KlasoruVeKayitlariYaz() {
+    Program& p = program_;
+    {
+        const auto tablo = p.FormTablo.Tut();
+        p.dosyalar.KlasorYap(p.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()));
+    }
+    for (MetinKutusu& kutu : Kay)
+        kutu.metin = AnaTemizle(kutu.metin);
+    p.OlaylariIsle();
+    AnaYaz(p.dosyalar, KayitAc == 0 ? GunYolu() : Tag, Ana());
+    p.OlaylariIsle();
+    const Metin yol(Kirp(Tag));
+    DetayYaz(p.dosyalar, (KayitAc == 0 || yol.empty() ? GunYolu() : yol) + Metin(kDetayEki), Detay());
+    p.OlaylariIsle();
+}
+
+AnaKayit FormKayit::Ana() const {
+    AnaKayit kayit;
+    for (int no = 1; no <= kKaySayisi; ++no)
+        kayit.kay[static_cast<std::size_t>(no - 1)] = Kay[no].metin;
+    kayit.check18 = Check18.deger;
+    kayit.check19 = Check19.deger;
+    return kayit;
+}
+
+DetayKaydi FormKayit::Detay() const {
+    DetayKaydi kayit;
+    for (int no = 1; no <= kHizmetSayisi; ++no) {
+        const auto sira = static_cast<std::size_t>(no - 1);
+        kayit.check[sira] = Check[no].deger;
+        kayit.tt[sira] = TT[no].metin;
+    }
+    kayit.aciklamalar = Aciklamalar.metin;
+    kayit.option1 = Option1.deger == 1;
+    kayit.option2 = Option2.deger == 1;
+    kayit.combo1 = Combo1.Metni();
+    kayit.label20 = Label20.metin;
+    return kayit;
+}
+
+Metin FormKayit::GunYolu() const {
+    const auto tablo = program_.FormTablo.Tut();
+    return program_.agac.GunYolu(tablo->Salon.Metni(), tablo->Sene.Metni(), Tarih);
+}
+
+void FormKayit::SayaciYaz() const {
+    DegerYazici yazici;
+    yazici.Yaz(Kay[kNumaraSirasi].metin);
+    program_.dosyalar.Yaz(program_.agac.KokYolu(u"Count.dat"), yazici.Bayt());
+}
+
+} // namespace velora

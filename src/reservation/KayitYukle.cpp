@@ -1,0 +1,71 @@
+#include "reservation/KayitYukle.h"
+
+#include "reservation/FormKayit.h"
+#include "screen/Program.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+/// A box takes 0 and 1. Anything else is passed over, as a box that can't hold it does.
+void OnayAta(OnayKutusu& kutu, MetinBakis deger) {
+    if (deger == u"0" || deger == u"1")
+        kutu.Ata(deger == u"1" ? 1 : 0);
+}
+
+void AnayiYerlestir(FormKayit& kayit, const AnaDegerler& ana) {
+    kayit.KayitAc = 1;
+    for (int no = 1; no <= kKaySayisi; ++no) {
+        MetinKutusu& kutu = kayit.Kay[no];
+        kutu.metin = ana.No(no);
+        // A masked field that is empty holds its prompt signs.
+        if (kutu.metin.empty() && !kutu.maske.empty())
+            for (const char16_t isaret : kutu.maske)
+                kutu.metin += isaret == u'#' ? u'_' : isaret;
+    }
+    OnayAta(kayit.Check18, ana.No(kKaySayisi + 1));
+    OnayAta(kayit.Check19, ana.No(kKaySayisi + 2));
+}
+
+void DetayiYerlestir(FormKayit& kayit, const DetayDegerler& detay) {
+    // All boxes before all notes: a box that changes empties its note.
+    for (int no = 1; no <= kHizmetSayisi; ++no)
+        OnayAta(kayit.Check[no], detay.No(no));
+    for (int no = 1; no <= kHizmetSayisi; ++no)
+        kayit.TT[no].metin = detay.No(kHizmetSayisi + no);
+    kayit.Aciklamalar.metin = detay.No(35);
+    // By its text, which runs no click: the record's own copy of the menu stands.
+    kayit.Combo1.MetinAta(detay.No(38));
+    kayit.Label20.metin = detay.No(39);
+    if (detay.No(36) == u"1")
+        kayit.Option1.Ata(1);
+    if (detay.No(37) == u"1")
+        kayit.Option2.Ata(1);
+}
+
+} // namespace
+
+void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& tarih) {
+    const auto kayit = program.FormKayit.Tut();
+    if (program.agac.RezervasyonVarMi(yol)) {
+        AnaDegerler ana;
+        AnaOku(program.dosyalar, yol, ana);
+        AnayiYerlestir(*kayit, ana);
+    }
+    kayit->Tarih = tarih ? *tarih : program.FormTablo->SeciliTarih;
+    const Metin detayYolu = yol + Metin(kDetayEki);
+    if (!program.dosyalar.VarMi(detayYolu)) {
+        // Never shown, never closed: left loaded it would pass its flags on to the next new record.
+        program.FormKayit.Bosalt();
+        return;
+    }
+    DetayDegerler detay;
+    DetayOku(program.dosyalar, detayYolu, detay);
+    DetayiYerlestir(*kayit, detay);
+    kayit->Tag = yol;
+    kayit->Command10();
+    program.FormKayit.GosterModal();
+}
+
+} // namespace velora

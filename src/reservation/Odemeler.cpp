@@ -1,0 +1,82 @@
+// The payments of a reservation: the list on the screen, its totals and its file.
+#include <algorithm>
+
+#include "reservation/FormKayit.h"
+#include "reservation/FormOdemeAl.h"
+#include "screen/Program.h"
+#include "storage/Sayi.h"
+
+namespace velora {
+
+namespace {
+
+constexpr std::size_t kTutarSutunu = 1;
+
+struct Gerekli {
+    int no; ///< of the field
+    const char16_t* mesaj;
+};
+constexpr std::array<Gerekli, 2> kGerekliler{{
+    {1, u"Lütfen önce adı soyadı giriniz!"},
+    {8, u"Lütfen önce toplam ücreti giriniz!"},
+}};
+
+} // namespace
+
+void FormKayit::Command8_Click() {
+    for (const auto& [no, mesaj] : kGerekliler)
+        if (Kirp(Kay[no].metin).empty()) {
+            program_.ortam.sor.mesaj({mesaj});
+            SSTab1 = 1;
+            program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay" + SayiMetni(no));
+            return;
+        }
+    program_.FormOdemeAl.GosterModal();
+}
+
+void FormKayit::Liste_ItemClick() {
+    Command9.etkin = Command7.etkin = true;
+}
+
+void FormKayit::Command7_Click() {
+    Command9.etkin = Command7.etkin = false;
+    // One right covers both: who may not change the price may not delete what was paid.
+    if (Kay[8].kilitli) {
+        program_.ortam.sor.mesaj({u"Alınan ödemeleri silmeye yetkiniz yok!"});
+        return;
+    }
+    if (program_.ortam.sor.mesaj({.metin = u"Ödeme kaydını silmek istediğinizden emin misiniz?",
+                                  .simge = Simge::Soru,
+                                  .dugmeler = KutuDugmeleri::EvetHayir}) != Cevap::Evet)
+        return;
+    if (Liste.secili >= 0 && Liste.secili < static_cast<int>(Liste.satirlar.size()))
+        Liste.satirlar.erase(Liste.satirlar.begin() + Liste.secili);
+    Liste.secili = -1;
+    Command12();
+}
+
+void FormKayit::Command12() {
+    double toplam = 0;
+    for (const ListeSatiri& satir : Liste.satirlar)
+        toplam += SayisalDeger(satir.sutun[kTutarSutunu]);
+    Kay[9].metin = DuzMetin(toplam);
+    Kay9_LostFocus();
+    Kayam9.baslik = GrupluMetin(SayisalDeger(Kay[9].metin));
+    Kayam10.baslik = GrupluMetin(SayisalDeger(Kay[10].metin));
+}
+
+void FormKayit::Command10() {
+    std::vector<Odeme> odemeler;
+    OdemeOku(program_.dosyalar, GunYolu() + Metin(kOdemeEki), odemeler);
+    for (Odeme& odeme : odemeler)
+        Liste.satirlar.push_back({{odeme.tarih, odeme.tutar, odeme.aciklama}, {}, 0});
+}
+
+void FormKayit::Kaydet() const {
+    std::vector<Odeme> odemeler;
+    for (const ListeSatiri& satir : Liste.satirlar)
+        odemeler.push_back({satir.sutun[0], satir.sutun[1], satir.sutun[2]});
+    OdemeYaz(program_.dosyalar, GunYolu() + Metin(kOdemeEki), odemeler);
+}
+
+} // namespace velora
