@@ -96,6 +96,13 @@ struct Dugme {
     bool gorunur = true;
 };
 
+/// An entry of a menu.
+struct MenuGirdisi {
+    Metin baslik;
+    bool etkin = true;
+    bool gorunur = true;
+};
+
 struct TarihSecici {
     Gun deger{};
 };

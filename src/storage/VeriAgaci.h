@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 
 #include "storage/Metin.h"
@@ -12,6 +13,9 @@ enum class GunduzGece { Gunduz, Gece };
 
 inline constexpr MetinBakis kDetayEki = u"-Detay";
 inline constexpr MetinBakis kOdemeEki = u"-Odeme";
+
+/// What stands behind the day file name in the names of a reservation's three files, the main file's first.
+inline constexpr std::array<MetinBakis, 3> kRezervasyonEkleri{u"", kDetayEki, kOdemeEki};
 
 /// " - Gündüz" or " - Gece".
 MetinBakis DilimEki(GunduzGece dilim);

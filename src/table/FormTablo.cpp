@@ -108,10 +108,6 @@ void FormTablo::Activate() {
         DuyuruKontrol.aralik = kDuyuruAraligi;
 }
 
-void FormTablo::Hucre_Click() {
-    CetvelSil();
-}
-
 void FormTablo::UyariGoster() {
     Command1();
     program_.OlaylariIsle();

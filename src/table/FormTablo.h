@@ -10,6 +10,7 @@ namespace velora {
 
 struct Program;
 class YilOkumasi;
+struct AnaDegerler;
 struct HatirlatmaDegerleri;
 
 inline constexpr int kAySayisi = 12;
@@ -110,8 +111,22 @@ struct FormTablo {
     void Sene_Click();
     void ALabel_Click(int gun);
     void AyAdi_Click(int ay);
-    /// A click on a cell.
+
+    // --- what happens on a cell of a row; hidden cells raise nothing ---
+    /// The pointer moves over it.
+    void Hucre_MouseMove(SatirAdi satir, int gun);
+    /// A button of the mouse goes down on it. True: `Sagtus` is to be opened at the pointer. The view sees to
+    /// it that the pointer has moved over the cell before.
+    bool Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme);
     void Hucre_Click();
+    void Hucre_DblClick(SatirAdi satir, int gun);
+    /// The cell last moved over has been dragged here.
+    void Hucre_DragDrop(SatirAdi satir, int gun);
+
+    // --- the entries of `Sagtus` ---
+    void newkay_Click();
+    void TasimaModuAc_Click();
+    void iptals_Click();
 
     // --- procedures under the names of their hidden buttons ---
     void Command1(); ///< "Listele": the full scan and repaint
@@ -123,6 +138,7 @@ struct FormTablo {
     void CetvelAc();
     void CetvelSil();
     void UyariGoster();
+    void TasimaBitir(); ///< closes move mode
 
     // --- timers ---
     void CetvelTimer_Tick();
@@ -148,23 +164,29 @@ struct FormTablo {
     Metin SeciliTarih;       ///< day file name of the cell under the pointer
     Metin SeciliTarih2;      ///< the same, frozen at the last press
     int tasimamoducheck = 0; ///< 1 while move mode is open
-    int TutarDegistir = 0;   ///< 1: the user may change amounts
-    int Check1 = 0;          ///< "Hatirlatma": 0 until the first Activate
-    int Dklabel = 0;         ///< ticks of `Saatsay`
-    Metin UserNamem;         ///< the active user
-    Etiket Picture1;         ///< warning panel
-    Etiket UyariBaslik;      ///< its title
-    ListeGorunumu Liste;     ///< its list
-    bool Image3 = false;     ///< the bell: a personal reminder falls on today
-    bool Image3a = true;     ///< which of its two pictures the bell shows; they alternate
+    // The context menu `Sagtus` of a cell, in this order with a line between them.
+    MenuGirdisi newkay{u"Yeni Organizasyon Oluştur"};
+    MenuGirdisi TasimaModuAc{u"Taşıma Modunu Aç"};
+    MenuGirdisi iptals{u"Kayıt İptali"};
+    int TutarDegistir = 0; ///< 1: the user may change amounts
+    int Check1 = 0;        ///< "Hatirlatma": 0 until the first Activate
+    int Dklabel = 0;       ///< ticks of `Saatsay`
+    Metin UserNamem;       ///< the active user
+    Etiket Picture1;       ///< warning panel
+    Etiket UyariBaslik;    ///< its title
+    ListeGorunumu Liste;   ///< its list
+    bool Image3 = false;   ///< the bell: a personal reminder falls on today
+    bool Image3a = true;   ///< which of its two pictures the bell shows; they alternate
     Zamanlayici CetvelTimer;
     Zamanlayici GunTimer;
     Zamanlayici OzelHatirlatTimer;
     Zamanlayici Saatsay;
     Zamanlayici DuyuruKontrol;
 
-    Hucre& Gozu(int ay, velora::GunduzGece dilim, int gun) {
-        return satirlar[static_cast<std::size_t>(Satir(ay, dilim))].gun[gun];
+    Hucre& Gozu(int ay, velora::GunduzGece dilim, int gun) { return Gozu(Satir(ay, dilim), gun); }
+    Hucre& Gozu(SatirAdi satir, int gun) { return satirlar[static_cast<std::size_t>(satir)].gun[gun]; }
+    const Hucre& Gozu(SatirAdi satir, int gun) const {
+        return satirlar[static_cast<std::size_t>(satir)].gun[gun];
     }
 
     /// Where a cell stands, shown or not.
@@ -186,6 +208,11 @@ struct FormTablo {
     template <std::size_t Adet>
     void BasligiSec(BirTabanli<Etiket, Adet>& basliklar, int no, int& hizli);
     void GecmisBoya(int ay, int ilkGun, int sonGun);
+    bool BosRenkte(SatirAdi satir, int gun) const;
+    bool DoluRenkte(SatirAdi satir, int gun) const;
+    Metin GozAnahtari(SatirAdi satir, int gun) const;
+    void RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi);
+    void IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep);
 
     Program& program_;
     double icGenislik_ = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "storage/VeriAgaci.h"
 
 namespace velora {
@@ -25,6 +27,16 @@ inline constexpr RenkCifti kGecmisRengi{17, 18};
 
 constexpr const SatirRenkleri& Renkler(GunduzGece dilim) {
     return dilim == GunduzGece::Gunduz ? kGunduzRenkleri : kGeceRenkleri;
+}
+
+/// The back colours on which a new reservation can be made.
+constexpr std::array<int, 3> BosZeminler(GunduzGece dilim) {
+    return {Renkler(dilim).bos.zemin, Renkler(dilim).haftaSonu.zemin, kTatilRengi.zemin};
+}
+
+/// The back colours that a reservation shows.
+constexpr std::array<int, 2> DoluZeminler(GunduzGece dilim) {
+    return {Renkler(dilim).kesin.zemin, Renkler(dilim).on.zemin};
 }
 
 } // namespace velora

@@ -42,6 +42,31 @@ void Kullanici::AyBasligina(int ay) {
 void Kullanici::Goze() {
     Tablo().Hucre_Click();
 }
+
+void Kullanici::Uzerine(const TabloGozu& goz) {
+    Tablo().Hucre_MouseMove(Satir(goz.ay, goz.dilim), goz.gun);
+}
+
+bool Kullanici::SagTikla(const TabloGozu& goz) {
+    Uzerine(goz);
+    if (Goz(goz.gun, goz.ay, goz.dilim).otomatikSurukleme)
+        return false;
+    return Tablo().Hucre_MouseDown(Satir(goz.ay, goz.dilim), goz.gun, true);
+}
+
+void Kullanici::CiftTikla(const TabloGozu& goz) {
+    Uzerine(goz);
+    Tablo().Hucre_DblClick(Satir(goz.ay, goz.dilim), goz.gun);
+}
+
+bool Kullanici::Surukle(const TabloGozu& kaynak, const TabloGozu& hedef) {
+    Uzerine(kaynak);
+    if (!Goz(kaynak.gun, kaynak.ay, kaynak.dilim).otomatikSurukleme)
+        return false;
+    Tablo().Hucre_DragDrop(Satir(hedef.ay, hedef.dilim), hedef.gun);
+    return true;
+}
+
 void Kullanici::ImleciBosaGotur() {
     Tablo().MouseMove();
 }

@@ -10,6 +10,13 @@
 
 namespace velora::test {
 
+/// A cell of the table.
+struct TabloGozu {
+    int gun;
+    int ay;
+    velora::GunduzGece dilim;
+};
+
 /// A person at the desk: a program over a data tree, and the verbs of working with it. No toolkit is needed.
 class Kullanici {
   public:
@@ -26,6 +33,13 @@ class Kullanici {
     void AyBasligina(int ay);
     /// A click on a cell.
     void Goze();
+    /// The pointer moves over a cell.
+    void Uzerine(const TabloGozu& goz);
+    /// The pointer moves over a cell and the right button is pressed there. True when a menu opens.
+    bool SagTikla(const TabloGozu& goz);
+    void CiftTikla(const TabloGozu& goz);
+    /// Takes the cell by the mouse and drops it on another. False when it can't be dragged.
+    bool Surukle(const TabloGozu& kaynak, const TabloGozu& hedef);
     /// The pointer moves over the bare screen.
     void ImleciBosaGotur();
     /// The window takes another size, in logical pixels.

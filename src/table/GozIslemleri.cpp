@@ -1,0 +1,84 @@
+// What happens on a cell: the pointer over it, a press, a click, a double click, a new reservation. All 24 rows
+// behave alike. Free and taken are told by the back colour alone, compared with the colours as they are now.
+#include <algorithm>
+
+#include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "storage/Tarih.h"
+#include "table/FormTablo.h"
+#include "table/HucreRenkleri.h"
+
+namespace velora {
+
+namespace {
+
+constexpr double kEkranPayi = 100; // twips that the hover label reaches into its cell
+constexpr MetinBakis kGunduzBaslangici = u"11:00";
+constexpr MetinBakis kGeceBaslangici = u"20:00";
+
+bool ZeminlerdenBiri(Program& program, const Hucre& hucre, const auto& zeminler) {
+    const auto ayarlar = program.FormAyarlar.Tut();
+    return std::ranges::any_of(zeminler, [&](int n) { return hucre.zemin == ayarlar->Renk(n); });
+}
+
+} // namespace
+
+bool FormTablo::BosRenkte(SatirAdi satir, int gun) const {
+    return ZeminlerdenBiri(program_, Gozu(satir, gun), BosZeminler(SatirDilimi(satir)));
+}
+
+bool FormTablo::DoluRenkte(SatirAdi satir, int gun) const {
+    return ZeminlerdenBiri(program_, Gozu(satir, gun), DoluZeminler(SatirDilimi(satir)));
+}
+
+Metin FormTablo::GozAnahtari(SatirAdi satir, int gun) const {
+    return GunAnahtari(static_cast<unsigned>(gun), static_cast<unsigned>(SatirAyi(satir)), Sene.Metni(),
+                       SatirDilimi(satir));
+}
+
+void FormTablo::Hucre_MouseMove(SatirAdi satir, int gun) {
+    const Yer goz = HucreYeri(satir, gun);
+    Ekran.yer.sol = goz.Sag() - kEkranPayi;
+    Ekran.yer.ust = goz.Alt() - kEkranPayi;
+    const Metin tarih =
+        IkiHane(static_cast<unsigned>(gun)) + AyEki(static_cast<unsigned>(SatirAyi(satir))) + Sene.Metni();
+    Ekran.baslik = tarih + u"\n " + Bicimle(tarih, u"dddd") + Metin(DilimEki(SatirDilimi(satir))) + u" ";
+    if (program_.FormAyarlar->Check6.deger == 1 && tasimamoducheck == 0)
+        Ekran.gorunur = true;
+    SeciliTarih = GozAnahtari(satir, gun);
+}
+
+bool FormTablo::Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme) {
+    newkay.etkin = BosRenkte(satir, gun);
+    iptals.etkin = !newkay.etkin;
+    SeciliTarih2 = SeciliTarih;
+    return sagDugme;
+}
+
+void FormTablo::Hucre_Click() {
+    CetvelSil();
+}
+
+void FormTablo::Hucre_DblClick(SatirAdi satir, int gun) {
+    // By the file, not by the colour: a past reservation opens, a free day has nothing to open.
+    KayitYukle(program_, program_.agac.GunYolu(Salon.Metni(), Sene.Metni(), GozAnahtari(satir, gun)));
+}
+
+void FormTablo::newkay_Click() {
+    if (Kirp(Salon.Metni()).empty()) {
+        program_.ortam.sor.mesaj({.metin = u"Lütfen Önce Salon Tanımı yapınız!", .simge = Simge::Kritik});
+        return;
+    }
+    {
+        const auto kayit = program_.FormKayit.Tut();
+        kayit->Tarih = SeciliTarih;
+        kayit->Kay[8].kilitli = false;
+        kayit->Kay[12].metin =
+            AnahtarDilimi(SeciliTarih) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
+    }
+    program_.FormKayit.GosterModal();
+}
+
+} // namespace velora

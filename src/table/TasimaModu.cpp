@@ -1,0 +1,55 @@
+// Move mode: taken cells can be dragged, and the first drop on a cell ends it. A reservation is its files, so a
+// move copies them to the names of the other day and deletes the old ones.
+#include "screen/Program.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+void FormTablo::TasimaModuAc_Click() {
+    tasimamoducheck = 1;
+    Ekran.gorunur = false;
+    for (int satir = 0; satir < kSatirSayisi; ++satir)
+        for (int gun = 1; gun <= kGunSayisi; ++gun)
+            if (const auto ad = static_cast<SatirAdi>(satir); DoluRenkte(ad, gun))
+                Gozu(ad, gun).otomatikSurukleme = true;
+}
+
+void FormTablo::Hucre_DragDrop(SatirAdi satir, int gun) {
+    if (DoluRenkte(satir, gun)) {
+        program_.ortam.sor.mesaj(
+            {.metin = u"Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!",
+             .baslik = u"Uyarı"});
+        return TasimaBitir();
+    }
+    const Cevap cevap =
+        program_.ortam.sor.mesaj({.metin = u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?",
+                                  .simge = Simge::Soru,
+                                  .dugmeler = KutuDugmeleri::EvetHayir});
+    if (cevap != Cevap::Evet)
+        return TasimaBitir();
+    RezervasyonuTasi(SeciliTarih, GozAnahtari(satir, gun));
+    Command1();
+    Command6();
+    TasimaBitir();
+}
+
+void FormTablo::RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi) {
+    const Metin salon = Salon.Metni();
+    const Metin yil = Sene.Metni();
+    const Metin kaynak = program_.agac.GunYolu(salon, yil, kaynakAdi);
+    const Metin hedef = program_.agac.GunYolu(salon, yil, hedefAdi);
+    // A copy that fails doesn't keep the source from being deleted.
+    for (const MetinBakis ek : kRezervasyonEkleri)
+        program_.dosyalar.Kopyala(kaynak + Metin(ek), hedef + Metin(ek));
+    for (const MetinBakis ek : kRezervasyonEkleri)
+        program_.dosyalar.Sil(kaynak + Metin(ek));
+}
+
+void FormTablo::TasimaBitir() {
+    for (TabloSatiri& satir : satirlar)
+        for (Hucre& hucre : satir.gun)
+            hucre.otomatikSurukleme = false;
+    tasimamoducheck = 0;
+}
+
+} // namespace velora
