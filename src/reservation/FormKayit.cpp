@@ -70,7 +70,7 @@ void FormKayit::Load() {
     }
     // One way out for whatever failed: the counter too, when only the menus are missing.
     Kay[14].metin = u"1";
-    if (program_.FormAyarlar->Check2.deger != 1)
+    if (program_.FormAyarlar->Check2.deger == 0)
         SozlesmeNoAc(true);
 }
 
@@ -96,7 +96,7 @@ bool FormKayit::MenuleriOku() {
 
 bool FormKayit::SozlesmeNoOner() {
     const auto ayarlar = program_.FormAyarlar.Tut();
-    if (ayarlar->Check2.deger != 1)
+    if (ayarlar->Check2.deger == 0)
         SozlesmeNoAc(true);
     if (ayarlar->Check7.deger == 1) {
         SozlesmeNoAc(false);

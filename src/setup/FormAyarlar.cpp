@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "screen/Program.h"
+#include "screen/TusSuzgeci.h"
 #include "storage/KodSayfasi.h"
 #include "storage/Sayi.h"
 #include "storage/YazimBicimi.h"
@@ -63,6 +64,7 @@ bool HepsiniOku(const Program& program, MetinBakis ad, std::array<Metin, Adet>& 
 } // namespace
 
 FormAyarlar::FormAyarlar(Program& program) : program_(program) {
+    UyariGun.suzgec = YalnizRakam;
     GunduzGece.ogeler = {Metin(kGunduzGeceSirasi), Metin(kGeceGunduzSirasi)};
     GunduzGece.tiklandi = [this] { GunduzGece_Click(); };
     Check3.tiklandi = [this] { Check3_Click(); };

@@ -32,8 +32,6 @@ struct FormAyarlar {
     void Check3_Click();
     void Check7_Click();
     void GunduzGece_Click();
-    /// Whether a typed character gets through. `UyariGun2` takes any, as is meant.
-    bool UyariGun_KeyPress(char16_t tus) const;
     /// Opens the colour picker for slot `n`.
     void Renk_Click(int n);
     /// "Kaydet": applies, writes both files and unloads. A failed write is not reported; the next reading then
@@ -51,7 +49,7 @@ struct FormAyarlar {
     std::array<Metin, 2> sayfalar{u"Genel Ayarlar ", u"Görünüm Ayarları "};
     std::array<RenkDegeri, kRenkSayisi> renkler{};
     MetinKutusu UyariGun;
-    MetinKutusu UyariGun2;
+    MetinKutusu UyariGun2; ///< takes any character, unlike `UyariGun`, as is meant
     Metin uyariGunBaslik = u"Kesin rezervasyonların tarihine"; ///< before the field `UyariGun`
     Metin uyariGun2Baslik = u"Ön rezervasyonların tarihine";
     Metin uyariGunSonu = u"gün kaldığında hatırlat."; ///< behind either field

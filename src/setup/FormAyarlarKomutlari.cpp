@@ -1,16 +1,11 @@
 // What the user does with the settings: type, pick colours, apply, save, drop.
 #include "screen/Program.h"
-#include "screen/TusSuzgeci.h"
 #include "setup/FormAyarlar.h"
 #include "setup/FormRenk.h"
 #include "storage/YazimBicimi.h"
 #include "table/FormTablo.h"
 
 namespace velora {
-
-bool FormAyarlar::UyariGun_KeyPress(char16_t tus) const {
-    return YalnizRakam(tus);
-}
 
 void FormAyarlar::Renk_Click(int n) {
     {
