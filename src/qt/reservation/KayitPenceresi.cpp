@@ -167,8 +167,11 @@ QWidget* KayitPenceresi::GenelSayfasi() {
         AlanEkle(*sag, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
     sag->addRow(DurumSecimi());
     sag->addRow(HatirlatmaSecimi());
-    sutunlar->addLayout(sol, 1);
-    sutunlar->addLayout(sag, 1);
+    // At the top: rows keep their distance when the window grows.
+    for (QFormLayout* form : {sol, sag}) {
+        sutunlar->addLayout(form, 1);
+        sutunlar->setAlignment(form, Qt::AlignTop);
+    }
     return sayfa;
 }
 

@@ -1,0 +1,153 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "qt/Ceviri.h"
+#include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
+
+using namespace velora;
+using namespace velora::test;
+
+/// Typing into the real window of a reservation.
+class KayitPenceresiTest : public QObject {
+    Q_OBJECT
+
+    /// Shows the screen as a new record, runs `is` while it stands, and unloads it.
+    void YeniKayitta(GuiFirma& firma, const std::function<void(QWidget&)>& is) {
+        bool kosuldu = false;
+        QTimer::singleShot(0, this, [&] {
+            QWidget* pencere = firma.disDunya.Pencere(EkranAdi::FormKayit);
+            QVERIFY(pencere != nullptr);
+            kosuldu = true;
+            is(*pencere);
+            firma.program.FormKayit.Bosalt();
+        });
+        firma.program.FormKayit.GosterModal();
+        QVERIFY(kosuldu);
+    }
+    template <class Parca>
+    static Parca& Bul(QWidget& pencere, const char* ad) {
+        return *pencere.findChild<Parca*>(QString::fromLatin1(ad));
+    }
+
+  private slots:
+    void an_empty_or_half_filled_mask_keeps_its_prompt_signs_in_the_model() {
+        GuiFirma firma;
+        firma.Ac();
+        YeniKayitta(firma, [&](QWidget& pencere) {
+            const auto model = firma.program.FormKayit.Tut();
+            QCOMPARE(QMetin(model->Kay[15].metin), QStringLiteral("__:__"));
+            auto& saat = Bul<QLineEdit>(pencere, "Kay15");
+            saat.setFocus();
+            saat.setCursorPosition(0);
+            QTest::keyClicks(&saat, QStringLiteral("2"));
+            QCOMPARE(QMetin(model->Kay[15].metin), QStringLiteral("2_:__"));
+            QTest::keyClicks(&saat, QStringLiteral("x1"));
+            QCOMPARE(QMetin(model->Kay[15].metin), QStringLiteral("21:__"));
+        });
+    }
+
+    void the_price_takes_digits_only_typed_or_pasted_and_six_of_them() {
+        GuiFirma firma;
+        firma.Ac();
+        YeniKayitta(firma, [&](QWidget& pencere) {
+            const auto model = firma.program.FormKayit.Tut();
+            auto& ucret = Bul<QLineEdit>(pencere, "Kay8");
+            ucret.setFocus();
+            QTest::keyClicks(&ucret, QStringLiteral("1a,5."));
+            QCOMPARE(QMetin(model->Kay[8].metin), QStringLiteral("15"));
+            QApplication::clipboard()->setText(QStringLiteral("0.0x07899"));
+            ucret.paste();
+            QCOMPARE(QMetin(model->Kay[8].metin), QStringLiteral("150007"));
+        });
+    }
+
+    void a_sign_outside_the_code_page_is_dropped_when_typed_and_asked_for_when_pasted() {
+        GuiFirma firma;
+        firma.Ac();
+        YeniKayitta(firma, [&](QWidget& pencere) {
+            const auto model = firma.program.FormKayit.Tut();
+            auto& ad = Bul<QLineEdit>(pencere, "Kay1");
+            ad.setFocus();
+            QTest::keyClicks(&ad, QStringLiteral("ş語ı"));
+            QCOMPARE(QMetin(model->Kay[1].metin), QStringLiteral("şı"));
+            QApplication::clipboard()->setText(QStringLiteral(" u\u0308語"));
+            ad.paste();
+            QCOMPARE(QMetin(model->Kay[1].metin), QStringLiteral("şı ü?"));
+        });
+    }
+
+    void leaving_the_price_brings_the_remainder_up_to_date_also_by_the_access_key_of_a_button() {
+        GuiFirma firma;
+        firma.Ac();
+        YeniKayitta(firma, [&](QWidget& pencere) {
+            const auto model = firma.program.FormKayit.Tut();
+            auto& ucret = Bul<QLineEdit>(pencere, "Kay8");
+            ucret.setFocus();
+            QTest::keyClicks(&ucret, QStringLiteral("1500"));
+            Bul<QPushButton>(pencere, "Command4").click();
+            QCOMPARE(QMetin(model->Kay[10].metin), QStringLiteral("1500"));
+        });
+    }
+
+    void a_service_that_is_ticked_opens_its_note_and_moves_the_focus_there() {
+        GuiFirma firma;
+        firma.Ac();
+        YeniKayitta(firma, [&](QWidget& pencere) {
+            auto& not3 = Bul<QLineEdit>(pencere, "TT3");
+            auto& kutu = Bul<QCheckBox>(pencere, "Check3");
+            QVERIFY(!not3.isEnabled());
+            const auto model = firma.program.FormKayit.Tut();
+            model->SSTab1 = 4;
+            QCoreApplication::processEvents();
+            QTest::mouseClick(&kutu, Qt::LeftButton, {}, {8, kutu.height() / 2});
+            QCoreApplication::processEvents();
+            QVERIFY(not3.isEnabled());
+            QCOMPARE(model->Check[3].deger, 1);
+        });
+    }
+
+    void line_breaks_of_a_note_are_those_of_the_files() {
+        GuiFirma firma;
+        firma.Ac();
+        YeniKayitta(firma, [&](QWidget& pencere) {
+            auto& adres = Bul<QPlainTextEdit>(pencere, "Kay7");
+            adres.setFocus();
+            QTest::keyClicks(&adres, QStringLiteral("a"));
+            QTest::keyClick(&adres, Qt::Key_Return);
+            QTest::keyClicks(&adres, QStringLiteral("b"));
+            QCOMPARE(QMetin(firma.program.FormKayit->Kay[7].metin), QStringLiteral("a\r\nb"));
+        });
+    }
+
+    void escape_asks_before_a_new_record_is_dropped() {
+        GuiFirma firma;
+        firma.Ac();
+        QString soru;
+        QTimer::singleShot(0, this, [&] {
+            QTimer::singleShot(0, this, [&] {
+                auto* kutu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                QVERIFY(kutu != nullptr);
+                soru = kutu->text();
+                QTest::keyClick(kutu->defaultButton(), Qt::Key_Return);
+            });
+            QTest::keyClick(firma.disDunya.Pencere(EkranAdi::FormKayit), Qt::Key_Escape);
+        });
+        firma.program.FormKayit.GosterModal();
+        QCOMPARE(soru, QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                                      "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"));
+        QVERIFY(!firma.program.FormKayit.Yuklu());
+    }
+};
+
+VELORA_GUI_TEST(KayitPenceresiTest)
+#include "KayitPenceresiTest.moc"
