@@ -157,6 +157,19 @@ TEST_F(AyarKomutlari, SaveAppliesWithMessageAndScanBeforeItWrites) {
     EXPECT_NE(agac.Bayt(u"Settings.dll"), eski);
 }
 
+// The window stays pressable where the scan lets events run.
+TEST_F(AyarKomutlari, CancelPressedWithinTheScanOfASaveComesTooLateAndLeavesNothingDangling) {
+    Ayarlar().UyariGun.metin = u"3";
+    kullanici.ortam.olayda = [this](int) {
+        kullanici.ortam.olayda = nullptr;
+        kullanici.Prog().FormAyarlar->Command2_Click();
+    };
+    kullanici.Prog().FormAyarlar->Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"),
+              kVarsayilanRenkler + "\"3\",\"10\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n");
+    EXPECT_FALSE(Acik());
+}
+
 TEST_F(AyarKomutlari, FailedSaveClosesAsIfAllWereWellAndTheNextReadingBringsTheOldValues) {
     Ayarlar().Command1_Click();
     kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Yaz; };

@@ -1,6 +1,5 @@
 #include "setup/FormSalonTanimAd.h"
 
-#include "destek/Kayitlar.h"
 #include "setup/SalonTest.h"
 
 namespace velora::test {
@@ -56,8 +55,7 @@ TEST_F(FormSalonTanimAdTest, BothListsAndTheFileTakeTheNewNameInProperCase) {
 
 TEST_F(FormSalonTanimAdTest, RenamedSelectedHallStaysSelectedUnderItsNewNameWithoutAScan) {
     kullanici.ProgramiAc();
-    agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece", AnaMetni());
-    agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    RezervasyonKoy(u"Salon A");
     SalonlarAcikken([this] {
         const int taramalar = Ortam().olaySayisi; // a scan lets events run
         AdDegistir(0, u"yeni");
@@ -65,9 +63,9 @@ TEST_F(FormSalonTanimAdTest, RenamedSelectedHallStaysSelectedUnderItsNewNameWith
     });
     EXPECT_EQ(Tablo().Salon.secili, 0);
     EXPECT_EQ(Tablo().Salon.Metni(), u"Yeni");
-    EXPECT_EQ(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"");
+    EXPECT_EQ(RezervasyonTagi(), u"");
     Tablo().Command1();
-    EXPECT_NE(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"");
+    EXPECT_NE(RezervasyonTagi(), u"");
 }
 
 TEST_F(FormSalonTanimAdTest, FilesOfFiveYearsGoAlongAndTheOldFoldersStay) {
@@ -108,6 +106,20 @@ TEST_F(FormSalonTanimAdTest, UnchangedNameOverwritesTheSecondYearAheadWithTheThi
     EXPECT_EQ(agac.Bayt(u"Salon A/2014/x"), "only 2014");
     EXPECT_EQ(agac.Bayt(u"Salon A/2015/Gider.dat"), "of 2015");
     SalonlarBekle({u"Salon A", u"Salon B"});
+}
+
+TEST_F(FormSalonTanimAdTest, NoFileIsCopiedOntoItself) {
+    for (int yil = 2011; yil <= 2015; ++yil)
+        agac.Koy(u"Salon A/" + SayiMetni(yil) + u"/x", "f");
+    kullanici.ProgramiAc();
+    std::vector<Metin> hedefler;
+    kullanici.Prog().dosyalar.ariza = [&](DosyaIsi is, const Metin& yol) {
+        if (is == DosyaIsi::Kopyala)
+            hedefler.emplace_back(Son(yol, 6));
+        return false;
+    };
+    AdDegistir(0, u"Salon A");
+    EXPECT_EQ(hedefler, std::vector<Metin>{u"2014\\x"});
 }
 
 TEST_F(FormSalonTanimAdTest, NameOfAnotherHallOverwritesItsReservationsOfTheSameDaysAsIsMeant) {

@@ -1,6 +1,5 @@
 #include "setup/FormSalonTanim.h"
 
-#include "destek/Kayitlar.h"
 #include "setup/SalonTest.h"
 
 namespace velora::test {
@@ -100,13 +99,12 @@ TEST_F(FormSalonTanimTest, YearFoldersBeginAtTheSelectedYear) {
 }
 
 TEST_F(FormSalonTanimTest, FirstHallIsSelectedAndItsTableIsLoaded) {
-    agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece", AnaMetni());
-    agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    RezervasyonKoy(u"Salon A");
     kullanici.ProgramiAc();
-    EXPECT_EQ(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"");
+    EXPECT_EQ(RezervasyonTagi(), u"");
     SalonEkle(u"salon a");
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A");
-    EXPECT_NE(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"");
+    EXPECT_NE(RezervasyonTagi(), u"");
     SalonEkle(u"salon b");
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A") << "only the first hall is selected by its add";
 }
@@ -148,14 +146,13 @@ TEST_F(FormSalonTanimTest, AfterANoBothButtonsStayDisabledThoughARowIsMarkedAsIs
 
 TEST_F(FormSalonTanimTest, DeletingTheSelectedHallSelectsTheFirstAndPaintsIt) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n\"C\"\r\n");
-    agac.KoyMetin(u"B/2012/20.06.2012 - Gece", AnaMetni());
-    agac.KoyMetin(u"B/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    RezervasyonKoy(u"B");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Evet);
     SalonlarBekle({u"B", u"C"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\"\r\n\"C\"\r\n");
     EXPECT_EQ(Tablo().Salon.Metni(), u"B");
-    EXPECT_NE(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"");
+    EXPECT_NE(RezervasyonTagi(), u"");
     EXPECT_TRUE(agac.KlasorVar(u"A/2012"));
 }
 
@@ -170,8 +167,7 @@ TEST_F(FormSalonTanimTest, DeletingAnotherHallSelectsTheFirstToo) {
 
 TEST_F(FormSalonTanimTest, DeletingTheOnlyHallLeavesAnEmptySelectorAPaintedTableAndTheFolders) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
-    agac.KoyMetin(u"A/2012/20.06.2012 - Gece", AnaMetni());
-    agac.KoyMetin(u"A/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    RezervasyonKoy(u"A");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Evet);
     SalonlarBekle({});
@@ -180,22 +176,21 @@ TEST_F(FormSalonTanimTest, DeletingTheOnlyHallLeavesAnEmptySelectorAPaintedTable
     EXPECT_TRUE(agac.DosyaVar(u"Salon.dat"));
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "");
     EXPECT_TRUE(agac.DosyaVar(u"A/2012/20.06.2012 - Gece"));
-    EXPECT_NE(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"") << "painted until the next scan";
+    EXPECT_NE(RezervasyonTagi(), u"") << "painted until the next scan";
     Tablo().Command1();
-    EXPECT_EQ(kullanici.Goz(20, 6, GunduzGece::Gece).tag, u"");
+    EXPECT_EQ(RezervasyonTagi(), u"");
 }
 
 TEST_F(FormSalonTanimTest, DeletingAHallAndAddingItAgainBringsItsReservationsBack) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
-    agac.KoyMetin(u"A/2012/20.06.2012 - Gece", AnaMetni());
-    agac.KoyMetin(u"A/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    RezervasyonKoy(u"A");
     kullanici.ProgramiAc();
-    const Metin tag = kullanici.Goz(20, 6, GunduzGece::Gece).tag;
+    const Metin tag = RezervasyonTagi();
     ASSERT_NE(tag, u"");
     SalonSil(0, Cevap::Evet);
     Tablo().Command1();
     SalonEkle(u"a");
-    EXPECT_EQ(kullanici.Goz(20, 6, GunduzGece::Gece).tag, tag);
+    EXPECT_EQ(RezervasyonTagi(), tag);
 }
 
 TEST_F(FormSalonTanimTest, DoubleQuoteInANameIsWrittenRawAndSlidesTheNextReadingAsIsMeant) {

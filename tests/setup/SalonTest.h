@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "setup/FormSalonTanim.h"
 #include "setup/FormSalonTanimAd.h"
@@ -48,6 +49,13 @@ class SalonTest : public ::testing::Test {
         };
         Tanim().Command4_Click();
     }
+    /// A reservation of the hall on 20 June 2012 in the evening.
+    void RezervasyonKoy(const Metin& salon) const {
+        agac.KoyMetin(salon + u"/2012/20.06.2012 - Gece", AnaMetni());
+        agac.KoyMetin(salon + u"/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    }
+    /// What the table knows of it; empty when it shows none.
+    const Metin& RezervasyonTagi() { return kullanici.Goz(20, 6, GunduzGece::Gece).tag; }
     /// Both lists hold these halls, in this order.
     void SalonlarBekle(const Salonlar& beklenen) {
         EXPECT_EQ(Tanim().List1.ogeler, beklenen);
