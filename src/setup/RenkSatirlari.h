@@ -12,7 +12,7 @@ inline constexpr MetinBakis kMetinRengi = u"Metin Rengi"; ///< the same of the t
 
 /// One row of the colours on the page of appearance: two colour boxes behind a caption or a check box.
 struct RenkSatiri {
-    MetinBakis baslik{};                     ///< empty where the check box has the caption
+    MetinBakis baslik = {};                  ///< empty where the check box has the caption
     OnayKutusu FormAyarlar::*onay = nullptr; ///< the check box, if the row has one
     int zemin = kRenkYok;                    ///< colour slot of the ground box
     int yazi = kRenkYok;                     ///< colour slot of the text box; `kRenkYok`: there is none
