@@ -26,7 +26,7 @@ void Doldur(FormKayit& kayit) {
 
 void KaydetmeninZemineOrani(benchmark::State& durum) {
     const OlcumAgaci agac;
-    Ortam ortam = OlcumOrtami(agac.Bugun());
+    Ortam ortam = OlcumOrtami(OlcumAgaci::Bugun());
     std::chrono::steady_clock::time_point kapanis;
     ortam.goster.gizle = [&](EkranAdi) { kapanis = std::chrono::steady_clock::now(); };
     Program program(ortam, agac.Kok());
@@ -53,7 +53,7 @@ BENCHMARK(KaydetmeninZemineOrani)->Unit(benchmark::kMillisecond)->Iterations(200
 /// Each through its dialogue and its question, with the totals that follow each.
 void BinOdeme(benchmark::State& durum) {
     const OlcumAgaci agac;
-    Ortam ortam = OlcumOrtami(agac.Bugun());
+    Ortam ortam = OlcumOrtami(OlcumAgaci::Bugun());
     Program* acik = nullptr;
     ortam.sor.mesaj = [](const MesajKutusu&) { return Cevap::Evet; };
     ortam.goster.modal = [&](EkranAdi ad, const std::function<void()>& gorununce) {
