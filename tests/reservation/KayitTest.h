@@ -26,6 +26,11 @@ class KayitTest : public TabloTest {
         }
         return kullanici.Prog();
     }
+    /// The next use starts it afresh, with what the disk holds.
+    void ProgramiKapat() {
+        kullanici.ProgramiKapat();
+        acik_ = false;
+    }
     FormKayit& Kayit() { return *Prog().FormKayit.Tut(); }
 
     /// A free day is opened; `is` is what the user does on the screen. A screen that is still open after that

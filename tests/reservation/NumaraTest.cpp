@@ -5,14 +5,14 @@
 
 namespace velora::test {
 
-/// Which contract numbers are taken.
+/// Which contract numbers are alinan.
 class NumaraTest : public KayitTest {
   protected:
     NumaraTest() {
         agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
         AyarKoy(29, u"0");
     }
-    /// Tries to save a new record under this number. True when it was taken in.
+    /// Tries to save a new record under this number. True when it was alinan in.
     bool Kabul(const Metin& no) {
         YeniKayit([&] {
             Doldur();
@@ -29,7 +29,7 @@ class NumaraTest : public KayitTest {
     }
 };
 
-TEST_F(NumaraTest, A_number_of_another_hall_or_another_year_is_free_and_one_of_this_folder_is_taken) {
+TEST_F(NumaraTest, A_number_of_another_hall_or_another_year_is_free_and_one_of_this_folder_is_alinan) {
     agac.KoyMetin(u"Salon B/2012/01.06.2012 - Gece", AnaMetni({.no = u"7"}));
     agac.KoyMetin(u"Salon A/2013/01.06.2013 - Gece", AnaMetni({.no = u"8"}));
     RezervasyonKoy(u"02.06.2012 - Gece", {.no = u"9"});
@@ -137,13 +137,14 @@ TEST_F(NumaraTest, One_pass_over_the_folder_finds_what_the_told_loop_finds) {
     const std::vector<Metin> adlar{u"01.06.2012 - Gece", u"01.06.2012 - Gece-Detay",
                                    u"01.06.2012 - Gece-Odeme", u"Gider.dat", u"x"};
     int reddedilen = 0;
+    Prog();
     for (int agacNo = 0; agacNo < 40; ++agacNo) {
         for (const char16_t* klasor : {u"Salon A/2012/", u"Salon A/2013/", u"Salon B/2012/"})
             for (const Metin& ad : adlar)
                 agac.Koy(Metin(klasor) + ad, RastgeleDosya(uretec));
-        const std::vector<Metin> taken = ReferansNumaralar(Prog(), kullanici.Tablo());
+        const std::vector<Metin> alinan = ReferansNumaralar(Prog(), kullanici.Tablo());
         for (const char16_t* no : {u"0", u"5", u"9"}) {
-            const bool dolu = std::find(taken.begin(), taken.end(), no) != taken.end();
+            const bool dolu = std::find(alinan.begin(), alinan.end(), no) != alinan.end();
             reddedilen += dolu ? 1 : 0;
             EXPECT_TRUE(dolu ? Red(no) : Kabul(no));
         }
