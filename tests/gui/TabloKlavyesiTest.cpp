@@ -169,7 +169,7 @@ class TabloKlavyesiTest : public QObject {
         Tus(firma, Qt::Key_Right);
         QCOMPARE(Renk(firma, MayisGece, 21, kenar), dolu);
         QCOMPARE(Renk(firma, MayisGece, 22, kenar), QColor(32, 33, 36));
-        QTest::mouseMove(&firma.Tablo(), firma.Orta(firma.Tablo().Duzen().Hucre(MartGunduz, 3)));
+        QTest::mouseMove(&firma.Tablo(), firma.Orta(firma.Tablo().Duzen().Hucre(EkimGece, 8)));
         QTRY_VERIFY(Renk(firma, MayisGece, 22, kenar) != QColor(32, 33, 36));
     }
 };
