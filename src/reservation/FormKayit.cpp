@@ -1,6 +1,7 @@
 #include "reservation/FormKayit.h"
 
 #include "screen/Program.h"
+#include "screen/TusSuzgeci.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Sayi.h"
 #include "storage/YazimBicimi.h"
@@ -36,6 +37,8 @@ FormKayit::FormKayit(Program& program) : program_(program) {
     }
     for (const int no : {1, 2, 3, 5, 6, 8, 12, 13, 15, 16, 17})
         Kay[no].odaktaSecilir = true;
+    for (const int no : {8, 9, 10, 14})
+        Kay[no].suzgec = YalnizRakam;
     Kay[8].enUzun = 6;
     Kay[16].enUzun = 11;
     Kay[9].kilitli = Kay[10].kilitli = true;

@@ -2,12 +2,14 @@
 
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
+#include "screen/TusSuzgeci.h"
 #include "storage/Sayi.h"
 
 namespace velora {
 
 FormOdemeAl::FormOdemeAl(Program& program) : program_(program) {
     Text1.enUzun = 6;
+    Text1.suzgec = YalnizRakam;
 }
 
 void FormOdemeAl::Load() {

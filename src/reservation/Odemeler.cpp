@@ -1,6 +1,4 @@
 // The payments of a reservation: the list on the screen, its totals and its file.
-#include <algorithm>
-
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "screen/Program.h"

@@ -68,6 +68,8 @@ struct MetinKutusu {
     /// signs ("_") too: an empty "##:##" is "__:__".
     Metin maske;
     bool odaktaSecilir = false; ///< its whole text is selected when it gets the focus
+    /// The characters that typing and pasting let through; null for all of them.
+    bool (*suzgec)(char16_t) = nullptr;
 };
 
 /// A box with a tick. `deger` is 0 or 1; a file may bring another number, which then stands as it is.

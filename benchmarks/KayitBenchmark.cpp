@@ -1,0 +1,84 @@
+// A new reservation saved into a year of 744, as a ratio to the floor, and a thousand payments on the screen.
+#include <benchmark/benchmark.h>
+
+#include "OlcumAgaci.h"
+#include "Zemin.h"
+#include "reservation/FormKayit.h"
+#include "reservation/FormOdemeAl.h"
+#include "table/FormTablo.h"
+
+namespace velora::olcum {
+
+namespace {
+
+constexpr int kOdemeSayisi = 1000;
+
+void Doldur(FormKayit& kayit) {
+    kayit.Tarih = u"15.06.2026 - Gece";
+    kayit.Kay[1].metin = u"ali usta";
+    kayit.Kay[4].metin = u"Düğün";
+    kayit.Kay[8].metin = u"500000";
+    kayit.Kay[12].metin = u"20:00";
+    kayit.Kay[15].metin = u"23:00";
+}
+
+} // namespace
+
+void KaydetmeninZemineOrani(benchmark::State& durum) {
+    const OlcumAgaci agac;
+    Ortam ortam = OlcumOrtami(agac.Bugun());
+    std::chrono::steady_clock::time_point kapanis;
+    ortam.goster.gizle = [&](EkranAdi) { kapanis = std::chrono::steady_clock::now(); };
+    Program program(ortam, agac.Kok());
+    program.FormTablo.Tut();
+    std::vector<double> zemin;
+    std::vector<double> hepsi;
+    std::vector<double> kayit;
+    for (auto _ : durum) {
+        zemin.push_back(Saniye([&] { benchmark::DoNotOptimize(Zemin(agac.YilYolu())); }));
+        Doldur(*program.FormKayit.Tut());
+        const auto bas = std::chrono::steady_clock::now();
+        hepsi.push_back(Saniye([&] { program.FormKayit->Command1_Click(); }));
+        kayit.push_back(std::chrono::duration<double>(kapanis - bas).count());
+        if (program.FormKayit.Yuklu())
+            durum.SkipWithError("the save was refused");
+    }
+    durum.counters["zemin_ms"] = Ortanca(zemin) * 1000;
+    durum.counters["kaydetme_ms"] = Ortanca(hepsi) * 1000;
+    durum.counters["oran"] = Ortanca(hepsi) / Ortanca(zemin);
+    durum.counters["oran_kayit"] = Ortanca(kayit) / Ortanca(zemin);
+}
+BENCHMARK(KaydetmeninZemineOrani)->Unit(benchmark::kMillisecond)->Iterations(200);
+
+/// Each through its dialogue and its question, with the totals that follow each.
+void BinOdeme(benchmark::State& durum) {
+    const OlcumAgaci agac;
+    Ortam ortam = OlcumOrtami(agac.Bugun());
+    Program* acik = nullptr;
+    ortam.sor.mesaj = [](const MesajKutusu&) { return Cevap::Evet; };
+    ortam.goster.modal = [&](EkranAdi ad, const std::function<void()>& gorununce) {
+        gorununce();
+        if (ad != EkranAdi::FormOdemeAl)
+            return;
+        acik->FormOdemeAl->Text1.metin = u"250";
+        acik->FormOdemeAl->Command1_Click();
+    };
+    Program program(ortam, agac.Kok());
+    acik = &program;
+    program.FormKayit.Goster();
+    FormKayit& kayit = *program.FormKayit.Tut();
+    Doldur(kayit);
+    for (auto _ : durum) {
+        for (int i = 0; i < kOdemeSayisi; ++i)
+            kayit.Command8_Click();
+        if (kayit.Kay[9].metin != u"250000")
+            durum.SkipWithError("the payments are not all there");
+        while (!kayit.Liste.satirlar.empty()) {
+            kayit.Liste.secili = 0;
+            kayit.Command7_Click();
+        }
+    }
+}
+BENCHMARK(BinOdeme)->Unit(benchmark::kMillisecond);
+
+} // namespace velora::olcum

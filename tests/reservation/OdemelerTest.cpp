@@ -1,0 +1,245 @@
+#include "reservation/KayitTest.h"
+
+namespace velora::test {
+
+/// The payments of a reservation.
+class OdemelerTest : public KayitTest {
+  protected:
+    void OdemeKoy(const std::string& bayt) { agac.Koy(u"Salon A/2012/" + Metin(kGun) + u"-Odeme", bayt); }
+    void ToplamBekle(MetinBakis alinan, MetinBakis kalan, MetinBakis alinanGoz, MetinBakis kalanGoz) {
+        EXPECT_EQ(Kayit().Kay[9].metin, alinan);
+        EXPECT_EQ(Kayit().Kay[10].metin, kalan);
+        EXPECT_EQ(Kayit().Kayam9.baslik, alinanGoz);
+        EXPECT_EQ(Kayit().Kayam10.baslik, kalanGoz);
+    }
+};
+
+TEST_F(OdemelerTest, Without_payments_the_sum_is_zero_and_shows_nothing) {
+    YeniKayit([&] {
+        ToplamBekle(u"0", u"0", u"", u"");
+        Yaz(8, u"5000");
+        ToplamBekle(u"0", u"5000", u"", u"5.000");
+    });
+}
+
+TEST_F(OdemelerTest, Name_and_price_come_before_the_first_payment) {
+    YeniKayit([&] {
+        Kayit().Command4_Click();
+        Yaz(1, u"  ");
+        KutuBekle(u"Lütfen önce adı soyadı giriniz!");
+        Kayit().Command8_Click();
+        EXPECT_EQ(Kayit().SSTab1, 1);
+        EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay1");
+        Kayit().Command4_Click();
+        Yaz(1, u"Ali");
+        KutuBekle(u"Lütfen önce toplam ücreti giriniz!");
+        Kayit().Command8_Click();
+        EXPECT_EQ(Kayit().SSTab1, 1);
+        EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay8");
+        EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
+    });
+}
+
+TEST_F(OdemelerTest, The_dialogue_offers_today_and_a_note_and_waits_for_an_amount) {
+    YeniKayit([&] {
+        Doldur();
+        kullanici.ortam.modalda[EkranAdi::FormOdemeAl] = [&] {
+            const auto odeme = Prog().FormOdemeAl.Tut();
+            EXPECT_EQ(odeme->baslik, u"Ödeme Ekle");
+            EXPECT_EQ(TarihMetni(odeme->DTPicker1.deger), u"15.06.2012");
+            EXPECT_EQ(odeme->Aciklama.metin, u"58 - ali usta");
+            EXPECT_FALSE(odeme->Command1.etkin);
+            EXPECT_EQ(odeme->Text1.enUzun, 6);
+            EXPECT_FALSE(odeme->Text1.suzgec(u'a'));
+            odeme->Text1.metin = u"5";
+            odeme->Text1_Change();
+            EXPECT_TRUE(odeme->Command1.etkin);
+            odeme->Text1.metin = u" ";
+            odeme->Text1_Change();
+            EXPECT_FALSE(odeme->Command1.etkin);
+            odeme->Command2_Click();
+        };
+        Kayit().Command8_Click();
+        EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
+        EXPECT_TRUE(Kayit().Liste.satirlar.empty());
+    });
+}
+
+TEST_F(OdemelerTest, The_default_note_without_a_number_starts_with_the_dash) {
+    AyarKoy(33, u"1");
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"1");
+        EXPECT_EQ(Kayit().Liste.satirlar.at(0).sutun.at(2), u" - ali usta");
+    });
+}
+
+TEST_F(OdemelerTest, Leading_zeros_go_and_an_amount_of_zero_adds_nothing) {
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"007");
+        OdemeAl(u"0");
+        ASSERT_EQ(Kayit().Liste.satirlar.size(), 1U);
+        EXPECT_EQ(Kayit().Liste.satirlar[0].sutun,
+                  (std::vector<Metin>{u"15.06.2012", u"7", u"58 - ali usta"}));
+        EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
+        ToplamBekle(u"7", u"4993", u"7", u"4.993");
+    });
+}
+
+// The row stays marked, but it has to be clicked again.
+TEST_F(OdemelerTest, After_the_dialogue_both_buttons_are_off_though_a_row_is_marked_on_purpose) {
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"100");
+        EXPECT_FALSE(Kayit().Command7.etkin);
+        OdemeSec(0);
+        EXPECT_TRUE(Kayit().Command7.etkin);
+        EXPECT_TRUE(Kayit().Command9.etkin);
+        OdemeAl(u"200");
+        EXPECT_EQ(Kayit().Liste.secili, 0);
+        EXPECT_FALSE(Kayit().Command7.etkin);
+        EXPECT_FALSE(Kayit().Command9.etkin);
+    });
+}
+
+TEST_F(OdemelerTest, A_price_below_the_sum_shows_a_negative_rest_and_nothing_refuses_it) {
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"3000");
+        Yaz(8, u"1000");
+        ToplamBekle(u"3000", u"-2000", u"3.000", u"-2.000");
+        Kaydet();
+    });
+    EXPECT_NE(AnaBaytlari().find("\"1000\",\"3000\",\"-2000\""), std::string::npos);
+}
+
+TEST_F(OdemelerTest, A_sum_typed_by_hand_moves_the_rest_only_until_the_next_totals) {
+    YeniKayit([&] {
+        Doldur();
+        Kayit().Kay[9].metin = u"100";
+        Kayit().Kay9_LostFocus();
+        EXPECT_EQ(Kayit().Kay[10].metin, u"4900");
+        Kayit().Command12();
+        ToplamBekle(u"0", u"5000", u"", u"5.000");
+    });
+}
+
+TEST_F(OdemelerTest, A_payment_goes_only_after_a_yes_and_the_buttons_go_off_either_way) {
+    YeniKayit([&] {
+        Doldur();
+        for (const char16_t* tutar : {u"100", u"200", u"300"})
+            OdemeAl(tutar);
+        OdemeSec(1);
+        SilmeSorusuBekle(Cevap::Hayir);
+        Kayit().Command7_Click();
+        EXPECT_EQ(Kayit().Liste.satirlar.size(), 3U);
+        EXPECT_FALSE(Kayit().Command7.etkin || Kayit().Command9.etkin);
+        SilmeSorusuBekle(Cevap::Evet);
+        Kayit().Command7_Click();
+        EXPECT_EQ(Kayit().Liste.satirlar.size(), 2U);
+        ToplamBekle(u"400", u"4600", u"400", u"4.600");
+    });
+}
+
+TEST_F(OdemelerTest, Without_the_right_an_existing_record_takes_payments_and_gives_none_back) {
+    RezervasyonKoy(Metin(kGun));
+    OdemeKoy("\"01.01.2012\",\"1000\",\"x\"\r\n");
+    KayitAc([&] {
+        OdemeSec(0);
+        KutuBekle(u"Alınan ödemeleri silmeye yetkiniz yok!");
+        Kayit().Command7_Click();
+        EXPECT_FALSE(Kayit().Command7.etkin);
+        OdemeAl(u"50");
+        Kaydet();
+    });
+    EXPECT_EQ(OdemeBaytlari(), "\"01.01.2012\",\"1000\",\"x\"\r\n\"15.06.2012\",\"50\",\"7 - Ali Veli\"\r\n");
+}
+
+TEST_F(OdemelerTest, A_new_record_lets_anyone_delete) {
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"50");
+        OdemeSec(0);
+        SilmeSorusuBekle(Cevap::Evet);
+        Kayit().Command7_Click();
+        EXPECT_TRUE(Kayit().Liste.satirlar.empty());
+    });
+}
+
+TEST_F(OdemelerTest, Deleted_payments_come_back_when_the_record_is_closed_unsaved) {
+    RezervasyonKoy(Metin(kGun));
+    OdemeKoy("\"01.01.2012\",\"1000\",\"x\"\r\n");
+    Prog();
+    kullanici.Tablo().TutarDegistir = 1;
+    KayitAc([&] {
+        OdemeSec(0);
+        SilmeSorusuBekle(Cevap::Evet);
+        Kayit().Command7_Click();
+        EXPECT_EQ(Kayit().Kay[9].metin, u"0");
+        Kapat();
+    });
+    KayitAc([&] { EXPECT_EQ(Kayit().Kay[9].metin, u"1000"); });
+}
+
+TEST_F(OdemelerTest, Saving_the_last_payment_away_removes_the_file) {
+    RezervasyonKoy(Metin(kGun));
+    OdemeKoy("\"01.01.2012\",\"1000\",\"x\"\r\n");
+    Prog();
+    kullanici.Tablo().TutarDegistir = 1;
+    KayitAc([&] {
+        OdemeSec(0);
+        SilmeSorusuBekle(Cevap::Evet);
+        Kayit().Command7_Click();
+        Kaydet();
+    });
+    EXPECT_FALSE(OdemeVar());
+    KayitAc([&] {
+        EXPECT_TRUE(Kayit().Liste.satirlar.empty());
+        EXPECT_EQ(Kayit().Kay[9].metin, u"0");
+    });
+}
+
+TEST_F(OdemelerTest, A_delete_without_a_marked_row_removes_nothing_and_totals_all_the_same) {
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"50");
+        Kayit().Kay[9].metin = u"?";
+        OdemeSec(-1);
+        SilmeSorusuBekle(Cevap::Evet);
+        Kayit().Command7_Click();
+        EXPECT_EQ(Kayit().Liste.satirlar.size(), 1U);
+        EXPECT_EQ(Kayit().Kay[9].metin, u"50");
+    });
+}
+
+// A note is written as it is: its quotes end the value early, and the reader goes on behind them.
+TEST_F(OdemelerTest, Quotes_in_the_default_note_are_written_raw_on_purpose_and_slide_the_list_when_read) {
+    YeniKayit([&] {
+        Doldur();
+        Yaz(1, u"Ali \"Usta\"");
+        OdemeAl(u"100");
+        Kaydet();
+    });
+    EXPECT_EQ(OdemeBaytlari(), "\"15.06.2012\",\"100\",\"58 - Ali \"Usta\"\"\r\n");
+    EXPECT_TRUE(AnaBaytlari().starts_with("\"Ali usta\"")) << "the word began with the quote";
+    KayitAc([&] {
+        ASSERT_EQ(Kayit().Liste.satirlar.size(), 2U);
+        EXPECT_EQ(Kayit().Liste.satirlar[0].sutun, (std::vector<Metin>{u"15.06.2012", u"100", u"58 - Ali "}));
+        EXPECT_EQ(Kayit().Liste.satirlar[1].sutun[0], u"Usta\"\"");
+    });
+}
+
+TEST_F(OdemelerTest, A_thousand_payments_are_added_up_and_written) {
+    YeniKayit([&] {
+        Doldur();
+        for (int i = 0; i < 1000; ++i)
+            OdemeAl(u"2");
+        ToplamBekle(u"2000", u"3000", u"2.000", u"3.000");
+        Kaydet();
+    });
+    const std::string bayt = OdemeBaytlari();
+    EXPECT_EQ(std::count(bayt.begin(), bayt.end(), '\n'), 1000);
+}
+
+} // namespace velora::test
