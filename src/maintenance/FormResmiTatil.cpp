@@ -1,7 +1,7 @@
 #include "maintenance/FormResmiTatil.h"
 
 #include "screen/Program.h"
-#include "storage/YazimBicimi.h"
+#include "storage/ListeDosyasi.h"
 
 namespace velora {
 
@@ -11,20 +11,9 @@ FormResmiTatil::FormResmiTatil(Program& program) : program_(program) {
 
 void FormResmiTatil::Load() {
     Liste.satirlar.clear();
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Tatiller.dll"));
-    if (!bayt)
-        return;
-    DegerOkuyucu okuyucu(*bayt);
-    // One set of targets for the whole file: a cut off last record keeps the values of the one before.
-    Metin tarih;
-    Metin aciklama;
-    Metin tekrar;
-    Metin kaynak;
-    while (!okuyucu.Sonda()) {
-        okuyucu.Oku(tarih, aciklama, tekrar, kaynak);
-        if (!Kirp(tarih).empty())
-            Liste.satirlar.push_back({{tarih, aciklama, tekrar, kaynak}, {}, 0});
-    }
+    for (auto& sutunlar :
+         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(u"Tatiller.dll"), Liste.basliklar.size()))
+        Liste.satirlar.push_back({std::move(sutunlar), {}, 0});
 }
 
 } // namespace velora

@@ -4,6 +4,20 @@
 
 namespace velora {
 
+namespace {
+
+void SiradanSil(std::vector<Metin>& ogeler, int& secili, int sira) {
+    if (sira < 0 || sira >= static_cast<int>(ogeler.size()))
+        return;
+    ogeler.erase(ogeler.begin() + sira);
+    if (sira == secili)
+        secili = -1;
+    else if (sira < secili)
+        --secili;
+}
+
+} // namespace
+
 int AcilirListe::Bul(MetinBakis metin) const {
     const auto yer = std::find(ogeler.begin(), ogeler.end(), metin);
     return yer == ogeler.end() ? -1 : static_cast<int>(yer - ogeler.begin());
@@ -32,6 +46,16 @@ void AcilirListe::SessizSec(MetinBakis metin) {
 void AcilirListe::MetinAta(MetinBakis metin) {
     secili = Bul(metin);
     serbest = metin;
+}
+
+void AcilirListe::Sil(int sira) {
+    if (secili >= 0 && sira == secili)
+        serbest.clear();
+    SiradanSil(ogeler, secili, sira);
+}
+
+void ListeKutusu::Sil(int sira) {
+    SiradanSil(ogeler, secili, sira);
 }
 
 void Zamanlayici::Calis() {

@@ -77,6 +77,7 @@ struct OnayKutusu {
     int deger = 0;
     bool etkin = true;
     std::function<void()> tiklandi; ///< the screen's handler, set by the screen
+    Metin baslik;
 
     /// Gives the box a value. The handler runs only when the value is another one.
     void Ata(int yeni) {
@@ -128,6 +129,20 @@ struct AcilirListe {
     void SessizSec(MetinBakis metin);
     /// Takes the text as it stands, listed or not, and runs nothing.
     void MetinAta(MetinBakis metin);
+    /// Takes an entry out and runs nothing. The choice stays on its entry; with the chosen one gone nothing is
+    /// chosen. An index that isn't there: nothing.
+    void Sil(int sira);
+};
+
+/// A list on the screen, one entry of which can be marked.
+struct ListeKutusu {
+    std::vector<Metin> ogeler;
+    int secili = -1; ///< index of the marked entry, -1 for none
+
+    /// The marked entry's text, empty for none.
+    Metin Metni() const { return secili < 0 ? Metin() : ogeler[static_cast<std::size_t>(secili)]; }
+    /// As `AcilirListe::Sil`.
+    void Sil(int sira);
 };
 
 struct ListeSatiri {

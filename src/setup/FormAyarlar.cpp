@@ -67,6 +67,26 @@ FormAyarlar::FormAyarlar(Program& program) : program_(program) {
     GunduzGece.tiklandi = [this] { GunduzGece_Click(); };
     Check3.tiklandi = [this] { Check3_Click(); };
     Check7.tiklandi = [this] { Check7_Click(); };
+    BasliklariKoy();
+}
+
+void FormAyarlar::BasliklariKoy() {
+    constexpr std::array<MetinBakis, 12> kAylar{u"Ocak",  u"Şubat",   u"Mart",   u"Nisan",
+                                                u"Mayıs", u"Haziran", u"Temmuz", u"Ağustos",
+                                                u"Eylül", u"Ekim",    u"Kasım",  u"Aralık"};
+    for (int ay = 1; ay <= BirTabanli<OnayKutusu, 12>::kAdet; ++ay)
+        Aylar[ay].baslik = kAylar[static_cast<std::size_t>(ay - 1)];
+    Check1.baslik = u"Geçmiş Günler";
+    Check2.baslik = u"Sözleşme numaralarını otomatik olarak ata.";
+    Check3.baslik = u"Tabloda Görünecek Aylar";
+    Check4.baslik = u"Değişti";
+    Check5.baslik = u"Resmi Tatiller ve Özel Günler";
+    Check6.baslik = u"Gün detaylarını göster";
+    Check7.baslik = u"Sözleşme numarası atama.";
+    Command1.baslik = u"Kaydet";
+    Command2.baslik = u"İptal";
+    Command3.baslik = u"Varsayılan Ayarlar";
+    Command4.baslik = u"Uygula";
 }
 
 void FormAyarlar::Load() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "screen/Kontroller.h"
 
@@ -31,29 +32,54 @@ struct FormAyarlar {
     void Check3_Click();
     void Check7_Click();
     void GunduzGece_Click();
+    /// Whether a typed character gets through. `UyariGun2` takes any, as is meant.
+    bool UyariGun_KeyPress(char16_t tus) const;
+    /// Opens the colour picker for slot `n`.
+    void Renk_Click(int n);
+    /// "Kaydet": applies, writes both files and unloads. A failed write is not reported; the next reading then
+    /// brings what the disk holds.
+    void Command1_Click();
+    /// "İptal": drops what was not saved, also what the table already shows; the table keeps that until its
+    /// next repaint.
+    void Command2_Click();
+    void Command3_Click(); ///< "Varsayılan Ayarlar": sets all defaults and applies them; saves nothing
+    void Command4_Click(); ///< "Uygula": repaints the table, and tells of a changed slot order each time
     /// All default values, as `Load` falls back to. Leaves the files alone.
     void Varsayilanlar();
 
+    Metin baslik = u"Genel Program Ayarları";
+    std::array<Metin, 2> sayfalar{u"Genel Ayarlar ", u"Görünüm Ayarları "};
     std::array<RenkDegeri, kRenkSayisi> renkler{};
     MetinKutusu UyariGun;
     MetinKutusu UyariGun2;
-    OnayKutusu Check1; ///< "Geçmiş Günler"
-    OnayKutusu Check2; ///< "Sözleşme numaralarını otomatik olarak ata."
-    OnayKutusu Check3; ///< "Tabloda Görünecek Aylar"
-    OnayKutusu Check4; ///< hidden: the slot order was changed
-    OnayKutusu Check5; ///< "Resmi Tatiller ve Özel Günler"
-    OnayKutusu Check6; ///< "Gün detaylarını göster"
-    OnayKutusu Check7; ///< "Sözleşme numarası atama."
+    Metin uyariGunBaslik = u"Kesin rezervasyonların tarihine"; ///< before the field `UyariGun`
+    Metin uyariGun2Baslik = u"Ön rezervasyonların tarihine";
+    Metin uyariGunSonu = u"gün kaldığında hatırlat."; ///< behind either field
+    OnayKutusu Check1;                                ///< past days are painted
+    OnayKutusu Check2;                                ///< contract numbers are given automatically
+    OnayKutusu Check3;                                ///< the box over all months
+    OnayKutusu Check4;                                ///< hidden: the slot order was changed
+    OnayKutusu Check5;                                ///< holidays are painted
+    OnayKutusu Check6;                                ///< the pointer shows the day
+    OnayKutusu Check7;                                ///< no contract numbers at all
 
     /// "Yarı Gün Sıralaması": one of two items. A file may bring a third text, which stands as it is.
     AcilirListe GunduzGece;
+    Metin gunduzGeceBaslik = u"Yarı Gün Sıralaması";
 
     BirTabanli<OnayKutusu, 12> Aylar;
+    Dugme Command1;
+    Dugme Command2;
+    Dugme Command3;
+    Dugme Command4;
 
   private:
     bool DosyalardanOku();
     bool AyarlariYerlestir(const std::array<Metin, 33>& deger);
     bool AylariYerlestir(const std::array<Metin, 13>& deger);
+    void BasliklariKoy();
+    std::string AyarBaytlari() const;
+    std::string AyBaytlari() const;
 
     Program& program_;
 };

@@ -70,6 +70,10 @@ std::string KodYaz(MetinBakis metin) {
     return bayt;
 }
 
+Metin KodaSigdir(MetinBakis metin) {
+    return KodCoz(KodYaz(metin));
+}
+
 bool KodVar(char16_t harf) {
     return BaytBul(harf) != kBaytYok;
 }

@@ -15,6 +15,9 @@ void KodCoz(std::string_view bayt, Metin& hedef);
 /// The bytes of a text. A character outside the code page becomes "?", a surrogate pair one "?".
 std::string KodYaz(MetinBakis metin);
 
+/// The text as it would come back from a file: each character outside the code page is a "?".
+Metin KodaSigdir(MetinBakis metin);
+
 /// True when the code page has a byte for the character.
 bool KodVar(char16_t harf);
 

@@ -4,7 +4,7 @@
 #include "screen/Program.h"
 #include "screen/Surum.h"
 #include "setup/FormAyarlar.h"
-#include "storage/YazimBicimi.h"
+#include "storage/ListeDosyasi.h"
 
 namespace velora {
 
@@ -54,14 +54,8 @@ void FormTablo::Load() {
 }
 
 void FormTablo::SalonlariYukle() {
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Salon.dat"));
-    if (!bayt)
-        return;
-    DegerOkuyucu okuyucu(*bayt);
-    Metin salon;
-    while (!okuyucu.Sonda() && okuyucu.Oku(salon))
-        if (!Kirp(salon).empty())
-            Salon.ogeler.push_back(salon);
+    for (auto& satir : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(u"Salon.dat"), 1))
+        Salon.ogeler.push_back(std::move(satir.front()));
 }
 
 void FormTablo::SeneleriDoldur() {

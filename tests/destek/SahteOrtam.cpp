@@ -57,7 +57,8 @@ Cevap SahteOrtam::MesajSor(const MesajKutusu& kutu) {
 Metin SahteOrtam::GirdiSor(const GirdiKutusu& kutu) {
     if (girdiler_.empty()) {
         ADD_FAILURE() << "unexpected input box: " << ::testing::PrintToString(kutu.metin);
-        return {};
+        // A blank, no empty text: an asker that takes no empty answer must not ask for ever.
+        return u" ";
     }
     const BeklenenGirdi beklenen = girdiler_.front();
     girdiler_.pop_front();

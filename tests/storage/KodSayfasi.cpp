@@ -63,6 +63,11 @@ TEST(KodSayfasi, A_character_outside_the_code_page_becomes_a_question_mark) {
     EXPECT_FALSE(KodVar(u'\u0080'));
 }
 
+TEST(KodSayfasi, A_text_fitted_to_the_code_page_is_what_a_file_gives_back) {
+    EXPECT_EQ(KodaSigdir(u"Şişli \u0416\U0001F600 €"), u"Şişli ?? €");
+    EXPECT_EQ(KodaSigdir(u""), u"");
+}
+
 TEST(KodSayfasi, A_surrogate_pair_becomes_one_question_mark) {
     EXPECT_EQ(KodYaz(u"a\U0001F600b"), "a?b");
     const Metin yalniz{u'a', char16_t{0xD83D}, u'b', char16_t{0xDE00}};

@@ -1,0 +1,135 @@
+#include "setup/FormSalonTanim.h"
+
+#include "screen/Program.h"
+#include "setup/FormSalonTanimAd.h"
+#include "storage/Harf.h"
+#include "storage/KodSayfasi.h"
+#include "storage/ListeDosyasi.h"
+#include "storage/Sayi.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+constexpr MetinBakis kSalonDosyasi = u"Salon.dat";
+constexpr MetinBakis kTanimsizOlmaz = u"Salon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!";
+constexpr int kSonrakiYillar = 10; // year folders that a new hall gets behind the selected year's
+
+Metin Satirlar(MetinBakis bir, MetinBakis iki) {
+    return (Metin(bir) += u'\n') += iki;
+}
+
+/// A refusal of this screen: what is wrong, and why a hall is needed.
+MesajKutusu SalonGerek(MetinBakis neden) {
+    return {.metin = Satirlar(neden, kTanimsizOlmaz) + u'.', .baslik = u"Hata"};
+}
+
+} // namespace
+
+FormSalonTanim::FormSalonTanim(Program& program) : program_(program) {
+    Command1.baslik = u"Ekle";
+    Command2.baslik = u"Sil";
+    Command3.baslik = u"Kapat";
+    Command4.baslik = u"Düzenle";
+    Kaydet.baslik = u"Kaydet";
+    Label8.baslik = u"Salon Tanımları";
+}
+
+void FormSalonTanim::Load() {
+    for (auto& satir : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), 1))
+        List1.ogeler.push_back(std::move(satir.front()));
+}
+
+void FormSalonTanim::Activate() {
+    Command2.etkin = Command4.etkin = false;
+}
+
+void FormSalonTanim::List1_Click() {
+    Command2.etkin = Command4.etkin = List1.secili >= 0;
+}
+
+void FormSalonTanim::Command1_Click() {
+    Command3.etkin = true;
+    const GirdiKutusu soru{
+        .metin = u"Lütfen salon adını giriniz!", .baslik = u"Salon Tanımları", .baslangic = {}};
+    Metin cevap = program_.ortam.sor.girdi(soru);
+    while (cevap.empty()) {
+        program_.ortam.sor.mesaj(SalonGerek(u"Salon adını girmediniz!"));
+        cevap = program_.ortam.sor.girdi(soru);
+    }
+    if (!Kirp(cevap).empty())
+        Ekle(KodaSigdir(BuyukBas(cevap)));
+}
+
+void FormSalonTanim::Ekle(const Metin& salon) {
+    const auto tablo = program_.FormTablo.Tut();
+    List1.ogeler.push_back(salon);
+    tablo->Salon.ogeler.push_back(salon);
+    Kaydet_Click();
+    const Metin yil = tablo->Sene.Metni();
+    program_.agac.KlasorHazirla(salon, yil);
+    for (int i = 1; i <= kSonrakiYillar; ++i)
+        program_.agac.KlasorHazirla(salon, SayiMetni(static_cast<long long>(SayisalDeger(yil)) + i));
+    if (tablo->Salon.ogeler.size() == 1)
+        tablo->Salon.Sec(0);
+}
+
+void FormSalonTanim::Command2_Click() {
+    Command2.etkin = Command4.etkin = false;
+    const Cevap cevap = program_.ortam.sor.mesaj(
+        {.metin = u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\n"
+                  u"Seçili salonu silmek istediğinize emin misiniz?",
+         .simge = Simge::Soru,
+         .dugmeler = KutuDugmeleri::EvetHayir});
+    if (cevap == Cevap::Hayir)
+        return;
+    const auto tablo = program_.FormTablo.Tut();
+    tablo->Salon.Sil(List1.secili);
+    List1.Sil(List1.secili);
+    tablo->Salon.Sec(0);
+    Kaydet_Click();
+}
+
+void FormSalonTanim::Command4_Click() {
+    {
+        const auto ad = program_.FormSalonTanimAd.Tut();
+        ad->Label2.baslik = SayiMetni(List1.secili);
+        ad->Tag = ad->Text1.metin = List1.Metni();
+    }
+    program_.FormSalonTanimAd.GosterModal();
+}
+
+void FormSalonTanim::Command3_Click() {
+    if (List1.ogeler.empty()) {
+        program_.ortam.sor.mesaj(SalonGerek(u"Hiç salon tanımınız yok!"));
+        Command1_Click();
+        return;
+    }
+    program_.FormSalonTanim.Bosalt();
+}
+
+void FormSalonTanim::Kaydet_Click() {
+    std::vector<SutunMetinleri> satirlar;
+    for (const Metin& salon : List1.ogeler)
+        satirlar.push_back({salon});
+    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), satirlar);
+    Command2.etkin = Command4.etkin = false;
+}
+
+void IlkSalonuSor(Program& program) {
+    if (!program.FormTablo->Salon.Metni().empty())
+        return;
+    const Cevap cevap = program.ortam.sor.mesaj(
+        {.metin = u"Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister misiniz?",
+         .baslik = u"Salon Tanımı",
+         .simge = Simge::Soru,
+         .dugmeler = KutuDugmeleri::EvetHayir});
+    if (cevap == Cevap::Hayir)
+        program.ortam.sor.mesaj({.metin = Satirlar(kTanimsizOlmaz, u"Lütfen önce salon tanımı yapınız!"),
+                                 .simge = Simge::Kritik});
+    program.FormSalonTanim->Command3.etkin = false;
+    program.FormSalonTanim.GosterModal();
+}
+
+} // namespace velora

@@ -1,0 +1,265 @@
+// What the user does with the settings: type, apply, save, reset, drop.
+#include <algorithm>
+
+#include "setup/FormAyarlar.h"
+#include "setup/RenkSatirlari.h"
+#include "table/HucreRenkleri.h"
+#include "table/TabloTest.h"
+
+namespace velora::test {
+
+namespace {
+
+const BeklenenKutu kSiraDegisti{
+    u"Velora", u"Yaptığınız yarı gün değişikliği programı yeniden başlattığınızda çalışacaktır!"};
+
+const std::string kVarsayilanRenkler =
+    "32768,16777215,8454143,0,16777215,0,255,16777215,6086641,0,15461355,0,192,16777215,192,16777215,255,"
+    "12632256,16777215,65280,16777215,49152,16777215,16761087,0,";
+const std::string kVarsayilanAyarlar =
+    kVarsayilanRenkler + "\"5\",\"10\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n";
+const std::string kTumAylar = "1,1,1,1,1,1,1,1,1,1,1,1,1\r\n";
+
+} // namespace
+
+class AyarKomutlari : public TabloTest {
+  protected:
+    AyarKomutlari() { kullanici.ProgramiAc(); }
+    FormAyarlar& Ayarlar() { return *kullanici.Prog().FormAyarlar.Tut(); }
+    bool Acik() { return kullanici.Prog().FormAyarlar.Yuklu(); }
+    /// A free weekday of the day slot: Wednesday, 20 June 2012.
+    Hucre& BosGun() { return kullanici.Goz(20, 6, kGunduz); }
+};
+
+TEST_F(AyarKomutlari, CaptionsStandAsTheUserReadsThem) {
+    EXPECT_EQ(Ayarlar().baslik, u"Genel Program Ayarları");
+    EXPECT_EQ(Ayarlar().sayfalar, (std::array<Metin, 2>{u"Genel Ayarlar ", u"Görünüm Ayarları "}));
+    EXPECT_EQ(Ayarlar().Command1.baslik, u"Kaydet");
+    EXPECT_EQ(Ayarlar().Command2.baslik, u"İptal");
+    EXPECT_EQ(Ayarlar().Command3.baslik, u"Varsayılan Ayarlar");
+    EXPECT_EQ(Ayarlar().Command4.baslik, u"Uygula");
+    EXPECT_EQ(Ayarlar().uyariGunBaslik, u"Kesin rezervasyonların tarihine");
+    EXPECT_EQ(Ayarlar().uyariGun2Baslik, u"Ön rezervasyonların tarihine");
+    EXPECT_EQ(Ayarlar().uyariGunSonu, u"gün kaldığında hatırlat.");
+    EXPECT_EQ(Ayarlar().gunduzGeceBaslik, u"Yarı Gün Sıralaması");
+    EXPECT_EQ(Ayarlar().Check1.baslik, u"Geçmiş Günler");
+    EXPECT_EQ(Ayarlar().Check2.baslik, u"Sözleşme numaralarını otomatik olarak ata.");
+    EXPECT_EQ(Ayarlar().Check3.baslik, u"Tabloda Görünecek Aylar");
+    EXPECT_EQ(Ayarlar().Check4.baslik, u"Değişti");
+    EXPECT_EQ(Ayarlar().Check5.baslik, u"Resmi Tatiller ve Özel Günler");
+    EXPECT_EQ(Ayarlar().Check6.baslik, u"Gün detaylarını göster");
+    EXPECT_EQ(Ayarlar().Check7.baslik, u"Sözleşme numarası atama.");
+    EXPECT_EQ(Ayarlar().Aylar[1].baslik, u"Ocak");
+    EXPECT_EQ(Ayarlar().Aylar[9].baslik, u"Eylül");
+    EXPECT_EQ(Ayarlar().Aylar[12].baslik, u"Aralık");
+}
+
+TEST_F(AyarKomutlari, SaveWritesBothFilesWithAllDefaultsAndUnloads) {
+    Ayarlar();
+    EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
+    Ayarlar().Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
+    EXPECT_EQ(agac.Bayt(u"Visible.dll"), kTumAylar);
+    EXPECT_FALSE(Acik());
+    EXPECT_EQ(kullanici.ortam.gizlenenler.back(), EkranAdi::FormAyarlar);
+}
+
+TEST_F(AyarKomutlari, EveryFieldIsSavedInItsPlace) {
+    for (int i = 0; i < kRenkSayisi; ++i)
+        Ayarlar().renkler[static_cast<std::size_t>(i)] = 100 + i;
+    Ayarlar().UyariGun.metin = u"6";
+    Ayarlar().UyariGun2.metin = u"ş";
+    Ayarlar().Check1.Ata(1);
+    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    Ayarlar().Check5.Ata(0);
+    Ayarlar().Check7.Ata(1);
+    Ayarlar().Check3.Ata(0);
+    Ayarlar().Aylar[2].Ata(1);
+    kullanici.ortam.Bekle(kSiraDegisti);
+    Ayarlar().Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"),
+              "100,101,102,103,104,105,106,107,108,109,110,111,112,113,114,115,116,117,118,119,120,121,122,"
+              "123,124,\"6\",\"\xFE\",1,1,\"G\xFCnd\xFCz / Gece\",0,1,1\r\n");
+    EXPECT_EQ(agac.Bayt(u"Visible.dll"), "0,1,0,0,0,0,0,0,0,0,0,0,0\r\n");
+}
+
+TEST_F(AyarKomutlari, EmptiedWarningDaysAreAnEmptyQuotedText) {
+    Ayarlar().UyariGun.metin.clear();
+    Ayarlar().Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"),
+              kVarsayilanRenkler + "\"\",\"10\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n");
+    EXPECT_EQ(Ayarlar().UyariGun.metin, u"");
+}
+
+TEST_F(AyarKomutlari, FirstWarningFieldTakesDigitsAloneAndTheSecondAnythingAsIsMeant) {
+    for (const char16_t tus : MetinBakis(u"0123456789\b"))
+        EXPECT_TRUE(Ayarlar().UyariGun_KeyPress(tus));
+    for (const char16_t tus : MetinBakis(u"a ,.-\r\""))
+        EXPECT_FALSE(Ayarlar().UyariGun_KeyPress(tus));
+    Ayarlar().UyariGun2.metin = u"on beş";
+    Ayarlar().Command1_Click();
+    EXPECT_EQ(Ayarlar().UyariGun2.metin, u"on beş");
+}
+
+TEST_F(AyarKomutlari, DoubleQuoteInTheSecondWarningFieldCostsAllSettingsAsIsMeant) {
+    Ayarlar().renkler[0] = 77;
+    Ayarlar().UyariGun2.metin = u"1\"2";
+    Ayarlar().Command1_Click();
+    EXPECT_NE(agac.Bayt(u"Settings.dll").find("\"5\",\"1\"2\",0,1,"), std::string::npos);
+    EXPECT_EQ(Ayarlar().Renk(0), 32768) << "the values behind it slid, so that all defaults stand";
+}
+
+TEST_F(AyarKomutlari, ApplyPaintsColoursAndMonthsAndWritesNothing) {
+    Ayarlar().renkler[2] = 123;
+    Ayarlar().Aylar[7].Ata(0);
+    const std::string once = agac.Resim();
+    Ayarlar().Command4_Click();
+    EXPECT_EQ(BosGun().zemin, 123);
+    EXPECT_FALSE(kullanici.Goz(1, 7, kGunduz).gorunur);
+    EXPECT_TRUE(Acik());
+    EXPECT_EQ(agac.Resim(), once);
+}
+
+TEST_F(AyarKomutlari, UnappliedColourIsReadAtOnceButNotYetPainted) {
+    Ayarlar().renkler[2] = 123;
+    EXPECT_EQ(kullanici.Prog().FormAyarlar->Renk(2), 123);
+    EXPECT_EQ(BosGun().zemin, 8454143);
+}
+
+TEST_F(AyarKomutlari, ApplyingTwiceAfterAChangeOfTheSlotOrderTellsOfTheRestartTwice) {
+    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    kullanici.ortam.Bekle(kSiraDegisti);
+    kullanici.ortam.Bekle(kSiraDegisti);
+    Ayarlar().Command4_Click();
+    Ayarlar().Command4_Click();
+    EXPECT_EQ(Ayarlar().Check4.deger, 1);
+}
+
+// At the box and at the scan's points of events the files still hold the old settings.
+TEST_F(AyarKomutlari, SaveAppliesWithMessageAndScanBeforeItWrites) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
+    agac.Koy(u"Visible.dll", kTumAylar);
+    kullanici.Prog().FormAyarlar.Bosalt();
+    Ayarlar().renkler[2] = 123;
+    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    kullanici.ortam.Bekle(kSiraDegisti);
+    const std::string eski = agac.Bayt(u"Settings.dll");
+    int bakilan = 0;
+    kullanici.ortam.olayda = [&](int) {
+        ++bakilan;
+        EXPECT_EQ(agac.Bayt(u"Settings.dll"), eski);
+        EXPECT_TRUE(Acik());
+    };
+    Ayarlar().Command1_Click();
+    kullanici.ortam.olayda = nullptr;
+    EXPECT_GT(bakilan, 0);
+    EXPECT_EQ(BosGun().zemin, 123);
+    EXPECT_NE(agac.Bayt(u"Settings.dll"), eski);
+}
+
+// The window stays pressable where the scan lets events run.
+TEST_F(AyarKomutlari, CancelPressedWithinTheScanOfASaveComesTooLateAndLeavesNothingDangling) {
+    Ayarlar().UyariGun.metin = u"3";
+    kullanici.ortam.olayda = [this](int) {
+        kullanici.ortam.olayda = nullptr;
+        kullanici.Prog().FormAyarlar->Command2_Click();
+    };
+    kullanici.Prog().FormAyarlar->Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"),
+              kVarsayilanRenkler + "\"3\",\"10\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n");
+    EXPECT_FALSE(Acik());
+}
+
+TEST_F(AyarKomutlari, FailedSaveClosesAsIfAllWereWellAndTheNextReadingBringsTheOldValues) {
+    Ayarlar().Command1_Click();
+    kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Yaz; };
+    Ayarlar().renkler[2] = 123;
+    Ayarlar().Aylar[7].Ata(0);
+    Ayarlar().Command1_Click();
+    EXPECT_FALSE(Acik());
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
+    EXPECT_EQ(Ayarlar().Renk(2), 8454143);
+    EXPECT_TRUE(Ayarlar().AyGorunur(7));
+    EXPECT_EQ(BosGun().zemin, 123) << "the table keeps what was applied";
+}
+
+TEST_F(AyarKomutlari, FullDiskKeepsTheOldSettingsAndStillWritesTheMonthsThatFit) {
+    Ayarlar().Command1_Click();
+    kullanici.Prog().dosyalar.bosYer = 0;
+    Ayarlar().UyariGun.metin = u"5000000";
+    Ayarlar().Aylar[7].Ata(0);
+    Ayarlar().Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
+    EXPECT_EQ(agac.Bayt(u"Visible.dll"), "1,1,1,1,1,1,0,1,1,1,1,1,1\r\n");
+}
+
+TEST_F(AyarKomutlari, DefaultsCountAsAChangeOfTheSlotOrderAlwaysAsIsMeant) {
+    EXPECT_EQ(Ayarlar().GunduzGece.Metni(), u"Gece / Gündüz");
+    kullanici.ortam.Bekle(kSiraDegisti);
+    Ayarlar().renkler[2] = 123;
+    Ayarlar().Command3_Click();
+    EXPECT_EQ(Ayarlar().Check4.deger, 1);
+    EXPECT_EQ(Ayarlar().Renk(2), 8454143);
+    EXPECT_EQ(BosGun().zemin, 8454143);
+    EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
+}
+
+TEST_F(AyarKomutlari, DefaultsDroppedByCancelLeaveTheFilesUntouched) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
+    agac.Koy(u"Visible.dll", "1,1,1,1,1,1,1,1,1,1,1,0,1\r\n");
+    kullanici.Prog().FormAyarlar.Bosalt();
+    const std::string once = agac.Resim();
+    kullanici.ortam.Bekle(kSiraDegisti);
+    Ayarlar().Command3_Click();
+    EXPECT_TRUE(kullanici.Goz(1, 12, kGunduz).gorunur);
+    Ayarlar().Command2_Click();
+    EXPECT_FALSE(Acik());
+    EXPECT_EQ(agac.Resim(), once);
+    EXPECT_EQ(Ayarlar().Renk(0), 77);
+    EXPECT_FALSE(Ayarlar().AyGorunur(12));
+}
+
+TEST_F(AyarKomutlari, AppliedAndDroppedColoursStayOnTheTableUntilTheNextScanAsIsMeant) {
+    Ayarlar().renkler[2] = 123;
+    Ayarlar().Command4_Click();
+    Ayarlar().Command2_Click();
+    EXPECT_EQ(BosGun().zemin, 123);
+    for (int i = 0; i < kRenkSayisi; ++i)
+        EXPECT_NE(BosGun().zemin, Ayarlar().Renk(i)) << "the cell's colour is no live colour any more";
+    kullanici.Tablo().Command1();
+    EXPECT_EQ(BosGun().zemin, Ayarlar().Renk(2));
+}
+
+TEST_F(AyarKomutlari, ColourRowsNameEachSlotOnce) {
+    std::vector<int> gozler;
+    for (const RenkSatiri& satir : kRenkSatirlari)
+        for (const int goz : {satir.zemin, satir.yazi})
+            if (goz != kRenkYok)
+                gozler.push_back(goz);
+    std::sort(gozler.begin(), gozler.end());
+    ASSERT_EQ(gozler.size(), 25U);
+    for (int i = 0; i < kRenkSayisi; ++i)
+        EXPECT_EQ(gozler[static_cast<std::size_t>(i)], i);
+}
+
+TEST_F(AyarKomutlari, ColourRowsNameTheSlotsThatTheTablePaintsWith) {
+    const std::array<RenkCifti, 9> boyanan{
+        {kGunduzRenkleri.bos, kGeceRenkleri.bos, kGunduzRenkleri.haftaSonu, kGeceRenkleri.haftaSonu,
+         kGunduzRenkleri.kesin, kGeceRenkleri.kesin, kGunduzRenkleri.on, kGeceRenkleri.on, kTatilRengi}};
+    for (std::size_t i = 0; i < boyanan.size(); ++i) {
+        EXPECT_EQ(kRenkSatirlari[i + 1].zemin, boyanan[i].zemin) << i;
+        EXPECT_EQ(kRenkSatirlari[i + 1].yazi, boyanan[i].yazi) << i;
+    }
+    EXPECT_EQ(kRenkSatirlari[11].zemin, kGecmisRengi.zemin);
+    EXPECT_EQ(kRenkSatirlari[9].onay, &FormAyarlar::Check5);
+    EXPECT_EQ(kRenkSatirlari[11].onay, &FormAyarlar::Check1);
+}
+
+TEST_F(AyarKomutlari, BothBoxesOfThePastDaysHaveTheToolTipOfAGroundAsIsMeant) {
+    for (const RenkSatiri& satir : kRenkSatirlari) {
+        EXPECT_EQ(satir.zeminIpucu, u"Zemin Rengi");
+        EXPECT_EQ(satir.yaziIpucu, satir.zemin == 17 ? u"Zemin Rengi" : u"Metin Rengi");
+    }
+}
+
+} // namespace velora::test

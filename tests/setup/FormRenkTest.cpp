@@ -1,0 +1,147 @@
+#include "setup/FormRenk.h"
+
+#include <gtest/gtest.h>
+
+#include "destek/GeciciAgac.h"
+#include "destek/SahteOrtam.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+
+namespace velora::test {
+
+class FormRenkTest : public ::testing::Test {
+  protected:
+    FormRenk& Secici() { return *program.FormRenk.Tut(); }
+    /// A click on the chart where it has this colour.
+    void Tikla(RenkDegeri renk) {
+        Secici().Picture1_MouseDown(renk);
+        Secici().Picture1_MouseUp();
+    }
+    void MetinlerBekle(const std::array<MetinBakis, 6>& beklenen) {
+        EXPECT_EQ(Secici().txtRed.metin, beklenen[0]);
+        EXPECT_EQ(Secici().txtGreen.metin, beklenen[1]);
+        EXPECT_EQ(Secici().txtBlue.metin, beklenen[2]);
+        EXPECT_EQ(Secici().txtWeb.metin, beklenen[3]);
+        EXPECT_EQ(Secici().txtTers.metin, beklenen[4]);
+        EXPECT_EQ(Secici().txtHex.metin, beklenen[5]);
+    }
+
+    GeciciAgac agac;
+    SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    Program program{ortam.Ver(), agac.Kok()};
+};
+
+TEST_F(FormRenkTest, CaptionsStandAsTheUserReadsThemAndAllTextsBeginAtZero) {
+    EXPECT_EQ(Secici().baslik, u"Renk Seçiniz");
+    EXPECT_EQ(Secici().redBaslik, u"R");
+    EXPECT_EQ(Secici().greenBaslik, u"G");
+    EXPECT_EQ(Secici().blueBaslik, u"B");
+    EXPECT_EQ(Secici().webBaslik, u"Web Value");
+    EXPECT_EQ(Secici().hexBaslik, u"Hex Value");
+    EXPECT_EQ(Secici().Command1.baslik, u"Tamam");
+    EXPECT_EQ(Secici().Command2.baslik, u"İptal");
+    MetinlerBekle({u"0", u"0", u"0", u"0", u"0", u"0"});
+}
+
+TEST_F(FormRenkTest, PickShowsTheColourInAllItsForms) {
+    Tikla(6086641); // 5C DF F1 from the high byte down
+    EXPECT_EQ(Secici().picColorBox.zemin, 6086641);
+    MetinlerBekle({u"241", u"223", u"92", u"#F1DF5C", u"&H5CDFF1&", u"5CDFF1"});
+}
+
+TEST_F(FormRenkTest, HexValueIsUnpaddedAndTheOtherTwoArePadded) {
+    Tikla(0x00000A);
+    MetinlerBekle({u"10", u"0", u"0", u"#0A0000", u"&H00000A&", u"A"});
+    Tikla(0x008000);
+    MetinlerBekle({u"0", u"128", u"0", u"#008000", u"&H008000&", u"8000"});
+    Tikla(0);
+    MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
+    Tikla(0xFFFFFF);
+    MetinlerBekle({u"255", u"255", u"255", u"#FFFFFF", u"&HFFFFFF&", u"FFFFFF"});
+}
+
+TEST_F(FormRenkTest, EveryComponentIsSplitRight) {
+    for (int deger = 0; deger < 256; ++deger) {
+        Tikla(deger + 256 * (255 - deger) + 65536 * (deger / 2));
+        EXPECT_EQ(Secici().txtRed.metin, SayiMetni(deger));
+        EXPECT_EQ(Secici().txtGreen.metin, SayiMetni(255 - deger));
+        EXPECT_EQ(Secici().txtBlue.metin, SayiMetni(deger / 2));
+    }
+}
+
+TEST_F(FormRenkTest, PlaceOutsideTheChartIsBlack) {
+    Tikla(0xFFFFFF);
+    Tikla(-1);
+    EXPECT_EQ(Secici().picColorBox.zemin, 0);
+    MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
+}
+
+TEST_F(FormRenkTest, MovePicksOnlyWhileTheButtonIsHeld) {
+    Secici().Picture1_MouseMove(5);
+    EXPECT_EQ(Secici().txtRed.metin, u"0");
+    Secici().Picture1_MouseDown(5);
+    Secici().Picture1_MouseMove(6);
+    EXPECT_EQ(Secici().txtRed.metin, u"6");
+    Secici().Picture1_MouseUp();
+    Secici().Picture1_MouseMove(7);
+    EXPECT_EQ(Secici().txtRed.metin, u"6");
+}
+
+TEST_F(FormRenkTest, ColourBoxOpensThePickerWithItsColourAndItsSlot) {
+    bool acildi = false;
+    ortam.modalda[EkranAdi::FormRenk] = [&] {
+        acildi = true;
+        EXPECT_EQ(Secici().picColorBox.zemin, 12632256);
+        EXPECT_EQ(Secici().Tag, u"17");
+        Tikla(123);
+        Secici().Command1_Click();
+    };
+    program.FormAyarlar->Renk_Click(17);
+    EXPECT_TRUE(acildi);
+    EXPECT_EQ(program.FormAyarlar->Renk(17), 123);
+    EXPECT_FALSE(program.FormRenk.Yuklu());
+}
+
+TEST_F(FormRenkTest, OkWithoutAPickGivesBlackThoughTheSampleShowsTheOldColourAsIsMeant) {
+    ortam.modalda[EkranAdi::FormRenk] = [&] {
+        EXPECT_EQ(Secici().picColorBox.zemin, 32768);
+        Secici().Command1_Click();
+    };
+    program.FormAyarlar->Renk_Click(0);
+    EXPECT_EQ(program.FormAyarlar->Renk(0), 0);
+}
+
+TEST_F(FormRenkTest, CancelAfterAPickLeavesTheColour) {
+    ortam.modalda[EkranAdi::FormRenk] = [&] {
+        Tikla(123);
+        Secici().Command2_Click();
+    };
+    program.FormAyarlar->Renk_Click(0);
+    EXPECT_EQ(program.FormAyarlar->Renk(0), 32768);
+    EXPECT_FALSE(program.FormRenk.Yuklu());
+}
+
+TEST_F(FormRenkTest, TypedComponentsAreTakenAndStayWithinAByte) {
+    Secici().Tag = u"3";
+    Secici().txtRed.metin = u"10";
+    Secici().txtGreen.metin = u"999999999999";
+    Secici().txtBlue.metin = u"-5";
+    Secici().Command1_Click();
+    EXPECT_EQ(program.FormAyarlar->Renk(3), 0x00FF0A);
+    Secici().Tag = u"3";
+    Secici().txtRed.metin = u"kırmızı";
+    Secici().Command1_Click();
+    EXPECT_EQ(program.FormAyarlar->Renk(3), 0);
+}
+
+TEST_F(FormRenkTest, SlotThatIsNotThereChangesNoColour) {
+    const auto once = program.FormAyarlar->renkler;
+    for (const auto* tag : {u"25", u"-1", u"99999999999999999999"}) {
+        Secici().Tag = tag;
+        Tikla(123);
+        Secici().Command1_Click();
+        EXPECT_EQ(program.FormAyarlar->renkler, once);
+    }
+}
+
+} // namespace velora::test

@@ -1,0 +1,306 @@
+#include "setup/FormSalonTanim.h"
+
+#include "setup/SalonTest.h"
+
+namespace velora::test {
+
+namespace {
+
+const BeklenenKutu kAdYok{
+    u"Hata", u"Salon adını girmediniz!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."};
+
+} // namespace
+
+class FormSalonTanimTest : public SalonTest {};
+
+TEST_F(FormSalonTanimTest, CaptionsStandAsTheUserReadsThem) {
+    kullanici.ProgramiAc();
+    EXPECT_EQ(Tanim().baslik, u"Salon Tanımları");
+    EXPECT_EQ(Tanim().Label8.baslik, u"Salon Tanımları");
+    EXPECT_EQ(Tanim().Command1.baslik, u"Ekle");
+    EXPECT_EQ(Tanim().Command2.baslik, u"Sil");
+    EXPECT_EQ(Tanim().Command3.baslik, u"Kapat");
+    EXPECT_EQ(Tanim().Command4.baslik, u"Düzenle");
+    EXPECT_EQ(Tanim().Kaydet.baslik, u"Kaydet");
+}
+
+TEST_F(FormSalonTanimTest, BlankLinesAndBlankNamesGiveNoEntry) {
+    agac.Koy(u"Salon.dat", "\"B\"\r\n\r\n\"  \"\r\n\"\"\r\n\"A \"\r\n\r\n");
+    kullanici.ProgramiAc();
+    SalonlarBekle({u"B", u"A "});
+}
+
+TEST_F(FormSalonTanimTest, AbsentAndEmptyFilesGiveAnEmptyListThatCloseRefusesAndStartsAnAdd) {
+    for (const bool var : {false, true}) {
+        if (var)
+            agac.Koy(u"Salon.dat", "");
+        kullanici.ProgramiAc();
+        Ortam().Bekle(BeklenenKutu{
+            u"Hata",
+            u"Hiç salon tanımınız yok!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."});
+        Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", u" "});
+        Tanim().Command3_Click();
+        EXPECT_TRUE(kullanici.Prog().FormSalonTanim.Yuklu()) << "the screen stays open";
+        SalonlarBekle({});
+    }
+}
+
+TEST_F(FormSalonTanimTest, CloseUnloadsWithAHallInTheList) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    SalonlarAcikken([this] { Tanim().Command3_Click(); });
+    EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
+    EXPECT_EQ(Ortam().gizlenenler, std::vector<EkranAdi>{EkranAdi::FormSalonTanim});
+}
+
+TEST_F(FormSalonTanimTest, EmptyAnswersAskAgainAndBlanksLeaveWithNothingWritten) {
+    kullanici.ProgramiAc();
+    const std::string once = agac.Resim();
+    for (const auto* cevap : {u"", u"", u"  "})
+        Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
+    Ortam().Bekle(kAdYok);
+    Ortam().Bekle(kAdYok);
+    Tanim().Command1_Click();
+    SalonlarBekle({});
+    EXPECT_EQ(agac.Resim(), once);
+}
+
+// A trim takes blanks alone.
+TEST_F(FormSalonTanimTest, TabIsNoBlankAndMakesAHallWithoutAFolder) {
+    kullanici.ProgramiAc();
+    SalonEkle(u"\t");
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"\t\"\r\n");
+    SalonlarBekle({u"\t"});
+}
+
+TEST_F(FormSalonTanimTest, NameInLowerCaseIsListedStoredAndUsedAsAFolderInProperCase) {
+    kullanici.ProgramiAc();
+    SalonEkle(u"büyük salon");
+    SalonEkle(u"IŞIK-iNCİ  izmir");
+    SalonlarBekle({u"Büyük Salon", u"Işık-inci  İzmir"});
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\xFCy\xFCk Salon\"\r\n\"I\xFE\xFDk-inci  \xDDzmir\"\r\n");
+    for (int yil = 2012; yil <= 2022; ++yil) {
+        EXPECT_TRUE(agac.KlasorVar(u"Büyük Salon/" + SayiMetni(yil))) << yil;
+        EXPECT_TRUE(agac.KlasorVar(u"Işık-inci  İzmir/" + SayiMetni(yil))) << yil;
+    }
+    EXPECT_FALSE(agac.KlasorVar(u"Büyük Salon/2011"));
+    EXPECT_FALSE(agac.KlasorVar(u"Büyük Salon/2023"));
+}
+
+TEST_F(FormSalonTanimTest, YearFoldersBeginAtTheSelectedYear) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.YilSec(u"2020");
+    SalonEkle(u"b");
+    EXPECT_TRUE(agac.KlasorVar(u"B/2020"));
+    EXPECT_TRUE(agac.KlasorVar(u"B/2030"));
+    EXPECT_FALSE(agac.KlasorVar(u"B/2019"));
+    EXPECT_FALSE(agac.KlasorVar(u"B/2031"));
+}
+
+TEST_F(FormSalonTanimTest, FirstHallIsSelectedAndItsTableIsLoaded) {
+    RezervasyonKoy(u"Salon A");
+    kullanici.ProgramiAc();
+    EXPECT_EQ(RezervasyonTagi(), u"");
+    SalonEkle(u"salon a");
+    EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A");
+    EXPECT_NE(RezervasyonTagi(), u"");
+    SalonEkle(u"salon b");
+    EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A") << "only the first hall is selected by its add";
+}
+
+TEST_F(FormSalonTanimTest, NameEnteredTwiceGivesTwoEntriesThatShareOneFolder) {
+    kullanici.ProgramiAc();
+    SalonEkle(u"a");
+    agac.Koy(u"A/2012/x", "kept");
+    SalonEkle(u"a");
+    SalonlarBekle({u"A", u"A"});
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n\"A\"\r\n");
+    EXPECT_EQ(agac.Bayt(u"A/2012/x"), "kept");
+}
+
+TEST_F(FormSalonTanimTest, OnlyAMarkedHallCanBeDeletedOrRenamed) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n");
+    kullanici.ProgramiAc();
+    SalonlarAcikken([this] {
+        EXPECT_FALSE(Tanim().Command2.etkin);
+        EXPECT_FALSE(Tanim().Command4.etkin);
+        Isaretle(1);
+        EXPECT_TRUE(Tanim().Command2.etkin);
+        EXPECT_TRUE(Tanim().Command4.etkin);
+        Isaretle(-1);
+        EXPECT_FALSE(Tanim().Command2.etkin);
+        EXPECT_FALSE(Tanim().Command4.etkin);
+    });
+}
+
+TEST_F(FormSalonTanimTest, AfterANoBothButtonsStayDisabledThoughARowIsMarkedAsIsMeant) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    SalonSil(0, Cevap::Hayir);
+    SalonlarBekle({u"A"});
+    EXPECT_EQ(Tanim().List1.secili, 0);
+    EXPECT_FALSE(Tanim().Command2.etkin);
+    EXPECT_FALSE(Tanim().Command4.etkin);
+}
+
+TEST_F(FormSalonTanimTest, DeletingTheSelectedHallSelectsTheFirstAndPaintsIt) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n\"C\"\r\n");
+    RezervasyonKoy(u"B");
+    kullanici.ProgramiAc();
+    SalonSil(0, Cevap::Evet);
+    SalonlarBekle({u"B", u"C"});
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\"\r\n\"C\"\r\n");
+    EXPECT_EQ(Tablo().Salon.Metni(), u"B");
+    EXPECT_NE(RezervasyonTagi(), u"");
+    EXPECT_TRUE(agac.KlasorVar(u"A/2012"));
+}
+
+TEST_F(FormSalonTanimTest, DeletingAnotherHallSelectsTheFirstToo) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n\"C\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.SalonSec(u"C");
+    SalonSil(1, Cevap::Evet);
+    SalonlarBekle({u"A", u"C"});
+    EXPECT_EQ(Tablo().Salon.Metni(), u"A");
+}
+
+TEST_F(FormSalonTanimTest, DeletingTheOnlyHallLeavesAnEmptySelectorAPaintedTableAndTheFolders) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    RezervasyonKoy(u"A");
+    kullanici.ProgramiAc();
+    SalonSil(0, Cevap::Evet);
+    SalonlarBekle({});
+    EXPECT_EQ(Tablo().Salon.secili, -1);
+    EXPECT_EQ(Tablo().Salon.Metni(), u"");
+    EXPECT_TRUE(agac.DosyaVar(u"Salon.dat"));
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "");
+    EXPECT_TRUE(agac.DosyaVar(u"A/2012/20.06.2012 - Gece"));
+    EXPECT_NE(RezervasyonTagi(), u"") << "painted until the next scan";
+    Tablo().Command1();
+    EXPECT_EQ(RezervasyonTagi(), u"");
+}
+
+TEST_F(FormSalonTanimTest, DeletingAHallAndAddingItAgainBringsItsReservationsBack) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    RezervasyonKoy(u"A");
+    kullanici.ProgramiAc();
+    const Metin tag = RezervasyonTagi();
+    ASSERT_NE(tag, u"");
+    SalonSil(0, Cevap::Evet);
+    Tablo().Command1();
+    SalonEkle(u"a");
+    EXPECT_EQ(RezervasyonTagi(), tag);
+}
+
+TEST_F(FormSalonTanimTest, DoubleQuoteInANameIsWrittenRawAndSlidesTheNextReadingAsIsMeant) {
+    kullanici.ProgramiAc();
+    SalonEkle(u"a \"b\", c");
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A \"b\", C\"\r\n");
+    kullanici.ProgramiKapat();
+    kullanici.ProgramiAc();
+    SalonlarBekle({u"A ", u"b\"", u"C\""});
+}
+
+TEST_F(FormSalonTanimTest, SignsThatAFolderCannotHoldEnterTheListWithoutAFolder) {
+    kullanici.ProgramiAc();
+    const auto disi = agac.Kok().parent_path();
+    for (const auto* ad : {u"..", u"A/b", u"C:x", u"D\\e", u"..\\f", u"..\\..\\velora Disi"})
+        SalonEkle(ad);
+    EXPECT_EQ(Tanim().List1.ogeler.size(), 6U);
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"),
+              "\"..\"\r\n\"A/b\"\r\n\"C:x\"\r\n\"D\\e\"\r\n\"..\\f\"\r\n\"..\\..\\velora Disi\"\r\n");
+    EXPECT_EQ(agac.Resim(), "Salon.dat\n" + agac.Bayt(u"Salon.dat") + "\n");
+    for (const auto* ad : {u"2012", u"f", u"velora Disi"}) {
+        EXPECT_FALSE(std::filesystem::exists(disi / std::filesystem::path(Metin(ad))));
+        EXPECT_FALSE(std::filesystem::exists(disi.parent_path() / std::filesystem::path(Metin(ad))));
+    }
+}
+
+TEST_F(FormSalonTanimTest, NameOutsideTheCodePageIsListedAsTheFileHoldsIt) {
+    kullanici.ProgramiAc();
+    SalonEkle(u"salon \u0416\U0001F600");
+    SalonlarBekle({u"Salon ??"});
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"Salon ??\"\r\n");
+}
+
+TEST_F(FormSalonTanimTest, NameOfFiveThousandSignsIsKeptWithoutAFolder) {
+    kullanici.ProgramiAc();
+    SalonEkle(Metin(5000, u'a'));
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A" + std::string(4999, 'a') + "\"\r\n");
+}
+
+TEST_F(FormSalonTanimTest, FoldersThatCannotBeMadeAreNoHindrance) {
+    kullanici.ProgramiAc();
+    Boz(DosyaIsi::KlasorYap);
+    SalonEkle(u"a");
+    SalonlarBekle({u"A"});
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
+    EXPECT_FALSE(agac.KlasorVar(u"A"));
+}
+
+TEST_F(FormSalonTanimTest, ListThatCannotBeWrittenKeepsTheOldFileAndSaysNothing) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    Boz(DosyaIsi::Yaz);
+    SalonEkle(u"b");
+    SalonlarBekle({u"A", u"B"});
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
+    EXPECT_TRUE(agac.KlasorVar(u"B/2012")) << "the steps behind the failed one still run";
+}
+
+TEST_F(FormSalonTanimTest, FullDiskKeepsTheOldListWhole) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.Prog().dosyalar.bosYer = 2;
+    SalonEkle(u"b");
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
+}
+
+class IlkSalon : public SalonTest {
+  protected:
+    void SoruBekle(Cevap cevap) {
+        Ortam().Bekle(BeklenenKutu{
+            u"Salon Tanımı", u"Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister misiniz?",
+            Simge::Soru, cevap});
+    }
+};
+
+TEST_F(IlkSalon, FirstRunOpensAListThatClosesOnlyAfterAnAddWasStarted) {
+    kullanici.ProgramiAc();
+    SoruBekle(Cevap::Evet);
+    bool acildi = false;
+    Ortam().modalda[EkranAdi::FormSalonTanim] = [&] {
+        acildi = true;
+        EXPECT_FALSE(Tanim().Command3.etkin);
+        SalonEkle(u"  ");
+        EXPECT_TRUE(Tanim().Command3.etkin);
+        SalonEkle(u"gül salonu");
+        Tanim().Command3_Click();
+    };
+    IlkSalonuSor(kullanici.Prog());
+    EXPECT_TRUE(acildi);
+    EXPECT_EQ(Tablo().Salon.Metni(), u"Gül Salonu");
+    EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
+}
+
+TEST_F(IlkSalon, NoIsAnsweredByACriticalBoxAndTheListAllTheSame) {
+    kullanici.ProgramiAc();
+    SoruBekle(Cevap::Hayir);
+    Ortam().Bekle(BeklenenKutu{
+        u"Velora",
+        u"Salon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!\nLütfen önce salon tanımı yapınız!",
+        Simge::Kritik});
+    IlkSalonuSor(kullanici.Prog());
+    EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormSalonTanim);
+    EXPECT_FALSE(Tanim().Command3.etkin);
+}
+
+TEST_F(IlkSalon, FirmWithAHallIsAskedNothing) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    IlkSalonuSor(kullanici.Prog());
+    EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
+}
+
+} // namespace velora::test

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "destek/GeciciAgac.h"
+#include "destek/SahteOrtam.h"
+#include "screen/Program.h"
+#include "setup/FormMenuAyar.h"
+#include "setup/FormMenuEkle.h"
+
+namespace velora::test {
+
+/// What is done on the two screens of the menus.
+class MenuTest : public ::testing::Test {
+  protected:
+    using Satirlar = std::vector<std::vector<Metin>>;
+
+    FormMenuAyar& Menuler() { return *program.FormMenuAyar.Tut(); }
+    FormMenuEkle& Ekle() { return *program.FormMenuEkle.Tut(); }
+    Satirlar Liste() {
+        Satirlar satirlar;
+        for (const ListeSatiri& satir : Menuler().Liste.satirlar)
+            satirlar.push_back(satir.sutun);
+        return satirlar;
+    }
+    void Isaretle(int sira) {
+        Menuler().Liste.secili = sira;
+        Menuler().Liste_Click();
+    }
+    /// `is` is done while the dialogue of one menu stands.
+    void MenuAcikken(std::function<void()> is) { ortam.modalda[EkranAdi::FormMenuEkle] = std::move(is); }
+    void Yaz(const Metin& ad, const Metin& icerik) {
+        Ekle().Text1.metin = ad;
+        Ekle().Text1_Change();
+        Ekle().Text2.metin = icerik;
+    }
+    void MenuEkle(const Metin& ad, const Metin& icerik) {
+        MenuAcikken([this, ad, icerik] {
+            Yaz(ad, icerik);
+            Ekle().Command4_Click();
+        });
+        Menuler().Command1_Click();
+    }
+    void MenuSil(int sira, Cevap cevap) {
+        Isaretle(sira);
+        ortam.Bekle(BeklenenKutu{u"Velora", u"Seçili menüyü silmek istediğinizden emin misiniz?", Simge::Soru,
+                                 cevap});
+        Menuler().Command2_Click();
+    }
+
+    GeciciAgac agac;
+    SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    Program program{ortam.Ver(), agac.Kok()};
+};
+
+} // namespace velora::test

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "destek/Kayitlar.h"
+#include "destek/Kullanici.h"
+#include "setup/FormSalonTanim.h"
+#include "setup/FormSalonTanimAd.h"
+
+namespace velora::test {
+
+/// The program of a firm on 15 June 2012, and what is done on the screens of its halls.
+class SalonTest : public ::testing::Test {
+  protected:
+    using Salonlar = std::vector<Metin>;
+
+    FormSalonTanim& Tanim() { return *kullanici.Prog().FormSalonTanim.Tut(); }
+    FormTablo& Tablo() { return kullanici.Tablo(); }
+    SahteOrtam& Ortam() { return kullanici.ortam; }
+
+    /// The hall list is opened; `is` is done on it while it stands.
+    void SalonlarAcikken(std::function<void()> is) {
+        Ortam().modalda[EkranAdi::FormSalonTanim] = std::move(is);
+        kullanici.Prog().FormSalonTanim.GosterModal();
+    }
+    void SalonEkle(const Metin& cevap) {
+        Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
+        Tanim().Command1_Click();
+    }
+    void Isaretle(int sira) {
+        Tanim().List1.secili = sira;
+        Tanim().List1_Click();
+    }
+    void SalonSil(int sira, Cevap cevap) {
+        Isaretle(sira);
+        Ortam().Bekle(
+            BeklenenKutu{u"Velora",
+                         u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\nSeçili "
+                         u"salonu silmek istediğinize emin misiniz?",
+                         Simge::Soru, cevap});
+        Tanim().Command2_Click();
+    }
+    /// The marked hall gets this name.
+    void AdDegistir(int sira, const Metin& yeni) {
+        Isaretle(sira);
+        Ortam().modalda[EkranAdi::FormSalonTanimAd] = [this, yeni] {
+            kullanici.Prog().FormSalonTanimAd->Text1.metin = yeni;
+            kullanici.Prog().FormSalonTanimAd->Command1_Click();
+        };
+        Tanim().Command4_Click();
+    }
+    /// A reservation of the hall on 20 June 2012 in the evening.
+    void RezervasyonKoy(const Metin& salon) const {
+        agac.KoyMetin(salon + u"/2012/20.06.2012 - Gece", AnaMetni());
+        agac.KoyMetin(salon + u"/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+    }
+    /// What the table knows of it; empty when it shows none.
+    const Metin& RezervasyonTagi() { return kullanici.Goz(20, 6, GunduzGece::Gece).tag; }
+    /// Both lists hold these halls, in this order.
+    void SalonlarBekle(const Salonlar& beklenen) {
+        EXPECT_EQ(Tanim().List1.ogeler, beklenen);
+        EXPECT_EQ(Tablo().Salon.ogeler, beklenen);
+    }
+    /// Everything of this kind fails from now on.
+    void Boz(DosyaIsi bozuk) {
+        kullanici.Prog().dosyalar.ariza = [bozuk](DosyaIsi is, const Metin&) { return is == bozuk; };
+    }
+
+    GeciciAgac agac;
+    Kullanici kullanici{agac, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+};
+
+} // namespace velora::test
