@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -181,6 +182,15 @@ void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
         if (model.secili < 0)
             kutu.setPlaceholderText(QMetin(model.serbest));
         kutu.setEnabled(model.etkin);
+    });
+}
+
+void Baglayici::Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi) {
+    connect(&girdi, &QAction::triggered, this, [this, tiklandi] { Calistir(tiklandi); });
+    Izle([&girdi, &model] {
+        girdi.setText(QMetin(model.baslik));
+        girdi.setEnabled(model.etkin);
+        girdi.setVisible(model.gorunur);
     });
 }
 

@@ -11,6 +11,7 @@
 #include "screen/Kontroller.h"
 
 class QAbstractButton;
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QDateEdit;
@@ -64,6 +65,7 @@ class Baglayici : public QObject {
     void Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tiklandi);
     /// A list that hasn't the focus passes the wheel on: it turns what lies under the pointer, not a choice.
     void Bagla(QComboBox& kutu, AcilirListe& model);
+    void Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi);
     /// `secildi` runs when the user marks another row, `ciftTiklandi` on a double click.
     void Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& secildi = {},
                const Isleyici& ciftTiklandi = {});

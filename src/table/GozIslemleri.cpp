@@ -6,6 +6,7 @@
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
+#include "setup/FormSalonTanim.h"
 #include "storage/Tarih.h"
 #include "table/FormTablo.h"
 #include "table/HucreRenkleri.h"
@@ -69,6 +70,7 @@ void FormTablo::Hucre_DblClick(SatirAdi satir, int gun) {
 void FormTablo::newkay_Click() {
     if (Kirp(Salon.Metni()).empty()) {
         program_.ortam.sor.mesaj({.metin = u"Lütfen Önce Salon Tanımı yapınız!", .simge = Simge::Kritik});
+        program_.FormSalonTanim.GosterModal();
         return;
     }
     {

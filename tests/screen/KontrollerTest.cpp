@@ -37,7 +37,11 @@ TEST_F(AcilirListeTest, Text_of_the_second_of_two_equal_entries_keeps_the_second
     EXPECT_EQ(tik, 1);
 }
 
+<<<<<<< HEAD
 TEST_F(AcilirListeTest, EntryTakenOutBeforeTheChosenOneMovesTheChoiceWithItsEntry) {
+=======
+TEST_F(AcilirListeTest, Entry_taken_out_before_the_chosen_one_moves_the_choice_with_its_entry) {
+>>>>>>> goz
     liste.SessizSec(u"C");
     liste.Sil(0);
     EXPECT_EQ(liste.secili, 2);
@@ -45,7 +49,7 @@ TEST_F(AcilirListeTest, EntryTakenOutBeforeTheChosenOneMovesTheChoiceWithItsEntr
     EXPECT_EQ(tik, 0);
 }
 
-TEST_F(AcilirListeTest, ChosenEntryTakenOutLeavesNoneChosenAndAnEmptyField) {
+TEST_F(AcilirListeTest, Chosen_entry_taken_out_leaves_none_chosen_and_an_empty_field) {
     liste.MetinAta(u"C");
     liste.Sil(3);
     EXPECT_EQ(liste.secili, -1);
@@ -53,7 +57,7 @@ TEST_F(AcilirListeTest, ChosenEntryTakenOutLeavesNoneChosenAndAnEmptyField) {
     EXPECT_EQ(tik, 0);
 }
 
-TEST_F(AcilirListeTest, TakingOutWhatIsNotThereChangesNothing) {
+TEST_F(AcilirListeTest, Taking_out_what_is_not_there_changes_nothing) {
     liste.MetinAta(u"free text");
     liste.Sil(-1);
     liste.Sil(4);
@@ -61,7 +65,7 @@ TEST_F(AcilirListeTest, TakingOutWhatIsNotThereChangesNothing) {
     EXPECT_EQ(liste.Metni(), u"free text");
 }
 
-TEST(ListeKutusu, MarkFollowsItsEntryWhenOthersAreTakenOut) {
+TEST(ListeKutusu, Mark_follows_its_entry_when_others_are_taken_out) {
     ListeKutusu liste{{u"A", u"B", u"C"}, 1};
     EXPECT_EQ(liste.Metni(), u"B");
     liste.Sil(2);

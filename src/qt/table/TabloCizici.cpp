@@ -22,6 +22,16 @@ constexpr double kCerceveDisi = 1; // of that, what reaches into the neighbours
 constexpr int kPictogramBoyu = 16; // logical pixels
 constexpr double kPictogramOrani = 0.8; // of the height of its row at most
 
+constexpr double kOdakEni = 2; // logical pixels of the dark ring
+constexpr QColor kOdakTonu(32, 33, 36);
+
+void Halka(QPainter& boyaci, const QRect& r, int kalinlik, const QColor& ton) {
+    boyaci.fillRect(QRect(r.x(), r.y(), r.width(), kalinlik), ton);
+    boyaci.fillRect(QRect(r.x(), r.y() + r.height() - kalinlik, r.width(), kalinlik), ton);
+    boyaci.fillRect(QRect(r.x(), r.y(), kalinlik, r.height()), ton);
+    boyaci.fillRect(QRect(r.x() + r.width() - kalinlik, r.y(), kalinlik, r.height()), ton);
+}
+
 /// The texts of a list of labels or cells, each once.
 QStringList AyriMetinler(const auto& parcalar) {
     std::set<Metin> metinler;
@@ -193,15 +203,18 @@ void TabloCizici::Cerceve(QPainter& boyaci, const TabloDuzeni& duzen, const velo
     if (!cerceve.gorunur)
         return;
     const int en = static_cast<int>(std::lround(kCerceveEni * duzen.Olcek()));
-    const auto halka = [&boyaci](const QRect& r, int kalinlik, const QColor& ton) {
-        boyaci.fillRect(QRect(r.x(), r.y(), r.width(), kalinlik), ton);
-        boyaci.fillRect(QRect(r.x(), r.y() + r.height() - kalinlik, r.width(), kalinlik), ton);
-        boyaci.fillRect(QRect(r.x(), r.y(), kalinlik, r.height()), ton);
-        boyaci.fillRect(QRect(r.x() + r.width() - kalinlik, r.y(), kalinlik, r.height()), ton);
-    };
     const QRect dis = CerceveBolgesi(duzen, duzen.CerceveninCifti(cerceve.yer));
-    halka(dis, en, renk);
-    halka(dis.adjusted(en, en, -en, -en), duzen.Cizgi(), tonlar_.cerceveIci);
+    Halka(boyaci, dis, en, renk);
+    Halka(boyaci, dis.adjusted(en, en, -en, -en), duzen.Cizgi(), tonlar_.cerceveIci);
+}
+
+void TabloCizici::OdakIsareti(QPainter& boyaci, const TabloDuzeni& duzen, const QRect& hucre) {
+    boyaci.save();
+    boyaci.scale(1 / duzen.Olcek(), 1 / duzen.Olcek());
+    const int en = static_cast<int>(std::lround(kOdakEni * duzen.Olcek()));
+    Halka(boyaci, hucre, en, kOdakTonu);
+    Halka(boyaci, hucre.adjusted(en, en, -en, -en), duzen.Cizgi(), Qt::white);
+    boyaci.restore();
 }
 
 const QPixmap& TabloCizici::Pictogram(GunduzGece dilim, RenkDegeri renk) {

@@ -36,6 +36,10 @@ class TabloCizici {
     /// The part of the table that a frame about this pair of cells covers, in device pixels.
     static QRect CerceveBolgesi(const TabloDuzeni& duzen, const QRect& cift);
 
+    /// Marks the cell that the keys work on: two thin rings within its edge, dark and light, so that they stand
+    /// out on any colour and leave most of it free.
+    static void OdakIsareti(QPainter& boyaci, const TabloDuzeni& duzen, const QRect& hucre);
+
   private:
     struct Yazi {
         QStaticText metin;

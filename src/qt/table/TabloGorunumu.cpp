@@ -3,7 +3,6 @@
 #include <functional>
 
 #include <QHelpEvent>
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -11,6 +10,7 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/OlayKilidi.h"
+#include "qt/table/TabloGirisi.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
 #include "table/Yerlesim.h"
@@ -79,6 +79,7 @@ TabloGorunumu::TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* us
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     baglayici_.Izle([this] { Tazele(); });
+    giris_ = new TabloGirisi(program, baglayici, *this);
 }
 
 QSize TabloGorunumu::sizeHint() const {
@@ -150,6 +151,8 @@ void TabloGorunumu::paintEvent(QPaintEvent* olay) {
             QRectF(kirli.x() * olcek, kirli.y() * olcek, kirli.width() * olcek, kirli.height() * olcek)
                 .toAlignedRect();
         cizici_.Ciz(boyaci, *tablo, duzen_, bolge, program_.FormAyarlar->Renk(16));
+        if (const TabloIsabeti goz = giris_->OdakGozu(); goz.tur == TabloIsabeti::Tur::Hucre)
+            TabloCizici::OdakIsareti(boyaci, duzen_, duzen_.Hucre(goz.satir, goz.gun));
     });
 }
 
@@ -169,49 +172,6 @@ TabloIsabeti TabloGorunumu::Isabet(QPointF yer) const {
         }
     };
     return gizli() ? TabloIsabeti{} : isabet;
-}
-
-void TabloGorunumu::mousePressEvent(QMouseEvent* olay) {
-    if (olay->button() == Qt::LeftButton)
-        basilan_ = Isabet(olay->position());
-}
-
-void TabloGorunumu::mouseDoubleClickEvent(QMouseEvent* olay) {
-    mousePressEvent(olay);
-}
-
-void TabloGorunumu::mouseReleaseEvent(QMouseEvent* olay) {
-    if (olay->button() != Qt::LeftButton)
-        return;
-    const TabloIsabeti basilan = std::exchange(basilan_, {});
-    if (basilan == Isabet(olay->position()))
-        Tikla(basilan);
-}
-
-void TabloGorunumu::Tikla(const TabloIsabeti& isabet) {
-    baglayici_.Calistir([this, isabet] {
-        const auto tablo = program_.FormTablo.Tut();
-        switch (isabet.tur) {
-        case TabloIsabeti::Tur::GunBasligi:
-            return tablo->ALabel_Click(isabet.gun);
-        case TabloIsabeti::Tur::AyBasligi:
-            return tablo->AyAdi_Click(isabet.ay);
-        case TabloIsabeti::Tur::Hucre:
-            return tablo->Hucre_Click();
-        case TabloIsabeti::Tur::Bos:
-            break;
-        }
-    });
-}
-
-void TabloGorunumu::mouseMoveEvent(QMouseEvent* olay) {
-    const TabloIsabeti::Tur tur = Isabet(olay->position()).tur;
-    const bool baslik = tur == TabloIsabeti::Tur::GunBasligi || tur == TabloIsabeti::Tur::AyBasligi;
-    const Qt::CursorShape imlec = baslik ? Qt::PointingHandCursor : Qt::ArrowCursor;
-    if (cursor().shape() != imlec)
-        setCursor(imlec);
-    if (tur != TabloIsabeti::Tur::Hucre)
-        baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
 }
 
 bool TabloGorunumu::event(QEvent* olay) {

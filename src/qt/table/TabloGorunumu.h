@@ -12,16 +12,21 @@ class QHelpEvent;
 namespace velora {
 
 class Baglayici;
+class TabloGirisi;
 struct Program;
 
 /// The year table on the window: one widget, painted from the cell model. It reports its size to the screen
-/// in twips, takes clicks on heads and cells, and shows the tool tips of the cells.
+/// in twips and shows the tool tips of the cells. What the user does on it goes through `TabloGirisi`.
 class TabloGorunumu : public QWidget {
   public:
     TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* ust);
 
     /// Where the parts of the table stand now.
     const TabloDuzeni& Duzen() const { return duzen_; }
+    /// What lies at a place; the place of a hidden cell is bare.
+    TabloIsabeti Isabet(QPointF yer) const;
+    /// Device pixels of the layout as logical pixels of the widget.
+    QRect Mantiksal(const QRect& bolge) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -29,10 +34,6 @@ class TabloGorunumu : public QWidget {
   protected:
     void resizeEvent(QResizeEvent* olay) override;
     void paintEvent(QPaintEvent* olay) override;
-    void mousePressEvent(QMouseEvent* olay) override;
-    void mouseDoubleClickEvent(QMouseEvent* olay) override;
-    void mouseReleaseEvent(QMouseEvent* olay) override;
-    void mouseMoveEvent(QMouseEvent* olay) override;
     bool event(QEvent* olay) override;
 
   private:
@@ -47,18 +48,14 @@ class TabloGorunumu : public QWidget {
     void Tazele();
     void CerceveTazele(CerceveGoruntusu& eski, const velora::Cerceve& cerceve);
     void DuzeniKur(const FormTablo& tablo);
-    void Tikla(const TabloIsabeti& isabet);
     void IpucuGoster(const QHelpEvent& olay);
-    /// What lies at a place; the place of a hidden cell is bare.
-    TabloIsabeti Isabet(QPointF yer) const;
-    QRect Mantiksal(const QRect& bolge) const;
 
     Program& program_;
     Baglayici& baglayici_;
     std::weak_ptr<FormTablo> ekran_;
     TabloCizici cizici_;
     TabloDuzeni duzen_;
-    TabloIsabeti basilan_;
+    TabloGirisi* giris_;
     std::uint64_t iz_ = 0;
     CerceveGoruntusu buGun_;
     CerceveGoruntusu cetvel_;

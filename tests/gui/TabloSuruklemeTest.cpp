@@ -1,0 +1,143 @@
+#include <QApplication>
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "qt/table/TabloGirisi.h"
+#include "qt/table/TabloGorunumu.h"
+
+using namespace velora;
+using namespace velora::test;
+
+namespace {
+
+QPoint Goz(GuiFirma& firma, SatirAdi satir, int gun) {
+    return firma.Orta(firma.Tablo().Duzen().Hucre(satir, gun));
+}
+
+Metin Dosya(MetinBakis ad) {
+    return Metin(kSalonA) + u"/2026/" + Metin(ad);
+}
+
+/// Moves the pointer with the left button down.
+void Cek(GuiFirma& firma, QPoint yer) {
+    QMouseEvent olay(QEvent::MouseMove, yer, firma.Tablo().mapToGlobal(yer), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&firma.Tablo(), &olay);
+}
+
+/// The questions of the program are answered, and kept.
+void Cevapla(GuiFirma& firma, std::vector<Metin>& sorular, Cevap cevap) {
+    firma.program.ortam.sor.mesaj = [&sorular, cevap](const MesajKutusu& kutu) {
+        sorular.push_back(kutu.metin);
+        return cevap;
+    };
+}
+
+/// A drag of a cell of this table comes over a place of it and is let go there. False when it isn't taken.
+bool Birak(GuiFirma& firma, QPoint yer, const QMimeData& veri = *TabloGirisi::SuruklemeVerisi()) {
+    QDragEnterEvent giris(yer, Qt::MoveAction, &veri, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&firma.Tablo(), &giris);
+    QDropEvent olay(yer, Qt::MoveAction, &veri, Qt::LeftButton, Qt::NoModifier);
+    olay.ignore();
+    QApplication::sendEvent(&firma.Tablo(), &olay);
+    return olay.isAccepted();
+}
+
+} // namespace
+
+class TabloSuruklemeTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void a_dragged_reservation_dropped_on_a_free_cell_moves_its_files() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        std::vector<Metin> sorular;
+        Cevapla(firma, sorular, Cevap::Evet);
+        firma.Model().TasimaModuAc_Click();
+        const QPoint bas = Goz(firma, EylulGunduz, 10);
+        QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, bas);
+        QVERIFY(firma.Tablo().findChild<QDrag*>() == nullptr);
+        Cek(firma, bas + QPoint(QApplication::startDragDistance() + 1, 0));
+        QVERIFY(firma.Tablo().findChild<QDrag*>() != nullptr);
+        QVERIFY(Birak(firma, Goz(firma, KasimGece, 20)));
+        QVERIFY2(sorular.empty(), "no box while the toolkit is still in its drag");
+        QTRY_COMPARE(sorular.size(), std::size_t{1});
+        QVERIFY(firma.agac.DosyaVar(Dosya(u"20.11.2026 - Gece")));
+        QVERIFY(firma.agac.DosyaVar(Dosya(u"20.11.2026 - Gece-Detay")));
+        QVERIFY(!firma.agac.DosyaVar(Dosya(u"10.09.2026 - Gündüz")));
+        QCOMPARE(firma.Model().tasimamoducheck, 0);
+    }
+
+    void a_press_on_a_draggable_cell_raises_neither_press_nor_click_nor_double_click() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        int acilma = 0;
+        firma.program.ortam.goster.modal = [&](EkranAdi, const auto&) { ++acilma; };
+        firma.Model().TasimaModuAc_Click();
+        firma.Model().AyAdi_Click(3);
+        const QPoint yer = Goz(firma, EylulGunduz, 10);
+        for (const auto dugme : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+            QTest::mouseClick(&firma.Tablo(), dugme, {}, yer);
+            QTest::mouseDClick(&firma.Tablo(), dugme, {}, yer);
+        }
+        QCOMPARE(firma.Model().SeciliTarih2, Metin());
+        QCOMPARE(firma.Model().SeciliTarih, Metin(u"10.09.2026 - Gündüz"));
+        QCOMPARE(firma.Model().HizliAy, 3);
+        QCOMPARE(acilma, 0);
+        QVERIFY(!firma.Bul<QMenu>("Sagtus").isVisible());
+    }
+
+    void a_free_cell_starts_no_drag() {
+        GuiFirma firma;
+        firma.Ac();
+        firma.Model().TasimaModuAc_Click();
+        const QPoint bas = Goz(firma, EylulGunduz, 10);
+        QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, bas);
+        Cek(firma, bas + QPoint(50, 0));
+        QVERIFY(firma.Tablo().findChild<QDrag*>() == nullptr);
+    }
+
+    void a_drop_beside_the_cells_leaves_the_mode_open() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        firma.Model().TasimaModuAc_Click();
+        QVERIFY(!Birak(firma, {20, 10}));
+        QVERIFY(!Birak(firma, Goz(firma, SubatGunduz, 30)));
+        QCOMPARE(firma.Model().tasimamoducheck, 1);
+        QVERIFY(firma.Model().Gozu(EylulGunduz, 10).otomatikSurukleme);
+    }
+
+    void a_drop_on_a_taken_cell_is_refused_and_closes_the_mode() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Rezervasyon(kSalonA, u"11.09.2026 - Gece", true);
+        firma.Ac();
+        std::vector<Metin> sorular;
+        Cevapla(firma, sorular, Cevap::Tamam);
+        firma.Model().TasimaModuAc_Click();
+        QVERIFY(Birak(firma, Goz(firma, EylulGece, 11)));
+        QTRY_COMPARE(sorular.size(), std::size_t{1});
+        QVERIFY(sorular[0].starts_with(u"Bu tarihe taşıma yapamazsınız!"));
+        QCOMPARE(firma.Model().tasimamoducheck, 0);
+    }
+
+    void what_another_program_drags_here_is_no_drop() {
+        GuiFirma firma;
+        firma.Ac();
+        QMimeData veri;
+        veri.setText(QStringLiteral("başka"));
+        QVERIFY(!Birak(firma, Goz(firma, EylulGece, 11), veri));
+    }
+};
+
+VELORA_GUI_TEST(TabloSuruklemeTest)
+#include "TabloSuruklemeTest.moc"
