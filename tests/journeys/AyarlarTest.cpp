@@ -47,7 +47,7 @@ class Ayarlama : public ::testing::Test {
     Kullanici kullanici{agac, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
 };
 
-TEST_F(Ayarlama, TriedAndDroppedSettingsLeaveNoTraceButThePaintOfTheTable) {
+TEST_F(Ayarlama, Tried_and_dropped_settings_leave_no_trace_but_the_paint_of_the_table) {
     const std::string once = agac.Resim();
     AyarlarAcikken([this] {
         RenkSec(12, 0x332211);
@@ -67,7 +67,7 @@ TEST_F(Ayarlama, TriedAndDroppedSettingsLeaveNoTraceButThePaintOfTheTable) {
     EXPECT_EQ(agac.Resim(), once);
 }
 
-TEST_F(Ayarlama, SavedSettingsComeBackAtTheNextStartWithTheNewSlotOrder) {
+TEST_F(Ayarlama, Saved_settings_come_back_at_the_next_start_with_the_new_slot_order) {
     const double ilkUst = kullanici.Tablo().satirlar[Satir(6, kGunduz)].ust;
     AyarlarAcikken([this] {
         RenkSec(2, 0x00FF7F);
@@ -97,7 +97,7 @@ TEST_F(Ayarlama, SavedSettingsComeBackAtTheNextStartWithTheNewSlotOrder) {
     EXPECT_EQ(Ayarlar().UyariGun.metin, u"3");
 }
 
-TEST_F(Ayarlama, DefaultsAreSavedOverOwnSettings) {
+TEST_F(Ayarlama, Defaults_are_saved_over_own_settings) {
     AyarlarAcikken([this] {
         RenkSec(0, 1);
         Ayarlar().Command1_Click();

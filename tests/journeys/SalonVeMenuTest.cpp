@@ -55,7 +55,7 @@ class SalonVeMenu : public ::testing::Test {
     Kullanici kullanici{agac, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
 };
 
-TEST_F(SalonVeMenu, FirstDayOfANewFirmEndsWithItsHallAndItsMenusOnDisk) {
+TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_disk) {
     kullanici.ProgramiAc();
     EXPECT_EQ(agac.Resim(), "") << "no stray folder without a hall";
     kullanici.ortam.Bekle(BeklenenKutu{
@@ -101,7 +101,7 @@ TEST_F(SalonVeMenu, FirstDayOfANewFirmEndsWithItsHallAndItsMenusOnDisk) {
     IlkSalonuSor(Prog()); // asks nothing any more
 }
 
-TEST_F(SalonVeMenu, RenameOfAHallWithReservationsInSixYearsTakesFourOfThemToTheTable) {
+TEST_F(SalonVeMenu, Rename_of_a_hall_with_reservations_in_six_years_takes_four_of_them_to_the_table) {
     agac.Koy(u"Salon.dat", "\"Bah\xE7\x65\"\r\n\"G\xFCl\"\r\n");
     for (int yil = 2010; yil <= 2015; ++yil)
         RezervasyonKoy(u"Bahçe", yil);
@@ -143,7 +143,7 @@ TEST_F(SalonVeMenu, RenameOfAHallWithReservationsInSixYearsTakesFourOfThemToTheT
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"K\xFDr Bah\xE7\x65si\"\r\n\"G\xFCl\"\r\n\"Bah\xE7\x65\"\r\n");
 }
 
-TEST_F(SalonVeMenu, DeletedHallComesBackWithAllItsBytes) {
+TEST_F(SalonVeMenu, Deleted_hall_comes_back_with_all_its_bytes) {
     agac.Koy(u"Salon.dat", "\"G\xFCl\"\r\n\"Bah\xE7\x65\"\r\n");
     RezervasyonKoy(u"Gül", 2012);
     kullanici.ProgramiAc();

@@ -37,11 +37,7 @@ TEST_F(AcilirListeTest, Text_of_the_second_of_two_equal_entries_keeps_the_second
     EXPECT_EQ(tik, 1);
 }
 
-<<<<<<< HEAD
-TEST_F(AcilirListeTest, EntryTakenOutBeforeTheChosenOneMovesTheChoiceWithItsEntry) {
-=======
 TEST_F(AcilirListeTest, Entry_taken_out_before_the_chosen_one_moves_the_choice_with_its_entry) {
->>>>>>> goz
     liste.SessizSec(u"C");
     liste.Sil(0);
     EXPECT_EQ(liste.secili, 2);

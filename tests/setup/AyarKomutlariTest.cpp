@@ -31,7 +31,7 @@ class AyarKomutlari : public TabloTest {
     Hucre& BosGun() { return kullanici.Goz(20, 6, kGunduz); }
 };
 
-TEST_F(AyarKomutlari, CaptionsStandAsTheUserReadsThem) {
+TEST_F(AyarKomutlari, Captions_stand_as_the_user_reads_them) {
     EXPECT_EQ(Ayarlar().baslik, u"Genel Program Ayarları");
     EXPECT_EQ(Ayarlar().sayfalar, (std::array<Metin, 2>{u"Genel Ayarlar ", u"Görünüm Ayarları "}));
     EXPECT_EQ(Ayarlar().Command1.baslik, u"Kaydet");
@@ -54,7 +54,7 @@ TEST_F(AyarKomutlari, CaptionsStandAsTheUserReadsThem) {
     EXPECT_EQ(Ayarlar().Aylar[12].baslik, u"Aralık");
 }
 
-TEST_F(AyarKomutlari, SaveWritesBothFilesWithAllDefaultsAndUnloads) {
+TEST_F(AyarKomutlari, Save_writes_both_files_with_all_defaults_and_unloads) {
     Ayarlar();
     EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
     Ayarlar().Command1_Click();
@@ -64,7 +64,7 @@ TEST_F(AyarKomutlari, SaveWritesBothFilesWithAllDefaultsAndUnloads) {
     EXPECT_EQ(kullanici.ortam.gizlenenler.back(), EkranAdi::FormAyarlar);
 }
 
-TEST_F(AyarKomutlari, EveryFieldIsSavedInItsPlace) {
+TEST_F(AyarKomutlari, Every_field_is_saved_in_its_place) {
     for (int i = 0; i < kRenkSayisi; ++i)
         Ayarlar().renkler[static_cast<std::size_t>(i)] = 100 + i;
     Ayarlar().UyariGun.metin = u"6";
@@ -83,7 +83,7 @@ TEST_F(AyarKomutlari, EveryFieldIsSavedInItsPlace) {
     EXPECT_EQ(agac.Bayt(u"Visible.dll"), "0,1,0,0,0,0,0,0,0,0,0,0,0\r\n");
 }
 
-TEST_F(AyarKomutlari, EmptiedWarningDaysAreAnEmptyQuotedText) {
+TEST_F(AyarKomutlari, Emptied_warning_days_are_an_empty_quoted_text) {
     Ayarlar().UyariGun.metin.clear();
     Ayarlar().Command1_Click();
     EXPECT_EQ(agac.Bayt(u"Settings.dll"),
@@ -91,7 +91,7 @@ TEST_F(AyarKomutlari, EmptiedWarningDaysAreAnEmptyQuotedText) {
     EXPECT_EQ(Ayarlar().UyariGun.metin, u"");
 }
 
-TEST_F(AyarKomutlari, FirstWarningFieldTakesDigitsAloneAndTheSecondAnythingAsIsMeant) {
+TEST_F(AyarKomutlari, First_warning_field_takes_digits_alone_and_the_second_anything_as_is_meant) {
     for (const char16_t tus : MetinBakis(u"0123456789\b"))
         EXPECT_TRUE(Ayarlar().UyariGun_KeyPress(tus));
     for (const char16_t tus : MetinBakis(u"a ,.-\r\""))
@@ -101,7 +101,7 @@ TEST_F(AyarKomutlari, FirstWarningFieldTakesDigitsAloneAndTheSecondAnythingAsIsM
     EXPECT_EQ(Ayarlar().UyariGun2.metin, u"on beş");
 }
 
-TEST_F(AyarKomutlari, DoubleQuoteInTheSecondWarningFieldCostsAllSettingsAsIsMeant) {
+TEST_F(AyarKomutlari, Double_quote_in_the_second_warning_field_costs_all_settings_as_is_meant) {
     Ayarlar().renkler[0] = 77;
     Ayarlar().UyariGun2.metin = u"1\"2";
     Ayarlar().Command1_Click();
@@ -109,7 +109,7 @@ TEST_F(AyarKomutlari, DoubleQuoteInTheSecondWarningFieldCostsAllSettingsAsIsMean
     EXPECT_EQ(Ayarlar().Renk(0), 32768) << "the values behind it slid, so that all defaults stand";
 }
 
-TEST_F(AyarKomutlari, ApplyPaintsColoursAndMonthsAndWritesNothing) {
+TEST_F(AyarKomutlari, Apply_paints_colours_and_months_and_writes_nothing) {
     Ayarlar().renkler[2] = 123;
     Ayarlar().Aylar[7].Ata(0);
     const std::string once = agac.Resim();
@@ -120,13 +120,13 @@ TEST_F(AyarKomutlari, ApplyPaintsColoursAndMonthsAndWritesNothing) {
     EXPECT_EQ(agac.Resim(), once);
 }
 
-TEST_F(AyarKomutlari, UnappliedColourIsReadAtOnceButNotYetPainted) {
+TEST_F(AyarKomutlari, Unapplied_colour_is_read_at_once_but_not_yet_painted) {
     Ayarlar().renkler[2] = 123;
     EXPECT_EQ(kullanici.Prog().FormAyarlar->Renk(2), 123);
     EXPECT_EQ(BosGun().zemin, 8454143);
 }
 
-TEST_F(AyarKomutlari, ApplyingTwiceAfterAChangeOfTheSlotOrderTellsOfTheRestartTwice) {
+TEST_F(AyarKomutlari, Applying_twice_after_a_change_of_the_slot_order_tells_of_the_restart_twice) {
     Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
     kullanici.ortam.Bekle(kSiraDegisti);
     kullanici.ortam.Bekle(kSiraDegisti);
@@ -136,7 +136,7 @@ TEST_F(AyarKomutlari, ApplyingTwiceAfterAChangeOfTheSlotOrderTellsOfTheRestartTw
 }
 
 // At the box and at the scan's points of events the files still hold the old settings.
-TEST_F(AyarKomutlari, SaveAppliesWithMessageAndScanBeforeItWrites) {
+TEST_F(AyarKomutlari, Save_applies_with_message_and_scan_before_it_writes) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
     agac.Koy(u"Visible.dll", kTumAylar);
     kullanici.Prog().FormAyarlar.Bosalt();
@@ -158,7 +158,7 @@ TEST_F(AyarKomutlari, SaveAppliesWithMessageAndScanBeforeItWrites) {
 }
 
 // The window stays pressable where the scan lets events run.
-TEST_F(AyarKomutlari, CancelPressedWithinTheScanOfASaveComesTooLateAndLeavesNothingDangling) {
+TEST_F(AyarKomutlari, Cancel_pressed_within_the_scan_of_a_save_comes_too_late_and_leaves_nothing_dangling) {
     Ayarlar().UyariGun.metin = u"3";
     kullanici.ortam.olayda = [this](int) {
         kullanici.ortam.olayda = nullptr;
@@ -170,7 +170,7 @@ TEST_F(AyarKomutlari, CancelPressedWithinTheScanOfASaveComesTooLateAndLeavesNoth
     EXPECT_FALSE(Acik());
 }
 
-TEST_F(AyarKomutlari, FailedSaveClosesAsIfAllWereWellAndTheNextReadingBringsTheOldValues) {
+TEST_F(AyarKomutlari, Failed_save_closes_as_if_all_were_well_and_the_next_reading_brings_the_old_values) {
     Ayarlar().Command1_Click();
     kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Yaz; };
     Ayarlar().renkler[2] = 123;
@@ -183,7 +183,7 @@ TEST_F(AyarKomutlari, FailedSaveClosesAsIfAllWereWellAndTheNextReadingBringsTheO
     EXPECT_EQ(BosGun().zemin, 123) << "the table keeps what was applied";
 }
 
-TEST_F(AyarKomutlari, FullDiskKeepsTheOldSettingsAndStillWritesTheMonthsThatFit) {
+TEST_F(AyarKomutlari, Full_disk_keeps_the_old_settings_and_still_writes_the_months_that_fit) {
     Ayarlar().Command1_Click();
     kullanici.Prog().dosyalar.bosYer = 0;
     Ayarlar().UyariGun.metin = u"5000000";
@@ -193,7 +193,7 @@ TEST_F(AyarKomutlari, FullDiskKeepsTheOldSettingsAndStillWritesTheMonthsThatFit)
     EXPECT_EQ(agac.Bayt(u"Visible.dll"), "1,1,1,1,1,1,0,1,1,1,1,1,1\r\n");
 }
 
-TEST_F(AyarKomutlari, DefaultsCountAsAChangeOfTheSlotOrderAlwaysAsIsMeant) {
+TEST_F(AyarKomutlari, Defaults_count_as_a_change_of_the_slot_order_always_as_is_meant) {
     EXPECT_EQ(Ayarlar().GunduzGece.Metni(), u"Gece / Gündüz");
     kullanici.ortam.Bekle(kSiraDegisti);
     Ayarlar().renkler[2] = 123;
@@ -204,7 +204,7 @@ TEST_F(AyarKomutlari, DefaultsCountAsAChangeOfTheSlotOrderAlwaysAsIsMeant) {
     EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
 }
 
-TEST_F(AyarKomutlari, DefaultsDroppedByCancelLeaveTheFilesUntouched) {
+TEST_F(AyarKomutlari, Defaults_dropped_by_cancel_leave_the_files_untouched) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
     agac.Koy(u"Visible.dll", "1,1,1,1,1,1,1,1,1,1,1,0,1\r\n");
     kullanici.Prog().FormAyarlar.Bosalt();
@@ -219,7 +219,7 @@ TEST_F(AyarKomutlari, DefaultsDroppedByCancelLeaveTheFilesUntouched) {
     EXPECT_FALSE(Ayarlar().AyGorunur(12));
 }
 
-TEST_F(AyarKomutlari, AppliedAndDroppedColoursStayOnTheTableUntilTheNextScanAsIsMeant) {
+TEST_F(AyarKomutlari, Applied_and_dropped_colours_stay_on_the_table_until_the_next_scan_as_is_meant) {
     Ayarlar().renkler[2] = 123;
     Ayarlar().Command4_Click();
     Ayarlar().Command2_Click();
@@ -230,7 +230,7 @@ TEST_F(AyarKomutlari, AppliedAndDroppedColoursStayOnTheTableUntilTheNextScanAsIs
     EXPECT_EQ(BosGun().zemin, Ayarlar().Renk(2));
 }
 
-TEST_F(AyarKomutlari, ColourRowsNameEachSlotOnce) {
+TEST_F(AyarKomutlari, Colour_rows_name_each_slot_once) {
     std::vector<int> gozler;
     for (const RenkSatiri& satir : kRenkSatirlari)
         for (const int goz : {satir.zemin, satir.yazi})
@@ -242,7 +242,7 @@ TEST_F(AyarKomutlari, ColourRowsNameEachSlotOnce) {
         EXPECT_EQ(gozler[static_cast<std::size_t>(i)], i);
 }
 
-TEST_F(AyarKomutlari, ColourRowsNameTheSlotsThatTheTablePaintsWith) {
+TEST_F(AyarKomutlari, Colour_rows_name_the_slots_that_the_table_paints_with) {
     const std::array<RenkCifti, 9> boyanan{
         {kGunduzRenkleri.bos, kGeceRenkleri.bos, kGunduzRenkleri.haftaSonu, kGeceRenkleri.haftaSonu,
          kGunduzRenkleri.kesin, kGeceRenkleri.kesin, kGunduzRenkleri.on, kGeceRenkleri.on, kTatilRengi}};
@@ -255,7 +255,7 @@ TEST_F(AyarKomutlari, ColourRowsNameTheSlotsThatTheTablePaintsWith) {
     EXPECT_EQ(kRenkSatirlari[11].onay, &FormAyarlar::Check1);
 }
 
-TEST_F(AyarKomutlari, BothBoxesOfThePastDaysHaveTheToolTipOfAGroundAsIsMeant) {
+TEST_F(AyarKomutlari, Both_boxes_of_the_past_days_have_the_tool_tip_of_a_ground_as_is_meant) {
     for (const RenkSatiri& satir : kRenkSatirlari) {
         EXPECT_EQ(satir.zeminIpucu, u"Zemin Rengi");
         EXPECT_EQ(satir.yaziIpucu, satir.zemin == 17 ? u"Zemin Rengi" : u"Metin Rengi");

@@ -6,7 +6,7 @@ namespace velora::test {
 
 class FormMenuAyarTest : public MenuTest {};
 
-TEST_F(FormMenuAyarTest, CaptionsStandAsTheUserReadsThem) {
+TEST_F(FormMenuAyarTest, Captions_stand_as_the_user_reads_them) {
     EXPECT_EQ(Menuler().baslik, u"Menü Ayarları");
     EXPECT_EQ(Menuler().Liste.basliklar, (std::vector<Metin>{u"Menü Adı", u"Menü İçeriği"}));
     EXPECT_EQ(Menuler().Command1.baslik, u"Ekle");
@@ -16,29 +16,30 @@ TEST_F(FormMenuAyarTest, CaptionsStandAsTheUserReadsThem) {
     EXPECT_EQ(Menuler().Kaydet.baslik, u"Kaydet");
 }
 
-TEST_F(FormMenuAyarTest, AbsentFileGivesAnEmptyList) {
+TEST_F(FormMenuAyarTest, Absent_file_gives_an_empty_list) {
     EXPECT_TRUE(Liste().empty());
     EXPECT_FALSE(agac.DosyaVar(u"Menuler.dat"));
 }
 
-TEST_F(FormMenuAyarTest, MenusAreListedInTheOrderOfTheFile) {
+TEST_F(FormMenuAyarTest, Menus_are_listed_in_the_order_of_the_file) {
     agac.Koy(u"Menuler.dat", "\"\xDEi\xFE\",\"Et\"\r\n\"Alt\xFDn\",\"\xC7orba\r\nTatl\xFD\"\r\n");
     EXPECT_EQ(Liste(), (Satirlar{{u"Şiş", u"Et"}, {u"Altın", u"Çorba\r\nTatlı"}}));
 }
 
-TEST_F(FormMenuAyarTest, RecordWithAnEmptyNameIsNotListedAndLostAtTheNextSaveAsIsMeant) {
+TEST_F(FormMenuAyarTest, Record_with_an_empty_name_is_not_listed_and_lost_at_the_next_save_as_is_meant) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n\" \",\"2\"\r\n\"C\",\"3\"\r\n");
     EXPECT_EQ(Liste(), (Satirlar{{u"A", u"1"}, {u"C", u"3"}}));
     Menuler().Kaydet_Click();
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"), "\"A\",\"1\"\r\n\"C\",\"3\"\r\n");
 }
 
-TEST_F(FormMenuAyarTest, LastNameWithoutAContentKeepsTheContentOfTheRowBeforeAsIsMeant) {
+TEST_F(FormMenuAyarTest, Last_name_without_a_content_keeps_the_content_of_the_row_before_as_is_meant) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n\"B\"\r\n");
     EXPECT_EQ(Liste(), (Satirlar{{u"A", u"1"}, {u"B", u"1"}}));
 }
 
-TEST_F(FormMenuAyarTest, ButtonsOfARowAreEnabledByAClickAndDisabledWhenTheScreenComesToTheFront) {
+TEST_F(FormMenuAyarTest,
+       Buttons_of_a_row_are_enabled_by_a_click_and_disabled_when_the_screen_comes_to_the_front) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n");
     program.FormMenuAyar.Goster();
     EXPECT_FALSE(Menuler().Command2.etkin);
@@ -53,7 +54,7 @@ TEST_F(FormMenuAyarTest, ButtonsOfARowAreEnabledByAClickAndDisabledWhenTheScreen
     EXPECT_FALSE(Menuler().Command4.etkin);
 }
 
-TEST_F(FormMenuAyarTest, DoubleClickEditsOnlyWhileTheButtonIsEnabled) {
+TEST_F(FormMenuAyarTest, Double_click_edits_only_while_the_button_is_enabled) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n");
     program.FormMenuAyar.Goster();
     Menuler().Liste.secili = 0;
@@ -64,7 +65,7 @@ TEST_F(FormMenuAyarTest, DoubleClickEditsOnlyWhileTheButtonIsEnabled) {
     EXPECT_EQ(ortam.acilanlar.back(), EkranAdi::FormMenuEkle);
 }
 
-TEST_F(FormMenuAyarTest, DeletedMenuIsGoneFromListAndFile) {
+TEST_F(FormMenuAyarTest, Deleted_menu_is_gone_from_list_and_file) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n\"B\",\"2\"\r\n\"C\",\"3\"\r\n");
     MenuSil(1, Cevap::Evet);
     EXPECT_EQ(Liste(), (Satirlar{{u"A", u"1"}, {u"C", u"3"}}));
@@ -73,7 +74,7 @@ TEST_F(FormMenuAyarTest, DeletedMenuIsGoneFromListAndFile) {
     EXPECT_FALSE(Menuler().Command4.etkin);
 }
 
-TEST_F(FormMenuAyarTest, NoDeletesNothingAndLeavesBothButtonsDisabledAsIsMeant) {
+TEST_F(FormMenuAyarTest, No_deletes_nothing_and_leaves_both_buttons_disabled_as_is_meant) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n");
     MenuSil(0, Cevap::Hayir);
     EXPECT_EQ(Liste(), (Satirlar{{u"A", u"1"}}));
@@ -82,7 +83,8 @@ TEST_F(FormMenuAyarTest, NoDeletesNothingAndLeavesBothButtonsDisabledAsIsMeant) 
     EXPECT_FALSE(Menuler().Command4.etkin);
 }
 
-TEST_F(FormMenuAyarTest, AfterADeleteOfTheLastMenuTheFileIsEmptyAndTheListStaysEmptyOnReload) {
+TEST_F(FormMenuAyarTest,
+       After_a_delete_of_the_last_menu_the_file_is_empty_and_the_list_stays_empty_on_reload) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n");
     MenuSil(0, Cevap::Evet);
     EXPECT_TRUE(agac.DosyaVar(u"Menuler.dat"));
@@ -92,7 +94,7 @@ TEST_F(FormMenuAyarTest, AfterADeleteOfTheLastMenuTheFileIsEmptyAndTheListStaysE
     EXPECT_TRUE(Liste().empty());
 }
 
-TEST_F(FormMenuAyarTest, QuotesAndCommasAreWrittenRawAndSlideTheNextReadingAsIsMeant) {
+TEST_F(FormMenuAyarTest, Quotes_and_commas_are_written_raw_and_slide_the_next_reading_as_is_meant) {
     agac.Koy(u"Menuler.dat", "\"B\",\"2\"\r\n");
     MenuEkle(u"a", u"et \"x\", su");
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"), "\"B\",\"2\"\r\n\"A\",\"Et \"x\", Su\"\r\n");
@@ -100,7 +102,7 @@ TEST_F(FormMenuAyarTest, QuotesAndCommasAreWrittenRawAndSlideTheNextReadingAsIsM
     EXPECT_EQ(Liste(), (Satirlar{{u"B", u"2"}, {u"A", u"Et "}, {u"x\"", u"Su\""}}));
 }
 
-TEST_F(FormMenuAyarTest, FileThatCannotBeWrittenStaysAndNothingIsSaid) {
+TEST_F(FormMenuAyarTest, File_that_cannot_be_written_stays_and_nothing_is_said) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n");
     Menuler();
     program.dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Yaz; };
@@ -109,7 +111,7 @@ TEST_F(FormMenuAyarTest, FileThatCannotBeWrittenStaysAndNothingIsSaid) {
     EXPECT_TRUE(Liste().empty());
 }
 
-TEST_F(FormMenuAyarTest, FullDiskKeepsTheOldMenusWhole) {
+TEST_F(FormMenuAyarTest, Full_disk_keeps_the_old_menus_whole) {
     agac.Koy(u"Menuler.dat", "\"A\",\"1\"\r\n");
     Menuler();
     program.dosyalar.bosYer = 5;
@@ -117,7 +119,7 @@ TEST_F(FormMenuAyarTest, FullDiskKeepsTheOldMenusWhole) {
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"), "\"A\",\"1\"\r\n");
 }
 
-TEST_F(FormMenuAyarTest, GarbageIsListedAndCrashesNothing) {
+TEST_F(FormMenuAyarTest, Garbage_is_listed_and_crashes_nothing) {
     agac.Koy(u"Menuler.dat", std::string(100'000, '"') + std::string(1000, '\xFF'));
     Liste();
     agac.Koy(u"Menuler.dat", std::string(5000, ','));

@@ -9,7 +9,7 @@ class FormMenuEkleTest : public MenuTest {
     FormMenuEkleTest() { agac.Koy(u"Menuler.dat", "\"A\",\"Bir\"\r\n\"B\",\"\xDDki\"\r\n"); }
 };
 
-TEST_F(FormMenuEkleTest, AddOpensAnEmptyDialogueThatCannotBeConfirmed) {
+TEST_F(FormMenuEkleTest, Add_opens_an_empty_dialogue_that_cannot_be_confirmed) {
     bool acildi = false;
     MenuAcikken([&] {
         acildi = true;
@@ -27,7 +27,7 @@ TEST_F(FormMenuEkleTest, AddOpensAnEmptyDialogueThatCannotBeConfirmed) {
     EXPECT_TRUE(acildi);
 }
 
-TEST_F(FormMenuEkleTest, EditOpensWithTheMenuUnderItsOwnTitleAndCaption) {
+TEST_F(FormMenuEkleTest, Edit_opens_with_the_menu_under_its_own_title_and_caption) {
     bool acildi = false;
     MenuAcikken([&] {
         acildi = true;
@@ -45,7 +45,7 @@ TEST_F(FormMenuEkleTest, EditOpensWithTheMenuUnderItsOwnTitleAndCaption) {
     EXPECT_FALSE(program.FormMenuEkle.Yuklu());
 }
 
-TEST_F(FormMenuEkleTest, AddAfterAnEditHasItsOwnTitleAndNoTag) {
+TEST_F(FormMenuEkleTest, Add_after_an_edit_has_its_own_title_and_no_tag) {
     MenuAcikken([this] { Ekle().Command3_Click(); });
     Isaretle(1);
     Menuler().Command4_Click();
@@ -53,7 +53,7 @@ TEST_F(FormMenuEkleTest, AddAfterAnEditHasItsOwnTitleAndNoTag) {
     EXPECT_EQ(Liste(), (Satirlar{{u"A", u"Bir"}, {u"B", u"İki"}, {u"C", u"Üç"}}));
 }
 
-TEST_F(FormMenuEkleTest, ContentWithoutANameCannotBeConfirmed) {
+TEST_F(FormMenuEkleTest, Content_without_a_name_cannot_be_confirmed) {
     Yaz(u"", u"et");
     EXPECT_FALSE(Ekle().Command4.etkin);
     Yaz(u"   ", u"et");
@@ -62,7 +62,7 @@ TEST_F(FormMenuEkleTest, ContentWithoutANameCannotBeConfirmed) {
     EXPECT_TRUE(Ekle().Command4.etkin);
 }
 
-TEST_F(FormMenuEkleTest, NameWithNoContentIsRefusedAndTheFocusGoesToTheContent) {
+TEST_F(FormMenuEkleTest, Name_with_no_content_is_refused_and_the_focus_goes_to_the_content) {
     const std::string once = agac.Resim();
     ortam.Bekle(BeklenenKutu{u"Velora", u"Lüften içerik giriniz!"});
     MenuEkle(u"yeni menü", u"");
@@ -73,12 +73,12 @@ TEST_F(FormMenuEkleTest, NameWithNoContentIsRefusedAndTheFocusGoesToTheContent) 
     EXPECT_EQ(Liste().size(), 2U);
 }
 
-TEST_F(FormMenuEkleTest, ContentOfBlanksPassesAsIsMeant) {
+TEST_F(FormMenuEkleTest, Content_of_blanks_passes_as_is_meant) {
     MenuEkle(u"c", u"  ");
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"), "\"A\",\"Bir\"\r\n\"B\",\"\xDDki\"\r\n\"C\",\"  \"\r\n");
 }
 
-TEST_F(FormMenuEkleTest, ContentIsStoredInProperCaseToo) {
+TEST_F(FormMenuEkleTest, Content_is_stored_in_proper_case_too) {
     MenuEkle(u"ALTIN menü", u"et sote\r\nİNCİR tatlısı");
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"),
               "\"A\",\"Bir\"\r\n\"B\",\"\xDDki\"\r\n\"Alt\xFDn Men\xFC\",\"Et Sote\r\n\xDDncir "
@@ -86,7 +86,7 @@ TEST_F(FormMenuEkleTest, ContentIsStoredInProperCaseToo) {
     EXPECT_FALSE(program.FormMenuEkle.Yuklu());
 }
 
-TEST_F(FormMenuEkleTest, ChangedMenuKeepsItsPlace) {
+TEST_F(FormMenuEkleTest, Changed_menu_keeps_its_place) {
     MenuAcikken([this] {
         Yaz(u"yeni", u"üç dört");
         Ekle().Command4_Click();
@@ -98,7 +98,7 @@ TEST_F(FormMenuEkleTest, ChangedMenuKeepsItsPlace) {
     EXPECT_FALSE(Menuler().Command4.etkin);
 }
 
-TEST_F(FormMenuEkleTest, CancelAfterTypingChangesNothing) {
+TEST_F(FormMenuEkleTest, Cancel_after_typing_changes_nothing) {
     const std::string once = agac.Resim();
     MenuAcikken([this] {
         Yaz(u"yeni", u"üç");
@@ -109,7 +109,7 @@ TEST_F(FormMenuEkleTest, CancelAfterTypingChangesNothing) {
     EXPECT_EQ(Liste().size(), 2U);
 }
 
-TEST_F(FormMenuEkleTest, ContentOfFiveThousandSignsWithLineBreaksIsReadBackWhole) {
+TEST_F(FormMenuEkleTest, Content_of_five_thousand_signs_with_line_breaks_is_read_back_whole) {
     Metin uzun;
     while (uzun.size() < 5000)
         uzun += u"Ğüşiö çorba,\r\n";
@@ -120,7 +120,7 @@ TEST_F(FormMenuEkleTest, ContentOfFiveThousandSignsWithLineBreaksIsReadBackWhole
     EXPECT_EQ(Liste().back()[1], beklenen);
 }
 
-TEST_F(FormMenuEkleTest, PlaceThatIsGoneChangesNoMenu) {
+TEST_F(FormMenuEkleTest, Place_that_is_gone_changes_no_menu) {
     for (const auto* tag : {u"2", u"-1", u"99999999999999999999"}) {
         Ekle().Tag = tag;
         Yaz(u"yeni", u"üç");

@@ -31,7 +31,7 @@ class FormRenkTest : public ::testing::Test {
     Program program{ortam.Ver(), agac.Kok()};
 };
 
-TEST_F(FormRenkTest, CaptionsStandAsTheUserReadsThemAndAllTextsBeginAtZero) {
+TEST_F(FormRenkTest, Captions_stand_as_the_user_reads_them_and_all_texts_begin_at_zero) {
     EXPECT_EQ(Secici().baslik, u"Renk Seçiniz");
     EXPECT_EQ(Secici().redBaslik, u"R");
     EXPECT_EQ(Secici().greenBaslik, u"G");
@@ -43,13 +43,13 @@ TEST_F(FormRenkTest, CaptionsStandAsTheUserReadsThemAndAllTextsBeginAtZero) {
     MetinlerBekle({u"0", u"0", u"0", u"0", u"0", u"0"});
 }
 
-TEST_F(FormRenkTest, PickShowsTheColourInAllItsForms) {
+TEST_F(FormRenkTest, Pick_shows_the_colour_in_all_its_forms) {
     Tikla(6086641); // 5C DF F1 from the high byte down
     EXPECT_EQ(Secici().picColorBox.zemin, 6086641);
     MetinlerBekle({u"241", u"223", u"92", u"#F1DF5C", u"&H5CDFF1&", u"5CDFF1"});
 }
 
-TEST_F(FormRenkTest, HexValueIsUnpaddedAndTheOtherTwoArePadded) {
+TEST_F(FormRenkTest, Hex_value_is_unpadded_and_the_other_two_are_padded) {
     Tikla(0x00000A);
     MetinlerBekle({u"10", u"0", u"0", u"#0A0000", u"&H00000A&", u"A"});
     Tikla(0x008000);
@@ -60,7 +60,7 @@ TEST_F(FormRenkTest, HexValueIsUnpaddedAndTheOtherTwoArePadded) {
     MetinlerBekle({u"255", u"255", u"255", u"#FFFFFF", u"&HFFFFFF&", u"FFFFFF"});
 }
 
-TEST_F(FormRenkTest, EveryComponentIsSplitRight) {
+TEST_F(FormRenkTest, Every_component_is_split_right) {
     for (int deger = 0; deger < 256; ++deger) {
         Tikla(deger + 256 * (255 - deger) + 65536 * (deger / 2));
         EXPECT_EQ(Secici().txtRed.metin, SayiMetni(deger));
@@ -69,14 +69,14 @@ TEST_F(FormRenkTest, EveryComponentIsSplitRight) {
     }
 }
 
-TEST_F(FormRenkTest, PlaceOutsideTheChartIsBlack) {
+TEST_F(FormRenkTest, Place_outside_the_chart_is_black) {
     Tikla(0xFFFFFF);
     Tikla(-1);
     EXPECT_EQ(Secici().picColorBox.zemin, 0);
     MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
 }
 
-TEST_F(FormRenkTest, MovePicksOnlyWhileTheButtonIsHeld) {
+TEST_F(FormRenkTest, Move_picks_only_while_the_button_is_held) {
     Secici().Picture1_MouseMove(5);
     EXPECT_EQ(Secici().txtRed.metin, u"0");
     Secici().Picture1_MouseDown(5);
@@ -87,7 +87,7 @@ TEST_F(FormRenkTest, MovePicksOnlyWhileTheButtonIsHeld) {
     EXPECT_EQ(Secici().txtRed.metin, u"6");
 }
 
-TEST_F(FormRenkTest, ColourBoxOpensThePickerWithItsColourAndItsSlot) {
+TEST_F(FormRenkTest, Colour_box_opens_the_picker_with_its_colour_and_its_slot) {
     bool acildi = false;
     ortam.modalda[EkranAdi::FormRenk] = [&] {
         acildi = true;
@@ -102,7 +102,7 @@ TEST_F(FormRenkTest, ColourBoxOpensThePickerWithItsColourAndItsSlot) {
     EXPECT_FALSE(program.FormRenk.Yuklu());
 }
 
-TEST_F(FormRenkTest, OkWithoutAPickGivesBlackThoughTheSampleShowsTheOldColourAsIsMeant) {
+TEST_F(FormRenkTest, Ok_without_a_pick_gives_black_though_the_sample_shows_the_old_colour_as_is_meant) {
     ortam.modalda[EkranAdi::FormRenk] = [&] {
         EXPECT_EQ(Secici().picColorBox.zemin, 32768);
         Secici().Command1_Click();
@@ -111,7 +111,7 @@ TEST_F(FormRenkTest, OkWithoutAPickGivesBlackThoughTheSampleShowsTheOldColourAsI
     EXPECT_EQ(program.FormAyarlar->Renk(0), 0);
 }
 
-TEST_F(FormRenkTest, CancelAfterAPickLeavesTheColour) {
+TEST_F(FormRenkTest, Cancel_after_a_pick_leaves_the_colour) {
     ortam.modalda[EkranAdi::FormRenk] = [&] {
         Tikla(123);
         Secici().Command2_Click();
@@ -121,7 +121,7 @@ TEST_F(FormRenkTest, CancelAfterAPickLeavesTheColour) {
     EXPECT_FALSE(program.FormRenk.Yuklu());
 }
 
-TEST_F(FormRenkTest, TypedComponentsAreTakenAndStayWithinAByte) {
+TEST_F(FormRenkTest, Typed_components_are_taken_and_stay_within_a_byte) {
     Secici().Tag = u"3";
     Secici().txtRed.metin = u"10";
     Secici().txtGreen.metin = u"999999999999";
@@ -134,7 +134,7 @@ TEST_F(FormRenkTest, TypedComponentsAreTakenAndStayWithinAByte) {
     EXPECT_EQ(program.FormAyarlar->Renk(3), 0);
 }
 
-TEST_F(FormRenkTest, SlotThatIsNotThereChangesNoColour) {
+TEST_F(FormRenkTest, Slot_that_is_not_there_changes_no_colour) {
     const auto once = program.FormAyarlar->renkler;
     for (const auto* tag : {u"25", u"-1", u"99999999999999999999"}) {
         Secici().Tag = tag;

@@ -10,7 +10,7 @@ class FormSalonTanimAdTest : public SalonTest {
     FormSalonTanimAdTest() { agac.Koy(u"Salon.dat", "\"Salon A\"\r\n\"Salon B\"\r\n"); }
 };
 
-TEST_F(FormSalonTanimAdTest, OpensWithTheOldNameAndItsPlaceInTheList) {
+TEST_F(FormSalonTanimAdTest, Opens_with_the_old_name_and_its_place_in_the_list) {
     kullanici.ProgramiAc();
     Isaretle(1);
     bool acildi = false;
@@ -30,7 +30,7 @@ TEST_F(FormSalonTanimAdTest, OpensWithTheOldNameAndItsPlaceInTheList) {
     EXPECT_TRUE(acildi);
 }
 
-TEST_F(FormSalonTanimAdTest, CancelUnloadsAndChangesNothing) {
+TEST_F(FormSalonTanimAdTest, Cancel_unloads_and_changes_nothing) {
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
     Isaretle(0);
@@ -44,7 +44,7 @@ TEST_F(FormSalonTanimAdTest, CancelUnloadsAndChangesNothing) {
     EXPECT_EQ(agac.Resim(), once);
 }
 
-TEST_F(FormSalonTanimAdTest, BothListsAndTheFileTakeTheNewNameInProperCase) {
+TEST_F(FormSalonTanimAdTest, Both_lists_and_the_file_take_the_new_name_in_proper_case) {
     kullanici.ProgramiAc();
     AdDegistir(1, u"ılıca inci");
     SalonlarBekle({u"Salon A", u"Ilıca İnci"});
@@ -53,7 +53,7 @@ TEST_F(FormSalonTanimAdTest, BothListsAndTheFileTakeTheNewNameInProperCase) {
     EXPECT_FALSE(Tanim().Command4.etkin);
 }
 
-TEST_F(FormSalonTanimAdTest, RenamedSelectedHallStaysSelectedUnderItsNewNameWithoutAScan) {
+TEST_F(FormSalonTanimAdTest, Renamed_selected_hall_stays_selected_under_its_new_name_without_a_scan) {
     kullanici.ProgramiAc();
     RezervasyonKoy(u"Salon A");
     SalonlarAcikken([this] {
@@ -68,7 +68,7 @@ TEST_F(FormSalonTanimAdTest, RenamedSelectedHallStaysSelectedUnderItsNewNameWith
     EXPECT_NE(RezervasyonTagi(), u"");
 }
 
-TEST_F(FormSalonTanimAdTest, FilesOfFiveYearsGoAlongAndTheOldFoldersStay) {
+TEST_F(FormSalonTanimAdTest, Files_of_five_years_go_along_and_the_old_folders_stay) {
     for (int yil = 2010; yil <= 2016; ++yil)
         agac.Koy(u"Salon A/" + SayiMetni(yil) + u"/" + SayiMetni(yil), "f");
     agac.Koy(u"Salon A/2012/alt/x", "a folder in a year folder stays behind");
@@ -82,7 +82,7 @@ TEST_F(FormSalonTanimAdTest, FilesOfFiveYearsGoAlongAndTheOldFoldersStay) {
         EXPECT_EQ(agac.Bayt(u"Salon A/" + SayiMetni(yil) + u"/" + SayiMetni(yil)), "f");
 }
 
-TEST_F(FormSalonTanimAdTest, FilesOfTheThirdYearAheadLandInTheSecondAsIsMeant) {
+TEST_F(FormSalonTanimAdTest, Files_of_the_third_year_ahead_land_in_the_second_as_is_meant) {
     agac.Koy(u"Salon A/2014/Gider.dat", "of 2014");
     agac.Koy(u"Salon A/2015/Gider.dat", "of 2015");
     kullanici.ProgramiAc();
@@ -94,7 +94,7 @@ TEST_F(FormSalonTanimAdTest, FilesOfTheThirdYearAheadLandInTheSecondAsIsMeant) {
     EXPECT_EQ(agac.Bayt(u"Salon A/2015/Gider.dat"), "of 2015");
 }
 
-TEST_F(FormSalonTanimAdTest, UnchangedNameOverwritesTheSecondYearAheadWithTheThirdAsIsMeant) {
+TEST_F(FormSalonTanimAdTest, Unchanged_name_overwrites_the_second_year_ahead_with_the_third_as_is_meant) {
     agac.Koy(u"Salon A/2012/Gider.dat", "of 2012");
     agac.Koy(u"Salon A/2014/Gider.dat", "of 2014");
     agac.Koy(u"Salon A/2014/x", "only 2014");
@@ -108,7 +108,7 @@ TEST_F(FormSalonTanimAdTest, UnchangedNameOverwritesTheSecondYearAheadWithTheThi
     SalonlarBekle({u"Salon A", u"Salon B"});
 }
 
-TEST_F(FormSalonTanimAdTest, NoFileIsCopiedOntoItself) {
+TEST_F(FormSalonTanimAdTest, No_file_is_copied_onto_itself) {
     for (int yil = 2011; yil <= 2015; ++yil)
         agac.Koy(u"Salon A/" + SayiMetni(yil) + u"/x", "f");
     kullanici.ProgramiAc();
@@ -122,7 +122,7 @@ TEST_F(FormSalonTanimAdTest, NoFileIsCopiedOntoItself) {
     EXPECT_EQ(hedefler, std::vector<Metin>{u"2014\\x"});
 }
 
-TEST_F(FormSalonTanimAdTest, NameOfAnotherHallOverwritesItsReservationsOfTheSameDaysAsIsMeant) {
+TEST_F(FormSalonTanimAdTest, Name_of_another_hall_overwrites_its_reservations_of_the_same_days_as_is_meant) {
     agac.Koy(u"Salon A/2012/05.01.2012 - Gece", "of A");
     agac.Koy(u"Salon B/2012/05.01.2012 - Gece", "of B");
     agac.Koy(u"Salon B/2012/06.01.2012 - Gece", "of B alone");
@@ -134,7 +134,7 @@ TEST_F(FormSalonTanimAdTest, NameOfAnotherHallOverwritesItsReservationsOfTheSame
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/05.01.2012 - Gece"), "of A");
 }
 
-TEST_F(FormSalonTanimAdTest, EmptyNameMakesYearFoldersInTheProgramFolderAsIsMeant) {
+TEST_F(FormSalonTanimAdTest, Empty_name_makes_year_folders_in_the_program_folder_as_is_meant) {
     agac.Koy(u"Salon A/2012/x", "f");
     kullanici.ProgramiAc();
     AdDegistir(0, u"");
@@ -148,7 +148,7 @@ TEST_F(FormSalonTanimAdTest, EmptyNameMakesYearFoldersInTheProgramFolderAsIsMean
     SalonlarBekle({u"Salon B"});
 }
 
-TEST_F(FormSalonTanimAdTest, FoldersOfTheOldNameAreMadeWhenTheyAreMissing) {
+TEST_F(FormSalonTanimAdTest, Folders_of_the_old_name_are_made_when_they_are_missing) {
     kullanici.ProgramiAc();
     std::filesystem::remove_all(agac.Yol(u"Salon B"));
     AdDegistir(1, u"Yeni");
@@ -157,7 +157,7 @@ TEST_F(FormSalonTanimAdTest, FoldersOfTheOldNameAreMadeWhenTheyAreMissing) {
             EXPECT_TRUE(agac.KlasorVar(salon + SayiMetni(yil))) << yil;
 }
 
-TEST_F(FormSalonTanimAdTest, PathOutOfTheProgramFolderIsListedAndCopiesNothing) {
+TEST_F(FormSalonTanimAdTest, Path_out_of_the_program_folder_is_listed_and_copies_nothing) {
     agac.Koy(u"Salon A/2012/x", "f");
     kullanici.ProgramiAc();
     AdDegistir(0, u"..\\velora disi");
@@ -166,7 +166,7 @@ TEST_F(FormSalonTanimAdTest, PathOutOfTheProgramFolderIsListedAndCopiesNothing) 
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/x"), "f");
 }
 
-TEST_F(FormSalonTanimAdTest, FailedCopyIsPassedOverAndTheOthersAreMade) {
+TEST_F(FormSalonTanimAdTest, Failed_copy_is_passed_over_and_the_others_are_made) {
     agac.Koy(u"Salon A/2012/x", "f");
     agac.Koy(u"Salon A/2012/y", "f");
     kullanici.ProgramiAc();
@@ -179,7 +179,7 @@ TEST_F(FormSalonTanimAdTest, FailedCopyIsPassedOverAndTheOthersAreMade) {
     SalonlarBekle({u"Yeni", u"Salon B"});
 }
 
-TEST_F(FormSalonTanimAdTest, FullDiskLeavesTheOldFilesWholeAndRenamesTheHallInMemoryAlone) {
+TEST_F(FormSalonTanimAdTest, Full_disk_leaves_the_old_files_whole_and_renames_the_hall_in_memory_alone) {
     agac.Koy(u"Salon A/2012/x", std::string(100, 'f'));
     kullanici.ProgramiAc();
     kullanici.Prog().dosyalar.bosYer = 10;
@@ -190,7 +190,7 @@ TEST_F(FormSalonTanimAdTest, FullDiskLeavesTheOldFilesWholeAndRenamesTheHallInMe
     EXPECT_EQ(Tablo().Salon.Metni(), u"A Name That Takes More Room Than The Old One Has");
 }
 
-TEST_F(FormSalonTanimAdTest, WithoutAMarkedHallNoEntryIsReplaced) {
+TEST_F(FormSalonTanimAdTest, Without_a_marked_hall_no_entry_is_replaced) {
     kullanici.ProgramiAc();
     AdDegistir(-1, u"Yeni");
     SalonlarBekle({u"Salon A", u"Salon B"});

@@ -13,7 +13,7 @@ const BeklenenKutu kAdYok{
 
 class FormSalonTanimTest : public SalonTest {};
 
-TEST_F(FormSalonTanimTest, CaptionsStandAsTheUserReadsThem) {
+TEST_F(FormSalonTanimTest, Captions_stand_as_the_user_reads_them) {
     kullanici.ProgramiAc();
     EXPECT_EQ(Tanim().baslik, u"Salon Tanımları");
     EXPECT_EQ(Tanim().Label8.baslik, u"Salon Tanımları");
@@ -24,13 +24,13 @@ TEST_F(FormSalonTanimTest, CaptionsStandAsTheUserReadsThem) {
     EXPECT_EQ(Tanim().Kaydet.baslik, u"Kaydet");
 }
 
-TEST_F(FormSalonTanimTest, BlankLinesAndBlankNamesGiveNoEntry) {
+TEST_F(FormSalonTanimTest, Blank_lines_and_blank_names_give_no_entry) {
     agac.Koy(u"Salon.dat", "\"B\"\r\n\r\n\"  \"\r\n\"\"\r\n\"A \"\r\n\r\n");
     kullanici.ProgramiAc();
     SalonlarBekle({u"B", u"A "});
 }
 
-TEST_F(FormSalonTanimTest, AbsentAndEmptyFilesGiveAnEmptyListThatCloseRefusesAndStartsAnAdd) {
+TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_refuses_and_starts_an_add) {
     for (const bool var : {false, true}) {
         if (var)
             agac.Koy(u"Salon.dat", "");
@@ -45,7 +45,7 @@ TEST_F(FormSalonTanimTest, AbsentAndEmptyFilesGiveAnEmptyListThatCloseRefusesAnd
     }
 }
 
-TEST_F(FormSalonTanimTest, CloseUnloadsWithAHallInTheList) {
+TEST_F(FormSalonTanimTest, Close_unloads_with_a_hall_in_the_list) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     SalonlarAcikken([this] { Tanim().Command3_Click(); });
@@ -53,7 +53,7 @@ TEST_F(FormSalonTanimTest, CloseUnloadsWithAHallInTheList) {
     EXPECT_EQ(Ortam().gizlenenler, std::vector<EkranAdi>{EkranAdi::FormSalonTanim});
 }
 
-TEST_F(FormSalonTanimTest, EmptyAnswersAskAgainAndBlanksLeaveWithNothingWritten) {
+TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing_written) {
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
     for (const auto* cevap : {u"", u"", u"  "})
@@ -66,14 +66,14 @@ TEST_F(FormSalonTanimTest, EmptyAnswersAskAgainAndBlanksLeaveWithNothingWritten)
 }
 
 // A trim takes blanks alone.
-TEST_F(FormSalonTanimTest, TabIsNoBlankAndMakesAHallWithoutAFolder) {
+TEST_F(FormSalonTanimTest, Tab_is_no_blank_and_makes_a_hall_without_a_folder) {
     kullanici.ProgramiAc();
     SalonEkle(u"\t");
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"\t\"\r\n");
     SalonlarBekle({u"\t"});
 }
 
-TEST_F(FormSalonTanimTest, NameInLowerCaseIsListedStoredAndUsedAsAFolderInProperCase) {
+TEST_F(FormSalonTanimTest, Name_in_lower_case_is_listed_stored_and_used_as_a_folder_in_proper_case) {
     kullanici.ProgramiAc();
     SalonEkle(u"büyük salon");
     SalonEkle(u"IŞIK-iNCİ  izmir");
@@ -87,7 +87,7 @@ TEST_F(FormSalonTanimTest, NameInLowerCaseIsListedStoredAndUsedAsAFolderInProper
     EXPECT_FALSE(agac.KlasorVar(u"Büyük Salon/2023"));
 }
 
-TEST_F(FormSalonTanimTest, YearFoldersBeginAtTheSelectedYear) {
+TEST_F(FormSalonTanimTest, Year_folders_begin_at_the_selected_year) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     kullanici.YilSec(u"2020");
@@ -98,7 +98,7 @@ TEST_F(FormSalonTanimTest, YearFoldersBeginAtTheSelectedYear) {
     EXPECT_FALSE(agac.KlasorVar(u"B/2031"));
 }
 
-TEST_F(FormSalonTanimTest, FirstHallIsSelectedAndItsTableIsLoaded) {
+TEST_F(FormSalonTanimTest, First_hall_is_selected_and_its_table_is_loaded) {
     RezervasyonKoy(u"Salon A");
     kullanici.ProgramiAc();
     EXPECT_EQ(RezervasyonTagi(), u"");
@@ -109,7 +109,7 @@ TEST_F(FormSalonTanimTest, FirstHallIsSelectedAndItsTableIsLoaded) {
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A") << "only the first hall is selected by its add";
 }
 
-TEST_F(FormSalonTanimTest, NameEnteredTwiceGivesTwoEntriesThatShareOneFolder) {
+TEST_F(FormSalonTanimTest, Name_entered_twice_gives_two_entries_that_share_one_folder) {
     kullanici.ProgramiAc();
     SalonEkle(u"a");
     agac.Koy(u"A/2012/x", "kept");
@@ -119,7 +119,7 @@ TEST_F(FormSalonTanimTest, NameEnteredTwiceGivesTwoEntriesThatShareOneFolder) {
     EXPECT_EQ(agac.Bayt(u"A/2012/x"), "kept");
 }
 
-TEST_F(FormSalonTanimTest, OnlyAMarkedHallCanBeDeletedOrRenamed) {
+TEST_F(FormSalonTanimTest, Only_a_marked_hall_can_be_deleted_or_renamed) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n");
     kullanici.ProgramiAc();
     SalonlarAcikken([this] {
@@ -134,7 +134,7 @@ TEST_F(FormSalonTanimTest, OnlyAMarkedHallCanBeDeletedOrRenamed) {
     });
 }
 
-TEST_F(FormSalonTanimTest, AfterANoBothButtonsStayDisabledThoughARowIsMarkedAsIsMeant) {
+TEST_F(FormSalonTanimTest, After_a_no_both_buttons_stay_disabled_though_a_row_is_marked_as_is_meant) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Hayir);
@@ -144,7 +144,7 @@ TEST_F(FormSalonTanimTest, AfterANoBothButtonsStayDisabledThoughARowIsMarkedAsIs
     EXPECT_FALSE(Tanim().Command4.etkin);
 }
 
-TEST_F(FormSalonTanimTest, DeletingTheSelectedHallSelectsTheFirstAndPaintsIt) {
+TEST_F(FormSalonTanimTest, Deleting_the_selected_hall_selects_the_first_and_paints_it) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n\"C\"\r\n");
     RezervasyonKoy(u"B");
     kullanici.ProgramiAc();
@@ -156,7 +156,7 @@ TEST_F(FormSalonTanimTest, DeletingTheSelectedHallSelectsTheFirstAndPaintsIt) {
     EXPECT_TRUE(agac.KlasorVar(u"A/2012"));
 }
 
-TEST_F(FormSalonTanimTest, DeletingAnotherHallSelectsTheFirstToo) {
+TEST_F(FormSalonTanimTest, Deleting_another_hall_selects_the_first_too) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n\"C\"\r\n");
     kullanici.ProgramiAc();
     kullanici.SalonSec(u"C");
@@ -165,7 +165,7 @@ TEST_F(FormSalonTanimTest, DeletingAnotherHallSelectsTheFirstToo) {
     EXPECT_EQ(Tablo().Salon.Metni(), u"A");
 }
 
-TEST_F(FormSalonTanimTest, DeletingTheOnlyHallLeavesAnEmptySelectorAPaintedTableAndTheFolders) {
+TEST_F(FormSalonTanimTest, Deleting_the_only_hall_leaves_an_empty_selector_a_painted_table_and_the_folders) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     RezervasyonKoy(u"A");
     kullanici.ProgramiAc();
@@ -181,7 +181,7 @@ TEST_F(FormSalonTanimTest, DeletingTheOnlyHallLeavesAnEmptySelectorAPaintedTable
     EXPECT_EQ(RezervasyonTagi(), u"");
 }
 
-TEST_F(FormSalonTanimTest, DeletingAHallAndAddingItAgainBringsItsReservationsBack) {
+TEST_F(FormSalonTanimTest, Deleting_a_hall_and_adding_it_again_brings_its_reservations_back) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     RezervasyonKoy(u"A");
     kullanici.ProgramiAc();
@@ -193,7 +193,7 @@ TEST_F(FormSalonTanimTest, DeletingAHallAndAddingItAgainBringsItsReservationsBac
     EXPECT_EQ(RezervasyonTagi(), tag);
 }
 
-TEST_F(FormSalonTanimTest, DoubleQuoteInANameIsWrittenRawAndSlidesTheNextReadingAsIsMeant) {
+TEST_F(FormSalonTanimTest, Double_quote_in_a_name_is_written_raw_and_slides_the_next_reading_as_is_meant) {
     kullanici.ProgramiAc();
     SalonEkle(u"a \"b\", c");
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A \"b\", C\"\r\n");
@@ -202,7 +202,7 @@ TEST_F(FormSalonTanimTest, DoubleQuoteInANameIsWrittenRawAndSlidesTheNextReading
     SalonlarBekle({u"A ", u"b\"", u"C\""});
 }
 
-TEST_F(FormSalonTanimTest, SignsThatAFolderCannotHoldEnterTheListWithoutAFolder) {
+TEST_F(FormSalonTanimTest, Signs_that_a_folder_cannot_hold_enter_the_list_without_a_folder) {
     kullanici.ProgramiAc();
     const auto disi = agac.Kok().parent_path();
     for (const auto* ad : {u"..", u"A/b", u"C:x", u"D\\e", u"..\\f", u"..\\..\\velora Disi"})
@@ -217,20 +217,20 @@ TEST_F(FormSalonTanimTest, SignsThatAFolderCannotHoldEnterTheListWithoutAFolder)
     }
 }
 
-TEST_F(FormSalonTanimTest, NameOutsideTheCodePageIsListedAsTheFileHoldsIt) {
+TEST_F(FormSalonTanimTest, Name_outside_the_code_page_is_listed_as_the_file_holds_it) {
     kullanici.ProgramiAc();
     SalonEkle(u"salon \u0416\U0001F600");
     SalonlarBekle({u"Salon ??"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"Salon ??\"\r\n");
 }
 
-TEST_F(FormSalonTanimTest, NameOfFiveThousandSignsIsKeptWithoutAFolder) {
+TEST_F(FormSalonTanimTest, Name_of_five_thousand_signs_is_kept_without_a_folder) {
     kullanici.ProgramiAc();
     SalonEkle(Metin(5000, u'a'));
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A" + std::string(4999, 'a') + "\"\r\n");
 }
 
-TEST_F(FormSalonTanimTest, FoldersThatCannotBeMadeAreNoHindrance) {
+TEST_F(FormSalonTanimTest, Folders_that_cannot_be_made_are_no_hindrance) {
     kullanici.ProgramiAc();
     Boz(DosyaIsi::KlasorYap);
     SalonEkle(u"a");
@@ -239,7 +239,7 @@ TEST_F(FormSalonTanimTest, FoldersThatCannotBeMadeAreNoHindrance) {
     EXPECT_FALSE(agac.KlasorVar(u"A"));
 }
 
-TEST_F(FormSalonTanimTest, ListThatCannotBeWrittenKeepsTheOldFileAndSaysNothing) {
+TEST_F(FormSalonTanimTest, List_that_cannot_be_written_keeps_the_old_file_and_says_nothing) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     Boz(DosyaIsi::Yaz);
@@ -249,7 +249,7 @@ TEST_F(FormSalonTanimTest, ListThatCannotBeWrittenKeepsTheOldFileAndSaysNothing)
     EXPECT_TRUE(agac.KlasorVar(u"B/2012")) << "the steps behind the failed one still run";
 }
 
-TEST_F(FormSalonTanimTest, FullDiskKeepsTheOldListWhole) {
+TEST_F(FormSalonTanimTest, Full_disk_keeps_the_old_list_whole) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     kullanici.Prog().dosyalar.bosYer = 2;
@@ -266,7 +266,7 @@ class IlkSalon : public SalonTest {
     }
 };
 
-TEST_F(IlkSalon, FirstRunOpensAListThatClosesOnlyAfterAnAddWasStarted) {
+TEST_F(IlkSalon, First_run_opens_a_list_that_closes_only_after_an_add_was_started) {
     kullanici.ProgramiAc();
     SoruBekle(Cevap::Evet);
     bool acildi = false;
@@ -284,7 +284,7 @@ TEST_F(IlkSalon, FirstRunOpensAListThatClosesOnlyAfterAnAddWasStarted) {
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
 }
 
-TEST_F(IlkSalon, NoIsAnsweredByACriticalBoxAndTheListAllTheSame) {
+TEST_F(IlkSalon, No_is_answered_by_a_critical_box_and_the_list_all_the_same) {
     kullanici.ProgramiAc();
     SoruBekle(Cevap::Hayir);
     Ortam().Bekle(BeklenenKutu{
@@ -296,7 +296,7 @@ TEST_F(IlkSalon, NoIsAnsweredByACriticalBoxAndTheListAllTheSame) {
     EXPECT_FALSE(Tanim().Command3.etkin);
 }
 
-TEST_F(IlkSalon, FirmWithAHallIsAskedNothing) {
+TEST_F(IlkSalon, Firm_with_a_hall_is_asked_nothing) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     IlkSalonuSor(kullanici.Prog());
