@@ -23,13 +23,13 @@ constexpr double kTwip = 15;
 
 void TumTablonunBoyanmasi(benchmark::State& durum) {
     const OlcumAgaci agac;
-    Program program(OlcumOrtami(agac.Bugun()), agac.Kok());
+    Program program(OlcumOrtami(OlcumAgaci::Bugun()), agac.Kok());
     FormTablo& tablo = *program.FormTablo.Tut();
     tablo.Resize(TabloIcGenisligi(kGenislik * kTwip), TabloIcYuksekligi(kYukseklik * kTwip));
     const TabloDuzeni duzen(tablo, 1);
     TabloCizici cizici(QApplication::font(), {});
     QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);
-    for (auto _ : durum) {
+    while (durum.KeepRunning()) {
         QPainter boyaci(&resim);
         cizici.Ciz(boyaci, tablo, duzen, resim.rect(), program.FormAyarlar->Renk(16));
     }
@@ -38,7 +38,7 @@ BENCHMARK(TumTablonunBoyanmasi)->Unit(benchmark::kMillisecond);
 
 void AyniResminDoldurulmasi(benchmark::State& durum) {
     QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);
-    for (auto _ : durum) {
+    while (durum.KeepRunning()) {
         QPainter boyaci(&resim);
         boyaci.fillRect(resim.rect(), Qt::white);
     }

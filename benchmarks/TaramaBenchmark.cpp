@@ -77,13 +77,13 @@ void TaramaninZemineOrani(benchmark::State& durum) {
     const OlcumAgaci agac;
     malloc_trim(0); // what making the tree left behind
     const double bos = Bellek();
-    Program program(OlcumOrtami(agac.Bugun()), agac.Kok());
+    Program program(OlcumOrtami(OlcumAgaci::Bugun()), agac.Kok());
     FormTablo& tablo = *program.FormTablo.Tut();
     std::vector<double> zemin;
     std::vector<double> tarama;
     std::vector<double> akis;
     int dosyaSayisi = 0;
-    for (auto _ : durum) {
+    while (durum.KeepRunning()) {
         zemin.push_back(Saniye([&] { dosyaSayisi = Zemin(agac.YilYolu()); }));
         tarama.push_back(Saniye([&] { tablo.Command1(); }));
         akis.push_back(Saniye([&] { Akislar(agac.YilYolu()); }));
@@ -99,10 +99,10 @@ BENCHMARK(TaramaninZemineOrani)->Unit(benchmark::kMillisecond)->Iterations(200);
 
 void BinTaramadaBellek(benchmark::State& durum) {
     const OlcumAgaci agac;
-    Program program(OlcumOrtami(agac.Bugun()), agac.Kok());
+    Program program(OlcumOrtami(OlcumAgaci::Bugun()), agac.Kok());
     FormTablo& tablo = *program.FormTablo.Tut();
     tablo.Command1();
-    for (auto _ : durum) {
+    while (durum.KeepRunning()) {
         const auto once = mallinfo2().uordblks;
         for (int i = 0; i < 1000; ++i)
             tablo.Command1();

@@ -26,13 +26,15 @@ void BasliklariKoy(QTreeWidget& liste, const std::vector<Metin>& basliklar) {
 
 void SatirlariKoy(QTreeWidget& liste, const std::vector<ListeSatiri>& satirlar) {
     liste.clear();
+    QList<QTreeWidgetItem*> ogeler;
     for (const ListeSatiri& satir : satirlar) {
-        auto* oge = new QTreeWidgetItem(&liste);
+        ogeler << new QTreeWidgetItem;
         for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
-            oge->setText(sutun, QMetin(satir.sutun[static_cast<std::size_t>(sutun)]));
-            oge->setForeground(sutun, QRenk(satir.yazi));
+            ogeler.back()->setText(sutun, QMetin(satir.sutun[static_cast<std::size_t>(sutun)]));
+            ogeler.back()->setForeground(sutun, QRenk(satir.yazi));
         }
     }
+    liste.addTopLevelItems(ogeler);
 }
 
 void SeciliyiIsaretle(QTreeWidget& liste, int secili) {
