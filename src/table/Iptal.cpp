@@ -13,8 +13,8 @@ void FormTablo::iptals_Click() {
                                   .dugmeler = KutuDugmeleri::EvetHayir});
     if (cevap != Cevap::Evet)
         return;
-    const Metin sebep =
-        program_.ortam.sor.girdi({.metin = u"İptal sebebini yazınız!", .baslik = u"İptal Sebebi", .baslangic = u""});
+    const Metin sebep = program_.ortam.sor.girdi(
+        {.metin = u"İptal sebebini yazınız!", .baslik = u"İptal Sebebi", .baslangic = u""});
     const Metin yol = program_.agac.GunYolu(Salon.Metni(), Sene.Metni(), SeciliTarih2);
     program_.OlaylariIsle();
     AnaDegerler kayit;
