@@ -1,8 +1,10 @@
 #include "storage/Sayi.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <numeric>
 
 namespace velora {
 namespace {
@@ -25,6 +27,11 @@ std::string Onluk(double sayi, Hassaslik... hassaslik) {
 } // namespace
 
 double SayisalDeger(MetinBakis metin) {
+    // Most amounts are a few digits, and long lists of them are added up at each change.
+    constexpr std::size_t kTamHane = 15; // a double holds any number of so many digits exactly
+    if (metin.size() <= kTamHane && std::all_of(metin.begin(), metin.end(), Rakam))
+        return std::accumulate(metin.begin(), metin.end(), 0.0,
+                               [](double sayi, char16_t harf) { return sayi * 10 + (harf - u'0'); });
     std::string bas;
     bool nokta = false;
     for (const char16_t harf : metin) {
