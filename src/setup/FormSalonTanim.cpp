@@ -101,12 +101,13 @@ void FormSalonTanim::Command4_Click() {
 }
 
 void FormSalonTanim::Command3_Click() {
+    Program& p = program_;
     if (List1.ogeler.empty()) {
-        program_.ortam.sor.mesaj(SalonGerek(u"Hiç salon tanımınız yok!"));
+        p.ortam.sor.mesaj(SalonGerek(u"Hiç salon tanımınız yok!"));
         Command1_Click();
         return;
     }
-    program_.FormSalonTanim.Bosalt();
+    p.FormSalonTanim.Bosalt();
 }
 
 void FormSalonTanim::Kaydet_Click() {
