@@ -1,11 +1,16 @@
 #include "storage/VeriAgaci.h"
 
+#include <algorithm>
+
 namespace velora {
 namespace {
 
+/// A name that holds the separator stays one name: as "/" no system takes it, so that such a path is refused.
 Metin Ekle(Metin yol, MetinBakis ad) {
     yol += kAyrac;
+    const auto bas = static_cast<std::ptrdiff_t>(yol.size());
     yol += ad;
+    std::replace(yol.begin() + bas, yol.end(), kAyrac, u'/');
     return yol;
 }
 

@@ -128,6 +128,11 @@ struct FormTablo {
     void TasimaModuAc_Click();
     void iptals_Click();
 
+    // --- the entries of the menu "Ayarlar" ---
+    void Salontanimss_Click();
+    void MenuAyars_Click();
+    void Progrset_Click();
+
     // --- procedures under the names of their hidden buttons ---
     void Command1(); ///< "Listele": the full scan and repaint
     void Command3(); ///< "HaftaSonu": heads, free days, weekends
@@ -168,6 +173,10 @@ struct FormTablo {
     MenuGirdisi newkay{u"Yeni Organizasyon Oluştur"};
     MenuGirdisi TasimaModuAc{u"Taşıma Modunu Aç"};
     MenuGirdisi iptals{u"Kayıt İptali"};
+    // The menu "Ayarlar", in this order.
+    MenuGirdisi Salontanimss{u"Salon Tanımları"};
+    MenuGirdisi MenuAyars{u"Menü Tanımları"};
+    MenuGirdisi Progrset{u"Genel Program Ayarları"};
     int TutarDegistir = 0; ///< 1: the user may change amounts
     int Check1 = 0;        ///< "Hatirlatma": 0 until the first Activate
     int Dklabel = 0;       ///< ticks of `Saatsay`

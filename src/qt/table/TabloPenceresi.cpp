@@ -1,9 +1,13 @@
 #include "qt/table/TabloPenceresi.h"
 
+#include <array>
+
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -63,12 +67,35 @@ TabloPenceresi::TabloPenceresi(Program& program)
     cerceve->addWidget(gorunum_);
     sutun->addLayout(cerceve, 1);
     setCentralWidget(orta);
+    MenuleriKur(*tablo);
     DurumSeridiKur();
     ZamanlayicilariBagla(*tablo);
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
     setMinimumSize(1000, 560);
     resize(1280, 720);
     gorunum_->setFocus();
+}
+
+void TabloPenceresi::MenuleriKur(FormTablo& tablo) {
+    struct Komut {
+        const char* ad;
+        MenuGirdisi FormTablo::*girdi;
+        void (FormTablo::*isle)();
+        QKeySequence tus;
+    };
+    const std::array komutlar{
+        Komut{"Salontanimss", &FormTablo::Salontanimss, &FormTablo::Salontanimss_Click, {}},
+        Komut{"MenuAyars", &FormTablo::MenuAyars, &FormTablo::MenuAyars_Click, {}},
+        Komut{"Progrset", &FormTablo::Progrset, &FormTablo::Progrset_Click, Qt::Key_F7}};
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("&Ayarlar"));
+    menu->setObjectName(QStringLiteral("ayarsd"));
+    for (const Komut& komut : komutlar) {
+        QAction* girdi = menu->addAction({});
+        girdi->setObjectName(QString::fromLatin1(komut.ad));
+        girdi->setShortcut(komut.tus);
+        baglayici_->Bagla(*girdi, tablo.*komut.girdi,
+                          [this, isle = komut.isle] { (*program_.FormTablo.Tut().*isle)(); });
+    }
 }
 
 QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {

@@ -26,6 +26,7 @@ class TabloPenceresi : public QMainWindow {
   private:
     QWidget* UstSerit(FormTablo& tablo);
     QLabel* ZilKur(FormTablo& tablo);
+    void MenuleriKur(FormTablo& tablo);
     void DurumSeridiKur();
     void ZamanlayicilariBagla(FormTablo& tablo);
     void SaatiGoster();

@@ -1,0 +1,22 @@
+// The commands of the menu bar. Each shows another screen over the table.
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "setup/FormMenuAyar.h"
+#include "setup/FormSalonTanim.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+void FormTablo::Salontanimss_Click() {
+    program_.FormSalonTanim.GosterModal();
+}
+
+void FormTablo::MenuAyars_Click() {
+    program_.FormMenuAyar.GosterModal();
+}
+
+void FormTablo::Progrset_Click() {
+    program_.FormAyarlar.GosterModal();
+}
+
+} // namespace velora
