@@ -83,7 +83,7 @@ class BaglayiciTest : public QObject {
         const auto say = [&] { ++sahne.sayi; };
         sahne.ekran->onay.tiklandi = sahne.ekran->liste.tiklandi = say;
         sahne.baglayici.Bagla(onay, sahne.ekran->onay);
-        sahne.baglayici.Bagla(metin, sahne.ekran->metin, say);
+        sahne.baglayici.Bagla(metin, sahne.ekran->metin, {.degisti = say, .odakGitti = {}});
         sahne.baglayici.Bagla(liste, sahne.ekran->liste);
         sahne.baglayici.Bagla(satirlar, sahne.ekran->satirlar, say, say);
         sahne.ekran->onay.deger = 1;
@@ -101,7 +101,7 @@ class BaglayiciTest : public QObject {
     void typed_text_goes_to_the_model_sign_by_sign() {
         Sahne sahne;
         QLineEdit kutu(&sahne.pencere);
-        sahne.baglayici.Bagla(kutu, sahne.ekran->metin, [&] { ++sahne.sayi; });
+        sahne.baglayici.Bagla(kutu, sahne.ekran->metin, {.degisti = [&] { ++sahne.sayi; }, .odakGitti = {}});
         QTest::keyClicks(&kutu, QStringLiteral("abc"));
         QCOMPARE(sahne.ekran->metin.metin, Metin(u"abc"));
         QCOMPARE(sahne.sayi, 3);
@@ -125,7 +125,9 @@ class BaglayiciTest : public QObject {
     void a_handler_that_changes_the_text_is_seen_in_the_field() {
         Sahne sahne;
         QLineEdit kutu(&sahne.pencere);
-        sahne.baglayici.Bagla(kutu, sahne.ekran->metin, [&] { sahne.ekran->metin.metin = u"düzeltildi"; });
+        sahne.baglayici.Bagla(
+            kutu, sahne.ekran->metin,
+            {.degisti = [&] { sahne.ekran->metin.metin = u"düzeltildi"; }, .odakGitti = {}});
         QTest::keyClicks(&kutu, QStringLiteral("x"));
         QCOMPARE(kutu.text(), QStringLiteral("düzeltildi"));
     }

@@ -93,9 +93,9 @@ TEST_F(AyarKomutlari, Emptied_warning_days_are_an_empty_quoted_text) {
 
 TEST_F(AyarKomutlari, First_warning_field_takes_digits_alone_and_the_second_anything_as_is_meant) {
     for (const char16_t tus : MetinBakis(u"0123456789\b"))
-        EXPECT_TRUE(Ayarlar().UyariGun_KeyPress(tus));
+        EXPECT_TRUE(Ayarlar().UyariGun.suzgec(tus));
     for (const char16_t tus : MetinBakis(u"a ,.-\r\""))
-        EXPECT_FALSE(Ayarlar().UyariGun_KeyPress(tus));
+        EXPECT_FALSE(Ayarlar().UyariGun.suzgec(tus));
     Ayarlar().UyariGun2.metin = u"on beş";
     Ayarlar().Command1_Click();
     EXPECT_EQ(Ayarlar().UyariGun2.metin, u"on beş");

@@ -90,7 +90,8 @@ void TabloPenceresi::MenuleriKur(FormTablo& tablo) {
     QMenu* menu = menuBar()->addMenu(QStringLiteral("&Ayarlar"));
     menu->setObjectName(QStringLiteral("ayarsd"));
     for (const Komut& komut : komutlar) {
-        QAction* girdi = menu->addAction({});
+        auto* girdi = new QAction(menu);
+        menu->addAction(girdi);
         girdi->setObjectName(QString::fromLatin1(komut.ad));
         girdi->setShortcut(komut.tus);
         baglayici_->Bagla(*girdi, tablo.*komut.girdi,
