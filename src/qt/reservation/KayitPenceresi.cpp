@@ -167,10 +167,12 @@ QWidget* KayitPenceresi::GenelSayfasi() {
         AlanEkle(*sag, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
     sag->addRow(DurumSecimi());
     sag->addRow(HatirlatmaSecimi());
-    // At the top: rows keep their distance when the window grows.
+    // Rows keep their distance when the window grows.
     for (QFormLayout* form : {sol, sag}) {
-        sutunlar->addLayout(form, 1);
-        sutunlar->setAlignment(form, Qt::AlignTop);
+        auto* sutun = new QVBoxLayout;
+        sutun->addLayout(form);
+        sutun->addStretch(1);
+        sutunlar->addLayout(sutun, 1);
     }
     return sayfa;
 }
