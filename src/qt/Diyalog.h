@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include "qt/Yerlesimler.h"
+
 class QPushButton;
 
 namespace velora {
@@ -26,6 +28,17 @@ class Diyalog : public QDialog {
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
+
+    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
+    template <class Ekran>
+    QHBoxLayout* ListeDugmeleri(Ekran* ekran) {
+        auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
+        IptalDugmesi(kapat);
+        return DugmeSeridi({DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }),
+                            DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }),
+                            DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }),
+                            kapat});
+    }
 
     void closeEvent(QCloseEvent* olay) override;
 

@@ -33,13 +33,8 @@ MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : Diyalog(program.FormMen
     Bag().Bagla(
         *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
     liste->setColumnWidth(0, kAdSutunu);
-    auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
-    IptalDugmesi(kapat);
     sutun->addWidget(liste, 1);
-    sutun->addLayout(
-        DugmeSeridi({DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }),
-                     DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }),
-                     DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }), kapat}));
+    sutun->addLayout(ListeDugmeleri(ekran));
     setWindowTitle(QMetin(ekran->baslik));
     resize(640, 380);
 }

@@ -30,14 +30,9 @@ SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : Diyalog(program.For
     auto* liste = new QListWidget;
     Adlandir(*liste, QStringLiteral("List1"), baslik->text());
     Bag().Bagla(*liste, ekran->List1, [ekran] { ekran->List1_Click(); });
-    auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
-    IptalDugmesi(kapat);
     sutun->addWidget(baslik);
     sutun->addWidget(liste, 1);
-    sutun->addLayout(
-        DugmeSeridi({DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }),
-                     DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }),
-                     DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }), kapat}));
+    sutun->addLayout(ListeDugmeleri(ekran));
     setWindowTitle(QMetin(ekran->baslik));
     resize(460, 340);
 }
