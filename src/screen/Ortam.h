@@ -20,7 +20,11 @@ enum class EkranAdi {
     FormMenuAyar,
     FormMenuEkle,
     FormKayit,
-    FormOdemeAl
+    FormOdemeAl,
+    FormArama,
+    FormBakiye,
+    FormPrint,
+    FormWebteYayinla
 };
 
 enum class Simge { Bilgi, Soru, Uyari, Kritik };

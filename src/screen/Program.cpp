@@ -8,7 +8,9 @@ Program::Program(Ortam disDunya, const std::filesystem::path& kok)
       FormResmiTatil(*this, EkranAdi::FormResmiTatil), FormRenk(*this, EkranAdi::FormRenk),
       FormSalonTanim(*this, EkranAdi::FormSalonTanim), FormSalonTanimAd(*this, EkranAdi::FormSalonTanimAd),
       FormMenuAyar(*this, EkranAdi::FormMenuAyar), FormMenuEkle(*this, EkranAdi::FormMenuEkle),
-      FormKayit(*this, EkranAdi::FormKayit), FormOdemeAl(*this, EkranAdi::FormOdemeAl) {}
+      FormKayit(*this, EkranAdi::FormKayit), FormOdemeAl(*this, EkranAdi::FormOdemeAl),
+      FormArama(*this, EkranAdi::FormArama), FormBakiye(*this, EkranAdi::FormBakiye),
+      FormPrint(*this, EkranAdi::FormPrint), FormWebteYayinla(*this, EkranAdi::FormWebteYayinla) {}
 
 Gun Program::Bugun() const {
     return Gun(std::chrono::floor<std::chrono::days>(ortam.zaman.simdi()));

@@ -19,6 +19,10 @@ struct FormMenuAyar;
 struct FormMenuEkle;
 struct FormKayit;
 struct FormOdemeAl;
+struct FormArama;
+struct FormBakiye;
+struct FormPrint;
+struct FormWebteYayinla;
 
 /// The whole program: its screens by their own names, the data tree and the outside world.
 struct Program {
@@ -43,6 +47,10 @@ struct Program {
     Pencere<velora::FormMenuEkle> FormMenuEkle;
     Pencere<velora::FormKayit> FormKayit;
     Pencere<velora::FormOdemeAl> FormOdemeAl;
+    Pencere<velora::FormArama> FormArama;
+    Pencere<velora::FormBakiye> FormBakiye;
+    Pencere<velora::FormPrint> FormPrint;
+    Pencere<velora::FormWebteYayinla> FormWebteYayinla;
 
     /// Today, by the clock of the outside world.
     Gun Bugun() const;
