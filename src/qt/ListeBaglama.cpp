@@ -17,30 +17,47 @@ bool AyniSatir(const ListeSatiri& bir, const ListeSatiri& iki) {
     return bir.sutun == iki.sutun && bir.yazi == iki.yazi;
 }
 
-void BasliklariKoy(QTreeWidget& liste, const std::vector<Metin>& basliklar) {
+constexpr Qt::Alignment kSaga = Qt::AlignRight | Qt::AlignVCenter;
+
+void BasliklariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     QStringList metinler;
-    for (const Metin& baslik : basliklar)
+    for (const Metin& baslik : model.basliklar)
         metinler << QMetin(baslik);
     liste.setColumnCount(static_cast<int>(metinler.size()));
     liste.setHeaderLabels(metinler);
+    for (const int sutun : model.sayiSutunlari)
+        liste.headerItem()->setTextAlignment(sutun, kSaga);
 }
 
-void SatirlariKoy(QTreeWidget& liste, const std::vector<ListeSatiri>& satirlar) {
+void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     liste.clear();
     QList<QTreeWidgetItem*> ogeler;
-    for (const ListeSatiri& satir : satirlar) {
+    for (const ListeSatiri& satir : model.satirlar) {
         ogeler << new QTreeWidgetItem;
         for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
             ogeler.back()->setText(sutun, QMetin(satir.sutun[static_cast<std::size_t>(sutun)]));
             ogeler.back()->setForeground(sutun, QRenk(satir.yazi));
         }
+        for (const int sutun : model.sayiSutunlari)
+            ogeler.back()->setTextAlignment(sutun, kSaga);
     }
     liste.addTopLevelItems(ogeler);
 }
 
+/// Index of the marked row, -1 for none. The cursor may stand on a row that isn't marked: the focus alone puts it there.
+int IsaretliSira(const QTreeWidget& liste) {
+    const auto isaretli = liste.selectedItems();
+    return isaretli.isEmpty() ? -1 : liste.indexOfTopLevelItem(isaretli.first());
+}
+
+int IsaretliSira(const QListWidget& liste) {
+    const auto isaretli = liste.selectedItems();
+    return isaretli.isEmpty() ? -1 : liste.row(isaretli.first());
+}
+
 void SeciliyiIsaretle(QTreeWidget& liste, int secili) {
     QTreeWidgetItem* oge = liste.topLevelItem(secili);
-    if (liste.indexOfTopLevelItem(liste.currentItem()) == (oge == nullptr ? -1 : secili))
+    if (IsaretliSira(liste) == (oge == nullptr ? -1 : secili))
         return;
     liste.setCurrentItem(oge);
     if (oge == nullptr)
@@ -54,33 +71,38 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
-    connect(&liste, &QTreeWidget::currentItemChanged, this, [this, &liste, &model, secildi] {
+    const auto isaretle = [this, &liste, &model, secildi] {
         Calistir([&liste, &model, &secildi] {
-            model.secili = liste.indexOfTopLevelItem(liste.currentItem());
-            if (secildi)
+            model.secili = IsaretliSira(liste);
+            if (secildi && model.secili >= 0)
                 secildi();
         });
-    });
+    };
+    connect(&liste, &QTreeWidget::itemSelectionChanged, this, isaretle);
+    // A click on the row that is marked already counts as well.
+    connect(&liste, &QTreeWidget::itemClicked, this, isaretle);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Calistir(ciftTiklandi); });
     Izle([&liste, &model, konan = ListeGorunumu()]() mutable {
         const QSignalBlocker sus(&liste);
         if (konan.basliklar != model.basliklar)
-            BasliklariKoy(liste, model.basliklar);
+            BasliklariKoy(liste, model);
         if (!std::ranges::equal(konan.satirlar, model.satirlar, AyniSatir))
-            SatirlariKoy(liste, model.satirlar);
+            SatirlariKoy(liste, model);
         konan = model;
         SeciliyiIsaretle(liste, model.secili);
     });
 }
 
 void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi) {
-    connect(&liste, &QListWidget::currentRowChanged, this, [this, &model, secildi](int sira) {
-        Calistir([&model, &secildi, sira] {
-            model.secili = sira;
+    const auto isaretle = [this, &liste, &model, secildi] {
+        Calistir([&liste, &model, &secildi] {
+            model.secili = IsaretliSira(liste);
             if (secildi)
                 secildi();
         });
-    });
+    };
+    connect(&liste, &QListWidget::itemSelectionChanged, this, isaretle);
+    connect(&liste, &QListWidget::itemClicked, this, isaretle);
     Izle([&liste, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&liste);
         if (konan != model.ogeler) {
@@ -89,7 +111,7 @@ void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& se
                 liste.addItem(QMetin(oge));
             konan = model.ogeler;
         }
-        if (liste.currentRow() != model.secili)
+        if (IsaretliSira(liste) != model.secili)
             liste.setCurrentRow(model.secili);
     });
 }

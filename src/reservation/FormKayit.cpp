@@ -56,6 +56,7 @@ FormKayit::FormKayit(Program& program) : program_(program) {
     Aciklamalar.enUzun = Label20.enUzun = 5000;
     Combo1.tiklandi = [this] { Combo1_Click(); };
     Liste.basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
+    Liste.sayiSutunlari = {1};
 }
 
 void FormKayit::Load() {
