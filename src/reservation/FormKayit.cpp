@@ -1,5 +1,6 @@
 #include "reservation/FormKayit.h"
 
+#include "documents/FormPrint.h"
 #include "screen/Program.h"
 #include "screen/TusSuzgeci.h"
 #include "setup/FormAyarlar.h"
@@ -66,8 +67,10 @@ void FormKayit::Load() {
     if (MenuleriOku()) {
         if (KayitAc == 0)
             Combo1.Sec(0);
-        if (SozlesmeNoOner())
+        if (SozlesmeNoOner()) {
+            program_.FormPrint.Tut();
             return;
+        }
     }
     // One way out for whatever failed: the counter too, when only the menus are missing.
     Kay[14].metin = u"1";

@@ -1,4 +1,6 @@
 // The save: from the fields to the three files of the reservation and the counter.
+#include "accounts/FormBakiye.h"
+#include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
@@ -26,6 +28,21 @@ constexpr std::array<AlanKontrolu, 6> kKontroller{{
     {18, kBosTarih, u"Lütfen bu tarihte hatırlatın tarihini giriniz!"},
 }};
 
+/// What stands open shows the saved record: the lists with the messages they bring, then the table.
+void AcikEkranlariTazele(Program& p) {
+    if (p.FormBakiye.Yuklu() && p.FormBakiye->acikmi == 1)
+        p.FormBakiye->ListeleGun();
+    if (p.FormArama.Yuklu() && p.FormArama->acikmi == 1)
+        p.FormArama->Command3_Click();
+    const auto tablo = p.FormTablo.Tut();
+    if (tablo->Picture1.gorunur)
+        tablo->UyariGoster();
+    for (const auto adim : {&FormTablo::Command1, &FormTablo::Command6, &FormTablo::Command7}) {
+        p.OlaylariIsle();
+        (*tablo.*adim)();
+    }
+}
+
 constexpr int kNumaraSirasi = 14;
 constexpr std::size_t kEnCokOkunan = std::size_t{1} << 20;
 
@@ -48,14 +65,7 @@ void FormKayit::Command1_Click() {
     Basildi = 1;
     p.FormKayit.Bosalt();
     p.OlaylariIsle();
-    const auto tablo = p.FormTablo.Tut();
-    if (tablo->Picture1.gorunur)
-        tablo->UyariGoster();
-    p.OlaylariIsle();
-    tablo->Command1();
-    p.OlaylariIsle();
-    tablo->Command6();
-    p.OlaylariIsle();
+    AcikEkranlariTazele(p);
 }
 
 void FormKayit::Command11() {

@@ -5,6 +5,8 @@
 namespace velora {
 
 void EkranYigini::Koy(EkranAdi ad, Etkinlestir etkinlestir) {
+    // Shown again, a screen that stands already comes to the front.
+    Al(ad);
     kayitlar_.push_back({ad, std::move(etkinlestir)});
 }
 

@@ -108,6 +108,7 @@ void FormSalonTanim::Command3_Click() {
         return;
     }
     p.FormSalonTanim.Bosalt();
+    p.FormTablo->Command7();
 }
 
 void FormSalonTanim::Kaydet_Click() {

@@ -139,6 +139,9 @@ struct FormTablo {
     void Command4(); ///< "Gun İptali": cells of days that exist, with their weekday names
     void Command5(); ///< "Resmi Tatiller"
     void Command6(); ///< "Bugün": is one of today's slots taken?
+    void Command7(); ///< "Otomatik Yayin": publishes again what is published already, and else nothing
+    /// Shows the screen that sends the table of the selected hall and year to the service. Offline: nothing.
+    void Yayinla();
     void GecmisGunler();
     void CetvelAc();
     void CetvelSil();

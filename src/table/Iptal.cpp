@@ -28,6 +28,7 @@ void FormTablo::iptals_Click() {
     program_.OlaylariIsle();
     Command1();
     Command6();
+    Command7();
 }
 
 void FormTablo::IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep) {

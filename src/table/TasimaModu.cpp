@@ -34,6 +34,9 @@ void FormTablo::Hucre_DragDrop(SatirAdi satir, int gun) {
 }
 
 void FormTablo::RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi) {
+    // A taken cell refuses itself by its colour. One that was painted as past since then doesn't: it stays where it is.
+    if (kaynakAdi == hedefAdi)
+        return;
     const Metin salon = Salon.Metni();
     const Metin yil = Sene.Metni();
     const Metin kaynak = program_.agac.GunYolu(salon, yil, kaynakAdi);
@@ -50,6 +53,7 @@ void FormTablo::TasimaBitir() {
         for (Hucre& hucre : satir.gun)
             hucre.otomatikSurukleme = false;
     tasimamoducheck = 0;
+    Command7();
 }
 
 } // namespace velora

@@ -1,3 +1,4 @@
+#include "documents/FormPrint.h"
 #include "reservation/KayitTest.h"
 
 namespace velora::test {
@@ -51,6 +52,11 @@ TEST_F(FormKayitTest, Opening_takes_the_overview_ruler_away) {
     YeniKayit([&] { EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur); });
 }
 
+TEST_F(FormKayitTest, Opening_gets_the_page_of_the_contract_ready) {
+    EXPECT_FALSE(Prog().FormPrint.Yuklu());
+    YeniKayit([&] { EXPECT_TRUE(Prog().FormPrint.Yuklu()); });
+}
+
 TEST_F(FormKayitTest, With_both_number_settings_off_the_number_is_offered_and_open) {
     NumaraAyari(false, false);
     YeniKayit([&] { NumaraBekle(u"58", true); });
@@ -96,6 +102,7 @@ TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_and_the_sa
     YeniKayit([&] {
         NumaraBekle(u"1", false);
         EXPECT_EQ(Kayit().Combo1.secili, -1);
+        EXPECT_FALSE(Prog().FormPrint.Yuklu());
         Doldur();
         Kaydet();
     });

@@ -55,6 +55,17 @@ TEST_F(PencereTest, Asking_whether_it_is_loaded_loads_nothing) {
     EXPECT_TRUE(Gunluk().empty());
 }
 
+TEST_F(PencereTest, A_screen_shown_again_comes_to_the_front_and_stands_there_once) {
+    alt.Goster();
+    ust.Goster();
+    alt.Goster();
+    alt.Bosalt();
+    Gunluk().clear();
+    program.yigin.UsttekiniEtkinlestir();
+    EXPECT_EQ(Gunluk(), std::vector<std::string>{"üst öne geldi"});
+    EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormTablo));
+}
+
 TEST_F(PencereTest, Unload_drops_what_it_held_and_the_next_use_loads_afresh) {
     alt->alan = 8;
     alt.Bosalt();

@@ -1,5 +1,6 @@
 #include "setup/FormSalonTanim.h"
 
+#include "access/Splash.h"
 #include "setup/SalonTest.h"
 
 namespace velora::test {
@@ -51,6 +52,14 @@ TEST_F(FormSalonTanimTest, Close_unloads_with_a_hall_in_the_list) {
     SalonlarAcikken([this] { Tanim().Command3_Click(); });
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
     EXPECT_EQ(Ortam().gizlenenler, std::vector<EkranAdi>{EkranAdi::FormSalonTanim});
+}
+
+TEST_F(FormSalonTanimTest, Close_publishes_the_table_of_a_published_firm_again) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
+    SalonlarAcikken([this] { Tanim().Command3_Click(); });
+    EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormWebteYayinla);
 }
 
 TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing_written) {

@@ -184,6 +184,18 @@ TEST_F(TasimaModu, Drop_on_a_past_reservation_overwrites_it_without_a_refusal_on
     DosyaYok(u"20.06.2012 - Gündüz");
 }
 
+TEST_F(TasimaModu, Cell_painted_past_since_the_mode_opened_and_dropped_on_itself_keeps_its_reservation) {
+    UcDosyaKoy(u"10.06.2012 - Gündüz", "A");
+    kullanici.ProgramiAc();
+    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.Prog().FormAyarlar->Check1.Ata(1);
+    kullanici.Tablo().Command1();
+    SoruBekle(Cevap::Evet);
+    EXPECT_TRUE(kullanici.Surukle({10, 6, kGunduz}, {10, 6, kGunduz}));
+    UcDosyaBekle(u"10.06.2012 - Gündüz", "A");
+    ModKapaliBekle();
+}
+
 TEST_F(TasimaModu, Dropped_colour_leaves_taken_cells_open_to_a_drop_until_the_next_scan_on_purpose) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     UcDosyaKoy(u"21.06.2012 - Gece", "B");

@@ -1,0 +1,93 @@
+// What the web shows follows the table: which changes publish it again.
+#include <algorithm>
+
+#include "access/Splash.h"
+#include "online/FormWebteYayinla.h"
+#include "table/TabloTest.h"
+
+namespace velora::test {
+
+class Yayin : public TabloTest {
+  protected:
+    void Baslat(int servis, int yayinda) {
+        RezervasyonKoy(u"20.06.2012 - Gündüz");
+        RezervasyonKoy(u"21.06.2012 - Gece");
+        kullanici.ProgramiAc();
+        kullanici.Prog().Splash->Check1 = servis;
+        kullanici.Prog().Splash->Check2 = yayinda;
+    }
+    auto Yayinlar() { return std::ranges::count(kullanici.ortam.acilanlar, EkranAdi::FormWebteYayinla); }
+    /// Opens move mode and drops the reservation of 20 June on another cell.
+    void Tasi(const TabloGozu& hedef) {
+        kullanici.Uzerine({20, 6, kGunduz});
+        kullanici.Tablo().TasimaModuAc_Click();
+        kullanici.Surukle({20, 6, kGunduz}, hedef);
+    }
+    void SoruBekle(const Metin& metin, Cevap cevap) {
+        kullanici.ortam.Bekle(BeklenenKutu{u"Velora", metin, Simge::Soru, cevap});
+    }
+    void TasimaSorusuBekle(Cevap cevap) {
+        SoruBekle(u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?", cevap);
+    }
+    void IptalEt(Cevap cevap) {
+        kullanici.SagTikla({20, 6, kGunduz});
+        SoruBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", cevap);
+        if (cevap == Cevap::Evet)
+            kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u"x"});
+        kullanici.Tablo().iptals_Click();
+    }
+};
+
+TEST_F(Yayin, A_publish_shows_its_screen_with_the_hall_and_the_year) {
+    Baslat(1, 0);
+    kullanici.Tablo().Yayinla();
+    EXPECT_EQ(Yayinlar(), 1);
+    const auto ekran = kullanici.Prog().FormWebteYayinla.Tut();
+    EXPECT_EQ(ekran->Label2.baslik, u"Salon A (2012) kayıtları veri tabanına kaydediliyor.");
+    EXPECT_EQ(ekran->Label1.baslik, u"Lütfen bekleyiniz, bu işlem bir kaç dakika sürebilir...");
+    EXPECT_EQ(ekran->Label8.baslik, u"Veri Tabanı");
+    EXPECT_EQ(ekran->Command1.baslik, u"İptal");
+    ekran->Command1_Click();
+    EXPECT_FALSE(kullanici.Prog().FormWebteYayinla.Yuklu());
+}
+
+TEST_F(Yayin, Offline_nothing_is_published_even_by_a_firm_that_is) {
+    Baslat(0, 1);
+    kullanici.Tablo().Yayinla();
+    kullanici.Tablo().Command7();
+    EXPECT_EQ(Yayinlar(), 0);
+    EXPECT_FALSE(kullanici.Prog().FormWebteYayinla.Yuklu());
+}
+
+TEST_F(Yayin, An_unpublished_firm_is_sent_nothing_by_itself) {
+    Baslat(1, 0);
+    kullanici.Tablo().Command7();
+    EXPECT_EQ(Yayinlar(), 0);
+}
+
+TEST_F(Yayin, Every_end_of_move_mode_publishes_on_purpose_also_a_refusal_and_a_no) {
+    Baslat(1, 1);
+    kullanici.ortam.Bekle(
+        BeklenenKutu{.baslik = u"Uyarı",
+                     .metin = u"Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!"});
+    Tasi({21, 6, kGece});
+    EXPECT_EQ(Yayinlar(), 1) << "a refusal";
+    TasimaSorusuBekle(Cevap::Hayir);
+    Tasi({22, 6, kGece});
+    EXPECT_EQ(Yayinlar(), 2) << "a no";
+    TasimaSorusuBekle(Cevap::Evet);
+    Tasi({22, 6, kGece});
+    EXPECT_EQ(Yayinlar(), 3) << "a move";
+    EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).tag, u"");
+}
+
+TEST_F(Yayin, A_cancellation_publishes_the_table_without_it_and_a_no_publishes_nothing) {
+    Baslat(1, 1);
+    IptalEt(Cevap::Hayir);
+    EXPECT_EQ(Yayinlar(), 0);
+    IptalEt(Cevap::Evet);
+    EXPECT_EQ(Yayinlar(), 1);
+    EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).tag, u"");
+}
+
+} // namespace velora::test
