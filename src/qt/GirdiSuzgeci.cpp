@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QLineEdit>
+
 #include "storage/KodSayfasi.h"
 
 namespace velora {
@@ -49,6 +51,13 @@ QString GirdiyiSuz(const QString& eski, const QString& yeni, const HarfIzni& izi
     if (enUzun > 0)
         gelen.truncate(std::max<qsizetype>(0, enUzun - bas - son));
     return yeni.left(bas) + gelen + yeni.right(son);
+}
+
+void MetniKoy(QLineEdit& kutu, const QString& metin) {
+    const qsizetype geriden = kutu.text().size() - kutu.cursorPosition();
+    kutu.setText(metin);
+    if (kutu.inputMask().isEmpty() && kutu.hasFocus())
+        kutu.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, metin.size() - geriden)));
 }
 
 } // namespace velora

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QLineEdit;
+
 namespace velora {
 
 /// Whether a character may come into a field.
@@ -17,5 +19,8 @@ using HarfIzni = std::function<bool(char16_t)>;
 /// without `izin` are dropped. `enUzun` is the length that the field may reach, 0 for no limit; a text that was longer
 /// before keeps its length.
 QString GirdiyiSuz(const QString& eski, const QString& yeni, const HarfIzni& izin, int enUzun);
+
+/// Sets the text; the cursor keeps its place, counted from the end, behind what was refused.
+void MetniKoy(QLineEdit& kutu, const QString& metin);
 
 } // namespace velora

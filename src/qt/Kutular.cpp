@@ -1,10 +1,12 @@
 #include "qt/Kutular.h"
 
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "qt/Ceviri.h"
+#include "qt/GirdiSuzgeci.h"
 
 namespace velora {
 
@@ -22,6 +24,16 @@ QMessageBox::Icon KutuSimgesi(Simge simge) {
         break;
     }
     return QMessageBox::Information;
+}
+
+/// The line holds what a file can hold, as the fields of the windows do.
+void GirdiyiDenetle(QLineEdit& satir) {
+    QObject::connect(&satir, &QLineEdit::textEdited, &satir,
+                     [&satir, eski = satir.text()](const QString& yeni) mutable {
+                         eski = GirdiyiSuz(eski, yeni, {}, 0);
+                         if (eski != yeni)
+                             MetniKoy(satir, eski);
+                     });
 }
 
 } // namespace
@@ -52,6 +64,7 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     pencere.setTextValue(QMetin(kutu.baslangic));
     pencere.setOkButtonText(QStringLiteral("Tamam"));
     pencere.setCancelButtonText(QStringLiteral("İptal"));
+    GirdiyiDenetle(*pencere.findChild<QLineEdit*>());
     return pencere.exec() == QInputDialog::Accepted ? MetinYap(pencere.textValue()) : Metin();
 }
 

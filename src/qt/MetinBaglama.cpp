@@ -41,14 +41,6 @@ Metin SatirSonlariDosya(QString metin) {
     return MetinYap(metin.replace(u'\n', QStringLiteral("\r\n")));
 }
 
-/// Sets the text; the cursor keeps its place, counted from the end, behind what was refused.
-void MetniKoy(QLineEdit& kutu, const QString& metin) {
-    const qsizetype geriden = kutu.text().size() - kutu.cursorPosition();
-    kutu.setText(metin);
-    if (kutu.inputMask().isEmpty() && kutu.hasFocus())
-        kutu.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, metin.size() - geriden)));
-}
-
 /// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor afterwards.
 class OdaktaSecen : public QObject {
   public:

@@ -154,8 +154,8 @@ struct ListeSatiri {
 struct ListeGorunumu {
     std::vector<Metin> basliklar;
     std::vector<ListeSatiri> satirlar;
-    int secili = -1;                ///< index of the marked row, -1 for none
-    std::vector<int> sayiSutunlari; ///< columns, from 0, that hold numbers: these stand to the right
+    int secili = -1;                  ///< index of the marked row, -1 for none
+    std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
 };
 
 /// A timer of a screen. It runs while `aralik` isn't 0. The outside calls `Calis` when it is due.

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -106,6 +107,24 @@ class QtOrtamTest : public QObject {
         QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}), Metin(u"Salon 3"));
         QCOMPARE(tamam, QStringLiteral("Tamam"));
         QCOMPARE(iptal, QStringLiteral("İptal"));
+    }
+
+    void an_input_box_drops_keys_that_no_file_holds_and_makes_pasted_text_fit() {
+        QString yazilan;
+        Kutuda<QInputDialog>([&yazilan](QInputDialog& kutu) {
+            auto* satir = kutu.findChild<QLineEdit*>();
+            QTest::keyClick(satir, Qt::Key_A);
+            QTest::sendKeyEvent(QTest::Click, satir, Qt::Key_unknown, QStringLiteral("\u0436"),
+                                Qt::NoModifier);
+            QTest::keyClick(satir, Qt::Key_B);
+            yazilan = satir->text();
+            satir->setCursorPosition(1);
+            QGuiApplication::clipboard()->setText(QStringLiteral("e\u0301\u0436"));
+            satir->paste();
+            QTest::keyClick(&kutu, Qt::Key_Return);
+        });
+        QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u""}), Metin(u"aé?b"));
+        QCOMPARE(yazilan, QStringLiteral("ab"));
     }
 
     void a_cancelled_input_box_gives_empty_text() {
