@@ -64,8 +64,10 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     pencere.setTextValue(QMetin(kutu.baslangic));
     pencere.setOkButtonText(QStringLiteral("Tamam"));
     pencere.setCancelButtonText(QStringLiteral("İptal"));
-    GirdiyiDenetle(*pencere.findChild<QLineEdit*>());
-    return pencere.exec() == QInputDialog::Accepted ? MetinYap(pencere.textValue()) : Metin();
+    auto* satir = pencere.findChild<QLineEdit*>();
+    GirdiyiDenetle(*satir);
+    // Of the line itself: the box is still told of the text as it was before it was made to fit.
+    return pencere.exec() == QInputDialog::Accepted ? MetinYap(satir->text()) : Metin();
 }
 
 } // namespace velora
