@@ -6,15 +6,18 @@ namespace velora {
 namespace {
 
 template <class Degerler>
-bool DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef) {
+std::optional<int> DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef) {
     const auto bayt = dosyalar.Oku(yol);
     if (!bayt)
-        return false;
+        return std::nullopt;
     DegerOkuyucu okuyucu(*bayt);
-    for (Metin& deger : hedef.deger)
+    int adet = 0;
+    for (Metin& deger : hedef.deger) {
         if (!okuyucu.Oku(deger))
             break;
-    return true;
+        ++adet;
+    }
+    return adet;
 }
 
 Metin VirgulNokta(MetinBakis metin) {
@@ -29,11 +32,11 @@ MetinBakis Secenek(bool secili) {
 
 } // namespace
 
-bool AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef) {
+std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef) {
     return DegerlerOku(dosyalar, yol, hedef);
 }
 
-bool DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef) {
+std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef) {
     return DegerlerOku(dosyalar, yol, hedef);
 }
 

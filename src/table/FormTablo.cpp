@@ -14,7 +14,8 @@ constexpr std::array<MetinBakis, kAySayisi> kAyAdlari{u"OCAK",  u"ŞUBAT",   u"M
                                                       u"MAYIS", u"HAZİRAN", u"TEMMUZ", u"AĞUSTOS",
                                                       u"EYLÜL", u"EKİM",    u"KASIM",  u"ARALIK"};
 
-constexpr int kYilPayi = 10; // years that `Sene` offers before and after the current one
+constexpr Yer kPanelYeri{0, 1500, 12000, 4200}; // of the panel of warnings; it is centred later
+constexpr int kYilPayi = 10;                    // years that `Sene` offers before and after the current one
 constexpr int kSaatsayAraligi = 50'000;
 constexpr int kDuyuruAraligi = 2'500;
 constexpr int kHatirlatmaAraligi = 500;
@@ -28,6 +29,8 @@ FormTablo::FormTablo(Program& program) : program_(program) {
     for (int ay = 1; ay <= kAySayisi; ++ay)
         AyAdi[ay].baslik = kAyAdlari[static_cast<std::size_t>(ay - 1)];
     UyariBaslik.baslik = u"YAKLAŞAN REZERVASYON UYARILARI";
+    Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin / Damat", u"Telefon", u"Cep", u"Tipi"};
+    Picture1.yer = kPanelYeri;
     Picture1.gorunur = Ekran.gorunur = false;
     Salon.tiklandi = [this] { Salon_Click(); };
     Sene.tiklandi = [this] { Sene_Click(); };
@@ -106,11 +109,6 @@ void FormTablo::Activate() {
     program_.OlaylariIsle();
     if (program_.Splash->Check1 == 1)
         DuyuruKontrol.aralik = kDuyuruAraligi;
-}
-
-void FormTablo::UyariGoster() {
-    Command1();
-    program_.OlaylariIsle();
 }
 
 void FormTablo::Command6() {

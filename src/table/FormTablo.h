@@ -133,6 +133,12 @@ struct FormTablo {
     void MenuAyars_Click();
     void Progrset_Click();
 
+    // --- the panel of warnings (reservation/Uyarilar.cpp) ---
+    void Liste_Click(); ///< a row is marked
+    void Liste_DblClick();
+    void Command8_Click(); ///< "Detaylar": opens the marked row's reservation
+    void Command2_Click(); ///< "Kapat": hides the panel
+
     // --- procedures under the names of their hidden buttons ---
     void Command1(); ///< "Listele": the full scan and repaint
     void Command3(); ///< "HaftaSonu": heads, free days, weekends
@@ -145,6 +151,7 @@ struct FormTablo {
     void GecmisGunler();
     void CetvelAc();
     void CetvelSil();
+    /// Lists the reservations that are near (reservation/Uyarilar). None, and not at the start: a box says so.
     void UyariGoster();
     void TasimaBitir(); ///< closes move mode
 
@@ -187,8 +194,10 @@ struct FormTablo {
     Etiket Picture1;       ///< warning panel
     Etiket UyariBaslik;    ///< its title
     ListeGorunumu Liste;   ///< its list
-    bool Image3 = false;   ///< the bell: a personal reminder falls on today
-    bool Image3a = true;   ///< which of its two pictures the bell shows; they alternate
+    Dugme Command8{u"Detaylar", {}, false};
+    Dugme Command2{u"Kapat", {}};
+    bool Image3 = false; ///< the bell: a personal reminder falls on today
+    bool Image3a = true; ///< which of its two pictures the bell shows; they alternate
     Zamanlayici CetvelTimer;
     Zamanlayici GunTimer;
     Zamanlayici OzelHatirlatTimer;

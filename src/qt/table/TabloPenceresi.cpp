@@ -17,6 +17,7 @@
 #include "qt/Simgeler.h"
 #include "qt/table/RenkAciklamasi.h"
 #include "qt/table/TabloGorunumu.h"
+#include "qt/table/UyariPaneli.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
@@ -62,6 +63,7 @@ TabloPenceresi::TabloPenceresi(Program& program)
     gorunum_ = new TabloGorunumu(program, *baglayici_, orta);
     gorunum_->setObjectName(QStringLiteral("Picture4"));
     gorunum_->setAccessibleName(QStringLiteral("Yıl tablosu"));
+    new UyariPaneli(*tablo, *baglayici_, gorunum_);
     auto* cerceve = new QHBoxLayout;
     cerceve->setContentsMargins(kAralik / 2, 0, kAralik / 2, 0);
     cerceve->addWidget(gorunum_);

@@ -1,0 +1,87 @@
+#include "qt/table/UyariPaneli.h"
+
+#include <algorithm>
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
+#include "qt/Yerlesimler.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+constexpr double kTwipPikseli = 15;
+
+QPushButton* DugmeYap(Baglayici& baglayici, const char* ad, Dugme& model,
+                      const Baglayici::Isleyici& tiklandi) {
+    auto* dugme = new QPushButton;
+    dugme->setObjectName(QString::fromLatin1(ad));
+    baglayici.Bagla(*dugme, model, tiklandi);
+    return dugme;
+}
+
+} // namespace
+
+UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) : QFrame(ust) {
+    setObjectName(QStringLiteral("Picture1"));
+    setAccessibleName(QMetin(tablo.UyariBaslik.baslik));
+    setFrameShape(QFrame::Box);
+    setAttribute(Qt::WA_NoMousePropagation);
+    setAutoFillBackground(true);
+    auto* sutun = SutunKur(*this);
+    auto* baslik = new QLabel;
+    baslik->setObjectName(QStringLiteral("UyariBaslik"));
+    QFont kalin = baslik->font();
+    kalin.setBold(true);
+    baslik->setFont(kalin);
+    baslik->setAlignment(Qt::AlignCenter);
+    sutun->addWidget(baslik);
+    auto* liste = new QTreeWidget;
+    Adlandir(*liste, QStringLiteral("Liste"), QMetin(tablo.UyariBaslik.baslik));
+    baglayici.Bagla(
+        *liste, tablo.Liste, [&tablo] { tablo.Liste_Click(); }, [&tablo] { tablo.Liste_DblClick(); });
+    liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    sutun->addWidget(liste, 1);
+    kapat_ = DugmeYap(baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
+    sutun->addLayout(DugmeSeridi(
+        {DugmeYap(baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); }), kapat_}));
+    hide();
+    baglayici.Izle([this, &tablo, baslik] {
+        baslik->setText(QMetin(tablo.UyariBaslik.baslik));
+        RenkVer(*baslik, QPalette::WindowText, QRenk(tablo.UyariBaslik.yazi));
+        Tazele(tablo);
+    });
+}
+
+void UyariPaneli::keyPressEvent(QKeyEvent* olay) {
+    if (olay->key() == Qt::Key_Escape)
+        kapat_->click();
+    olay->accept();
+}
+
+void UyariPaneli::Tazele(const FormTablo& tablo) {
+    const Etiket& model = tablo.Picture1;
+    if (!model.gorunur)
+        return hide();
+    RenkVer(*this, QPalette::Window, QRenk(model.zemin));
+    const auto piksel = [](double twip) { return qRound(twip / kTwipPikseli); };
+    const QSize boy = QSize(piksel(model.yer.genislik), piksel(model.yer.yukseklik))
+                          .expandedTo(minimumSizeHint())
+                          .boundedTo(parentWidget()->size());
+    const int sol = std::clamp(piksel(model.yer.sol), 0, parentWidget()->width() - boy.width());
+    const int ust = std::clamp(piksel(model.yer.ust), 0, parentWidget()->height() - boy.height());
+    setGeometry(QRect(QPoint(sol, ust), boy));
+    show();
+    raise();
+}
+
+} // namespace velora

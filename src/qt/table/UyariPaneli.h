@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QFrame>
+
+class QPushButton;
+
+namespace velora {
+
+class Baglayici;
+struct FormTablo;
+
+/// The panel of warnings over the table: the reservations that are near. It stands where the model says, and within
+/// the table.
+class UyariPaneli : public QFrame {
+  public:
+    UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust);
+
+  protected:
+    /// Esc closes it. No key of the panel gets through to the table.
+    void keyPressEvent(QKeyEvent* olay) override;
+
+  private:
+    void Tazele(const FormTablo& tablo);
+
+    QPushButton* kapat_;
+};
+
+} // namespace velora

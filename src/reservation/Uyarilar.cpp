@@ -1,0 +1,138 @@
+// Reservations whose day is near: the scan over all halls and years, and the panel on the table that shows it.
+#include "reservation/Uyarilar.h"
+
+#include <algorithm>
+
+#include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "storage/RezervasyonDosyalari.h"
+#include "storage/Sayi.h"
+#include "storage/Tarih.h"
+#include "table/FormTablo.h"
+
+namespace velora {
+
+namespace {
+
+constexpr int kCift = 3; // of the values of the main file
+constexpr int kYaklasinca = 19;
+constexpr std::size_t kYilYeri = 7; // of the day file name, counted from 1
+
+struct UyariTuru {
+    MetinBakis ad;
+    int isaret; ///< of the values of the details: "1" when the record is of this kind
+    double UyariSuresi::*sure;
+    bool sifirCiftsiz; ///< a couple that is just "0" isn't listed
+    RenkDegeri renk;
+};
+/// The question about the couple is asked of firm reservations alone, as is meant.
+constexpr std::array<UyariTuru, 2> kTurler{
+    {{u"Kesin", 36, &UyariSuresi::kesin, true, 0}, {u"Ön", 37, &UyariSuresi::on, false, kOnUyariRengi}}};
+
+ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const AnaDegerler& ana,
+                     const UyariTuru& tur) {
+    return {{ad, salon, ana.No(1), ana.No(3), ana.No(5), ana.No(6), Metin(tur.ad)}, yol, tur.renk};
+}
+
+} // namespace
+
+void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
+    for (Metin& ad : dosyalar_.Listele(klasor))
+        if (GunDosyasiDeseni(ad))
+            adlar_.push_back({klasorler_.size(), std::move(ad)});
+    klasorler_.push_back({salon, klasor});
+}
+
+Metin UyariTaramasi::Yol(std::size_t sira) const {
+    const Ad& ad = adlar_[sira];
+    return klasorler_[ad.klasor].yol + kAyrac + ad.metin;
+}
+
+/// Brings the values from where they stood before the name `ilk` to behind the name `sira`. Files fill from the first
+/// value on, so the latest of them come first and the ones before only add what is missing.
+template <class Degerler, class Oku>
+void UyariTaramasi::Yurut(Degerler& hal, std::size_t ilk, std::size_t sira, const Oku& oku) const {
+    std::size_t dolu = 0;
+    for (std::size_t i = sira + 1; i > ilk && dolu < hal.deger.size(); --i) {
+        Degerler okunan;
+        const auto adet = static_cast<std::size_t>(oku(Yol(i - 1), okunan).value_or(0));
+        for (; dolu < adet; ++dolu)
+            hal.deger[dolu] = std::move(okunan.deger[dolu]);
+    }
+}
+
+std::vector<ListeSatiri> UyariTaramasi::Satirlar(const Gun& bugun, const UyariSuresi& sure) const {
+    std::vector<ListeSatiri> satirlar;
+    AnaDegerler ana;
+    DetayDegerler detay;
+    std::size_t ilk = 0; // the values stand as before this name
+    int kalan = 0;       // a name without a date keeps the days of the name before it
+    const double enCok = std::max(sure.kesin, sure.on);
+    for (std::size_t i = 0; i < adlar_.size(); ++i) {
+        const Ad& ad = adlar_[i];
+        if (const auto gun = TarihCoz(AnahtarTarihi(ad.metin)))
+            kalan = static_cast<int>((std::chrono::sys_days(*gun) - std::chrono::sys_days(bugun)).count());
+        if (kalan <= 0 || kalan > enCok || EslikDosyasi(ad.metin))
+            continue;
+        Yurut(ana, ilk, i, [this](const Metin& yol, AnaDegerler& d) { return AnaOku(dosyalar_, yol, d); });
+        Yurut(detay, ilk, i, [this](const Metin& yol, DetayDegerler& d) {
+            return DetayOku(dosyalar_, yol + Metin(kDetayEki), d);
+        });
+        ilk = i + 1;
+        for (const UyariTuru& tur : kTurler)
+            if (kalan <= sure.*tur.sure && detay.No(tur.isaret) == u"1" && ana.No(kYaklasinca) == u"1" &&
+                !(tur.sifirCiftsiz && ana.No(kCift) == u"0"))
+                satirlar.push_back(SatirYap(ad.metin, klasorler_[ad.klasor].salon, Yol(i), ana, tur));
+    }
+    return satirlar;
+}
+
+void FormTablo::UyariGoster() {
+    Command1();
+    program_.OlaylariIsle();
+    UyariTaramasi tarama(program_.dosyalar);
+    for (const Metin& salon : Salon.ogeler)
+        for (const Metin& yil : Sene.ogeler)
+            tarama.KlasorEkle(salon, program_.agac.YilKlasoru(salon, yil));
+    {
+        const auto ayarlar = program_.FormAyarlar.Tut();
+        Liste.satirlar = tarama.Satirlar(program_.Bugun(), {SayisalDeger(ayarlar->UyariGun.metin),
+                                                            SayisalDeger(ayarlar->UyariGun2.metin)});
+    }
+    Liste.secili = -1;
+    if (!Liste.satirlar.empty())
+        Picture1.gorunur = true;
+    else if (Check1 == 1)
+        program_.ortam.sor.mesaj({u"Hatırlatmalarda yaklaşan rezervasyon yok."});
+}
+
+void FormTablo::Liste_Click() {
+    Command8.etkin = true;
+}
+
+void FormTablo::Liste_DblClick() {
+    if (Command8.etkin)
+        Command8_Click();
+}
+
+void FormTablo::Command8_Click() {
+    Command8.etkin = false;
+    if (Liste.secili < 0 || Liste.secili >= static_cast<int>(Liste.satirlar.size()))
+        return;
+    // A copy: what runs from here on may list anew.
+    const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
+    Salon.Sec(satir.sutun[1]);
+    Sene.Sec(Parca(satir.sutun[0], kYilYeri, 4));
+    program_.OlaylariIsle();
+    program_.FormKayit->KayitAc = 1;
+    program_.FormKayit->Tag = satir.tag;
+    KayitYukle(program_, satir.tag, satir.sutun[0]);
+}
+
+void FormTablo::Command2_Click() {
+    Picture1.gorunur = false;
+}
+
+} // namespace velora
