@@ -53,7 +53,7 @@ void FormArama::Liste_DblClick() {
 void FormArama::Command1_Click() {
     if (Liste.secili < 0)
         return;
-    // A copy: while the record is open its save lists anew.
+    // A copy: a search may come in before the record is there.
     const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
     const Metin& ad = satir.sutun[0];
     program_.FormTablo->Salon.Sec(satir.sutun[1]);

@@ -80,6 +80,22 @@ TEST_F(AramaKayit, A_record_of_another_hall_switches_the_table_there_before_it_o
     RenkBekle(20, 6, kGece, 12, 13);
 }
 
+TEST_F(AramaKayit, Events_run_before_the_record_comes_and_a_search_among_them_changes_nothing_of_it) {
+    RezervasyonKoyYola(u"Salon A/2012/" + Metin(kGece20), {.ad = u"Ali"});
+    Ara(kAd, u"ali");
+    Arama().Text[kAd].metin = u"yok";
+    BulunamadiBekle();
+    kullanici.ortam.olayda = [&](int) {
+        kullanici.ortam.olayda = nullptr;
+        EXPECT_FALSE(Prog().FormKayit.Yuklu());
+        Arama().Command3_Click();
+    };
+    EXPECT_TRUE(Detaylar(0, [&] {
+        EXPECT_TRUE(Bulunanlar().empty());
+        EXPECT_EQ(Kayit().Kay[1].metin, u"Ali");
+    }));
+}
+
 TEST_F(AramaKayit, A_save_writes_the_payments_into_the_hall_of_the_record) {
     Ara(kAd, u"şükran");
     EXPECT_TRUE(Detaylar(0, [&] {
