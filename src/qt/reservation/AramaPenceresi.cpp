@@ -21,8 +21,11 @@ namespace {
 
 constexpr std::array<const char16_t*, FormArama::kOlcutSayisi> kAlanlar{
     u"&Adı Soyadı", u"&Gelin / Damat", u"&Telefon", u"&Cep", u"&Sözleşme No"};
-// The last column takes what is left.
-constexpr std::array kSutunEnleri{190, 140, 170, 170, 120};
+constexpr int kAlanEni = 380;
+// The columns of the names share what is left.
+constexpr int kKalan = 0;
+constexpr std::array kSutunEnleri{180, 160, kKalan, kKalan, 110, 110};
+constexpr QSize kEnKucukListe{760, 160};
 
 } // namespace
 
@@ -46,7 +49,7 @@ AramaPenceresi::AramaPenceresi(Program& program) : Diyalog(program.FormArama.Tut
     sutun->addLayout(DugmeSeridi({detaylar, kapat}));
     VarsayilanDugme(*ara, *liste, *detaylar);
     setWindowTitle(QMetin(ekran->baslik));
-    resize(940, 560);
+    resize(940, 580);
     findChild<QWidget*>(QStringLiteral("Text1"))->setFocus();
 }
 
@@ -57,13 +60,15 @@ QLayout* AramaPenceresi::Olcutler(FormArama* ekran) {
         auto* alan = new QLineEdit(this);
         Adlandir(*alan, QStringLiteral("Text%1").arg(no), yazi);
         Bag().Bagla(*alan, ekran->Text[no]);
+        alan->setFixedWidth(kAlanEni);
         form->addRow(yazi, alan);
     }
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    serit->addLayout(form, 1);
+    serit->addLayout(form);
     serit->addWidget(DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }), 0,
                      Qt::AlignBottom);
+    serit->addStretch(1);
     return serit;
 }
 
@@ -72,8 +77,14 @@ QTreeWidget* AramaPenceresi::Liste(FormArama* ekran) {
     Adlandir(*liste, QStringLiteral("Liste"), QStringLiteral("Bulunan kayıtlar"));
     Bag().Bagla(
         *liste, ekran->Liste, [ekran] { ekran->Liste_ItemClick(); }, [ekran] { ekran->Liste_DblClick(); });
-    for (std::size_t i = 0; i < kSutunEnleri.size(); ++i)
-        liste->header()->resizeSection(static_cast<int>(i), kSutunEnleri[i]);
+    liste->setMinimumSize(kEnKucukListe);
+    QHeaderView* basliklar = liste->header();
+    basliklar->setStretchLastSection(false);
+    for (int i = 0; i < static_cast<int>(kSutunEnleri.size()); ++i)
+        if (const int en = kSutunEnleri[static_cast<std::size_t>(i)]; en != kKalan)
+            basliklar->resizeSection(i, en);
+        else
+            basliklar->setSectionResizeMode(i, QHeaderView::Stretch);
     return liste;
 }
 
