@@ -1,5 +1,6 @@
 #include "qt/Diyalog.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QPushButton>
 
@@ -14,6 +15,16 @@ QPushButton* Diyalog::DugmeYap(const char* ad, Dugme& model, const std::function
     dugme->setObjectName(QString::fromLatin1(ad));
     baglayici_->Bagla(*dugme, model, tiklandi);
     return dugme;
+}
+
+void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede) {
+    dugme.setDefault(true);
+    connect(qApp, &QApplication::focusChanged, &dugme, [&](const QWidget* eski, const QWidget* yeni) {
+        if (yeni == &liste)
+            listede.setDefault(true);
+        else if (eski == &liste && qobject_cast<const QPushButton*>(yeni) == nullptr)
+            dugme.setDefault(true);
+    });
 }
 
 void Diyalog::reject() {

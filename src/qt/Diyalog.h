@@ -28,6 +28,9 @@ class Diyalog : public QDialog {
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
+    /// What Enter presses: `dugme` from any field, `listede` while the list has the focus. Another button that has the
+    /// focus comes before both.
+    void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
 
     /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
     template <class Ekran>

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QTreeWidget>
@@ -55,6 +56,29 @@ int IsaretliSira(const QListWidget& liste) {
     return isaretli.isEmpty() ? -1 : liste.row(isaretli.first());
 }
 
+/// The focus alone puts the cursor on the first row and marks nothing. An arrow key then marks that row before the
+/// next ones go on from it: otherwise a list of one row could not be marked by the keys.
+class OkTuslari : public QObject {
+  public:
+    explicit OkTuslari(QAbstractItemView& liste) : QObject(&liste), liste_(liste) {
+        liste.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        const QModelIndex imlec = liste_.currentIndex();
+        if (olay->type() != QEvent::KeyPress || !imlec.isValid() || liste_.selectionModel()->hasSelection())
+            return QObject::eventFilter(nesne, olay);
+        const int tus = dynamic_cast<QKeyEvent&>(*olay).key();
+        if (tus != Qt::Key_Up && tus != Qt::Key_Down)
+            return QObject::eventFilter(nesne, olay);
+        liste_.setCurrentIndex(imlec);
+        return true;
+    }
+
+  private:
+    QAbstractItemView& liste_;
+};
+
 void SeciliyiIsaretle(QTreeWidget& liste, int secili) {
     QTreeWidgetItem* oge = liste.topLevelItem(secili);
     if (IsaretliSira(liste) == (oge == nullptr ? -1 : secili))
@@ -71,6 +95,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
+    new OkTuslari(liste);
     const auto isaretle = [this, &liste, &model, secildi] {
         Calistir([&liste, &model, &secildi] {
             model.secili = IsaretliSira(liste);
@@ -94,6 +119,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
 }
 
 void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi) {
+    new OkTuslari(liste);
     const auto isaretle = [this, &liste, &model, secildi] {
         Calistir([&liste, &model, &secildi] {
             model.secili = IsaretliSira(liste);

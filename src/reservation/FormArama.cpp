@@ -1,17 +1,114 @@
 #include "reservation/FormArama.h"
 
+#include <vector>
+
+#include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
 #include "screen/Program.h"
+#include "storage/Desen.h"
+#include "storage/Harf.h"
+#include "table/FormTablo.h"
 
 namespace velora {
 
-FormArama::FormArama(Program& program) : program_(program) {}
+namespace {
+
+/// How a criterion is compared with its value, both in lower case.
+enum class Kural { Icerir, Esit };
+
+/// In the order of the fields; the values are those of `kAramaNumaralari`.
+constexpr std::array<Kural, FormArama::kOlcutSayisi> kKurallar{Kural::Icerir, Kural::Icerir, Kural::Esit,
+                                                               Kural::Esit, Kural::Esit};
+static_assert(kKurallar.size() == kAramaNumaralari.size());
+
+constexpr int kSozlesmeNo = 5;
+
+/// The signs of a pattern keep their meaning in what is looked for.
+bool Uyar(Kural kural, MetinBakis deger, MetinBakis olcut) {
+    if (kural == Kural::Esit)
+        return Kucult(deger) == Kucult(olcut);
+    return DeseneUyar(Kucult(deger), u'*' + Kucult(olcut) + u'*');
+}
+
+} // namespace
+
+FormArama::FormArama(Program& program) : program_(program) {
+    Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin Damat", u"Telefon", u"Cep"};
+}
 
 void FormArama::Activate() {
+    Command1.etkin = false;
     acikmi = 1;
 }
 
+void FormArama::Liste_ItemClick() {
+    Command1.etkin = true;
+}
+
+void FormArama::Liste_DblClick() {
+    if (Command1.etkin)
+        Command1_Click();
+}
+
+void FormArama::Command1_Click() {
+    if (Liste.secili < 0)
+        return;
+    // A copy: a search may come in before the record is there.
+    const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
+    const Metin& ad = satir.sutun[0];
+    program_.FormTablo->Salon.Sec(satir.sutun[1]);
+    program_.OlaylariIsle();
+    program_.FormKayit->KayitAc = 1;
+    KayitYukle(program_, satir.tag, ad);
+}
+
+void FormArama::Command2_Click() {
+    program_.FormArama.Bosalt();
+}
+
 void FormArama::Command3_Click() {
-    (void)program_;
+    if (Text[kSozlesmeNo].metin == u"0") {
+        program_.ortam.sor.mesaj({u"Lütfen geçerli bir sözleşme numarası giriniz!"});
+        return;
+    }
+    Liste.satirlar.clear();
+    Liste.secili = -1;
+    Ara();
+    if (Liste.satirlar.empty())
+        program_.ortam.sor.mesaj({u"Hiç kayıt bulunamadı!"});
+}
+
+void FormArama::Ara() {
+    const auto tablo = program_.FormTablo.Tut();
+    const Metin yil = tablo->Sene.Metni();
+    std::vector<AramaOkumasi> okumalar;
+    for (const Metin& salon : tablo->Salon.ogeler)
+        okumalar.emplace_back(program_.dosyalar, program_.agac.YilKlasoru(salon, yil));
+    // Outside the loops: what can't be opened is tested with the values of the file before it.
+    AramaDegerleri degerler;
+    int uyan = UyanSayisi(degerler);
+    for (const Metin& sene : tablo->Sene.ogeler)
+        for (std::size_t i = 0; i < okumalar.size(); ++i) {
+            const Metin& salon = tablo->Salon.ogeler[i];
+            for (const Metin& ad : program_.dosyalar.Listele(program_.agac.YilKlasoru(salon, sene))) {
+                if (okumalar[i].Oku(ad, degerler))
+                    uyan = UyanSayisi(degerler);
+                for (int kez = 0; kez < uyan; ++kez)
+                    Liste.satirlar.push_back({{ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]},
+                                              program_.agac.GunYolu(salon, yil, ad)});
+            }
+        }
+}
+
+/// How many of the criteria match, each for itself.
+int FormArama::UyanSayisi(const AramaDegerleri& degerler) const {
+    int sayi = 0;
+    for (std::size_t i = 0; i < kKurallar.size(); ++i) {
+        const Metin& olcut = Text[static_cast<int>(i) + 1].metin;
+        if (!olcut.empty() && Uyar(kKurallar[i], degerler[i], olcut))
+            ++sayi;
+    }
+    return sayi;
 }
 
 } // namespace velora

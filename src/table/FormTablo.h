@@ -128,7 +128,8 @@ struct FormTablo {
     void TasimaModuAc_Click();
     void iptals_Click();
 
-    // --- the entries of the menu "Ayarlar" ---
+    // --- the entries of the menu bar ---
+    void Arasss_Click();
     void Salontanimss_Click();
     void MenuAyars_Click();
     void Progrset_Click();
@@ -183,6 +184,8 @@ struct FormTablo {
     MenuGirdisi newkay{u"Yeni Organizasyon Oluştur"};
     MenuGirdisi TasimaModuAc{u"Taşıma Modunu Aç"};
     MenuGirdisi iptals{u"Kayıt İptali"};
+    // The menu "Dosya".
+    MenuGirdisi Arasss{u"Kayıt Ara"};
     // The menu "Ayarlar", in this order.
     MenuGirdisi Salontanimss{u"Salon Tanımları"};
     MenuGirdisi MenuAyars{u"Menü Tanımları"};

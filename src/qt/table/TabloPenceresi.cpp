@@ -1,6 +1,6 @@
 #include "qt/table/TabloPenceresi.h"
 
-#include <array>
+#include <vector>
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -29,6 +29,30 @@ constexpr int kSalonEni = 220;
 constexpr int kSeneEni = 96;
 constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
+
+struct Komut {
+    const char* ad;
+    MenuGirdisi FormTablo::*girdi;
+    void (FormTablo::*isle)();
+    QKeySequence tus;
+};
+
+struct Menu {
+    const char* ad;
+    const char16_t* yazi;
+    std::vector<Komut> komutlar;
+};
+
+/// The menu bar, from left to right and from top to bottom.
+std::vector<Menu> Menuler() {
+    using T = FormTablo;
+    return {{"Kayitss", u"&Dosya", {{"Arasss", &T::Arasss, &T::Arasss_Click, Qt::Key_F2}}},
+            {"ayarsd",
+             u"&Ayarlar",
+             {{"Salontanimss", &T::Salontanimss, &T::Salontanimss_Click, {}},
+              {"MenuAyars", &T::MenuAyars, &T::MenuAyars_Click, {}},
+              {"Progrset", &T::Progrset, &T::Progrset_Click, Qt::Key_F7}}}};
+}
 
 /// A drop-down with its caption before it; `yazi` has the access key marked, `ad` is what it is called.
 QComboBox* EtiketliListe(QHBoxLayout& serit, const QString& yazi, const QString& ad,
@@ -79,25 +103,17 @@ TabloPenceresi::TabloPenceresi(Program& program)
 }
 
 void TabloPenceresi::MenuleriKur(FormTablo& tablo) {
-    struct Komut {
-        const char* ad;
-        MenuGirdisi FormTablo::*girdi;
-        void (FormTablo::*isle)();
-        QKeySequence tus;
-    };
-    const std::array komutlar{
-        Komut{"Salontanimss", &FormTablo::Salontanimss, &FormTablo::Salontanimss_Click, {}},
-        Komut{"MenuAyars", &FormTablo::MenuAyars, &FormTablo::MenuAyars_Click, {}},
-        Komut{"Progrset", &FormTablo::Progrset, &FormTablo::Progrset_Click, Qt::Key_F7}};
-    QMenu* menu = menuBar()->addMenu(QStringLiteral("&Ayarlar"));
-    menu->setObjectName(QStringLiteral("ayarsd"));
-    for (const Komut& komut : komutlar) {
-        auto* girdi = new QAction(menu);
-        menu->addAction(girdi);
-        girdi->setObjectName(QString::fromLatin1(komut.ad));
-        girdi->setShortcut(komut.tus);
-        baglayici_->Bagla(*girdi, tablo.*komut.girdi,
-                          [this, isle = komut.isle] { (*program_.FormTablo.Tut().*isle)(); });
+    for (const Menu& menu : Menuler()) {
+        QMenu* parca = menuBar()->addMenu(QString::fromUtf16(menu.yazi));
+        parca->setObjectName(QString::fromLatin1(menu.ad));
+        for (const Komut& komut : menu.komutlar) {
+            auto* girdi = new QAction(parca);
+            parca->addAction(girdi);
+            girdi->setObjectName(QString::fromLatin1(komut.ad));
+            girdi->setShortcut(komut.tus);
+            baglayici_->Bagla(*girdi, tablo.*komut.girdi,
+                              [this, isle = komut.isle] { (*program_.FormTablo.Tut().*isle)(); });
+        }
     }
 }
 

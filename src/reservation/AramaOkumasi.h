@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "storage/dosya/Dosyalar.h"
+
+namespace velora {
+
+/// The values of a record that a search looks at, by their number in the file.
+inline constexpr std::array<int, 5> kAramaNumaralari{1, 3, 5, 6, 14};
+
+/// These values, in this order, as the variables of a search hold them.
+using AramaDegerleri = std::array<Metin, kAramaNumaralari.size()>;
+
+/// One pass over a folder: it is listed once and the first values of each file are read once, so that a search can
+/// then open any name in it as often as it likes.
+class AramaOkumasi {
+  public:
+    /// At most so many bytes of a file are looked at: a huge stray file costs neither memory nor time.
+    static constexpr std::size_t kEnCokBayt = std::size_t{1} << 20U;
+
+    /// A folder that isn't there gives an empty reading.
+    AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor);
+
+    /// What opening the file of this name leaves in the variables: it fills those whose values the file holds, in
+    /// order, and leaves the rest as they were. False when it fills none; a file that isn't in the folder or can't be
+    /// opened does so too.
+    bool Oku(MetinBakis ad, AramaDegerleri& hedef) const;
+
+  private:
+    struct Dosya {
+        Metin ad;
+        std::size_t adet; ///< of the values that the file holds
+        AramaDegerleri deger;
+    };
+    const Dosya* Bul(MetinBakis ad) const;
+
+    std::vector<Dosya> dosyalari_; // in the order of the listing
+};
+
+} // namespace velora

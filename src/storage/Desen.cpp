@@ -1,0 +1,107 @@
+#include "storage/Desen.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace velora {
+namespace {
+
+struct Aralik {
+    char16_t ilk;
+    char16_t son;
+};
+
+/// What stands for one character of the text, or `*`.
+struct Oge {
+    bool yildiz = false;
+    bool disinda = false; ///< one that lies in none of the ranges
+    std::vector<Aralik> araliklar;
+
+    bool Uyar(char16_t harf) const {
+        const bool icinde = std::any_of(araliklar.begin(), araliklar.end(), [harf](const Aralik& aralik) {
+            return aralik.ilk <= harf && harf <= aralik.son;
+        });
+        return icinde != disinda;
+    }
+};
+
+using Ogeler = std::vector<Oge>;
+
+Oge TekHarf(char16_t harf) {
+    switch (harf) {
+    case u'*':
+        return {.yildiz = true, .disinda = false, .araliklar = {}};
+    case u'?':
+        return {.yildiz = false, .disinda = true, .araliklar = {}};
+    case u'#':
+        return {.yildiz = false, .disinda = false, .araliklar = {{u'0', u'9'}}};
+    default:
+        return {.yildiz = false, .disinda = false, .araliklar = {{harf, harf}}};
+    }
+}
+
+/// What stands between the brackets. False when it is malformed.
+bool ListeEkle(MetinBakis liste, Ogeler& ogeler) {
+    if (liste.empty())
+        return true;
+    Oge oge;
+    if (liste.size() > 1 && liste.front() == u'!') {
+        oge.disinda = true;
+        liste.remove_prefix(1);
+    }
+    while (!liste.empty()) {
+        const std::size_t boy = liste.size() > 2 && liste[1] == u'-' ? 3 : 1;
+        if (liste[boy - 1] < liste[0])
+            return false;
+        oge.araliklar.push_back({liste[0], liste[boy - 1]});
+        liste.remove_prefix(boy);
+    }
+    ogeler.push_back(std::move(oge));
+    return true;
+}
+
+std::optional<Ogeler> Coz(MetinBakis desen) {
+    Ogeler ogeler;
+    for (std::size_t i = 0; i < desen.size(); ++i) {
+        if (desen[i] != u'[') {
+            ogeler.push_back(TekHarf(desen[i]));
+            continue;
+        }
+        const std::size_t son = desen.find(u']', i);
+        if (son == MetinBakis::npos || !ListeEkle(desen.substr(i + 1, son - i - 1), ogeler))
+            return {};
+        i = son;
+    }
+    return ogeler;
+}
+
+} // namespace
+
+bool DeseneUyar(MetinBakis metin, MetinBakis desen) {
+    const auto ogeler = Coz(desen);
+    if (!ogeler)
+        return false;
+    auto oge = ogeler->begin();
+    auto harf = metin.begin();
+    // The last `*` and how far it reaches: where the rest doesn't fit, it takes one character more.
+    auto yildiz = ogeler->end();
+    auto yildizSonu = harf;
+    while (harf != metin.end()) {
+        if (oge != ogeler->end() && oge->yildiz) {
+            yildiz = oge++;
+            yildizSonu = harf;
+        } else if (oge != ogeler->end() && oge->Uyar(*harf)) {
+            ++oge;
+            ++harf;
+        } else if (yildiz != ogeler->end()) {
+            oge = std::next(yildiz);
+            harf = ++yildizSonu;
+        } else {
+            return false;
+        }
+    }
+    return std::all_of(oge, ogeler->end(), [](const Oge& kalan) { return kalan.yildiz; });
+}
+
+} // namespace velora
