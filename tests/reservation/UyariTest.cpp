@@ -1,0 +1,168 @@
+// Reservations whose day is near, and the panel that lists them.
+#include "reservation/KayitTest.h"
+
+namespace velora::test {
+
+/// Today is 15 June 2012. Firm reservations are warned of 5 days ahead, pre-reservations 10.
+class UyariTest : public KayitTest {
+  protected:
+    static constexpr MetinBakis kYok = u"Hatırlatmalarda yaklaşan rezervasyon yok.";
+
+    FormTablo& Tablo() { return *Prog().FormTablo.Tut(); }
+    /// The names in the list, each with its kind behind it.
+    std::vector<Metin> Uyarilar() {
+        std::vector<Metin> adlar;
+        for (const ListeSatiri& satir : Tablo().Liste.satirlar)
+            adlar.push_back(satir.sutun[0] + u" " + satir.sutun[6]);
+        return adlar;
+    }
+    void UyarilarBekle(const std::vector<Metin>& beklenen) { EXPECT_EQ(Uyarilar(), beklenen); }
+    void Isaretle(int sira) {
+        Tablo().Liste.secili = sira;
+        Tablo().Liste_Click();
+    }
+};
+
+TEST_F(UyariTest, A_firm_reservation_is_near_from_tomorrow_to_the_set_day_and_never_today) {
+    for (const MetinBakis ad : {u"14.06.2012 - Gece", u"15.06.2012 - Gece", u"16.06.2012 - Gece",
+                                u"20.06.2012 - Gece", u"21.06.2012 - Gece"})
+        RezervasyonKoy(Metin(ad));
+    Prog();
+    UyarilarBekle({u"16.06.2012 - Gece Kesin", u"20.06.2012 - Gece Kesin"});
+    EXPECT_TRUE(Tablo().Picture1.gorunur);
+}
+
+TEST_F(UyariTest, A_pre_reservation_is_near_by_its_own_number_of_days_and_green) {
+    RezervasyonKoy(u"22.06.2012 - Gece");
+    RezervasyonKoy(u"22.06.2012 - Gündüz", {}, true);
+    RezervasyonKoy(u"26.06.2012 - Gündüz", {}, true);
+    Prog();
+    UyarilarBekle({u"22.06.2012 - Gündüz Ön"});
+    EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 49152);
+    EXPECT_EQ(Tablo().Liste.satirlar[0].tag, Yol(u"22.06.2012 - Gündüz"));
+}
+
+TEST_F(UyariTest, A_row_tells_day_hall_customer_couple_telephones_and_kind) {
+    agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece",
+                  u"\"Ali\",\"Bolu\",\"Elif / Can\",\"Düğün\",\"0212\",\"0532\",\"\",\"\",\"\",\"\",\"\","
+                  u"\"\",\"\",\"\",\"\",\"\",\"\",\"\",1,0\r\n");
+    agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece-Detay", DetayMetni(false));
+    Prog();
+    ASSERT_EQ(Tablo().Liste.satirlar.size(), 1U);
+    EXPECT_EQ(Tablo().Liste.satirlar[0].sutun,
+              (std::vector<Metin>{u"16.06.2012 - Gece", u"Salon A", u"Ali", u"Elif / Can", u"0212", u"0532",
+                                  u"Kesin"}));
+    EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 0);
+    EXPECT_EQ(Tablo().Liste.basliklar, (std::vector<Metin>{u"Tarih", u"Salon", u"Ad Soyad", u"Gelin / Damat",
+                                                           u"Telefon", u"Cep", u"Tipi"}));
+}
+
+TEST_F(UyariTest, A_record_that_is_not_to_be_reminded_of_is_left_out) {
+    RezervasyonKoy(u"16.06.2012 - Gece", {.check18 = 0});
+    Prog();
+    UyarilarBekle({});
+    EXPECT_FALSE(Tablo().Picture1.gorunur) << "nothing to show at the start, and no message";
+}
+
+// The question about the couple is asked of firm reservations alone.
+TEST_F(UyariTest, A_couple_of_just_0_keeps_a_firm_reservation_out_on_purpose_and_a_pre_reservation_not) {
+    for (const bool on : {false, true}) {
+        const Metin ad = on ? u"16.06.2012 - Gündüz" : u"16.06.2012 - Gece";
+        agac.KoyMetin(u"Salon A/2012/" + ad,
+                      u"\"Ali\",\"\",\"0\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\","
+                      u"\"\",\"\",1,0\r\n");
+        agac.KoyMetin(u"Salon A/2012/" + ad + u"-Detay", DetayMetni(on));
+    }
+    Prog();
+    UyarilarBekle({u"16.06.2012 - Gündüz Ön"});
+}
+
+TEST_F(UyariTest, Rows_come_hall_by_hall_year_by_year_and_by_name_and_not_by_date) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon B\"\r\n\"Salon A\"\r\n");
+    kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);
+    const auto koy = [&](const Metin& yol) {
+        agac.KoyMetin(yol, AnaMetni());
+        agac.KoyMetin(yol + u"-Detay", DetayMetni(false));
+    };
+    koy(u"Salon A/2012/31.12.2012 - Gece");
+    koy(u"Salon A/2013/01.01.2013 - Gece");
+    koy(u"Salon B/2013/02.01.2013 - Gece");
+    Prog();
+    UyarilarBekle({u"02.01.2013 - Gece Kesin", u"31.12.2012 - Gece Kesin", u"01.01.2013 - Gece Kesin"});
+}
+
+TEST_F(UyariTest, Days_that_are_no_number_count_as_0_and_warn_of_nothing) {
+    AyarKoy(27, u"\"çok\"");
+    RezervasyonKoy(u"16.06.2012 - Gece", {}, true);
+    Prog();
+    UyarilarBekle({});
+}
+
+// What a file doesn't fill stays from the names before it.
+TEST_F(UyariTest, A_record_without_details_is_what_the_one_before_it_was_on_purpose) {
+    RezervasyonKoy(u"02.02.2012 - Gündüz", {}, true);
+    agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece", AnaMetni());
+    Prog();
+    UyarilarBekle({u"16.06.2012 - Gece Ön"});
+}
+
+TEST_F(UyariTest, Asked_for_with_nothing_near_a_box_says_so_and_the_panel_stays_as_it_is) {
+    Prog();
+    Tablo().Picture1.gorunur = true;
+    KutuBekle(Metin(kYok));
+    Tablo().UyariGoster();
+    EXPECT_TRUE(Tablo().Picture1.gorunur);
+    Tablo().Activate();
+    EXPECT_FALSE(Tablo().Picture1.gorunur);
+}
+
+TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);
+    agac.KoyMetin(u"Salon B/2013/02.01.2013 - Gece", AnaMetni());
+    agac.KoyMetin(u"Salon B/2013/02.01.2013 - Gece-Detay", DetayMetni(false));
+    Prog();
+    Metin tarih;
+    kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
+        tarih = Kayit().Tarih;
+        EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
+        EXPECT_FALSE(Tablo().Command8.etkin);
+        Kapat();
+    };
+    Tablo().Liste_DblClick();
+    EXPECT_EQ(tarih, u"") << "no row was clicked yet";
+    Isaretle(0);
+    Tablo().Liste_DblClick();
+    EXPECT_EQ(tarih, u"02.01.2013 - Gece");
+    EXPECT_EQ(Tablo().Salon.Metni(), u"Salon B");
+    EXPECT_EQ(Tablo().Sene.Metni(), u"2013");
+}
+
+TEST_F(UyariTest, With_no_row_marked_nothing_opens) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog();
+    Tablo().Command8_Click();
+    EXPECT_FALSE(Prog().FormKayit.Yuklu());
+}
+
+TEST_F(UyariTest, A_save_lists_a_visible_panel_anew_and_leaves_a_hidden_one_alone) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog();
+    const auto ertele = [&] {
+        KayitAc(
+            [&] {
+                Kayit().Check18.Ata(1 - Kayit().Check18.deger);
+                Kaydet();
+            },
+            u"16.06.2012 - Gece");
+    };
+    KutuBekle(Metin(kYok));
+    ertele();
+    UyarilarBekle({});
+    Tablo().Command2_Click();
+    EXPECT_FALSE(Tablo().Picture1.gorunur);
+    ertele();
+    UyarilarBekle({});
+}
+
+} // namespace velora::test
