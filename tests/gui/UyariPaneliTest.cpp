@@ -1,0 +1,115 @@
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "qt/Baglayici.h"
+#include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
+#include "reservation/FormKayit.h"
+
+using namespace velora;
+using namespace velora::test;
+
+/// The panel of warnings over the real table. Today is 21 May 2026.
+class UyariPaneliTest : public QObject {
+    Q_OBJECT
+
+    static QRect PaneldeYeri(GuiFirma& firma) { return firma.Bul<QWidget>("Picture1").geometry(); }
+    static QPoint SatirOrtasi(QTreeWidget& liste, int sira) {
+        return liste.visualItemRect(liste.topLevelItem(sira)).center();
+    }
+
+  private slots:
+    void it_stands_over_the_table_at_the_start_when_something_is_near() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        auto& panel = firma.Bul<QWidget>("Picture1");
+        QVERIFY(panel.isVisible());
+        QVERIFY(firma.Tablo().rect().contains(panel.geometry()));
+        const int ortadan = panel.geometry().center().x() - firma.Tablo().rect().center().x();
+        QVERIFY2(std::abs(ortadan) <= 20, qPrintable(QString::number(ortadan)));
+        auto& liste = firma.Bul<QTreeWidget>("Liste");
+        QCOMPARE(liste.topLevelItemCount(), 1);
+        QCOMPARE(liste.topLevelItem(0)->text(0), QStringLiteral("23.05.2026 - Gece"));
+        QCOMPARE(liste.topLevelItem(0)->text(6), QStringLiteral("Kesin"));
+        QCOMPARE(firma.Bul<QLabel>("UyariBaslik").text(), QStringLiteral("YAKLAŞAN REZERVASYON UYARILARI"));
+        QCOMPARE(panel.palette().color(QPalette::Window), QColor(192, 0, 0));
+    }
+
+    void with_nothing_near_it_is_not_there() {
+        GuiFirma firma;
+        firma.Ac();
+        QVERIFY(!firma.Bul<QWidget>("Picture1").isVisible());
+    }
+
+    void a_pre_reservation_is_green_in_all_columns() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", true);
+        firma.Ac();
+        for (int sutun = 0; sutun < 7; ++sutun)
+            QCOMPARE(firma.Bul<QTreeWidget>("Liste").topLevelItem(0)->foreground(sutun).color(),
+                     QColor(0, 192, 0));
+    }
+
+    void kapat_and_esc_hide_it_and_presses_on_it_never_reach_the_table() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        auto& panel = firma.Bul<QWidget>("Picture1");
+        QTest::mouseClick(&panel, Qt::RightButton, {}, {2, 2});
+        QCOMPARE(firma.Model().SeciliTarih2, Metin());
+        QTest::keyClick(&firma.Bul<QTreeWidget>("Liste"), Qt::Key_Escape);
+        QVERIFY(!panel.isVisible());
+        firma.Model().Picture1.gorunur = true;
+        firma.Model().UyariGoster();
+        Baglayici::HepsiniTazele();
+        QVERIFY(panel.isVisible());
+        QTest::mouseClick(&firma.Bul<QPushButton>("Command2"), Qt::LeftButton);
+        QVERIFY(!panel.isVisible());
+    }
+
+    void a_clicked_row_opens_by_its_button_and_by_a_double_click() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonB, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        auto& liste = firma.Bul<QTreeWidget>("Liste");
+        auto& detaylar = firma.Bul<QPushButton>("Command8");
+        QVERIFY(!detaylar.isEnabled());
+        int acilan = 0;
+        QTimer bekci;
+        connect(&bekci, &QTimer::timeout, this, [&] {
+            if (QWidget* pencere = firma.disDunya.Pencere(EkranAdi::FormKayit)) {
+                ++acilan;
+                QCOMPARE(firma.program.FormKayit->Tarih, Metin(u"23.05.2026 - Gece"));
+                QTest::keyClick(pencere, Qt::Key_Escape);
+            }
+        });
+        bekci.start(1);
+        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
+        QVERIFY(detaylar.isEnabled());
+        QTest::mouseClick(&detaylar, Qt::LeftButton);
+        QCOMPARE(acilan, 1);
+        QVERIFY(!detaylar.isEnabled());
+        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
+        QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
+        QCOMPARE(acilan, 2);
+        QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonB));
+    }
+
+    void it_stays_within_a_small_table() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac({1000, 560});
+        QVERIFY(firma.Tablo().rect().contains(PaneldeYeri(firma)));
+    }
+};
+
+VELORA_GUI_TEST(UyariPaneliTest)
+
+#include "UyariPaneliTest.moc"
