@@ -1,6 +1,7 @@
 #include "qt/Ekranlar.h"
 
 #include "qt/QtOrtam.h"
+#include "qt/accounts/BakiyePenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "qt/reservation/OdemeAlPenceresi.h"
 #include "qt/setup/AyarlarPenceresi.h"
@@ -31,6 +32,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<MenuEklePenceresi>(ortam, program, EkranAdi::FormMenuEkle);
     Tanit<KayitPenceresi>(ortam, program, EkranAdi::FormKayit);
     Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
+    Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
 }
 
 } // namespace velora

@@ -128,6 +128,9 @@ struct FormTablo {
     void TasimaModuAc_Click();
     void iptals_Click();
 
+    // --- the entries of the menu "Raporlar" ---
+    void BakiyeRaporss_Click();
+
     // --- the entries of the menu "Ayarlar" ---
     void Salontanimss_Click();
     void MenuAyars_Click();
@@ -173,6 +176,8 @@ struct FormTablo {
     MenuGirdisi newkay{u"Yeni Organizasyon Oluştur"};
     MenuGirdisi TasimaModuAc{u"Taşıma Modunu Aç"};
     MenuGirdisi iptals{u"Kayıt İptali"};
+    // The menu "Raporlar".
+    MenuGirdisi BakiyeRaporss{u"Rezervasyon Raporu"};
     // The menu "Ayarlar", in this order.
     MenuGirdisi Salontanimss{u"Salon Tanımları"};
     MenuGirdisi MenuAyars{u"Menü Tanımları"};

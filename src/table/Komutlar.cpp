@@ -1,4 +1,5 @@
 // The commands of the menu bar. Each shows another screen over the table.
+#include "accounts/FormBakiye.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
 #include "setup/FormMenuAyar.h"
@@ -6,6 +7,10 @@
 #include "table/FormTablo.h"
 
 namespace velora {
+
+void FormTablo::BakiyeRaporss_Click() {
+    program_.FormBakiye.GosterModal();
+}
 
 void FormTablo::Salontanimss_Click() {
     program_.FormSalonTanim.GosterModal();

@@ -83,20 +83,25 @@ void TabloPenceresi::MenuleriKur(FormTablo& tablo) {
         void (FormTablo::*isle)();
         QKeySequence tus;
     };
-    const std::array komutlar{
-        Komut{"Salontanimss", &FormTablo::Salontanimss, &FormTablo::Salontanimss_Click, {}},
-        Komut{"MenuAyars", &FormTablo::MenuAyars, &FormTablo::MenuAyars_Click, {}},
-        Komut{"Progrset", &FormTablo::Progrset, &FormTablo::Progrset_Click, Qt::Key_F7}};
-    QMenu* menu = menuBar()->addMenu(QStringLiteral("&Ayarlar"));
-    menu->setObjectName(QStringLiteral("ayarsd"));
-    for (const Komut& komut : komutlar) {
-        auto* girdi = new QAction(menu);
-        menu->addAction(girdi);
-        girdi->setObjectName(QString::fromLatin1(komut.ad));
-        girdi->setShortcut(komut.tus);
-        baglayici_->Bagla(*girdi, tablo.*komut.girdi,
-                          [this, isle = komut.isle] { (*program_.FormTablo.Tut().*isle)(); });
-    }
+    const auto menuKur = [&](const char* ad, const QString& yazi, const auto& komutlar) {
+        QMenu* menu = menuBar()->addMenu(yazi);
+        menu->setObjectName(QString::fromLatin1(ad));
+        for (const Komut& komut : komutlar) {
+            auto* girdi = new QAction(menu);
+            menu->addAction(girdi);
+            girdi->setObjectName(QString::fromLatin1(komut.ad));
+            girdi->setShortcut(komut.tus);
+            baglayici_->Bagla(*girdi, tablo.*komut.girdi,
+                              [this, isle = komut.isle] { (*program_.FormTablo.Tut().*isle)(); });
+        }
+    };
+    menuKur("Raporsss", QStringLiteral("&Raporlar"),
+            std::array{Komut{"BakiyeRaporss", &FormTablo::BakiyeRaporss, &FormTablo::BakiyeRaporss_Click,
+                             Qt::Key_F3}});
+    menuKur("ayarsd", QStringLiteral("&Ayarlar"),
+            std::array{Komut{"Salontanimss", &FormTablo::Salontanimss, &FormTablo::Salontanimss_Click, {}},
+                       Komut{"MenuAyars", &FormTablo::MenuAyars, &FormTablo::MenuAyars_Click, {}},
+                       Komut{"Progrset", &FormTablo::Progrset, &FormTablo::Progrset_Click, Qt::Key_F7}});
 }
 
 QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
