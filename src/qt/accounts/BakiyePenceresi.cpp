@@ -25,6 +25,7 @@ namespace {
 
 // Of the list; the last one takes what is left.
 constexpr std::array kSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
+constexpr int kSecimEni = 300; // of the two lists to choose from
 
 /// A field with its caption before it; `yazi` has the access key marked.
 template <class Parca>
@@ -44,7 +45,10 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.
     const auto tut = program.FormBakiye.Tut();
     FormBakiye* ekran = tut.get();
     QVBoxLayout* sutun = SutunKur(*this);
-    sutun->addLayout(Suzgecler(ekran));
+    // In the window first: the keys go through the fields in the order in which they come into it.
+    auto* suzgecler = new QGridLayout;
+    sutun->addLayout(suzgecler);
+    SuzgecleriKur(*suzgecler, ekran);
     sutun->addWidget(Liste(ekran), 1);
     sutun->addWidget(Toplamlar(ekran));
     auto* detay = DugmeYap("Command6", ekran->Command6, [ekran] { ekran->Command6_Click(); });
@@ -58,23 +62,22 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.
     findChild<QWidget*>(QStringLiteral("Combo2"))->setFocus();
 }
 
-QLayout* BakiyePenceresi::Suzgecler(FormBakiye* ekran) {
-    auto* izgara = new QGridLayout;
-    izgara->setSpacing(kAralik);
-    Bag().Bagla(*AlanEkle<QComboBox>(*izgara, 0, 0, "Combo2", QStringLiteral("&Salon Adı")), ekran->Combo2);
-    Bag().Bagla(*AlanEkle<QDateEdit>(*izgara, 0, 3, "DTPicker1", QStringLiteral("&Başlangıç Tarihi")),
+void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
+    izgara.setSpacing(kAralik);
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("&Salon Adı")), ekran->Combo2);
+    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("&Başlangıç Tarihi")),
                 ekran->DTPicker1);
-    Bag().Bagla(*AlanEkle<QComboBox>(*izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon &Tipi")),
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon &Tipi")),
                 ekran->Combo1);
-    Bag().Bagla(*AlanEkle<QDateEdit>(*izgara, 1, 3, "DTPicker2", QStringLiteral("B&itiş Tarihi")),
+    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("B&itiş Tarihi")),
                 ekran->DTPicker2);
     auto* listele = DugmeYap("ListeleGun", ekran->Listele, [ekran] { ekran->ListeleGun(); });
     listele->setDefault(true);
-    izgara->addWidget(listele, 1, 6);
-    izgara->setColumnStretch(1, 1);
+    izgara.addWidget(listele, 1, 6);
     for (const int ara : {2, 5})
-        izgara->setColumnMinimumWidth(ara, kAralik);
-    return izgara;
+        izgara.setColumnMinimumWidth(ara, kAralik);
+    izgara.setColumnMinimumWidth(1, kSecimEni);
+    izgara.setColumnStretch(7, 1);
 }
 
 QWidget* BakiyePenceresi::Liste(FormBakiye* ekran) {
@@ -95,7 +98,7 @@ QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
     cerceve->setAutoFillBackground(true);
     auto* izgara = new QGridLayout(cerceve);
     izgara->setHorizontalSpacing(kAralik);
-    izgara->setVerticalSpacing(kAralik / 2);
+    izgara->setVerticalSpacing(0);
     constexpr int kSatir = static_cast<int>(kBakiyeTurleri.size()) / 2; // the kinds stand in two columns
     for (int sira = 0; sira < 2 * kSatir; ++sira)
         ToplamEkle(*izgara, sira % kSatir, sira / kSatir * 3, QStringLiteral("DTop%1").arg(sira + 1),
@@ -122,7 +125,12 @@ void BakiyePenceresi::ToplamEkle(QGridLayout& izgara, int satir, int sutun, cons
     auto* tutar = new QLabel;
     Adlandir(*tutar, ad, yazi);
     Bag().Bagla(*tutar, model);
-    izgara.addWidget(new QLabel(yazi), satir, sutun);
+    // The block keeps its shape when the amounts grow.
+    tutar->setMinimumWidth(tutar->fontMetrics().horizontalAdvance(QStringLiteral(": 9.999.999 TL")));
+    auto* baslik = new QLabel(yazi);
+    for (QLabel* etiket : {baslik, tutar})
+        etiket->setMargin(kAralik / 4);
+    izgara.addWidget(baslik, satir, sutun);
     izgara.addWidget(tutar, satir, sutun + 1);
 }
 

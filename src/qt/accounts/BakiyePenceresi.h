@@ -3,7 +3,6 @@
 #include "qt/Diyalog.h"
 
 class QGridLayout;
-class QLayout;
 class QWidget;
 
 namespace velora {
@@ -18,7 +17,7 @@ class BakiyePenceresi : public Diyalog {
     explicit BakiyePenceresi(Program& program);
 
   private:
-    QLayout* Suzgecler(FormBakiye* ekran);
+    void SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran);
     QWidget* Liste(FormBakiye* ekran);
     QWidget* Toplamlar(FormBakiye* ekran);
     void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, const QString& yazi,
