@@ -1,19 +1,216 @@
 #include "accounts/FormBakiye.h"
 
+#include <algorithm>
+
+#include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
 #include "screen/Program.h"
+#include "storage/Sayi.h"
+#include "table/FormTablo.h"
 
 namespace velora {
 
-FormBakiye::FormBakiye(Program& program) : program_(program) {}
+namespace {
 
-void FormBakiye::Load() {}
+constexpr MetinBakis kKesin = u"Kesin";
+constexpr MetinBakis kOn = u"Ön";
+constexpr std::size_t kTipSutunu = 5;
+
+/// The entries of `Combo1`.
+enum Tip { Tumu, OnRezervasyonlar, KesinRezervasyonlar };
+
+constexpr std::size_t kTarihUzunlugu = 10;
+constexpr std::size_t kGunAdiUzunlugu = 19; // of the longer one, with "Gündüz"
+
+// The values of the main file that the report shows, by their numbers.
+constexpr int kAd = 1;
+constexpr int kNitelik = 4;
+constexpr int kUcret = 8;
+constexpr int kAlinan = 9;
+constexpr int kKalan = 10;
+constexpr int kOnAciklama = 11;
+constexpr int kDavetli = 17;
+
+// Of the details: the two states.
+constexpr int kKesinIsareti = 36;
+constexpr int kOnIsareti = 37;
+
+bool OnMu(const DetayDegerler& detay) {
+    return detay.No(kOnIsareti) == u"1";
+}
+
+/// By the exact text: "DÜĞÜN" is another kind.
+std::size_t TurSirasi(MetinBakis nitelik) {
+    const auto yer = std::find(kBakiyeTurleri.begin(), kBakiyeTurleri.end() - 1, nitelik);
+    return static_cast<std::size_t>(yer - kBakiyeTurleri.begin());
+}
+
+/// Unlike elsewhere, a zero is seen.
+Metin ToplamMetni(double tutar) {
+    const Metin metin = TutarMetni(tutar);
+    return metin == u":  TL" ? u": 0 TL" : metin;
+}
+
+Metin SayacMetni(std::ptrdiff_t sayi) {
+    return u": " + SayiMetni(sayi);
+}
+
+} // namespace
+
+FormBakiye::FormBakiye(Program& program) : program_(program) {
+    Combo1.ogeler = {u"(Tümü)", u"Ön Rezervasyonlar", u"Kesin Rezervasyonlar"};
+    Liste.basliklar = {u"Tarih", u"Ad Soyad", u"Toplam",   u"Alınan",  u"Kalan",
+                       u"Tipi",  u"Salon",    u"Niteliği", u"Davetli", u"Ön Açıklama"};
+    Liste.sayiSutunlari = {2, 3, 4, 8};
+    ToplamlariGoster({});
+    Say();
+}
+
+void FormBakiye::Load() {
+    const auto tablo = program_.FormTablo.Tut();
+    Combo2.ogeler = tablo->Salon.ogeler;
+    Combo2.secili = tablo->Salon.secili;
+    Combo1.secili = Tumu;
+    const Gun bugun = program_.Bugun();
+    DTPicker1.deger = bugun.year() / bugun.month() / 1;
+    DTPicker2.deger = bugun.year() / bugun.month() / std::chrono::day(AyinSonGunu(bugun));
+}
 
 void FormBakiye::Activate() {
+    Command6.etkin = false;
+    Command4();
+    Command5();
     acikmi = 1;
 }
 
+void FormBakiye::YilaSinirla(TarihSecici& secici) {
+    const Metin yil = program_.FormTablo->Sene.Metni();
+    const auto ilk = TarihCoz(u"01.01." + yil);
+    const auto son = TarihCoz(u"31.12." + yil);
+    if (ilk && son)
+        secici.Sinirla(*ilk, *son);
+}
+
+void FormBakiye::Command4() {
+    YilaSinirla(DTPicker1);
+}
+
+void FormBakiye::Command5() {
+    YilaSinirla(DTPicker2);
+}
+
 void FormBakiye::ListeleGun() {
-    (void)program_;
+    // No row of the new list has been clicked yet.
+    Command6.etkin = false;
+    Liste.satirlar.clear();
+    Liste.secili = -1;
+    Toplamlar toplamlar{};
+    if (!Tara(toplamlar))
+        return;
+    ToplamlariGoster(toplamlar);
+    Say();
+    if (Liste.satirlar.empty())
+        program_.ortam.sor.mesaj({u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!"});
+}
+
+/// False when it had to stop.
+bool FormBakiye::Tara(Toplamlar& toplamlar) {
+    const Metin salon = Combo2.Metni();
+    const Metin yil = program_.FormTablo->Sene.Metni();
+    // Outside the loop: a file that is too short leaves the values of the one before it.
+    AnaDegerler ana;
+    DetayDegerler detay;
+    for (const Metin& ad : program_.dosyalar.Listele(program_.agac.YilKlasoru(salon, yil))) {
+        if (!GunDosyasiDeseni(ad) || EslikDosyasi(ad))
+            continue;
+        const auto gun = TarihCoz(Parca(ad, 1, kTarihUzunlugu));
+        if (!gun)
+            return false;
+        if (*gun < DTPicker1.deger || *gun > DTPicker2.deger)
+            continue;
+        const Metin yol = program_.agac.GunYolu(salon, yil, ad);
+        if (!AnaOku(program_.dosyalar, yol, ana) ||
+            !DetayOku(program_.dosyalar, yol + Metin(kDetayEki), detay))
+            return false;
+        if (!Istenen(detay))
+            continue;
+        SatirEkle(ad, yol, ana, detay);
+        toplamlar[TurSirasi(ana.No(kNitelik))] += TutarDegeri(ana.No(kUcret));
+        std::size_t sira = kBakiyeTurleri.size();
+        for (const int no : {kUcret, kAlinan, kKalan})
+            toplamlar[sira++] += TutarDegeri(ana.No(no));
+    }
+    return true;
+}
+
+/// A record in neither state stands in the whole list alone.
+bool FormBakiye::Istenen(const DetayDegerler& detay) const {
+    if (Combo1.secili == OnRezervasyonlar)
+        return OnMu(detay);
+    if (Combo1.secili == KesinRezervasyonlar)
+        return detay.No(kKesinIsareti) == u"1";
+    return true;
+}
+
+void FormBakiye::SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana,
+                           const DetayDegerler& detay) {
+    Liste.satirlar.push_back(
+        {.sutun = {Metin(Parca(ad, 1, kGunAdiUzunlugu)), ana.No(kAd), ana.No(kUcret), ana.No(kAlinan),
+                   ana.No(kKalan), Metin(OnMu(detay) ? kOn : kKesin), Combo2.Metni(), ana.No(kNitelik),
+                   ana.No(kDavetli), ana.No(kOnAciklama)},
+         .tag = yol});
+}
+
+void FormBakiye::ToplamlariGoster(const Toplamlar& toplamlar) {
+    auto toplam = toplamlar.begin();
+    for (Etiket& etiket : DTop)
+        etiket.baslik = ToplamMetni(*toplam++);
+    for (Etiket* etiket : {&Toplam, &Alinan, &Kalan})
+        etiket->baslik = ToplamMetni(*toplam++);
+}
+
+void FormBakiye::Say() {
+    const auto hepsi = static_cast<std::ptrdiff_t>(Liste.satirlar.size());
+    const auto kesin = std::ranges::count_if(
+        Liste.satirlar, [](const ListeSatiri& satir) { return satir.sutun[kTipSutunu] == kKesin; });
+    Label14.baslik = SayacMetni(kesin);
+    Label18.baslik = SayacMetni(hepsi - kesin);
+    Label19.baslik = SayacMetni(hepsi);
+}
+
+void FormBakiye::Liste_Click() {
+    Command6.etkin = true;
+}
+
+void FormBakiye::Liste_DblClick() {
+    if (Command6.etkin)
+        Command6_Click();
+}
+
+void FormBakiye::Command6_Click() {
+    Program& p = program_;
+    if (Liste.secili < 0 || Liste.secili >= static_cast<int>(Liste.satirlar.size()))
+        return;
+    // A copy: events run before it is used.
+    const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
+    const Metin& gun = satir.sutun.front();
+    if (gun.empty())
+        return;
+    {
+        const auto tablo = p.FormTablo.Tut();
+        const Metin salon = Combo2.Metni();
+        if (tablo->Salon.Metni() != salon) {
+            tablo->Salon.Sec(salon);
+            p.OlaylariIsle();
+        }
+    }
+    p.FormKayit->KayitAc = 1;
+    // With the row's own day: the payments are read and written under it.
+    KayitYukle(p, satir.tag, gun);
+}
+
+void FormBakiye::Command1_Click() {
+    program_.FormBakiye.Bosalt();
 }
 
 } // namespace velora

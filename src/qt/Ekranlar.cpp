@@ -1,6 +1,7 @@
 #include "qt/Ekranlar.h"
 
 #include "qt/QtOrtam.h"
+#include "qt/accounts/BakiyePenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "qt/reservation/OdemeAlPenceresi.h"
@@ -33,6 +34,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<KayitPenceresi>(ortam, program, EkranAdi::FormKayit);
     Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
+    Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
 }
 
 } // namespace velora

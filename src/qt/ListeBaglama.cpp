@@ -5,10 +5,12 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
 
 namespace velora {
 
@@ -17,6 +19,20 @@ namespace {
 bool AyniSatir(const ListeSatiri& bir, const ListeSatiri& iki) {
     return bir.sutun == iki.sutun && bir.yazi == iki.yazi;
 }
+
+/// A row is one line: what stands on several lines in a file stands side by side in it.
+QString TekSatir(const Metin& metin) {
+    return QMetin(metin).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ');
+}
+
+/// Rows with room between their texts.
+class FerahSatir : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& secenek, const QModelIndex& sira) const override {
+        return QStyledItemDelegate::sizeHint(secenek, sira) + QSize(0, kAralik / 2);
+    }
+};
 
 constexpr Qt::Alignment kSaga = Qt::AlignRight | Qt::AlignVCenter;
 
@@ -36,7 +52,7 @@ void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     for (const ListeSatiri& satir : model.satirlar) {
         ogeler << new QTreeWidgetItem;
         for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
-            ogeler.back()->setText(sutun, QMetin(satir.sutun[static_cast<std::size_t>(sutun)]));
+            ogeler.back()->setText(sutun, TekSatir(satir.sutun[static_cast<std::size_t>(sutun)]));
             ogeler.back()->setForeground(sutun, QRenk(satir.yazi));
         }
         for (const int sutun : model.sayiSutunlari)
@@ -96,6 +112,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
     new OkTuslari(liste);
+    liste.setItemDelegate(new FerahSatir(&liste));
     const auto isaretle = [this, &liste, &model, secildi] {
         Calistir([&liste, &model, &secildi] {
             model.secili = IsaretliSira(liste);

@@ -52,6 +52,22 @@ class OdaktaSecen : public QObject {
     }
 };
 
+QDate QGun(const Gun& gun) {
+    return {static_cast<int>(gun.year()), static_cast<int>(static_cast<unsigned>(gun.month())),
+            static_cast<int>(static_cast<unsigned>(gun.day()))};
+}
+
+void SinirlariKoy(QDateEdit& kutu, const TarihSecici& model) {
+    if (model.enKucuk)
+        kutu.setMinimumDate(QGun(*model.enKucuk));
+    else
+        kutu.clearMinimumDate();
+    if (model.enBuyuk)
+        kutu.setMaximumDate(QGun(*model.enBuyuk));
+    else
+        kutu.clearMaximumDate();
+}
+
 template <class Kutu>
 void DurumunuVer(Kutu& kutu, const MetinKutusu& model) {
     kutu.setEnabled(model.etkin);
@@ -149,9 +165,8 @@ void Baglayici::Bagla(QDateEdit& kutu, TarihSecici& model) {
     });
     Izle([&kutu, &model] {
         const QSignalBlocker sus(&kutu);
-        const Gun& gun = model.deger;
-        kutu.setDate(QDate(static_cast<int>(gun.year()), static_cast<int>(static_cast<unsigned>(gun.month())),
-                           static_cast<int>(static_cast<unsigned>(gun.day()))));
+        SinirlariKoy(kutu, model);
+        kutu.setDate(QGun(model.deger));
     });
 }
 

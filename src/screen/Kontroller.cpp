@@ -18,6 +18,12 @@ void SiradanSil(std::vector<Metin>& ogeler, int& secili, int sira) {
 
 } // namespace
 
+void TarihSecici::Sinirla(const Gun& ilk, const Gun& son) {
+    enKucuk = ilk;
+    enBuyuk = son;
+    deger = std::clamp(deger, ilk, son);
+}
+
 int AcilirListe::Bul(MetinBakis metin) const {
     const auto yer = std::find(ogeler.begin(), ogeler.end(), metin);
     return yer == ogeler.end() ? -1 : static_cast<int>(yer - ogeler.begin());

@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -105,6 +106,11 @@ struct MenuGirdisi {
 
 struct TarihSecici {
     Gun deger{};
+    std::optional<Gun> enKucuk; ///< the first day that can be chosen; with none, any day
+    std::optional<Gun> enBuyuk; ///< the last one
+
+    /// From here on only the days from `ilk` to `son` can be chosen. A value outside goes to the nearer end.
+    void Sinirla(const Gun& ilk, const Gun& son);
 };
 
 /// A list to choose one entry from.

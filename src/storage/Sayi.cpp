@@ -48,6 +48,10 @@ double SayisalDeger(MetinBakis metin) {
     return sayi;
 }
 
+double TutarDegeri(MetinBakis metin) {
+    return SayisalDeger(Kirp(metin));
+}
+
 Metin DuzMetin(double sayi) {
     if (sayi == 0 || !std::isfinite(sayi))
         return u"0";

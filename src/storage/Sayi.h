@@ -8,6 +8,9 @@ namespace velora {
 /// directly before the first digit. Whatever doesn't begin so is 0.
 double SayisalDeger(MetinBakis metin);
 
+/// The numeric value of an amount in a report: as `SayisalDeger`, and blanks before it don't count.
+double TutarDegeri(MetinBakis metin);
+
 /// The shortest plain decimal form of a number: no grouping, no exponent, "." as decimal point.
 Metin DuzMetin(double sayi);
 

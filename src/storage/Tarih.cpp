@@ -79,6 +79,10 @@ std::optional<Gun> TarihCoz(MetinBakis metin) {
     return tarih.ok() ? std::optional(tarih) : std::nullopt;
 }
 
+unsigned AyinSonGunu(const Gun& gun) {
+    return static_cast<unsigned>((gun.year() / gun.month() / std::chrono::last).day());
+}
+
 Metin TarihMetni(const Gun& gun) {
     return GunMetni(gun) + u'.' + AyMetni(gun) + u'.' + YilMetni(gun);
 }

@@ -14,6 +14,9 @@ using Gun = std::chrono::year_month_day;
 /// text has another form or the calendar has no such day.
 std::optional<Gun> TarihCoz(MetinBakis metin);
 
+/// The number of the last day of the day's month, 28 to 31.
+unsigned AyinSonGunu(const Gun& gun);
+
 /// dd.mm.yyyy
 Metin TarihMetni(const Gun& gun);
 

@@ -130,6 +130,7 @@ struct FormTablo {
 
     // --- the entries of the menu bar ---
     void Arasss_Click();
+    void BakiyeRaporss_Click();
     void Salontanimss_Click();
     void MenuAyars_Click();
     void Progrset_Click();
@@ -186,6 +187,8 @@ struct FormTablo {
     MenuGirdisi iptals{u"Kayıt İptali"};
     // The menu "Dosya".
     MenuGirdisi Arasss{u"Kayıt Ara"};
+    // The menu "Raporlar".
+    MenuGirdisi BakiyeRaporss{u"Rezervasyon Raporu"};
     // The menu "Ayarlar", in this order.
     MenuGirdisi Salontanimss{u"Salon Tanımları"};
     MenuGirdisi MenuAyars{u"Menü Tanımları"};

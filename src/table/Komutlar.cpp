@@ -1,4 +1,5 @@
 // The commands of the menu bar. Each shows another screen over the table.
+#include "accounts/FormBakiye.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
@@ -10,6 +11,10 @@ namespace velora {
 
 void FormTablo::Arasss_Click() {
     program_.FormArama.GosterModal();
+}
+
+void FormTablo::BakiyeRaporss_Click() {
+    program_.FormBakiye.GosterModal();
 }
 
 void FormTablo::Salontanimss_Click() {

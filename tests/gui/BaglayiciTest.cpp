@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,6 +29,7 @@ struct Ekran {
     Dugme dugme;
     Etiket etiket;
     Zamanlayici saat;
+    TarihSecici tarih;
 };
 
 struct Sahne {
@@ -89,7 +91,7 @@ class BaglayiciTest : public QObject {
         sahne.ekran->onay.deger = 1;
         sahne.ekran->metin.metin = u"yeni";
         sahne.ekran->liste.secili = 2;
-        sahne.ekran->satirlar = {{u"Ad"}, {{{u"Ali"}, {}, 0}, {{u"Veli"}, {}, 0}}, 1};
+        sahne.ekran->satirlar = {{u"Ad"}, {{{u"Ali"}, {}, 0}, {{u"Veli"}, {}, 0}}, 1, {}};
         Baglayici::HepsiniTazele();
         QVERIFY(onay.isChecked());
         QCOMPARE(metin.text(), QStringLiteral("yeni"));
@@ -185,7 +187,8 @@ class BaglayiciTest : public QObject {
     void a_list_view_shows_columns_and_marks_rows_both_ways() {
         Sahne sahne;
         QTreeWidget liste(&sahne.pencere);
-        sahne.ekran->satirlar = {{u"Tarih", u"Ad"}, {{{u"01.05.2026", u"A"}, {}, 255}, {{u"x"}, {}, 0}}, -1};
+        sahne.ekran->satirlar = {
+            {u"Tarih", u"Ad"}, {{{u"01.05.2026", u"A"}, {}, 255}, {{u"x"}, {}, 0}}, -1, {}};
         sahne.baglayici.Bagla(liste, sahne.ekran->satirlar, [&] { ++sahne.sayi; });
         QCOMPARE(liste.headerItem()->text(1), QStringLiteral("Ad"));
         QCOMPARE(liste.topLevelItemCount(), 2);
@@ -226,6 +229,37 @@ class BaglayiciTest : public QObject {
         QVERIFY(liste.topLevelItem(0)->textAlignment(1) & Qt::AlignRight);
         QVERIFY(liste.headerItem()->textAlignment(1) & Qt::AlignRight);
         QVERIFY(!(liste.topLevelItem(0)->textAlignment(0) & Qt::AlignRight));
+    }
+
+    void a_text_of_several_lines_is_one_line_in_a_row() {
+        Sahne sahne;
+        QTreeWidget liste(&sahne.pencere);
+        sahne.ekran->satirlar = {{u"Not"}, {{{u"bir\r\niki\nüç"}, {}, 0}}, -1, {}};
+        sahne.baglayici.Bagla(liste, sahne.ekran->satirlar);
+        QCOMPARE(liste.topLevelItem(0)->text(0), QStringLiteral("bir iki üç"));
+        QCOMPARE(sahne.ekran->satirlar.satirlar[0].sutun[0], Metin(u"bir\r\niki\nüç"));
+    }
+
+    void a_date_field_takes_the_days_between_the_limits_of_its_model_and_no_others() {
+        Sahne sahne;
+        QDateEdit kutu(&sahne.pencere);
+        TarihSecici& model = sahne.ekran->tarih;
+        model.deger = Gun{std::chrono::year{2026}, std::chrono::month{5}, std::chrono::day{21}};
+        sahne.baglayici.Bagla(kutu, model);
+        kutu.setDate(QDate(2024, 2, 29));
+        QCOMPARE(TarihMetni(model.deger), Metin(u"29.02.2024"));
+        model.Sinirla(TarihCoz(u"01.01.2026").value(), TarihCoz(u"31.12.2026").value());
+        Baglayici::HepsiniTazele();
+        QCOMPARE(kutu.date(), QDate(2026, 1, 1));
+        kutu.setDate(QDate(2027, 1, 1));
+        QCOMPARE(TarihMetni(model.deger), Metin(u"31.12.2026"));
+        kutu.setDate(QDate(2026, 3, 8));
+        QCOMPARE(TarihMetni(model.deger), Metin(u"08.03.2026"));
+        model.enKucuk.reset();
+        model.enBuyuk.reset();
+        Baglayici::HepsiniTazele();
+        kutu.setDate(QDate(2030, 7, 1));
+        QCOMPARE(TarihMetni(model.deger), Metin(u"01.07.2030"));
     }
 
     void a_button_runs_its_handler_and_shows_its_model() {

@@ -101,6 +101,39 @@ TEST_F(AcilirListeTest, Text_set_as_it_stands_may_be_unlisted) {
     EXPECT_EQ(tik, 0);
 }
 
+class TarihSeciciTest : public ::testing::Test {
+  protected:
+    static Gun YilGunu(int yil, unsigned ay, unsigned gun) {
+        return {std::chrono::year(yil), std::chrono::month(ay), std::chrono::day(gun)};
+    }
+    /// What a value becomes under the limits of the year 2012.
+    static Gun Sinirli(const Gun& deger) {
+        TarihSecici secici{deger, {}, {}};
+        secici.Sinirla(YilGunu(2012, 1, 1), YilGunu(2012, 12, 31));
+        return secici.deger;
+    }
+};
+
+TEST_F(TarihSeciciTest, Limits_leave_the_days_between_them_and_at_both_ends_alone) {
+    for (const Gun& gun : {YilGunu(2012, 1, 1), YilGunu(2012, 6, 15), YilGunu(2012, 12, 31)})
+        EXPECT_EQ(Sinirli(gun), gun);
+}
+
+TEST_F(TarihSeciciTest, A_day_outside_the_limits_goes_to_the_nearer_end) {
+    EXPECT_EQ(Sinirli(YilGunu(2011, 12, 31)), YilGunu(2012, 1, 1));
+    EXPECT_EQ(Sinirli(YilGunu(2013, 1, 1)), YilGunu(2012, 12, 31));
+}
+
+TEST_F(TarihSeciciTest, New_limits_take_the_place_of_the_old_ones) {
+    TarihSecici secici{YilGunu(2012, 6, 15), {}, {}};
+    EXPECT_FALSE(secici.enKucuk || secici.enBuyuk);
+    secici.Sinirla(YilGunu(2012, 1, 1), YilGunu(2012, 12, 31));
+    secici.Sinirla(YilGunu(2013, 1, 1), YilGunu(2013, 12, 31));
+    EXPECT_EQ(secici.enKucuk, YilGunu(2013, 1, 1));
+    EXPECT_EQ(secici.enBuyuk, YilGunu(2013, 12, 31));
+    EXPECT_EQ(secici.deger, YilGunu(2013, 1, 1));
+}
+
 TEST(OnayKutusuTest, Click_runs_only_when_the_value_changes) {
     OnayKutusu kutu;
     int tik = 0;

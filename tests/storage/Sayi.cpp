@@ -47,6 +47,17 @@ TEST(SayisalDeger, Digits_that_no_number_can_hold_count_as_0) {
     EXPECT_EQ(SayisalDeger(Metin(300, u'0') + u"7"), 7);
 }
 
+TEST(TutarDegeri, Skips_the_blanks_before_the_number_and_stops_at_the_first_other_sign) {
+    EXPECT_EQ(TutarDegeri(u"  1250"), 1250);
+    EXPECT_EQ(TutarDegeri(u"1250.50"), 1250.5);
+    EXPECT_EQ(TutarDegeri(u"1.250"), 1.25);
+    EXPECT_EQ(TutarDegeri(u"1,250"), 1);
+    EXPECT_EQ(TutarDegeri(u"1 250"), 1);
+    EXPECT_EQ(TutarDegeri(u" -250"), -250);
+    EXPECT_EQ(TutarDegeri(u""), 0);
+    EXPECT_EQ(TutarDegeri(u"  "), 0);
+}
+
 TEST(DuzMetin, Is_the_shortest_plain_form) {
     EXPECT_EQ(DuzMetin(0), u"0");
     EXPECT_EQ(DuzMetin(-0.0), u"0");

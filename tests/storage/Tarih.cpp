@@ -1,5 +1,7 @@
 #include "storage/Tarih.h"
 
+#include <array>
+
 #include <gtest/gtest.h>
 
 namespace velora {
@@ -34,6 +36,22 @@ TEST(TarihCoz, Refuses_every_other_form) {
           u" 5.1.2012", u"05.01", u"05.01.", u"..2012", u"05.01.2012.", u"a5.01.2012", u"-5.01.2012",
           u"05.01.+012", u"05.01.2012 - Gece"})
         EXPECT_FALSE(TarihCoz(metin)) << testing::PrintToString(metin);
+}
+
+TEST(AyinSonGunu, Knows_the_length_of_each_month) {
+    constexpr std::array<unsigned, 12> kUzunluklar{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    for (unsigned ay = 1; ay <= 12; ++ay)
+        EXPECT_EQ(AyinSonGunu(YeniGun(2013, ay, 15)), kUzunluklar[ay - 1]) << ay;
+}
+
+TEST(AyinSonGunu, Any_day_of_February_gives_29_in_a_leap_year_and_28_otherwise) {
+    for (unsigned gun = 1; gun <= 28; ++gun) {
+        EXPECT_EQ(AyinSonGunu(YeniGun(2012, 2, gun)), 29U);
+        EXPECT_EQ(AyinSonGunu(YeniGun(2013, 2, gun)), 28U);
+    }
+    EXPECT_EQ(AyinSonGunu(YeniGun(2012, 2, 29)), 29U);
+    EXPECT_EQ(AyinSonGunu(YeniGun(2000, 2, 1)), 29U);
+    EXPECT_EQ(AyinSonGunu(YeniGun(1900, 2, 1)), 28U);
 }
 
 TEST(TarihMetni, Has_two_two_and_four_digits) {

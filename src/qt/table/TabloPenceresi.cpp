@@ -47,6 +47,9 @@ struct Menu {
 std::vector<Menu> Menuler() {
     using T = FormTablo;
     return {{"Kayitss", u"&Dosya", {{"Arasss", &T::Arasss, &T::Arasss_Click, Qt::Key_F2}}},
+            {"Raporsss",
+             u"&Raporlar",
+             {{"BakiyeRaporss", &T::BakiyeRaporss, &T::BakiyeRaporss_Click, Qt::Key_F3}}},
             {"ayarsd",
              u"&Ayarlar",
              {{"Salontanimss", &T::Salontanimss, &T::Salontanimss_Click, {}},

@@ -1,0 +1,137 @@
+#include "qt/accounts/BakiyePenceresi.h"
+
+#include <array>
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "accounts/FormBakiye.h"
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
+#include "qt/Yerlesimler.h"
+#include "screen/Program.h"
+
+namespace velora {
+
+namespace {
+
+// Of the list; the last one takes what is left.
+constexpr std::array kSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
+constexpr int kSecimEni = 300; // of the two lists to choose from
+
+/// A field with its caption before it; `yazi` has the access key marked.
+template <class Parca>
+Parca* AlanEkle(QGridLayout& izgara, int satir, int sutun, const char* ad, const QString& yazi) {
+    auto* parca = new Parca;
+    auto* etiket = new QLabel(yazi);
+    Adlandir(*parca, QString::fromLatin1(ad), yazi);
+    etiket->setBuddy(parca);
+    izgara.addWidget(etiket, satir, sutun);
+    izgara.addWidget(parca, satir, sutun + 1);
+    return parca;
+}
+
+} // namespace
+
+BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.Tut()) {
+    const auto tut = program.FormBakiye.Tut();
+    FormBakiye* ekran = tut.get();
+    QVBoxLayout* sutun = SutunKur(*this);
+    // In the window first: the keys go through the fields in the order in which they come into it.
+    auto* suzgecler = new QGridLayout;
+    sutun->addLayout(suzgecler);
+    SuzgecleriKur(*suzgecler, ekran);
+    sutun->addWidget(Liste(ekran), 1);
+    sutun->addWidget(Toplamlar(ekran));
+    auto* detay = DugmeYap("Command6", ekran->Command6, [ekran] { ekran->Command6_Click(); });
+    auto* kapat = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    detay->setAutoDefault(false);
+    kapat->setAutoDefault(false);
+    IptalDugmesi(kapat);
+    sutun->addLayout(DugmeSeridi({detay, kapat}));
+    setWindowTitle(QMetin(ekran->baslik));
+    resize(1080, 600);
+    findChild<QWidget*>(QStringLiteral("Combo2"))->setFocus();
+}
+
+void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
+    izgara.setSpacing(kAralik);
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("&Salon Adı")), ekran->Combo2);
+    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("&Başlangıç Tarihi")),
+                ekran->DTPicker1);
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon &Tipi")),
+                ekran->Combo1);
+    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("B&itiş Tarihi")),
+                ekran->DTPicker2);
+    auto* listele = DugmeYap("ListeleGun", ekran->Listele, [ekran] { ekran->ListeleGun(); });
+    listele->setDefault(true);
+    izgara.addWidget(listele, 1, 6);
+    for (const int ara : {2, 5})
+        izgara.setColumnMinimumWidth(ara, kAralik);
+    izgara.setColumnMinimumWidth(1, kSecimEni);
+    izgara.setColumnStretch(7, 1);
+}
+
+QWidget* BakiyePenceresi::Liste(FormBakiye* ekran) {
+    auto* liste = new QTreeWidget;
+    Adlandir(*liste, QStringLiteral("Liste"), QStringLiteral("Rezervasyonlar"));
+    Bag().Bagla(
+        *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
+    int sutun = 0;
+    for (const int en : kSutunEnleri)
+        liste->setColumnWidth(sutun++, en);
+    return liste;
+}
+
+QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
+    auto* cerceve = new QFrame;
+    cerceve->setFrameShape(QFrame::StyledPanel);
+    cerceve->setBackgroundRole(QPalette::Base);
+    cerceve->setAutoFillBackground(true);
+    auto* izgara = new QGridLayout(cerceve);
+    izgara->setHorizontalSpacing(kAralik);
+    izgara->setVerticalSpacing(0);
+    constexpr int kSatir = static_cast<int>(kBakiyeTurleri.size()) / 2; // the kinds stand in two columns
+    for (int sira = 0; sira < 2 * kSatir; ++sira)
+        ToplamEkle(*izgara, sira % kSatir, sira / kSatir * 3, QStringLiteral("DTop%1").arg(sira + 1),
+                   QMetin(kBakiyeTurleri[static_cast<std::size_t>(sira)]), ekran->DTop[sira + 1]);
+    const std::array sagdakiler{std::tuple{"Toplam", u"Genel Toplam", &ekran->Toplam},
+                                std::tuple{"Alinan", u"Alınan Ödeme", &ekran->Alinan},
+                                std::tuple{"Kalan", u"Kalan Ödeme", &ekran->Kalan},
+                                std::tuple{"Label14", u"Kesin Rezervasyon", &ekran->Label14},
+                                std::tuple{"Label18", u"Ön Rezervasyon", &ekran->Label18},
+                                std::tuple{"Label19", u"Toplam Rezervasyon", &ekran->Label19}};
+    int sira = 0;
+    for (const auto& [ad, yazi, model] : sagdakiler) {
+        ToplamEkle(*izgara, sira % 3, 6 + sira / 3 * 3, QString::fromLatin1(ad), QString::fromUtf16(yazi),
+                   *model);
+        ++sira;
+    }
+    for (const int sutun : {1, 4, 7, 10})
+        izgara->setColumnStretch(sutun, 1);
+    return cerceve;
+}
+
+void BakiyePenceresi::ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad,
+                                 const QString& yazi, Etiket& model) {
+    auto* tutar = new QLabel;
+    Adlandir(*tutar, ad, yazi);
+    Bag().Bagla(*tutar, model);
+    // The block keeps its shape when the amounts grow.
+    tutar->setMinimumWidth(tutar->fontMetrics().horizontalAdvance(QStringLiteral(": 9.999.999 TL")));
+    auto* baslik = new QLabel(yazi);
+    for (QLabel* etiket : {baslik, tutar})
+        etiket->setMargin(kAralik / 4);
+    izgara.addWidget(baslik, satir, sutun);
+    izgara.addWidget(tutar, satir, sutun + 1);
+}
+
+} // namespace velora

@@ -1,0 +1,217 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "accounts/FormBakiye.h"
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "qt/Ceviri.h"
+#include "qt/table/TabloPenceresi.h"
+#include "reservation/FormKayit.h"
+
+using namespace velora;
+using namespace velora::test;
+
+/// The real window of the reservation report, opened by its key from the table.
+class BakiyePenceresiTest : public QObject {
+    Q_OBJECT
+
+    using Is = std::function<void(QWidget&)>;
+
+    /// Runs `is` as soon as the window of the screen stands, and unloads what is left of it. Loading a screen lets
+    /// events run too, so it may take some of their rounds.
+    template <class Ekran>
+    void Durunca(GuiFirma& firma, EkranAdi ad, Pencere<Ekran>& ekran, const Is& is, int kalan = 100) {
+        QTimer::singleShot(0, this, [this, &firma, ad, &ekran, is, kalan] {
+            QWidget* pencere = firma.disDunya.Pencere(ad);
+            if (pencere == nullptr && kalan > 0) {
+                Durunca(firma, ad, ekran, is, kalan - 1);
+                return;
+            }
+            if (pencere != nullptr)
+                is(*pencere);
+            ekran.Bosalt();
+        });
+    }
+    /// F3 on the table; `is` is done on the report.
+    void Raporda(GuiFirma& firma, const Is& is) {
+        bool kosuldu = false;
+        Durunca(firma, EkranAdi::FormBakiye, firma.program.FormBakiye, [&](QWidget& pencere) {
+            QVERIFY(QTest::qWaitForWindowActive(&pencere));
+            kosuldu = true;
+            is(pencere);
+        });
+        QTest::keyClick(&firma.Pencere(), Qt::Key_F3);
+        QVERIFY(kosuldu);
+        QVERIFY(!firma.program.FormBakiye.Yuklu());
+    }
+    template <class Parca>
+    static Parca& Bul(QWidget& pencere, const char* ad) {
+        return *pencere.findChild<Parca*>(QString::fromLatin1(ad));
+    }
+    static QString Yazi(QWidget& pencere, const char* ad) { return Bul<QLabel>(pencere, ad).text(); }
+    /// Where a row of the list stands on its viewport.
+    static QPoint SatirYeri(QTreeWidget& liste, int sira) {
+        return liste.visualItemRect(liste.topLevelItem(sira)).center();
+    }
+
+  private slots:
+    void a_type_is_chosen_and_enter_lists_it_with_its_totals() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Rezervasyon(kSalonA, u"11.05.2026 - Gece", false);
+        firma.Rezervasyon(kSalonA, u"12.05.2026 - Gündüz", true);
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            QCOMPARE(pencere.windowTitle(), QStringLiteral("Rezervasyon Raporu"));
+            QCOMPARE(Yazi(pencere, "Toplam"), QStringLiteral(": 0 TL"));
+            auto& tip = Bul<QComboBox>(pencere, "Combo1");
+            tip.setFocus();
+            QTest::keyClick(&tip, Qt::Key_Down);
+            QTest::keyClick(&tip, Qt::Key_Return);
+            auto& liste = Bul<QTreeWidget>(pencere, "Liste");
+            QCOMPARE(liste.topLevelItemCount(), 2);
+            QCOMPARE(liste.topLevelItem(1)->text(0), QStringLiteral("12.05.2026 - Gündüz"));
+            QCOMPARE(liste.headerItem()->text(9), QStringLiteral("Ön Açıklama"));
+            for (const int sutun : {2, 3, 4, 8})
+                QVERIFY(liste.topLevelItem(0)->textAlignment(sutun) & Qt::AlignRight);
+            QCOMPARE(Yazi(pencere, "DTop1"), QStringLiteral(": 10.000 TL"));
+            QCOMPARE(Yazi(pencere, "DTop8"), QStringLiteral(": 0 TL"));
+            QCOMPARE(Yazi(pencere, "Toplam"), QStringLiteral(": 10.000 TL"));
+            QCOMPARE(Yazi(pencere, "Alinan"), QStringLiteral(": 2.000 TL"));
+            QCOMPARE(Yazi(pencere, "Kalan"), QStringLiteral(": 8.000 TL"));
+            QCOMPARE(Yazi(pencere, "Label14"), QStringLiteral(": 0"));
+            QCOMPARE(Yazi(pencere, "Label18"), QStringLiteral(": 2"));
+            QCOMPARE(Yazi(pencere, "Label19"), QStringLiteral(": 2"));
+        });
+    }
+
+    void every_control_has_a_name_for_those_who_cannot_see_it() {
+        GuiFirma firma;
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            for (const char* ad : {"Combo2", "DTPicker1", "DTPicker2", "Combo1", "Liste", "DTop1", "DTop2",
+                                   "DTop3", "DTop4", "DTop5", "DTop6", "DTop7", "DTop8", "Toplam", "Alinan",
+                                   "Kalan", "Label14", "Label18", "Label19"})
+                QVERIFY2(!Bul<QWidget>(pencere, ad).accessibleName().isEmpty(), ad);
+            QCOMPARE(Bul<QWidget>(pencere, "DTPicker2").accessibleName(), QStringLiteral("Bitiş Tarihi"));
+        });
+    }
+
+    void a_double_click_opens_the_record_and_the_button_waits_for_a_click_afterwards() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            QTest::mouseClick(&Bul<QPushButton>(pencere, "ListeleGun"), Qt::LeftButton);
+            auto& liste = Bul<QTreeWidget>(pencere, "Liste");
+            auto& detay = Bul<QPushButton>(pencere, "Command6");
+            QVERIFY(!detay.isEnabled());
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, 0));
+            QVERIFY(detay.isEnabled());
+            QString gun;
+            Durunca(firma, EkranAdi::FormKayit, firma.program.FormKayit,
+                    [&](QWidget& kayit) { gun = Yazi(kayit, "Tarih"); });
+            QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, 0));
+            QCOMPARE(gun, QStringLiteral("10.05.2026 - Gece"));
+            QVERIFY(!detay.isEnabled());
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, 0));
+            QVERIFY(detay.isEnabled());
+        });
+    }
+
+    void a_row_marked_with_the_keys_opens_by_the_button() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Rezervasyon(kSalonA, u"11.05.2026 - Gece", true);
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            Bul<QPushButton>(pencere, "ListeleGun").click();
+            auto& liste = Bul<QTreeWidget>(pencere, "Liste");
+            liste.setFocus();
+            QTest::keyClick(&liste, Qt::Key_Down);
+            QTest::keyClick(&liste, Qt::Key_Up);
+            QVERIFY(Bul<QPushButton>(pencere, "Command6").isEnabled());
+            QString gun;
+            Durunca(firma, EkranAdi::FormKayit, firma.program.FormKayit,
+                    [&](QWidget& kayit) { gun = Yazi(kayit, "Tarih"); });
+            QTest::keyClick(&Bul<QPushButton>(pencere, "Command6"), Qt::Key_Space);
+            QCOMPARE(gun, QStringLiteral("10.05.2026 - Gece"));
+        });
+    }
+
+    void the_tab_key_goes_through_the_fields_as_they_stand() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            Bul<QPushButton>(pencere, "ListeleGun").click();
+            Bul<QWidget>(pencere, "Combo2").setFocus();
+            for (const char* ad :
+                 {"DTPicker1", "Combo1", "DTPicker2", "ListeleGun", "Liste", "Command1", "Combo2"}) {
+                // A date keeps the key for its day, month and year.
+                const QWidget* once = QApplication::focusWidget();
+                for (int i = 0; i < 3 && QApplication::focusWidget() == once; ++i)
+                    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(ad));
+            }
+        });
+    }
+
+    void the_dates_refuse_another_year() {
+        GuiFirma firma;
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            const auto model = firma.program.FormBakiye.Tut();
+            auto& ilk = Bul<QDateEdit>(pencere, "DTPicker1");
+            QCOMPARE(ilk.date(), QDate(2026, 5, 1));
+            QCOMPARE(Bul<QDateEdit>(pencere, "DTPicker2").date(), QDate(2026, 5, 31));
+            ilk.setFocus();
+            ilk.setCurrentSection(QDateTimeEdit::YearSection);
+            QTest::keyClick(&ilk, Qt::Key_Up);
+            QTest::keyClicks(&ilk, QStringLiteral("2027"));
+            QTest::keyClick(&ilk, Qt::Key_Tab);
+            QCOMPARE(model->DTPicker1.deger.year(), std::chrono::year(2026));
+            QCOMPARE(ilk.date().year(), 2026);
+            ilk.setFocus();
+            ilk.setCurrentSection(QDateTimeEdit::MonthSection);
+            QTest::keyClick(&ilk, Qt::Key_Down);
+            QCOMPARE(TarihMetni(model->DTPicker1.deger), Metin(u"01.04.2026"));
+        });
+    }
+
+    void an_empty_report_says_so_in_a_box() {
+        GuiFirma firma;
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            QString metin;
+            QTimer::singleShot(0, this, [&] {
+                if (auto* kutu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    metin = kutu->text();
+                    QTest::keyClick(kutu, Qt::Key_Return);
+                }
+            });
+            Bul<QPushButton>(pencere, "ListeleGun").click();
+            QCOMPARE(metin, QStringLiteral("Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!"));
+        });
+    }
+
+    void escape_closes_it() {
+        GuiFirma firma;
+        firma.Ac();
+        Raporda(firma, [&](QWidget& pencere) {
+            QTest::keyClick(&pencere, Qt::Key_Escape);
+            QVERIFY(!firma.program.FormBakiye.Yuklu());
+        });
+    }
+};
+
+VELORA_GUI_TEST(BakiyePenceresiTest)
+#include "BakiyePenceresiTest.moc"
