@@ -1,0 +1,106 @@
+// After the save: whatever stands open shows the saved record.
+#include <algorithm>
+
+#include "access/Splash.h"
+#include "accounts/FormBakiye.h"
+#include "reservation/FormArama.h"
+#include "reservation/KayitTest.h"
+
+namespace velora::test {
+
+/// A pre-reservation of 20 June, five days ahead, with the report of pre-reservations, the search for its customer and
+/// the panel of warnings standing open.
+class TazelemeTest : public KayitTest {
+  protected:
+    TazelemeTest() { RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"}, true); }
+
+    void EkranlariAc() {
+        Prog().FormBakiye->Combo1.Sec(u"Ön Rezervasyonlar");
+        Prog().FormBakiye.Goster();
+        Prog().FormBakiye->ListeleGun();
+        Prog().FormArama->Text[1].metin = u"veli";
+        Prog().FormArama.Goster();
+        Prog().FormArama->Command3_Click();
+        EXPECT_EQ(Prog().FormBakiye->Liste.satirlar.size(), 1U);
+        EXPECT_EQ(Prog().FormArama->Liste.satirlar.size(), 1U);
+        EXPECT_TRUE(kullanici.Tablo().Picture1.gorunur);
+    }
+    /// What the save does on the disk and where it lets events run, without repeats.
+    void Kaydedilenler(std::vector<std::string>& gunluk) {
+        const auto yaz = [&gunluk](const char* is) {
+            if (gunluk.empty() || gunluk.back() != is)
+                gunluk.emplace_back(is);
+        };
+        kullanici.ortam.olayda = [yaz](int) { yaz("olay"); };
+        Prog().dosyalar.ariza = [yaz](DosyaIsi is, const Metin& yol) {
+            if (is == DosyaIsi::Listele && yol.ends_with(u"Salon A\\2012"))
+                yaz("tarama");
+            if (is == DosyaIsi::VarMi && yol.ends_with(u"15.06.2012 - Gece"))
+                yaz("bugün");
+            return false;
+        };
+    }
+    auto Yayinlar() { return std::ranges::count(kullanici.ortam.acilanlar, EkranAdi::FormWebteYayinla); }
+};
+
+TEST_F(TazelemeTest, A_save_refreshes_report_search_and_warnings_then_scans_looks_at_today_and_publishes) {
+    EkranlariAc();
+    Prog().Splash->Check1 = Prog().Splash->Check2 = 1;
+    std::vector<std::string> gunluk;
+    KayitAc([&] {
+        Yaz(1, u"Can Yılmaz");
+        Kayit().Option1.Ata(1);
+        Kayit().Option2.Ata(0);
+        Kayit().Check18.Ata(0);
+        // Each box tells of a list that was made anew: in this order, and once.
+        KutuBekle(u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");
+        KutuBekle(u"Hiç kayıt bulunamadı!");
+        KutuBekle(u"Hatırlatmalarda yaklaşan rezervasyon yok.");
+        Kaydedilenler(gunluk);
+        Kaydet();
+        EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    });
+    kullanici.ortam.olayda = {};
+    const std::vector<std::string> son{"tarama", "olay", "bugün", "olay"};
+    ASSERT_GE(gunluk.size(), son.size());
+    EXPECT_TRUE(std::equal(son.rbegin(), son.rend(), gunluk.rbegin()));
+    EXPECT_EQ(Yayinlar(), 1);
+    EXPECT_EQ(kullanici.ortam.acilanlar.back(), EkranAdi::FormWebteYayinla);
+}
+
+TEST_F(TazelemeTest, A_search_whose_only_match_was_renamed_says_once_that_it_found_nothing) {
+    Prog().FormArama->Text[1].metin = u"veli";
+    Prog().FormArama.Goster();
+    kullanici.Tablo().Picture1.gorunur = false;
+    KayitAc([&] {
+        Yaz(1, u"Can Yılmaz");
+        KutuBekle(u"Hiç kayıt bulunamadı!");
+        Kaydet();
+    });
+    EXPECT_TRUE(Prog().FormArama->Liste.satirlar.empty());
+}
+
+TEST_F(TazelemeTest, Lists_that_still_find_the_record_show_it_as_it_was_saved_and_say_nothing) {
+    EkranlariAc();
+    KayitAc([&] {
+        Yaz(1, u"Ayşe Veli");
+        Kaydet();
+    });
+    EXPECT_EQ(Prog().FormBakiye->Liste.satirlar.at(0).sutun[1], u"Ayşe Veli");
+    EXPECT_EQ(Prog().FormArama->Liste.satirlar.at(0).sutun[2], u"Ayşe Veli");
+    EXPECT_EQ(kullanici.Tablo().Liste.satirlar.at(0).sutun[2], u"Ayşe Veli");
+}
+
+TEST_F(TazelemeTest, A_save_loads_neither_report_nor_search) {
+    kullanici.Tablo();
+    YeniKayit(
+        [&] {
+            Doldur();
+            Kaydet();
+        },
+        u"21.06.2012 - Gece");
+    EXPECT_FALSE(Prog().FormBakiye.Yuklu());
+    EXPECT_FALSE(Prog().FormArama.Yuklu());
+}
+
+} // namespace velora::test
