@@ -1,7 +1,6 @@
 // The binder's list view: it rebuilds its rows only when the model has others.
 #include <algorithm>
 
-#include <QHeaderView>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QTreeWidget>
@@ -38,13 +37,35 @@ void SatirlariKoy(QTreeWidget& liste, const std::vector<ListeSatiri>& satirlar) 
     liste.addTopLevelItems(ogeler);
 }
 
-void SeciliyiIsaretle(QTreeWidget& liste, int secili) {
-    QTreeWidgetItem* oge = liste.topLevelItem(secili);
-    if (liste.indexOfTopLevelItem(liste.currentItem()) == (oge == nullptr ? -1 : secili))
-        return;
-    liste.setCurrentItem(oge);
-    if (oge == nullptr)
+/// Marks a row, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that the model still has.
+void Isaretle(QAbstractItemView& liste, int secili) {
+    const QModelIndex satir = liste.model()->index(secili, 0);
+    if (!satir.isValid()) {
+        // Told in so many words that it has no row, the view doesn't take its first one when it gets the focus.
+        liste.setCurrentIndex({});
         liste.clearSelection();
+    } else if (!liste.selectionModel()->isSelected(satir) || liste.currentIndex().row() != secili) {
+        liste.selectionModel()->setCurrentIndex(satir, QItemSelectionModel::ClearAndSelect |
+                                                           QItemSelectionModel::Rows);
+    }
+}
+
+/// What the user does to the marks of a list, of either kind.
+template <class Liste, class Model>
+void IsaretiDinle(Baglayici& baglayici, Liste& liste, Model& model, const Baglayici::Isleyici& secildi) {
+    const auto isaretlendi = [&baglayici, &liste, &model, secildi] {
+        baglayici.Calistir([&liste, &model, &secildi] {
+            model.secili = liste.currentIndex().row();
+            if (secildi)
+                secildi();
+        });
+    };
+    QObject::connect(&liste, &Liste::currentItemChanged, &baglayici, isaretlendi);
+    QObject::connect(&liste, &Liste::itemPressed, &baglayici, isaretlendi);
+    QObject::connect(&liste, &Liste::itemSelectionChanged, &baglayici, [&liste] {
+        if (!liste.selectionModel()->hasSelection())
+            Baglayici::HepsiniTazele();
+    });
 }
 
 } // namespace
@@ -54,13 +75,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
-    connect(&liste, &QTreeWidget::currentItemChanged, this, [this, &liste, &model, secildi] {
-        Calistir([&liste, &model, &secildi] {
-            model.secili = liste.indexOfTopLevelItem(liste.currentItem());
-            if (secildi)
-                secildi();
-        });
-    });
+    IsaretiDinle(*this, liste, model, secildi);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Calistir(ciftTiklandi); });
     Izle([&liste, &model, konan = ListeGorunumu()]() mutable {
         const QSignalBlocker sus(&liste);
@@ -69,18 +84,12 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
         if (!std::ranges::equal(konan.satirlar, model.satirlar, AyniSatir))
             SatirlariKoy(liste, model.satirlar);
         konan = model;
-        SeciliyiIsaretle(liste, model.secili);
+        Isaretle(liste, model.secili);
     });
 }
 
 void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi) {
-    connect(&liste, &QListWidget::currentRowChanged, this, [this, &model, secildi](int sira) {
-        Calistir([&model, &secildi, sira] {
-            model.secili = sira;
-            if (secildi)
-                secildi();
-        });
-    });
+    IsaretiDinle(*this, liste, model, secildi);
     Izle([&liste, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&liste);
         if (konan != model.ogeler) {
@@ -89,8 +98,7 @@ void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& se
                 liste.addItem(QMetin(oge));
             konan = model.ogeler;
         }
-        if (liste.currentRow() != model.secili)
-            liste.setCurrentRow(model.secili);
+        Isaretle(liste, model.secili);
     });
 }
 
