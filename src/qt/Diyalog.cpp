@@ -1,9 +1,12 @@
 #include "qt/Diyalog.h"
 
+#include <utility>
+
 #include <QCloseEvent>
 #include <QPushButton>
 
 #include "qt/Baglayici.h"
+#include "qt/ErisimTuslari.h"
 
 namespace velora {
 
@@ -19,6 +22,13 @@ QPushButton* Diyalog::DugmeYap(const char* ad, Dugme& model, const std::function
 void Diyalog::reject() {
     if (iptal_ != nullptr && iptal_->isEnabled())
         iptal_->click();
+}
+
+void Diyalog::showEvent(QShowEvent* olay) {
+    // Only now all captions are there, and they may change while the window stands.
+    if (!std::exchange(tuslandi_, true))
+        baglayici_->Izle([this] { ErisimTuslariVer(*this); });
+    QDialog::showEvent(olay);
 }
 
 void Diyalog::closeEvent(QCloseEvent* olay) {

@@ -43,7 +43,7 @@ QHBoxLayout* GunSatiri(Baglayici& baglayici, const QString& ad, MetinKutusu& mod
     kutu->setFixedWidth(kGunEni);
     kutu->setAlignment(Qt::AlignRight);
     baglayici.Bagla(*kutu, model);
-    satir->addWidget(new QLabel(once));
+    satir->addWidget(EtiketYap(once, *kutu));
     satir->addWidget(kutu);
     satir->addWidget(new QLabel(sonra));
     satir->addStretch(1);
@@ -63,12 +63,12 @@ AyarlarPenceresi::AyarlarPenceresi(Program& program) : Diyalog(program.FormAyarl
     kaydet->setDefault(true);
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
     IptalDugmesi(iptal);
-    QHBoxLayout* serit = DugmeSeridi(
-        {kaydet, DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }), iptal});
-    serit->insertWidget(0, DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }));
+    auto* uygula = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
+    auto* varsayilan = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
     sutun->addWidget(sayfalar, 1);
-    sutun->addLayout(serit);
+    sutun->addLayout(DugmeSeridi({kaydet, uygula, iptal}, {varsayilan}));
     setWindowTitle(QMetin(ekran->baslik));
+    findChild<QWidget*>(QStringLiteral("UyariGun"))->setFocus();
 }
 
 QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
@@ -88,7 +88,7 @@ QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
     auto* liste = new QComboBox;
     Adlandir(*liste, QStringLiteral("GunduzGece"), QMetin(ekran.gunduzGeceBaslik));
     Bag().Bagla(*liste, ekran.GunduzGece);
-    sira->addWidget(new QLabel(QMetin(ekran.gunduzGeceBaslik)));
+    sira->addWidget(EtiketYap(QMetin(ekran.gunduzGeceBaslik), *liste));
     sira->addWidget(liste);
     sira->addStretch(1);
     sutun->addLayout(sira);
@@ -127,17 +127,17 @@ QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
 
 void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler,
                                       FormAyarlar& ekran) {
-    QString yazi = QMetin(renkler.baslik);
+    const QString yazi = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
+    QWidget* zemin = RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
     if (renkler.onay != nullptr) {
-        OnayKutusu& model = ekran.*renkler.onay;
-        yazi = QMetin(model.baslik);
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
-        izgara.addWidget(OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), model),
-                         satir, 0);
+        izgara.addWidget(
+            OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), ekran.*renkler.onay),
+            satir, 0);
     } else {
-        izgara.addWidget(new QLabel(yazi), satir, 0);
+        izgara.addWidget(EtiketYap(yazi, *zemin), satir, 0);
     }
-    izgara.addWidget(RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi), satir, 1);
+    izgara.addWidget(zemin, satir, 1);
     if (renkler.yazi != kRenkYok)
         izgara.addWidget(RenkKutusu(ekran, renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
 }

@@ -36,6 +36,7 @@ MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : Diyalog(program.FormMen
     sutun->addWidget(liste, 1);
     sutun->addLayout(ListeDugmeleri(ekran));
     setWindowTitle(QMetin(ekran->baslik));
+    liste->setFocus();
     resize(640, 380);
 }
 

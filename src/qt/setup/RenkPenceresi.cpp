@@ -123,6 +123,7 @@ RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut())
     sutun->addLayout(ust);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
     setWindowTitle(QMetin(ekran->baslik));
+    findChild<QWidget*>(QStringLiteral("txtRed"))->setFocus();
 }
 
 } // namespace velora
