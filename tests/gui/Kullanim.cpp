@@ -20,7 +20,16 @@ namespace {
 
 constexpr int kEnCokTur = 1'000; // of the event loop, until an awaited window must have come
 
-constexpr int kEnCokFazla = 20; // windows that none was prepared for, each the answer to the closing of another
+constexpr int kEnCokFazla =
+    20; // windows that none was prepared for, each the answer to the closing of another
+
+/// What a window manager does when a window over this one has closed; there may be none.
+void Etkinlestir(QWidget* pencere) {
+    if (pencere == nullptr || !pencere->isVisible())
+        return;
+    pencere->activateWindow();
+    QVERIFY(QTest::qWaitFor([pencere] { return QApplication::activeWindow() == pencere; }));
+}
 
 } // namespace
 
@@ -35,6 +44,7 @@ void Yaz(const QString& metin) {
 
 void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
     const QPointer<QWidget> onceki = QApplication::activeModalWidget();
+    const QPointer<QWidget> altta = QApplication::activeWindow();
     std::size_t sira = 0;
     int tur = 0;
     QTimer saat;
@@ -48,7 +58,8 @@ void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
         saat.stop();
         tur = 0;
         auto* pencere = qobject_cast<QDialog*>(simdi);
-        if (sira < isler.size() && pencere != nullptr && QTest::qWaitFor([&] { return QApplication::activeWindow() == pencere; }))
+        if (sira < isler.size() && pencere != nullptr &&
+            QTest::qWaitFor([&] { return QApplication::activeWindow() == pencere; }))
             isler[sira](*pencere);
         if (++sira > isler.size() + kEnCokFazla)
             qFatal("Windows without end.");
@@ -58,6 +69,8 @@ void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
     });
     saat.start(0);
     ac();
+    saat.stop();
+    Etkinlestir(altta);
     QCOMPARE(sira, isler.size());
 }
 
