@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <set>
+#include <utility>
 #include <vector>
 
 #include <QAbstractButton>
@@ -36,21 +38,6 @@ QChar VarolanTus(const QString& metin) {
     return yer < 0 || yer + 1 == metin.size() ? QChar() : Tus(metin[yer + 1]);
 }
 
-/// Where the mark goes: before the first free letter that begins a word, else before the first free letter; -1 for
-/// none.
-qsizetype IsaretYeri(const QString& metin, const Tuslar& alinan) {
-    qsizetype ortada = -1;
-    for (qsizetype i = 0; i < metin.size(); ++i) {
-        if (!metin[i].isLetter() || metin[i] == kNoktaliBuyukI || alinan.contains(Tus(metin[i])))
-            continue;
-        if (i == 0 || !metin[i - 1].isLetter())
-            return i;
-        if (ortada < 0)
-            ortada = i;
-    }
-    return ortada;
-}
-
 QWidget* Sayfasi(QWidget* parca) {
     for (; parca != nullptr; parca = parca->parentWidget())
         if (qobject_cast<QStackedWidget*>(parca->parentWidget()) != nullptr)
@@ -70,7 +57,7 @@ bool AlanAdi(const QLabel& etiket) {
     return etiket.buddy() != nullptr && etiket.buddy()->focusPolicy() != Qt::NoFocus;
 }
 
-/// All captions of a window, those of the buttons that are seen with every page first.
+/// All captions of a window.
 std::vector<Yazi> Yazilar(const QWidget& pencere) {
     std::vector<Yazi> yazilar;
     for (QWidget* parca : pencere.findChildren<QWidget*>()) {
@@ -85,31 +72,98 @@ std::vector<Yazi> Yazilar(const QWidget& pencere) {
         else if (auto* sayfalar = qobject_cast<QTabWidget*>(parca); sayfalar != nullptr)
             SekmeleriEkle(yazilar, *sayfalar);
     }
-    std::ranges::stable_partition(yazilar, [](const Yazi& yazi) { return yazi.sayfa == nullptr; });
     return yazilar;
+}
+
+/// Places of a caption that its mark may stand before, the best first: the letters that begin a word.
+std::vector<qsizetype> Adaylar(const QString& metin, const Tuslar& dolu) {
+    std::vector<qsizetype> yerler;
+    for (const bool basta : {true, false})
+        for (qsizetype i = 0; i < metin.size(); ++i)
+            if (metin[i].isLetter() && metin[i] != kNoktaliBuyukI && !dolu.contains(Tus(metin[i])) &&
+                basta == (i == 0 || !metin[i - 1].isLetter()))
+                yerler.push_back(i);
+    return yerler;
+}
+
+/// Gives out keys so that as many captions as can be have one: a caption that finds none free takes the key of one that
+/// can do with another.
+class Dagitim {
+  public:
+    Dagitim(std::vector<Yazi*> yazilar, const Tuslar& dolu) : yazilar_(std::move(yazilar)) {
+        for (const Yazi* yazi : yazilar_)
+            adaylar_.push_back(Adaylar(yazi->metin, dolu));
+        for (std::size_t i = 0; i < yazilar_.size(); ++i) {
+            denenen_.clear();
+            YerBul(i);
+        }
+    }
+
+    void Koy() const {
+        for (const auto& [tus, secim] : secimler_) {
+            Yazi& yazi = *yazilar_[secim.yazi];
+            yazi.metin.insert(secim.yer, u'&');
+            yazi.koy(yazi.metin);
+        }
+    }
+
+  private:
+    struct Secim {
+        std::size_t yazi;
+        qsizetype yer;
+    };
+
+    bool YerBul(std::size_t i) {
+        for (const bool bosken : {true, false})
+            for (const qsizetype yer : adaylar_[i]) {
+                const QChar tus = Tus(yazilar_[i]->metin[yer]);
+                const auto eski = secimler_.find(tus);
+                const bool bos = eski == secimler_.end();
+                if (bos != bosken || (!bos && (denenen_.contains(tus) || !Birakir(tus, eski->second.yazi))))
+                    continue;
+                secimler_[tus] = {i, yer};
+                return true;
+            }
+        return false;
+    }
+
+    bool Birakir(QChar tus, std::size_t sahibi) {
+        denenen_.insert(tus);
+        return YerBul(sahibi);
+    }
+
+    std::vector<Yazi*> yazilar_;
+    std::vector<std::vector<qsizetype>> adaylar_;
+    std::map<QChar, Secim> secimler_; // by key
+    Tuslar denenen_;                  // keys that the caption at hand can't get from their owners
+};
+
+/// The captions of one page that have no mark yet get one; null: those that are seen with every page.
+void SayfayaVer(std::vector<Yazi>& yazilar, const QWidget* sayfa) {
+    std::vector<Yazi*> isaretsizler;
+    Tuslar dolu;
+    for (Yazi& yazi : yazilar) {
+        const bool birlikte = sayfa == nullptr || yazi.sayfa == nullptr || yazi.sayfa == sayfa;
+        if (const QChar tus = VarolanTus(yazi.metin); !tus.isNull() && birlikte)
+            dolu.insert(tus);
+        if (yazi.sayfa == sayfa && !yazi.metin.contains(u'&'))
+            isaretsizler.push_back(&yazi);
+    }
+    if (!isaretsizler.empty())
+        Dagitim(std::move(isaretsizler), dolu).Koy();
 }
 
 } // namespace
 
 void ErisimTuslariVer(QWidget& pencere) {
-    const std::vector<Yazi> yazilar = Yazilar(pencere);
-    std::map<QWidget*, Tuslar> alinan; // by page; those of null hold everywhere
+    std::vector<Yazi> yazilar = Yazilar(pencere);
+    std::set<QWidget*> sayfalar;
     for (const Yazi& yazi : yazilar)
-        if (const QChar tus = VarolanTus(yazi.metin); !tus.isNull())
-            alinan[yazi.sayfa].insert(tus);
-    for (const Yazi& yazi : yazilar) {
-        if (yazi.metin.contains(u'&'))
-            continue;
-        Tuslar dolu = alinan[nullptr];
-        for (const auto& [sayfa, tuslar] : alinan)
-            if (yazi.sayfa == nullptr || sayfa == yazi.sayfa)
-                dolu += tuslar;
-        const qsizetype yer = IsaretYeri(yazi.metin, dolu);
-        if (yer < 0)
-            continue;
-        alinan[yazi.sayfa].insert(Tus(yazi.metin[yer]));
-        yazi.koy(QString(yazi.metin).insert(yer, u'&'));
-    }
+        sayfalar.insert(yazi.sayfa);
+    SayfayaVer(yazilar, nullptr);
+    for (const QWidget* sayfa : sayfalar)
+        if (sayfa != nullptr)
+            SayfayaVer(yazilar, sayfa);
 }
 
 } // namespace velora
