@@ -18,8 +18,6 @@ namespace velora::test {
 
 namespace {
 
-constexpr int kEnCokTur = 1'000; // of the event loop, until an awaited window must have come
-
 constexpr int kEnCokFazla =
     20; // windows that none was prepared for, each the answer to the closing of another
 
@@ -46,17 +44,12 @@ void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
     const QPointer<QWidget> onceki = QApplication::activeModalWidget();
     const QPointer<QWidget> altta = QApplication::activeWindow();
     std::size_t sira = 0;
-    int tur = 0;
     QTimer saat;
     QObject::connect(&saat, &QTimer::timeout, &saat, [&] {
         const QPointer<QWidget> simdi = QApplication::activeModalWidget();
-        if (simdi == onceki) {
-            if (++tur == kEnCokTur)
-                saat.stop();
+        if (simdi == nullptr || simdi == onceki)
             return;
-        }
         saat.stop();
-        tur = 0;
         auto* pencere = qobject_cast<QDialog*>(simdi);
         if (sira < isler.size() && pencere != nullptr &&
             QTest::qWaitFor([&] { return QApplication::activeWindow() == pencere; }))

@@ -46,6 +46,7 @@ OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdeme
     IptalDugmesi(iptal);
     sutun->addLayout(form);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(QMetin(ekran->baslik));
     miktar->setFocus();
 }

@@ -99,6 +99,7 @@ RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut())
     auto* ornek = new QLabel;
     Adlandir(*ornek, QStringLiteral("picColorBox"), QStringLiteral("Seçilen renk"));
     ornek->setFixedHeight(kOrnekBoyu);
+    ornek->setFrameShape(QFrame::StyledPanel); // seen also when it is as light as the window
     Bag().Bagla(*ornek, ekran->picColorBox);
     form->addRow(ornek);
     const std::array alanlar{
@@ -122,6 +123,7 @@ RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut())
     IptalDugmesi(iptal);
     sutun->addLayout(ust);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize); // as the chart
     setWindowTitle(QMetin(ekran->baslik));
     findChild<QWidget*>(QStringLiteral("txtRed"))->setFocus();
 }

@@ -52,8 +52,8 @@ SalonAdPenceresi::SalonAdPenceresi(Program& program) : Diyalog(program.FormSalon
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
     IptalDugmesi(iptal);
     sutun->addLayout(form);
-    sutun->addStretch(1);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(QMetin(ekran->baslik));
     ad->setFocus();
     ad->selectAll();
