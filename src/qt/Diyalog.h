@@ -29,16 +29,22 @@ class Diyalog : public QDialog {
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
 
-    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels. Enter adds.
+    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels. Enter
+    /// adds. Where a button can't be pressed any more after its work, the list has the focus again.
     template <class Ekran>
-    QHBoxLayout* ListeDugmeleri(Ekran* ekran) {
+    QHBoxLayout* ListeDugmeleri(Ekran* ekran, QWidget& liste) {
         auto* ekle = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
-        ekle->setDefault(true);
+        auto* duzenle = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
+        auto* sil = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
         auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
+        ekle->setDefault(true);
         IptalDugmesi(kapat);
-        return DugmeSeridi({ekle, DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }),
-                            DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }),
-                            kapat});
+        for (QPushButton* dugme : {duzenle, sil})
+            connect(dugme, &QPushButton::clicked, &liste, [dugme, &liste] {
+                if (!dugme->isEnabled())
+                    liste.setFocus();
+            });
+        return DugmeSeridi({ekle, duzenle, sil, kapat});
     }
 
     void closeEvent(QCloseEvent* olay) override;

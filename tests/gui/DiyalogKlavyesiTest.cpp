@@ -179,6 +179,30 @@ class DiyalogKlavyesiTest : public QObject {
                       }});
     }
 
+    void after_delete_and_edit_the_list_has_the_focus_and_enter_still_adds() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { Ac(firma.program, "FormSalonTanim"); }, {[](QDialog& pencere) {
+                      for (const Qt::Key tus : {Qt::Key_D, Qt::Key_I}) {
+                          QCOMPARE(Odaktaki(), QStringLiteral("List1"));
+                          QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+                          bool kosuldu = false;
+                          const auto ac = [&] {
+                              AltIle(tus);
+                              QTRY_VERIFY(kosuldu);
+                          };
+                          Pencerede(ac, {[&](QDialog& kutu) {
+                                        kosuldu = true;
+                                        QTest::keyClick(&kutu, Qt::Key_Escape);
+                                    }});
+                      }
+                      QCOMPARE(Odaktaki(), QStringLiteral("List1"));
+                      QVERIFY(Parcasi<QPushButton>(pencere, "Command1").isDefault());
+                      Pencerede([&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); },
+                                {Girdi(QStringLiteral(" "))});
+                  }});
+    }
+
     void access_keys_lead_to_fields_press_buttons_and_turn_pages() {
         GuiFirma firma;
         firma.Ac();

@@ -31,7 +31,7 @@ SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : Diyalog(program.For
     Bag().Bagla(*liste, ekran->List1, [ekran] { ekran->List1_Click(); });
     sutun->addWidget(EtiketYap(QMetin(ekran->Label8.baslik), *liste));
     sutun->addWidget(liste, 1);
-    sutun->addLayout(ListeDugmeleri(ekran));
+    sutun->addLayout(ListeDugmeleri(ekran, *liste));
     setWindowTitle(QMetin(ekran->baslik));
     liste->setFocus();
     resize(460, 340);
