@@ -10,6 +10,8 @@ namespace velora {
 
 namespace {
 
+constexpr int kGirdiEni = 360; // room for a name
+
 QMessageBox::Icon KutuSimgesi(Simge simge) {
     switch (simge) {
     case Simge::Soru:
@@ -52,6 +54,7 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     pencere.setTextValue(QMetin(kutu.baslangic));
     pencere.setOkButtonText(QStringLiteral("Tamam"));
     pencere.setCancelButtonText(QStringLiteral("İptal"));
+    pencere.setMinimumWidth(kGirdiEni);
     return pencere.exec() == QInputDialog::Accepted ? MetinYap(pencere.textValue()) : Metin();
 }
 
