@@ -1,6 +1,7 @@
 #include "qt/Kutular.h"
 
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -54,7 +55,9 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     pencere.setTextValue(QMetin(kutu.baslangic));
     pencere.setOkButtonText(QStringLiteral("Tamam"));
     pencere.setCancelButtonText(QStringLiteral("İptal"));
-    pencere.setMinimumWidth(kGirdiEni);
+    // The dialog takes its own smallest size from what stands in it.
+    if (auto* alan = pencere.findChild<QLineEdit*>())
+        alan->setMinimumWidth(kGirdiEni);
     return pencere.exec() == QInputDialog::Accepted ? MetinYap(pencere.textValue()) : Metin();
 }
 
