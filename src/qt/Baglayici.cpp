@@ -140,8 +140,11 @@ void Baglayici::Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tikl
         dugme.setFocus(Qt::OtherFocusReason);
         Calistir(tiklandi);
     });
-    Izle([&dugme, &model] {
-        dugme.setText(QMetin(model.baslik));
+    Izle([&dugme, &model, konan = Metin()]() mutable {
+        // The window may have put an access key into the text.
+        if (konan != model.baslik)
+            dugme.setText(QMetin(model.baslik));
+        konan = model.baslik;
         dugme.setToolTip(QIpucu(model.ipucu));
         dugme.setEnabled(model.etkin);
         dugme.setVisible(model.gorunur);

@@ -67,10 +67,11 @@ class Baglayici : public QObject {
     /// A list that hasn't the focus passes the wheel on: it turns what lies under the pointer, not a choice.
     void Bagla(QComboBox& kutu, AcilirListe& model);
     void Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi);
-    /// `secildi` runs when the user marks another row or clicks on the marked one, `ciftTiklandi` on a double click.
+    /// `secildi` runs when the user marks a row, also on a press on the one that is marked already; a press on
+    /// another row runs it twice. `ciftTiklandi` runs on a double click. Only the model takes a mark away.
     void Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& secildi = {},
                const Isleyici& ciftTiklandi = {});
-    /// A plain list; `secildi` runs when the user marks another entry or clicks on the marked one.
+    /// A plain list; `secildi` as above.
     void Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi = {});
     void Bagla(QLabel& etiket, Etiket& model);
     /// A timer that runs as long as the model's interval isn't 0. One that runs is started again only by

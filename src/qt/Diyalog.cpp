@@ -1,10 +1,13 @@
 #include "qt/Diyalog.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPushButton>
 
 #include "qt/Baglayici.h"
+#include "qt/ErisimTuslari.h"
 
 namespace velora {
 
@@ -30,6 +33,13 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
 void Diyalog::reject() {
     if (iptal_ != nullptr && iptal_->isEnabled())
         iptal_->click();
+}
+
+void Diyalog::showEvent(QShowEvent* olay) {
+    // Only now all captions are there, and they may change while the window stands.
+    if (!std::exchange(tuslandi_, true))
+        baglayici_->Izle([this] { ErisimTuslariVer(*this); });
+    QDialog::showEvent(olay);
 }
 
 void Diyalog::closeEvent(QCloseEvent* olay) {

@@ -4,10 +4,9 @@
 #include <memory>
 
 #include <QDialog>
+#include <QPushButton>
 
 #include "qt/Yerlesimler.h"
-
-class QPushButton;
 
 namespace velora {
 
@@ -15,7 +14,8 @@ class Baglayici;
 struct Dugme;
 
 /// The window of a screen that stands over others. Its X and the Esc key press the screen's own cancel button, and do
-/// nothing while that one is disabled: what closing means is the screen's to say.
+/// nothing while that one is disabled: what closing means is the screen's to say. Its captions get access keys when it
+/// is first shown.
 class Diyalog : public QDialog {
   public:
     explicit Diyalog(std::weak_ptr<const void> ekran);
@@ -32,22 +32,31 @@ class Diyalog : public QDialog {
     /// focus comes before both.
     void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
 
-    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
+    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels. Enter
+    /// adds. Where a button can't be pressed any more after its work, the list has the focus again.
     template <class Ekran>
-    QHBoxLayout* ListeDugmeleri(Ekran* ekran) {
+    QHBoxLayout* ListeDugmeleri(Ekran* ekran, QWidget& liste) {
+        auto* ekle = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+        auto* duzenle = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
+        auto* sil = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
         auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
+        ekle->setDefault(true);
         IptalDugmesi(kapat);
-        return DugmeSeridi({DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }),
-                            DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }),
-                            DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }),
-                            kapat});
+        for (QPushButton* dugme : {duzenle, sil})
+            connect(dugme, &QPushButton::clicked, &liste, [dugme, &liste] {
+                if (!dugme->isEnabled())
+                    liste.setFocus();
+            });
+        return DugmeSeridi({ekle, duzenle, sil, kapat});
     }
 
     void closeEvent(QCloseEvent* olay) override;
+    void showEvent(QShowEvent* olay) override;
 
   private:
     Baglayici* baglayici_;
     QPushButton* iptal_ = nullptr;
+    bool tuslandi_ = false; // the captions have their access keys
 };
 
 } // namespace velora

@@ -2,12 +2,17 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include <QApplication>
+#include <QFrame>
+#include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace velora {
 
@@ -39,10 +44,57 @@ constexpr std::array<std::pair<QPalette::ColorRole, QRgb>, 18> kRenkler{{
 constexpr std::array kSolgunlar{QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
 constexpr QRgb kSolgun = qRgb(150, 154, 158);
 
+constexpr int kSatirPayi = 6;           // what a row of a list is higher than its text
+constexpr int kDugmePayi = 3 * kAralik; // what a button is wider than its text, at least
+
+/// What we want otherwise than the style that all windows are drawn in.
+class Bicim : public QProxyStyle {
+  public:
+    Bicim() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    /// The button that Enter presses is filled with the accent.
+    void drawControl(ControlElement parca, const QStyleOption* secenek, QPainter* firca,
+                     const QWidget* widget) const override {
+        const auto* dugme = qstyleoption_cast<const QStyleOptionButton*>(secenek);
+        if (parca != CE_PushButton || dugme == nullptr || !(dugme->state & State_Enabled) ||
+            !dugme->features.testFlag(QStyleOptionButton::DefaultButton))
+            return QProxyStyle::drawControl(parca, secenek, firca, widget);
+        QStyleOptionButton dolu = *dugme;
+        dolu.palette.setColor(QPalette::Button, dolu.palette.color(QPalette::Highlight));
+        dolu.palette.setColor(QPalette::ButtonText, dolu.palette.color(QPalette::HighlightedText));
+        QProxyStyle::drawControl(parca, &dolu, firca, widget);
+    }
+
+    /// The frame of lists and of fields of many lines: whole at every scale, and it shows the focus.
+    void drawPrimitive(PrimitiveElement parca, const QStyleOption* secenek, QPainter* firca,
+                       const QWidget* widget) const override {
+        if (parca != PE_Frame || qobject_cast<const QFrame*>(widget) == nullptr ||
+            widget->inherits("QComboBoxPrivateContainer"))
+            return QProxyStyle::drawPrimitive(parca, secenek, firca, widget);
+        const QColor renk =
+            secenek->palette.color(secenek->state & State_HasFocus ? QPalette::Highlight : QPalette::Mid);
+        const QRect yer = secenek->rect;
+        firca->fillRect(yer.left(), yer.top(), yer.width(), 1, renk);
+        firca->fillRect(yer.left(), yer.bottom(), yer.width(), 1, renk);
+        firca->fillRect(yer.left(), yer.top(), 1, yer.height(), renk);
+        firca->fillRect(yer.right(), yer.top(), 1, yer.height(), renk);
+    }
+
+    QSize sizeFromContents(ContentsType tur, const QStyleOption* secenek, const QSize& icerik,
+                           const QWidget* widget) const override {
+        QSize boy = QProxyStyle::sizeFromContents(tur, secenek, icerik, widget);
+        if (tur == CT_ItemViewItem)
+            boy.rheight() += kSatirPayi;
+        if (tur == CT_PushButton)
+            boy.setWidth(std::max(boy.width(), icerik.width() + kDugmePayi));
+        return boy;
+    }
+};
+
 } // namespace
 
 void GorunumuKur() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Bicim);
     QPalette palet;
     for (const auto& [rol, renk] : kRenkler)
         palet.setColor(rol, QColor(renk));

@@ -12,6 +12,8 @@ namespace velora {
 
 namespace {
 
+constexpr int kGirdiEni = 360; // room for a name
+
 QMessageBox::Icon KutuSimgesi(Simge simge) {
     switch (simge) {
     case Simge::Soru:
@@ -66,6 +68,8 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     pencere.setCancelButtonText(QStringLiteral("İptal"));
     auto* satir = pencere.findChild<QLineEdit*>();
     GirdiyiDenetle(*satir);
+    // The dialog takes its own smallest size from what stands in it.
+    satir->setMinimumWidth(kGirdiEni);
     // Of the line itself: the box is still told of the text as it was before it was made to fit.
     return pencere.exec() == QInputDialog::Accepted ? MetinYap(satir->text()) : Metin();
 }

@@ -1,16 +1,14 @@
 // The binder's list view: it rebuilds its rows only when the model has others.
 #include <algorithm>
+#include <utility>
 
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
-#include "qt/Gorunum.h"
 
 namespace velora {
 
@@ -24,15 +22,6 @@ bool AyniSatir(const ListeSatiri& bir, const ListeSatiri& iki) {
 QString TekSatir(const Metin& metin) {
     return QMetin(metin).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ');
 }
-
-/// Rows with room between their texts.
-class FerahSatir : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& secenek, const QModelIndex& sira) const override {
-        return QStyledItemDelegate::sizeHint(secenek, sira) + QSize(0, kAralik / 2);
-    }
-};
 
 constexpr Qt::Alignment kSaga = Qt::AlignRight | Qt::AlignVCenter;
 
@@ -61,47 +50,57 @@ void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     liste.addTopLevelItems(ogeler);
 }
 
-/// Index of the marked row, -1 for none. The cursor may stand on a row that isn't marked: the focus alone puts it there.
-int IsaretliSira(const QTreeWidget& liste) {
-    const auto isaretli = liste.selectedItems();
-    return isaretli.isEmpty() ? -1 : liste.indexOfTopLevelItem(isaretli.first());
+/// Marks a row, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that the model still has.
+void Isaretle(QAbstractItemView& liste, int secili) {
+    const QModelIndex satir = liste.model()->index(secili, 0);
+    if (!satir.isValid()) {
+        // Told in so many words that it has no row, the view doesn't take its first one when it gets the focus.
+        liste.setCurrentIndex({});
+        liste.clearSelection();
+    } else if (!liste.selectionModel()->isSelected(satir) || liste.currentIndex().row() != secili) {
+        liste.selectionModel()->setCurrentIndex(satir, QItemSelectionModel::ClearAndSelect |
+                                                           QItemSelectionModel::Rows);
+    }
 }
 
-int IsaretliSira(const QListWidget& liste) {
-    const auto isaretli = liste.selectedItems();
-    return isaretli.isEmpty() ? -1 : liste.row(isaretli.first());
-}
-
-/// The focus alone puts the cursor on the first row and marks nothing. An arrow key then marks that row before the
-/// next ones go on from it: otherwise a list of one row could not be marked by the keys.
-class OkTuslari : public QObject {
+/// The space bar on a row is a press on it: the marked row can be chosen again without the mouse.
+class BoslukTusu : public QObject {
   public:
-    explicit OkTuslari(QAbstractItemView& liste) : QObject(&liste), liste_(liste) {
+    BoslukTusu(QAbstractItemView& liste, Baglayici::Isleyici basildi)
+        : QObject(&liste), liste_(liste), basildi_(std::move(basildi)) {
         liste.installEventFilter(this);
     }
 
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        const QModelIndex imlec = liste_.currentIndex();
-        if (olay->type() != QEvent::KeyPress || !imlec.isValid() || liste_.selectionModel()->hasSelection())
+        if (olay->type() != QEvent::KeyPress || dynamic_cast<QKeyEvent&>(*olay).key() != Qt::Key_Space ||
+            !liste_.currentIndex().isValid())
             return QObject::eventFilter(nesne, olay);
-        const int tus = dynamic_cast<QKeyEvent&>(*olay).key();
-        if (tus != Qt::Key_Up && tus != Qt::Key_Down)
-            return QObject::eventFilter(nesne, olay);
-        liste_.setCurrentIndex(imlec);
+        basildi_();
         return true;
     }
 
   private:
     QAbstractItemView& liste_;
+    Baglayici::Isleyici basildi_;
 };
 
-void SeciliyiIsaretle(QTreeWidget& liste, int secili) {
-    QTreeWidgetItem* oge = liste.topLevelItem(secili);
-    if (IsaretliSira(liste) == (oge == nullptr ? -1 : secili))
-        return;
-    liste.setCurrentItem(oge);
-    if (oge == nullptr)
-        liste.clearSelection();
+/// What the user does to the marks of a list, of either kind.
+template <class Liste, class Model>
+void IsaretiDinle(Baglayici& baglayici, Liste& liste, Model& model, const Baglayici::Isleyici& secildi) {
+    const auto isaretlendi = [&baglayici, &liste, &model, secildi] {
+        baglayici.Calistir([&liste, &model, &secildi] {
+            model.secili = liste.currentIndex().row();
+            if (secildi)
+                secildi();
+        });
+    };
+    QObject::connect(&liste, &Liste::currentItemChanged, &baglayici, isaretlendi);
+    QObject::connect(&liste, &Liste::itemPressed, &baglayici, isaretlendi);
+    new BoslukTusu(liste, isaretlendi);
+    QObject::connect(&liste, &Liste::itemSelectionChanged, &baglayici, [&liste] {
+        if (!liste.selectionModel()->hasSelection())
+            Baglayici::HepsiniTazele();
+    });
 }
 
 } // namespace
@@ -111,18 +110,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
-    new OkTuslari(liste);
-    liste.setItemDelegate(new FerahSatir(&liste));
-    const auto isaretle = [this, &liste, &model, secildi] {
-        Calistir([&liste, &model, &secildi] {
-            model.secili = IsaretliSira(liste);
-            if (secildi && model.secili >= 0)
-                secildi();
-        });
-    };
-    connect(&liste, &QTreeWidget::itemSelectionChanged, this, isaretle);
-    // A click on the row that is marked already counts as well.
-    connect(&liste, &QTreeWidget::itemClicked, this, isaretle);
+    IsaretiDinle(*this, liste, model, secildi);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Calistir(ciftTiklandi); });
     Izle([&liste, &model, konan = ListeGorunumu()]() mutable {
         const QSignalBlocker sus(&liste);
@@ -131,21 +119,12 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
         if (!std::ranges::equal(konan.satirlar, model.satirlar, AyniSatir))
             SatirlariKoy(liste, model);
         konan = model;
-        SeciliyiIsaretle(liste, model.secili);
+        Isaretle(liste, model.secili);
     });
 }
 
 void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi) {
-    new OkTuslari(liste);
-    const auto isaretle = [this, &liste, &model, secildi] {
-        Calistir([&liste, &model, &secildi] {
-            model.secili = IsaretliSira(liste);
-            if (secildi)
-                secildi();
-        });
-    };
-    connect(&liste, &QListWidget::itemSelectionChanged, this, isaretle);
-    connect(&liste, &QListWidget::itemClicked, this, isaretle);
+    IsaretiDinle(*this, liste, model, secildi);
     Izle([&liste, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&liste);
         if (konan != model.ogeler) {
@@ -154,8 +133,7 @@ void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& se
                 liste.addItem(QMetin(oge));
             konan = model.ogeler;
         }
-        if (IsaretliSira(liste) != model.secili)
-            liste.setCurrentRow(model.secili);
+        Isaretle(liste, model.secili);
     });
 }
 

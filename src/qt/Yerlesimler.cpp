@@ -1,7 +1,10 @@
 #include "qt/Yerlesimler.h"
 
+#include <algorithm>
+
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 
 #include "qt/Gorunum.h"
@@ -24,18 +27,32 @@ QFormLayout* FormKur() {
     return form;
 }
 
-QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> dugmeler) {
+QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
+                         std::initializer_list<QPushButton*> soldakiler) {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    serit->addStretch(1);
-    for (QPushButton* dugme : dugmeler)
+    QPushButton* onceki = nullptr;
+    const auto ekle = [&](QPushButton* dugme) {
         serit->addWidget(dugme);
+        if (onceki != nullptr)
+            QWidget::setTabOrder(onceki, dugme);
+        onceki = dugme;
+    };
+    std::ranges::for_each(soldakiler, ekle);
+    serit->addStretch(1);
+    std::ranges::for_each(sagdakiler, ekle);
     return serit;
 }
 
-void Adlandir(QWidget& parca, const QString& ad, QString yazi) {
+QLabel* EtiketYap(const QString& yazi, QWidget& alan) {
+    auto* etiket = new QLabel(yazi);
+    etiket->setBuddy(&alan);
+    return etiket;
+}
+
+void Adlandir(QWidget& parca, const QString& ad, const QString& yazi) {
     parca.setObjectName(ad);
-    parca.setAccessibleName(yazi.remove(u'&'));
+    parca.setAccessibleName(yazi);
 }
 
 } // namespace velora

@@ -6,6 +6,7 @@
 
 class QFormLayout;
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 class QWidget;
@@ -20,10 +21,15 @@ QVBoxLayout* SutunKur(QWidget& parca);
 /// Labels in one aligned column, fields beside them.
 QFormLayout* FormKur();
 
-/// A row of buttons at the lower right.
-QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> dugmeler);
+/// A row of buttons of one window, at the lower right, with some of them at the left end, if any. Tab walks them from
+/// left to right.
+QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
+                         std::initializer_list<QPushButton*> soldakiler = {});
 
-/// The name of a widget's control, and what it is called for those who can't see it; `yazi` may mark an access key.
-void Adlandir(QWidget& parca, const QString& ad, QString yazi);
+/// A label that names a field: its access key leads there.
+QLabel* EtiketYap(const QString& yazi, QWidget& alan);
+
+/// The name of a widget's control, and what it is called for those who can't see it.
+void Adlandir(QWidget& parca, const QString& ad, const QString& yazi);
 
 } // namespace velora

@@ -98,15 +98,18 @@ class QtOrtamTest : public QObject {
     void an_input_box_gives_what_was_typed() {
         QString tamam;
         QString iptal;
+        int alan = 0; // its width
         Kutuda<QInputDialog>([&](QInputDialog& kutu) {
             tamam = kutu.okButtonText();
             iptal = kutu.cancelButtonText();
+            alan = kutu.findChild<QLineEdit*>()->width();
             QTest::keyClicks(kutu.findChild<QLineEdit*>(), QStringLiteral("Salon 3"));
             QTest::keyClick(&kutu, Qt::Key_Return);
         });
         QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}), Metin(u"Salon 3"));
         QCOMPARE(tamam, QStringLiteral("Tamam"));
         QCOMPARE(iptal, QStringLiteral("İptal"));
+        QVERIFY(alan >= 300);
     }
 
     void an_input_box_drops_keys_that_no_file_holds_and_makes_pasted_text_fit() {

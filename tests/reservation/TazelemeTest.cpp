@@ -71,7 +71,7 @@ TEST_F(TazelemeTest, A_save_refreshes_report_search_and_warnings_then_scans_look
 TEST_F(TazelemeTest, A_search_whose_only_match_was_renamed_says_once_that_it_found_nothing) {
     Prog().FormArama->Text[1].metin = u"veli";
     Prog().FormArama.Goster();
-    kullanici.Tablo().Picture1.gorunur = false;
+    kullanici.Tablo().Command2_Click();
     KayitAc([&] {
         Yaz(1, u"Can Yılmaz");
         KutuBekle(u"Hiç kayıt bulunamadı!");
@@ -92,7 +92,6 @@ TEST_F(TazelemeTest, Lists_that_still_find_the_record_show_it_as_it_was_saved_an
 }
 
 TEST_F(TazelemeTest, A_save_loads_neither_report_nor_search) {
-    kullanici.Tablo();
     YeniKayit(
         [&] {
             Doldur();

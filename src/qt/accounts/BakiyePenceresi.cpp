@@ -27,14 +27,12 @@ namespace {
 constexpr std::array kSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
 constexpr int kSecimEni = 300; // of the two lists to choose from
 
-/// A field with its caption before it; `yazi` has the access key marked.
+/// A field with its caption before it.
 template <class Parca>
 Parca* AlanEkle(QGridLayout& izgara, int satir, int sutun, const char* ad, const QString& yazi) {
     auto* parca = new Parca;
-    auto* etiket = new QLabel(yazi);
     Adlandir(*parca, QString::fromLatin1(ad), yazi);
-    etiket->setBuddy(parca);
-    izgara.addWidget(etiket, satir, sutun);
+    izgara.addWidget(EtiketYap(yazi, *parca), satir, sutun);
     izgara.addWidget(parca, satir, sutun + 1);
     return parca;
 }
@@ -64,12 +62,12 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.
 
 void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
     izgara.setSpacing(kAralik);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("&Salon Adı")), ekran->Combo2);
-    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("&Başlangıç Tarihi")),
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("Salon Adı")), ekran->Combo2);
+    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("Başlangıç Tarihi")),
                 ekran->DTPicker1);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon &Tipi")),
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon Tipi")),
                 ekran->Combo1);
-    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("B&itiş Tarihi")),
+    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("Bitiş Tarihi")),
                 ekran->DTPicker2);
     auto* listele = DugmeYap("ListeleGun", ekran->Listele, [ekran] { ekran->ListeleGun(); });
     listele->setDefault(true);

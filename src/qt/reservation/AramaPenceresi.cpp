@@ -19,8 +19,8 @@ namespace velora {
 
 namespace {
 
-constexpr std::array<const char16_t*, FormArama::kOlcutSayisi> kAlanlar{
-    u"&Adı Soyadı", u"&Gelin / Damat", u"&Telefon", u"&Cep", u"&Sözleşme No"};
+constexpr std::array<const char16_t*, FormArama::kOlcutSayisi> kAlanlar{u"Adı Soyadı", u"Gelin / Damat",
+                                                                        u"Telefon", u"Cep", u"Sözleşme No"};
 constexpr int kAlanEni = 380;
 // The columns of the names share what is left.
 constexpr int kKalan = 0;

@@ -35,21 +35,21 @@ struct AlanYazisi {
 };
 
 // The first page, column by column.
-constexpr std::array<AlanYazisi, 8> kSolAlanlar{{{1, u"&Adı Soyadı", u""},
-                                                 {2, u"&Yöresi", u""},
-                                                 {3, u"&Gelin / Damat", u""},
-                                                 {4, u"&Niteliği", u""},
-                                                 {5, u"&Telefon", u""},
-                                                 {6, u"&Cep", u""},
-                                                 {7, u"A&dres", u""},
-                                                 {8, u"Toplam &Ücret", u"TL"}}};
-constexpr std::array<AlanYazisi, 7> kSagAlanlar{{{11, u"Ö&n Açıklama", u""},
-                                                 {12, u"&Başlama Saati", u""},
-                                                 {15, u"Bit&iş Saati", u""},
-                                                 {13, u"Sözleşme Tari&hi", u"(gün.ay.yıl)"},
-                                                 {14, u"Sözleşme N&o", u""},
-                                                 {16, u"T.C. &Kimlik No", u""},
-                                                 {17, u"Da&vetli Sayısı", u""}}};
+constexpr std::array<AlanYazisi, 8> kSolAlanlar{{{1, u"Adı Soyadı", u""},
+                                                 {2, u"Yöresi", u""},
+                                                 {3, u"Gelin / Damat", u""},
+                                                 {4, u"Niteliği", u""},
+                                                 {5, u"Telefon", u""},
+                                                 {6, u"Cep", u""},
+                                                 {7, u"Adres", u""},
+                                                 {8, u"Toplam Ücret", u"TL"}}};
+constexpr std::array<AlanYazisi, 7> kSagAlanlar{{{11, u"Ön Açıklama", u""},
+                                                 {12, u"Başlama Saati", u""},
+                                                 {15, u"Bitiş Saati", u""},
+                                                 {13, u"Sözleşme Tarihi", u"(gün.ay.yıl)"},
+                                                 {14, u"Sözleşme No", u""},
+                                                 {16, u"T.C. Kimlik No", u""},
+                                                 {17, u"Davetli Sayısı", u""}}};
 constexpr std::array kCokSatirlilar{7, 11};
 constexpr std::array kKisalar{8, 12, 13, 14, 15, 18};
 
@@ -124,8 +124,7 @@ QWidget* KayitPenceresi::AlanYap(int no) {
 void KayitPenceresi::AlanEkle(QFormLayout& form, int no, const QString& yazi, const QString& ardindan) {
     QWidget* kutu = AlanYap(no);
     Adlandir(*kutu, AlanAdi("Kay", no), yazi);
-    auto* etiket = new QLabel(yazi);
-    etiket->setBuddy(kutu);
+    QLabel* etiket = EtiketYap(yazi, *kutu);
     if (!Icinde(kKisalar, no)) {
         kutu->setMinimumWidth(kAlanEni);
         form.addRow(etiket, kutu);
@@ -182,8 +181,8 @@ QWidget* KayitPenceresi::DurumSecimi() {
     auto* satir = new QHBoxLayout(parca);
     satir->setContentsMargins(0, 0, 0, 0);
     satir->setSpacing(2 * kAralik);
-    const std::array secenekler{std::pair{u"&Kesin Rezervasyon", &ekran_.Option1},
-                                std::pair{u"Ön &Rezervasyon", &ekran_.Option2}};
+    const std::array secenekler{std::pair{u"Kesin Rezervasyon", &ekran_.Option1},
+                                std::pair{u"Ön Rezervasyon", &ekran_.Option2}};
     int no = 0;
     for (const auto& [yazi, model] : secenekler) {
         auto* dugme = new QRadioButton(QString::fromUtf16(yazi));
@@ -225,11 +224,10 @@ QWidget* KayitPenceresi::MenuSayfasi() {
     auto* metin = new QPlainTextEdit;
     Adlandir(*metin, QStringLiteral("Label20"), QStringLiteral("Menü içeriği"));
     Bag().Bagla(*metin, ekran_.Label20);
-    auto* baslik = new QLabel(QStringLiteral("Özel &İstekler ve Açıklamalar"));
     auto* aciklama = new QPlainTextEdit;
+    QLabel* baslik = EtiketYap(QStringLiteral("Özel İstekler ve Açıklamalar"), *aciklama);
     Adlandir(*aciklama, QStringLiteral("Aciklamalar"), baslik->text());
     Bag().Bagla(*aciklama, ekran_.Aciklamalar);
-    baslik->setBuddy(aciklama);
     sutun->addWidget(secim);
     sutun->addWidget(metin, 1);
     sutun->addSpacing(kAralik);

@@ -34,11 +34,11 @@ OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdeme
     FormOdemeAl* ekran = tut.get();
     QVBoxLayout* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih &Seçin")), ekran->DTPicker1);
-    auto* miktar = AlanEkle<QLineEdit>(*form, "Text1", QStringLiteral("&Miktar Girin"));
+    Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih Seçin")), ekran->DTPicker1);
+    auto* miktar = AlanEkle<QLineEdit>(*form, "Text1", QStringLiteral("Miktar Girin"));
     miktar->setAlignment(Qt::AlignRight);
     Bag().Bagla(*miktar, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
-    Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("&Açıklama")), ekran->Aciklama);
+    Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("Açıklama")), ekran->Aciklama);
     auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
     tamam->setDefault(true);
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
@@ -46,6 +46,7 @@ OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdeme
     IptalDugmesi(iptal);
     sutun->addLayout(form);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(QMetin(ekran->baslik));
     miktar->setFocus();
 }

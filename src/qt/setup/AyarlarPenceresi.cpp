@@ -34,20 +34,17 @@ QCheckBox* OnayYap(Baglayici& baglayici, const QString& ad, OnayKutusu& model) {
     return kutu;
 }
 
-QHBoxLayout* GunSatiri(Baglayici& baglayici, const QString& ad, MetinKutusu& model, const QString& once,
-                       const QString& sonra) {
-    auto* satir = new QHBoxLayout;
-    satir->setSpacing(kAralik);
+void GunSatiriEkle(Baglayici& baglayici, QGridLayout& izgara, const QString& ad, MetinKutusu& model,
+                   const QString& once, const QString& sonra) {
     auto* kutu = new QLineEdit;
     Adlandir(*kutu, ad, once);
     kutu->setFixedWidth(kGunEni);
     kutu->setAlignment(Qt::AlignRight);
     baglayici.Bagla(*kutu, model);
-    satir->addWidget(new QLabel(once));
-    satir->addWidget(kutu);
-    satir->addWidget(new QLabel(sonra));
-    satir->addStretch(1);
-    return satir;
+    const int satir = izgara.rowCount();
+    izgara.addWidget(EtiketYap(once, *kutu), satir, 0);
+    izgara.addWidget(kutu, satir, 1);
+    izgara.addWidget(new QLabel(sonra), satir, 2);
 }
 
 } // namespace
@@ -63,35 +60,36 @@ AyarlarPenceresi::AyarlarPenceresi(Program& program) : Diyalog(program.FormAyarl
     kaydet->setDefault(true);
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
     IptalDugmesi(iptal);
-    QHBoxLayout* serit = DugmeSeridi(
-        {kaydet, DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }), iptal});
-    serit->insertWidget(0, DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }));
+    auto* uygula = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
+    auto* varsayilan = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
     sutun->addWidget(sayfalar, 1);
-    sutun->addLayout(serit);
+    sutun->addLayout(DugmeSeridi({kaydet, uygula, iptal}, {varsayilan}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize); // nothing in it could use more room
     setWindowTitle(QMetin(ekran->baslik));
+    findChild<QWidget*>(QStringLiteral("UyariGun"))->setFocus();
 }
 
 QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
     auto* sayfa = new QWidget;
     auto* sutun = SutunKur(*sayfa);
-    sutun->addLayout(GunSatiri(Bag(), QStringLiteral("UyariGun"), ekran.UyariGun,
-                               QMetin(ekran.uyariGunBaslik), QMetin(ekran.uyariGunSonu)));
-    sutun->addLayout(GunSatiri(Bag(), QStringLiteral("UyariGun2"), ekran.UyariGun2,
-                               QMetin(ekran.uyariGun2Baslik), QMetin(ekran.uyariGunSonu)));
+    auto* izgara = new QGridLayout;
+    izgara->setSpacing(kAralik);
+    izgara->setColumnStretch(2, 1);
+    GunSatiriEkle(Bag(), *izgara, QStringLiteral("UyariGun"), ekran.UyariGun, QMetin(ekran.uyariGunBaslik),
+                  QMetin(ekran.uyariGunSonu));
+    GunSatiriEkle(Bag(), *izgara, QStringLiteral("UyariGun2"), ekran.UyariGun2, QMetin(ekran.uyariGun2Baslik),
+                  QMetin(ekran.uyariGunSonu));
+    auto* liste = new QComboBox;
+    Adlandir(*liste, QStringLiteral("GunduzGece"), QMetin(ekran.gunduzGeceBaslik));
+    Bag().Bagla(*liste, ekran.GunduzGece);
+    const int satir = izgara->rowCount();
+    izgara->addWidget(EtiketYap(QMetin(ekran.gunduzGeceBaslik), *liste), satir, 0);
+    izgara->addWidget(liste, satir, 1, 1, 2, Qt::AlignLeft);
+    sutun->addLayout(izgara);
     sutun->addSpacing(kAralik);
     sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check2"), ekran.Check2));
     sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check7"), ekran.Check7));
     sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check6"), ekran.Check6));
-    sutun->addSpacing(kAralik);
-    auto* sira = new QHBoxLayout;
-    sira->setSpacing(kAralik);
-    auto* liste = new QComboBox;
-    Adlandir(*liste, QStringLiteral("GunduzGece"), QMetin(ekran.gunduzGeceBaslik));
-    Bag().Bagla(*liste, ekran.GunduzGece);
-    sira->addWidget(new QLabel(QMetin(ekran.gunduzGeceBaslik)));
-    sira->addWidget(liste);
-    sira->addStretch(1);
-    sutun->addLayout(sira);
     sutun->addSpacing(kAralik);
     sutun->addWidget(AylarKutusu(ekran));
     sutun->addStretch(1);
@@ -127,17 +125,17 @@ QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
 
 void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler,
                                       FormAyarlar& ekran) {
-    QString yazi = QMetin(renkler.baslik);
+    const QString yazi = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
+    QWidget* zemin = RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
     if (renkler.onay != nullptr) {
-        OnayKutusu& model = ekran.*renkler.onay;
-        yazi = QMetin(model.baslik);
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
-        izgara.addWidget(OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), model),
-                         satir, 0);
+        izgara.addWidget(
+            OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), ekran.*renkler.onay),
+            satir, 0);
     } else {
-        izgara.addWidget(new QLabel(yazi), satir, 0);
+        izgara.addWidget(EtiketYap(yazi, *zemin), satir, 0);
     }
-    izgara.addWidget(RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi), satir, 1);
+    izgara.addWidget(zemin, satir, 1);
     if (renkler.yazi != kRenkYok)
         izgara.addWidget(RenkKutusu(ekran, renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
 }

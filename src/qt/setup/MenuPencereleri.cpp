@@ -34,8 +34,9 @@ MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : Diyalog(program.FormMen
         *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
     liste->setColumnWidth(0, kAdSutunu);
     sutun->addWidget(liste, 1);
-    sutun->addLayout(ListeDugmeleri(ekran));
+    sutun->addLayout(ListeDugmeleri(ekran, *liste));
     setWindowTitle(QMetin(ekran->baslik));
+    liste->setFocus();
     resize(640, 380);
 }
 

@@ -84,6 +84,32 @@ class Cizelge : public QWidget {
     QImage resim_;
 };
 
+/// The sample, and below it the fields that say its colour.
+QFormLayout* DegerlerKur(Baglayici& baglayici, FormRenk& ekran) {
+    QFormLayout* form = FormKur();
+    auto* ornek = new QLabel;
+    Adlandir(*ornek, QStringLiteral("picColorBox"), QStringLiteral("Seçilen renk"));
+    ornek->setFixedHeight(kOrnekBoyu);
+    ornek->setFrameShape(QFrame::StyledPanel); // seen also when it is as light as the window
+    baglayici.Bagla(*ornek, ekran.picColorBox);
+    form->addRow(ornek);
+    const std::array alanlar{
+        std::tuple{"txtRed", &ekran.redBaslik, &ekran.txtRed},
+        std::tuple{"txtGreen", &ekran.greenBaslik, &ekran.txtGreen},
+        std::tuple{"txtBlue", &ekran.blueBaslik, &ekran.txtBlue},
+        std::tuple{"txtWeb", &ekran.webBaslik, &ekran.txtWeb},
+        std::tuple{"txtHex", &ekran.hexBaslik, &ekran.txtHex},
+    };
+    for (const auto& [ad, baslik, model] : alanlar) {
+        auto* kutu = new QLineEdit;
+        Adlandir(*kutu, QString::fromLatin1(ad), QMetin(*baslik));
+        kutu->setFixedWidth(kDegerEni);
+        baglayici.Bagla(*kutu, *model);
+        form->addRow(QMetin(*baslik), kutu);
+    }
+    return form;
+}
+
 } // namespace
 
 RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut()) {
@@ -95,34 +121,16 @@ RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut())
     auto* cizelge = new Cizelge(Bag(), *ekran);
     Adlandir(*cizelge, QStringLiteral("Picture1"), QStringLiteral("Renk çizelgesi"));
     ust->addWidget(cizelge);
-    QFormLayout* form = FormKur();
-    auto* ornek = new QLabel;
-    Adlandir(*ornek, QStringLiteral("picColorBox"), QStringLiteral("Seçilen renk"));
-    ornek->setFixedHeight(kOrnekBoyu);
-    Bag().Bagla(*ornek, ekran->picColorBox);
-    form->addRow(ornek);
-    const std::array alanlar{
-        std::tuple{"txtRed", &ekran->redBaslik, &ekran->txtRed},
-        std::tuple{"txtGreen", &ekran->greenBaslik, &ekran->txtGreen},
-        std::tuple{"txtBlue", &ekran->blueBaslik, &ekran->txtBlue},
-        std::tuple{"txtWeb", &ekran->webBaslik, &ekran->txtWeb},
-        std::tuple{"txtHex", &ekran->hexBaslik, &ekran->txtHex},
-    };
-    for (const auto& [ad, baslik, model] : alanlar) {
-        auto* kutu = new QLineEdit;
-        Adlandir(*kutu, QString::fromLatin1(ad), QMetin(*baslik));
-        kutu->setFixedWidth(kDegerEni);
-        Bag().Bagla(*kutu, *model);
-        form->addRow(QMetin(*baslik), kutu);
-    }
-    ust->addLayout(form);
+    ust->addLayout(DegerlerKur(Bag(), *ekran));
     auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
     tamam->setDefault(true);
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
     IptalDugmesi(iptal);
     sutun->addLayout(ust);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize); // as the chart
     setWindowTitle(QMetin(ekran->baslik));
+    findChild<QWidget*>(QStringLiteral("txtRed"))->setFocus();
 }
 
 } // namespace velora

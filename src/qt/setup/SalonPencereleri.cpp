@@ -26,14 +26,14 @@ SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : Diyalog(program.For
     const auto tut = program.FormSalonTanim.Tut();
     FormSalonTanim* ekran = tut.get();
     auto* sutun = SutunKur(*this);
-    auto* baslik = new QLabel(QMetin(ekran->Label8.baslik));
     auto* liste = new QListWidget;
-    Adlandir(*liste, QStringLiteral("List1"), baslik->text());
+    Adlandir(*liste, QStringLiteral("List1"), QMetin(ekran->Label8.baslik));
     Bag().Bagla(*liste, ekran->List1, [ekran] { ekran->List1_Click(); });
-    sutun->addWidget(baslik);
+    sutun->addWidget(EtiketYap(QMetin(ekran->Label8.baslik), *liste));
     sutun->addWidget(liste, 1);
-    sutun->addLayout(ListeDugmeleri(ekran));
+    sutun->addLayout(ListeDugmeleri(ekran, *liste));
     setWindowTitle(QMetin(ekran->baslik));
+    liste->setFocus();
     resize(460, 340);
 }
 
@@ -52,8 +52,8 @@ SalonAdPenceresi::SalonAdPenceresi(Program& program) : Diyalog(program.FormSalon
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
     IptalDugmesi(iptal);
     sutun->addLayout(form);
-    sutun->addStretch(1);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(QMetin(ekran->baslik));
     ad->setFocus();
     ad->selectAll();

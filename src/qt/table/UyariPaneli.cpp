@@ -21,9 +21,9 @@ namespace {
 
 constexpr double kTwipPikseli = 15;
 
-QPushButton* DugmeYap(Baglayici& baglayici, const char* ad, Dugme& model,
+QPushButton* DugmeYap(QWidget& ust, Baglayici& baglayici, const char* ad, Dugme& model,
                       const Baglayici::Isleyici& tiklandi) {
-    auto* dugme = new QPushButton;
+    auto* dugme = new QPushButton(&ust);
     dugme->setObjectName(QString::fromLatin1(ad));
     baglayici.Bagla(*dugme, model, tiklandi);
     return dugme;
@@ -51,9 +51,10 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
         *liste, tablo.Liste, [&tablo] { tablo.Liste_Click(); }, [&tablo] { tablo.Liste_DblClick(); });
     liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     sutun->addWidget(liste, 1);
-    kapat_ = DugmeYap(baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
+    kapat_ = DugmeYap(*this, baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
     sutun->addLayout(DugmeSeridi(
-        {DugmeYap(baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); }), kapat_}));
+        {DugmeYap(*this, baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); }),
+         kapat_}));
     hide();
     baglayici.Izle([this, &tablo, baslik] {
         baslik->setText(QMetin(tablo.UyariBaslik.baslik));

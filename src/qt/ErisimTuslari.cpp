@@ -1,0 +1,169 @@
+#include "qt/ErisimTuslari.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QSet>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+namespace velora {
+
+namespace {
+
+constexpr QChar kNoktaliBuyukI = u'İ'; // its key brings "i" and never this sign
+
+/// A caption on the display.
+struct Yazi {
+    QString metin;
+    std::function<void(const QString&)> koy;
+    QWidget* sayfa; // the page that it is seen on, null for every page
+};
+
+using Tuslar = QSet<QChar>;
+
+/// The key that brings a letter; "ı" and "i" can't be told apart.
+QChar Tus(QChar harf) {
+    return harf.toUpper();
+}
+
+QChar VarolanTus(const QString& metin) {
+    const qsizetype yer = metin.indexOf(u'&');
+    return yer < 0 || yer + 1 == metin.size() ? QChar() : Tus(metin[yer + 1]);
+}
+
+QWidget* Sayfasi(QWidget* parca) {
+    for (; parca != nullptr; parca = parca->parentWidget())
+        if (qobject_cast<QStackedWidget*>(parca->parentWidget()) != nullptr)
+            return parca;
+    return nullptr;
+}
+
+void SekmeleriEkle(std::vector<Yazi>& yazilar, QTabWidget& sayfalar) {
+    for (int i = 0; i < sayfalar.count(); ++i)
+        yazilar.push_back({sayfalar.tabText(i),
+                           [&sayfalar, i](const QString& metin) { sayfalar.setTabText(i, metin); },
+                           Sayfasi(&sayfalar)});
+}
+
+/// Whether a label names a field that can be typed into or pressed.
+bool AlanAdi(const QLabel& etiket) {
+    return etiket.buddy() != nullptr && etiket.buddy()->focusPolicy() != Qt::NoFocus;
+}
+
+/// All captions of a window.
+std::vector<Yazi> Yazilar(const QWidget& pencere) {
+    std::vector<Yazi> yazilar;
+    for (QWidget* parca : pencere.findChildren<QWidget*>()) {
+        if (parca->window() != &pencere)
+            continue;
+        if (auto* dugme = qobject_cast<QAbstractButton*>(parca); dugme != nullptr && !dugme->text().isEmpty())
+            yazilar.push_back(
+                {dugme->text(), [dugme](const QString& metin) { dugme->setText(metin); }, Sayfasi(parca)});
+        else if (auto* etiket = qobject_cast<QLabel*>(parca); etiket != nullptr && AlanAdi(*etiket))
+            yazilar.push_back(
+                {etiket->text(), [etiket](const QString& metin) { etiket->setText(metin); }, Sayfasi(parca)});
+        else if (auto* sayfalar = qobject_cast<QTabWidget*>(parca); sayfalar != nullptr)
+            SekmeleriEkle(yazilar, *sayfalar);
+    }
+    return yazilar;
+}
+
+/// Places of a caption that its mark may stand before, the best first: the letters that begin a word.
+std::vector<qsizetype> Adaylar(const QString& metin, const Tuslar& dolu) {
+    std::vector<qsizetype> yerler;
+    for (const bool basta : {true, false})
+        for (qsizetype i = 0; i < metin.size(); ++i)
+            if (metin[i].isLetter() && metin[i] != kNoktaliBuyukI && !dolu.contains(Tus(metin[i])) &&
+                basta == (i == 0 || !metin[i - 1].isLetter()))
+                yerler.push_back(i);
+    return yerler;
+}
+
+/// Gives out keys so that as many captions as can be have one: a caption that finds none free takes the key of one that
+/// can do with another.
+class Dagitim {
+  public:
+    Dagitim(std::vector<Yazi*> yazilar, const Tuslar& dolu) : yazilar_(std::move(yazilar)) {
+        for (const Yazi* yazi : yazilar_)
+            adaylar_.push_back(Adaylar(yazi->metin, dolu));
+        for (std::size_t i = 0; i < yazilar_.size(); ++i) {
+            denenen_.clear();
+            YerBul(i);
+        }
+    }
+
+    void Koy() const {
+        for (const auto& [tus, secim] : secimler_) {
+            Yazi& yazi = *yazilar_[secim.yazi];
+            yazi.metin.insert(secim.yer, u'&');
+            yazi.koy(yazi.metin);
+        }
+    }
+
+  private:
+    struct Secim {
+        std::size_t yazi;
+        qsizetype yer;
+    };
+
+    bool YerBul(std::size_t i) {
+        for (const bool bosken : {true, false})
+            for (const qsizetype yer : adaylar_[i]) {
+                const QChar tus = Tus(yazilar_[i]->metin[yer]);
+                const auto eski = secimler_.find(tus);
+                const bool bos = eski == secimler_.end();
+                if (bos != bosken || (!bos && (denenen_.contains(tus) || !Birakir(tus, eski->second.yazi))))
+                    continue;
+                secimler_[tus] = {i, yer};
+                return true;
+            }
+        return false;
+    }
+
+    bool Birakir(QChar tus, std::size_t sahibi) {
+        denenen_.insert(tus);
+        return YerBul(sahibi);
+    }
+
+    std::vector<Yazi*> yazilar_;
+    std::vector<std::vector<qsizetype>> adaylar_;
+    std::map<QChar, Secim> secimler_; // by key
+    Tuslar denenen_;                  // keys that the caption at hand can't get from their owners
+};
+
+/// The captions of one page that have no mark yet get one; null: those that are seen with every page.
+void SayfayaVer(std::vector<Yazi>& yazilar, const QWidget* sayfa) {
+    std::vector<Yazi*> isaretsizler;
+    Tuslar dolu;
+    for (Yazi& yazi : yazilar) {
+        const bool birlikte = sayfa == nullptr || yazi.sayfa == nullptr || yazi.sayfa == sayfa;
+        if (const QChar tus = VarolanTus(yazi.metin); !tus.isNull() && birlikte)
+            dolu.insert(tus);
+        if (yazi.sayfa == sayfa && !yazi.metin.contains(u'&'))
+            isaretsizler.push_back(&yazi);
+    }
+    if (!isaretsizler.empty())
+        Dagitim(std::move(isaretsizler), dolu).Koy();
+}
+
+} // namespace
+
+void ErisimTuslariVer(QWidget& pencere) {
+    std::vector<Yazi> yazilar = Yazilar(pencere);
+    std::set<QWidget*> sayfalar;
+    for (const Yazi& yazi : yazilar)
+        sayfalar.insert(yazi.sayfa);
+    SayfayaVer(yazilar, nullptr);
+    for (const QWidget* sayfa : sayfalar)
+        if (sayfa != nullptr)
+            SayfayaVer(yazilar, sayfa);
+}
+
+} // namespace velora

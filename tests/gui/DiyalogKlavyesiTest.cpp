@@ -1,0 +1,259 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMap>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
+#include "qt/table/TabloGorunumu.h"
+#include "reservation/FormKayit.h"
+#include "reservation/FormOdemeAl.h"
+#include "setup/FormMenuAyar.h"
+#include "setup/FormMenuEkle.h"
+#include "setup/FormRenk.h"
+#include "setup/FormSalonTanim.h"
+#include "setup/FormSalonTanimAd.h"
+
+using namespace velora;
+using namespace velora::test;
+
+namespace {
+
+/// A window by the name of its screen, and the controls that Tab walks, the one that has the focus at first in front.
+struct Sira {
+    const char* pencere;
+    int sayfa; // of its tabs, from 0; -1 without tabs
+    const char* durulan;
+};
+
+constexpr Sira kSiralar[]{
+    {"FormSalonTanim", -1, "List1 Command1 Command3"},
+    {"FormSalonTanimAd", -1, "Text1 Command1 Command2"},
+    {"FormMenuAyar", -1, "Liste Command1 Command3"},
+    {"FormMenuEkle", -1, "Text1 Text2 Command4 Command3"},
+    {"FormRenk", -1, "txtRed txtGreen txtBlue txtWeb txtHex Command1 Command2"},
+    {"FormAyarlar", 0,
+     "UyariGun UyariGun2 GunduzGece Check2 Check7 Check6 Check3 Aylar1 Aylar2 Aylar3 Aylar4 Aylar5 Aylar6 "
+     "Aylar7 Aylar8 Aylar9 Aylar10 Aylar11 Aylar12 Command3 Command1 Command4 Command2 qt_tabwidget_tabbar"},
+    {"FormAyarlar", 1,
+     "Renk0 Renk1 Renk2 Renk3 Renk4 Renk5 Renk8 Renk9 Renk10 Renk11 Renk6 Renk7 Renk12 Renk13 Renk19 Renk20 "
+     "Renk21 Renk22 Check5 Renk23 Renk24 Renk14 Renk15 Check1 Renk17 Renk18 Renk16 Command3 Command1 "
+     "Command4 Command2 qt_tabwidget_tabbar"},
+};
+
+/// Opens a screen's window as another screen does.
+void Ac(Program& program, const QString& ad) {
+    const QMap<QString, std::function<void()>> acanlar{
+        {"FormSalonTanim", [&] { program.FormSalonTanim.GosterModal(); }},
+        {"FormSalonTanimAd", [&] { program.FormSalonTanimAd.GosterModal(); }},
+        {"FormMenuAyar", [&] { program.FormMenuAyar.GosterModal(); }},
+        {"FormMenuEkle",
+         [&] {
+             program.FormMenuEkle->Text1.metin = u"a";
+             program.FormMenuEkle->Text1_Change();
+             program.FormMenuEkle.GosterModal();
+         }},
+        {"FormAyarlar", [&] { program.FormAyarlar.GosterModal(); }},
+        {"FormRenk", [&] { program.FormRenk.GosterModal(); }},
+        {"FormKayit", [&] { program.FormKayit.GosterModal(); }},
+        {"FormOdemeAl", [&] { program.FormOdemeAl.GosterModal(); }}};
+    acanlar[ad]();
+}
+
+QString Odaktaki() {
+    const QWidget* alan = QApplication::focusWidget();
+    return alan == nullptr ? QString() : alan->objectName();
+}
+
+/// The captions on the display that can have an access key.
+QStringList Yazilar(const QWidget& pencere) {
+    QStringList yazilar;
+    for (const auto* dugme : pencere.findChildren<QAbstractButton*>())
+        if (dugme->isVisible() && !dugme->text().isEmpty())
+            yazilar << dugme->text();
+    for (const auto* etiket : pencere.findChildren<QLabel*>())
+        if (etiket->isVisible() && etiket->buddy() != nullptr &&
+            etiket->buddy()->focusPolicy() != Qt::NoFocus)
+            yazilar << etiket->text();
+    for (const auto* sayfalar : pencere.findChildren<QTabWidget*>())
+        for (int i = 0; i < sayfalar->count(); ++i)
+            yazilar << sayfalar->tabText(i);
+    return yazilar;
+}
+
+void TuslariAyriOlmali(const QWidget& pencere) {
+    QMap<QChar, QString> tuslar;
+    for (const QString& yazi : Yazilar(pencere)) {
+        QVERIFY2(yazi.count(u'&') == 1, qPrintable(yazi));
+        const QChar tus = yazi[yazi.indexOf(u'&') + 1].toUpper();
+        QVERIFY2(tus.isLetter() && tus != u'İ', qPrintable(yazi));
+        QVERIFY2(!tuslar.contains(tus), qPrintable(yazi + QStringLiteral(" / ") + tuslar.value(tus)));
+        tuslar[tus] = yazi;
+    }
+}
+
+/// Presses Alt and a letter in the window that has the focus.
+void AltIle(Qt::Key tus) {
+    QTest::keyClick(QApplication::focusWidget(), tus, Qt::AltModifier);
+}
+
+} // namespace
+
+class DiyalogKlavyesiTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void on_each_page_each_caption_has_an_access_key_of_its_own() {
+        GuiFirma firma;
+        firma.Ac();
+        for (const char* ad : {"FormSalonTanim", "FormSalonTanimAd", "FormMenuAyar", "FormMenuEkle",
+                               "FormAyarlar", "FormRenk", "FormKayit", "FormOdemeAl"})
+            Pencerede([&] { Ac(firma.program, ad); }, {[](QDialog& pencere) {
+                          QVERIFY(Yazilar(pencere).size() >= 2);
+                          auto* sayfalar = pencere.findChild<QTabWidget*>();
+                          for (int i = 0; i < (sayfalar == nullptr ? 1 : sayfalar->count()); ++i) {
+                              if (sayfalar != nullptr)
+                                  sayfalar->setCurrentIndex(i);
+                              TuslariAyriOlmali(pencere);
+                          }
+                      }});
+    }
+
+    void the_captions_of_the_screens_know_no_marks() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[&](QDialog& pencere) {
+                      const auto ekran = firma.program.FormAyarlar.Tut();
+                      QVERIFY(Parcasi<QPushButton>(pencere, "Command2").text() == QStringLiteral("İ&ptal"));
+                      QCOMPARE(ekran->Command2.baslik, Metin(u"İptal"));
+                      QCOMPARE(ekran->Aylar[1].baslik, Metin(u"Ocak"));
+                      QCOMPARE(Parcasi<QCheckBox>(pencere, "Aylar1").accessibleName(),
+                               QStringLiteral("Ocak"));
+                  }});
+    }
+
+    void tab_walks_the_fields_and_the_buttons_in_their_order() {
+        for (const Sira& sira : kSiralar) {
+            GuiFirma firma;
+            firma.Ac();
+            Pencerede([&] { Ac(firma.program, sira.pencere); }, {[&](QDialog& pencere) {
+                          const QStringList beklenen = QString(sira.durulan).split(u' ');
+                          if (sira.sayfa > 0) {
+                              pencere.findChild<QTabWidget*>()->setCurrentIndex(sira.sayfa);
+                              Parcasi<QWidget>(pencere, qPrintable(beklenen.front())).setFocus();
+                          }
+                          QStringList durulan;
+                          for (qsizetype i = 0; i < beklenen.size(); ++i) {
+                              durulan << Odaktaki();
+                              QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                          }
+                          QCOMPARE(durulan, beklenen);
+                          QCOMPARE(Odaktaki(), beklenen.front());
+                      }});
+        }
+    }
+
+    void each_window_has_one_button_for_enter_and_escape_cancels() {
+        GuiFirma firma;
+        firma.Ac();
+        const QMap<QString, QString> dolular{{"FormSalonTanim", "Command1"}, {"FormSalonTanimAd", "Command1"},
+                                             {"FormMenuAyar", "Command1"},   {"FormMenuEkle", "Command4"},
+                                             {"FormAyarlar", "Command1"},    {"FormRenk", "Command1"}};
+        for (auto dolu = dolular.begin(); dolu != dolular.end(); ++dolu)
+            Pencerede([&] { Ac(firma.program, dolu.key()); }, {[&](QDialog& pencere) {
+                          QStringList bulunan;
+                          for (const auto* dugme : pencere.findChildren<QPushButton*>())
+                              if (dugme->isDefault())
+                                  bulunan << dugme->objectName();
+                          QCOMPARE(bulunan, QStringList{dolu.value()});
+                          QTest::keyClick(&pencere, Qt::Key_Escape);
+                          QVERIFY(!pencere.isVisible());
+                      }});
+    }
+
+    void after_delete_and_edit_the_list_has_the_focus_and_enter_still_adds() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { Ac(firma.program, "FormSalonTanim"); }, {[](QDialog& pencere) {
+                      for (const Qt::Key tus : {Qt::Key_D, Qt::Key_I}) {
+                          QCOMPARE(Odaktaki(), QStringLiteral("List1"));
+                          QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+                          bool kosuldu = false;
+                          const auto ac = [&] {
+                              AltIle(tus);
+                              QTRY_VERIFY(kosuldu);
+                          };
+                          Pencerede(ac, {[&](QDialog& kutu) {
+                                        kosuldu = true;
+                                        QTest::keyClick(&kutu, Qt::Key_Escape);
+                                    }});
+                      }
+                      QCOMPARE(Odaktaki(), QStringLiteral("List1"));
+                      QVERIFY(Parcasi<QPushButton>(pencere, "Command1").isDefault());
+                      Pencerede([&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); },
+                                {Girdi(QStringLiteral(" "))});
+                  }});
+    }
+
+    void access_keys_lead_to_fields_press_buttons_and_turn_pages() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { Ac(firma.program, "FormMenuEkle"); }, {[](QDialog& pencere) {
+                      Parcasi<QPushButton>(pencere, "Command3").setFocus();
+                      AltIle(Qt::Key_M);
+                      QCOMPARE(Odaktaki(), QStringLiteral("Text1"));
+                      AltIle(Qt::Key_P);
+                      QTRY_VERIFY(!pencere.isVisible());
+                  }});
+        Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[](QDialog& pencere) {
+                      const auto& ekim = Parcasi<QCheckBox>(pencere, "Aylar10");
+                      QVERIFY(ekim.isChecked());
+                      AltIle(Qt::Key_E);
+                      QTRY_VERIFY(!ekim.isChecked());
+                      AltIle(Qt::Key_A);
+                      QCOMPARE(pencere.findChild<QTabWidget*>()->currentIndex(), 1);
+                  }});
+    }
+
+    void the_key_of_a_colour_row_opens_the_picker_for_its_ground() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[&](QDialog& pencere) {
+                      AltIle(Qt::Key_A);
+                      bool kosuldu = false;
+                      const auto ac = [&] {
+                          AltIle(Qt::Key_B);
+                          QTRY_VERIFY(kosuldu);
+                      };
+                      Pencerede(ac, {[&](QDialog& renk) {
+                                    kosuldu = true;
+                                    QCOMPARE(firma.program.FormRenk->Tag, Metin(u"0"));
+                                    Tikla(renk, "Command2");
+                                }});
+                      QVERIFY(pencere.isVisible());
+                  }});
+    }
+
+    void a_caption_that_changes_while_the_window_stands_is_marked_again() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { Ac(firma.program, "FormMenuEkle"); }, {[&](QDialog& pencere) {
+                      const auto& dugme = Parcasi<QPushButton>(pencere, "Command4");
+                      QCOMPARE(dugme.text(), QStringLiteral("&Tamam"));
+                      firma.program.FormMenuEkle->Command4.baslik = u"Değiştir";
+                      Yaz(QStringLiteral("x"));
+                      QCOMPARE(dugme.text(), QStringLiteral("&Değiştir"));
+                  }});
+    }
+};
+
+VELORA_GUI_TEST(DiyalogKlavyesiTest)
+#include "DiyalogKlavyesiTest.moc"

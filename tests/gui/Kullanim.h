@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QDialog>
+#include <QString>
+
+namespace velora::test {
+
+class GuiFirma;
+
+// What a user does to windows, with the mouse and the keyboard.
+
+/// Types into the widget that has the focus, any letters.
+void Yaz(const QString& metin);
+
+/// What is done in a modal window while it stands and has the focus.
+using Is = std::function<void(QDialog&)>;
+
+/// Runs `ac`, which opens modal windows one after the other and returns when they are closed; each of them gets the
+/// next of `isler`. A window that its work leaves open is closed. Fails when fewer windows come; a window more is closed
+/// and fails too.
+void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler);
+
+/// In a message box: it must say `metin`; its button `dugme` is clicked.
+Is Mesaj(const QString& metin, const QString& dugme = QStringLiteral("Tamam"));
+
+/// In an input box: `metin` is typed and Enter pressed.
+Is Girdi(const QString& metin);
+
+/// In any window: a key is pressed.
+Is TusBas(Qt::Key tus);
+
+/// Clicks on an entry of the menu "Ayarlar" of the main screen, by the name of its control.
+void MenudenSec(GuiFirma& firma, const char* girdi);
+
+/// Clicks on the middle of a widget of a window, by the name of its control.
+void Tikla(QWidget& pencere, const char* ad);
+
+/// A widget of a window by the name of its control.
+template <class Parca>
+Parca& Parcasi(const QWidget& pencere, const char* ad) {
+    return *pencere.findChild<Parca*>(QString::fromLatin1(ad));
+}
+
+/// A caption without its access key.
+QString Isaretsiz(QString metin);
+
+} // namespace velora::test

@@ -1,0 +1,116 @@
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "gui/GuiProgram.h"
+#include "qt/Baglayici.h"
+
+using namespace velora;
+
+namespace {
+
+/// A window with a list of three entries in both kinds, and a button that has the focus.
+struct Sahne {
+    Sahne() : baglayici(ekran, &pencere) {
+        auto* sutun = new QVBoxLayout(&pencere);
+        for (QWidget* parca : std::initializer_list<QWidget*>{&dugme, &duz, &sutunlu})
+            sutun->addWidget(parca);
+        ekran->duz.ogeler = {u"Bir", u"İki", u"Üç"};
+        ekran->sutunlu.basliklar = {u"Ad"};
+        ekran->sutunlu.satirlar = {{{u"Bir"}, {}, 0}, {{u"İki"}, {}, 0}, {{u"Üç"}, {}, 0}};
+        baglayici.Bagla(duz, ekran->duz, [this] { ++sayi; });
+        baglayici.Bagla(sutunlu, ekran->sutunlu, [this] { ++sayi; });
+        dugme.setFocus();
+        pencere.show();
+        QVERIFY(QTest::qWaitForWindowActive(&pencere));
+    }
+
+    struct Ekran {
+        ListeKutusu duz;
+        ListeGorunumu sutunlu;
+    };
+    std::shared_ptr<Ekran> ekran = std::make_shared<Ekran>();
+    int sayi = 0; // runs of handlers
+    QWidget pencere;
+    QPushButton dugme;
+    QListWidget duz;
+    QTreeWidget sutunlu;
+    Baglayici baglayici;
+};
+
+void Tikla(QAbstractItemView& liste, QPoint yer) {
+    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, yer);
+}
+
+QPoint Satir(const QAbstractItemView& liste, int sira) {
+    return liste.visualRect(liste.model()->index(sira, 0)).center();
+}
+
+} // namespace
+
+class ListeBaglamaTest : public QObject {
+    Q_OBJECT
+
+    /// Runs a test on both kinds of list.
+    static void Ikisinde(const std::function<void(Sahne&, QAbstractItemView&, int& secili)>& is) {
+        Sahne duzde;
+        is(duzde, duzde.duz, duzde.ekran->duz.secili);
+        Sahne sutunluda;
+        is(sutunluda, sutunluda.sutunlu, sutunluda.ekran->sutunlu.secili);
+    }
+
+  private slots:
+    void the_focus_marks_no_row_by_itself_and_the_arrow_marks_the_first() {
+        Ikisinde([](Sahne& sahne, QAbstractItemView& liste, const int& secili) {
+            liste.setFocus(Qt::TabFocusReason);
+            QVERIFY(liste.hasFocus());
+            QCOMPARE(secili, -1);
+            QCOMPARE(sahne.sayi, 0);
+            QTest::keyClick(&liste, Qt::Key_Down);
+            QCOMPARE(secili, 0);
+            QCOMPARE(sahne.sayi, 1);
+            QTest::keyClick(&liste, Qt::Key_Down);
+            QCOMPARE(secili, 1);
+            QVERIFY(liste.selectionModel()->isRowSelected(1));
+        });
+    }
+
+    void a_press_on_the_row_that_is_marked_already_runs_the_handler_again() {
+        Ikisinde([](Sahne& sahne, QAbstractItemView& liste, const int& secili) {
+            Tikla(liste, Satir(liste, 1));
+            QCOMPARE(secili, 1);
+            sahne.sayi = 0;
+            Tikla(liste, Satir(liste, 1));
+            QCOMPARE(secili, 1);
+            QCOMPARE(sahne.sayi, 1);
+        });
+    }
+
+    void a_press_beside_the_rows_or_with_ctrl_leaves_the_mark() {
+        Ikisinde([](Sahne& sahne, QAbstractItemView& liste, const int& secili) {
+            Tikla(liste, Satir(liste, 1));
+            sahne.sayi = 0;
+            Tikla(liste, {20, liste.viewport()->height() - 4});
+            QVERIFY(liste.selectionModel()->isRowSelected(1));
+            QCOMPARE(sahne.sayi, 0);
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, Qt::ControlModifier, Satir(liste, 1));
+            QVERIFY(liste.selectionModel()->isRowSelected(1));
+            QCOMPARE(secili, 1);
+        });
+    }
+
+    void the_model_takes_the_mark_away() {
+        Ikisinde([](Sahne&, QAbstractItemView& liste, int& secili) {
+            Tikla(liste, Satir(liste, 2));
+            secili = -1;
+            Baglayici::HepsiniTazele();
+            QVERIFY(!liste.selectionModel()->hasSelection());
+            QVERIFY(!liste.currentIndex().isValid());
+        });
+    }
+};
+
+VELORA_GUI_TEST(ListeBaglamaTest)
+#include "ListeBaglamaTest.moc"
