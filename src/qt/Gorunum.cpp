@@ -80,6 +80,14 @@ class Bicim : public QProxyStyle {
         firca->fillRect(yer.right(), yer.top(), 1, yer.height(), renk);
     }
 
+    /// Buttons of boxes are words, as all others are.
+    int styleHint(StyleHint konu, const QStyleOption* secenek, const QWidget* widget,
+                  QStyleHintReturn* ayrinti) const override {
+        if (konu == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return QProxyStyle::styleHint(konu, secenek, widget, ayrinti);
+    }
+
     QSize sizeFromContents(ContentsType tur, const QStyleOption* secenek, const QSize& icerik,
                            const QWidget* widget) const override {
         QSize boy = QProxyStyle::sizeFromContents(tur, secenek, icerik, widget);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -110,6 +111,9 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
+    QFont kalin = liste.header()->font();
+    kalin.setBold(true);
+    liste.header()->setFont(kalin);
     IsaretiDinle(*this, liste, model, secildi);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Calistir(ciftTiklandi); });
     Izle([&liste, &model, konan = ListeGorunumu()]() mutable {
