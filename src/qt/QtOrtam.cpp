@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QPointer>
+#include <QWindow>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
@@ -32,6 +34,13 @@ class KapanisGozcusu : public QObject {
 QWidget* KutununUstu() {
     Baglayici::KullaniciBekleniyor();
     return QApplication::activeWindow();
+}
+
+/// The window stands over that one, whatever else the desktop does.
+void SahibineBagla(QWidget& pencere, const QWidget* ust) {
+    pencere.winId(); // from here on it has a handle
+    if (ust != nullptr && ust != &pencere && pencere.windowHandle() != nullptr)
+        pencere.windowHandle()->setTransientParent(ust->windowHandle());
 }
 
 void OlaylariIsle() {
@@ -106,12 +115,17 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
     Baglayici::KullaniciBekleniyor();
     QEventLoop dongu;
     const KapanisGozcusu gozcu(*pencere, dongu);
+    const QPointer<QWidget> ust = QApplication::activeWindow();
+    SahibineBagla(*pencere, ust);
     pencere->setWindowModality(Qt::ApplicationModal);
     Ac(ekran, gorununce);
     // Its first activation may have closed it already.
     if (Pencere(ekran) == pencere && pencere->isVisible())
         dongu.exec();
     Gizle(ekran);
+    // Not every system gives the keyboard back by itself.
+    if (ust != nullptr)
+        ust->activateWindow();
 }
 
 void QtOrtam::Gizle(EkranAdi ekran) {

@@ -1,11 +1,15 @@
 #include "qt/Yerlesimler.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTabWidget>
 
 #include "qt/Gorunum.h"
 
@@ -42,6 +46,21 @@ QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
     serit->addStretch(1);
     std::ranges::for_each(sagdakiler, ekle);
     return serit;
+}
+
+void SayfaTuslari(QTabWidget& sayfalar) {
+    const std::array tuslar{
+        std::pair{QKeySequence(Qt::CTRL | Qt::Key_Tab), 1},
+        std::pair{QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1},
+        std::pair{QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1},
+        std::pair{QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1},
+    };
+    for (const auto& [tus, adim] : tuslar)
+        QObject::connect(new QShortcut(tus, &sayfalar), &QShortcut::activated, &sayfalar,
+                         [&sayfalar, adim = adim] {
+                             const int sayi = sayfalar.count();
+                             sayfalar.setCurrentIndex((sayfalar.currentIndex() + adim + sayi) % sayi);
+                         });
 }
 
 QLabel* EtiketYap(const QString& yazi, QWidget& alan) {

@@ -8,6 +8,7 @@ class QFormLayout;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QTabWidget;
 class QVBoxLayout;
 class QWidget;
 
@@ -25,6 +26,9 @@ QFormLayout* FormKur();
 /// left to right.
 QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
                          std::initializer_list<QPushButton*> soldakiler = {});
+
+/// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever field.
+void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.
 QLabel* EtiketYap(const QString& yazi, QWidget& alan);

@@ -71,6 +71,7 @@ KayitPenceresi::KayitPenceresi(Program& program)
     sutun->addWidget(sayfalar_);
     sutun->addLayout(Dugmeler());
     sayfalar_->setObjectName(QStringLiteral("SSTab1"));
+    SayfaTuslari(*sayfalar_);
     sayfalar_->addTab(GenelSayfasi(), QStringLiteral("Genel Bilgiler "));
     sayfalar_->addTab(OdemeSayfasi(), QStringLiteral("Ödemeler"));
     sayfalar_->addTab(MenuSayfasi(), QStringLiteral("Menüler"));

@@ -54,6 +54,7 @@ AyarlarPenceresi::AyarlarPenceresi(Program& program) : Diyalog(program.FormAyarl
     FormAyarlar* ekran = tut.get();
     auto* sutun = SutunKur(*this);
     auto* sayfalar = new QTabWidget;
+    SayfaTuslari(*sayfalar);
     sayfalar->addTab(GenelSayfasi(*ekran), QMetin(ekran->sayfalar[0]));
     sayfalar->addTab(GorunumSayfasi(*ekran), QMetin(ekran->sayfalar[1]));
     auto* kaydet = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });

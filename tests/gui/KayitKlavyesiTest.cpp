@@ -1,0 +1,127 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
+#include "qt/Ceviri.h"
+#include "reservation/FormKayit.h"
+
+using namespace velora;
+using namespace velora::test;
+
+/// A reservation entered with the keyboard, in the real window.
+class KayitKlavyesiTest : public QObject {
+    Q_OBJECT
+
+    static constexpr MetinBakis kGun = u"20.06.2026 - Gece";
+
+    /// A new reservation on a free day; each of `isler` is done in the window or box that comes next.
+    static void YeniKayitta(GuiFirma& firma, const std::vector<Is>& isler) {
+        firma.Ac();
+        firma.Model().SeciliTarih = kGun;
+        Pencerede([&] { firma.Model().newkay_Click(); }, isler);
+    }
+    static void Tusla(Qt::Key tus, Qt::KeyboardModifiers ek = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), tus, ek);
+    }
+    /// Tab until the focus is in a field.
+    static void AlanaGit(const char* ad) {
+        for (int i = 0; i < 60 && QApplication::focusWidget()->objectName() != QLatin1String(ad); ++i)
+            Tusla(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(ad));
+    }
+    static void AlanaYaz(const char* ad, const QString& metin) {
+        AlanaGit(ad);
+        Yaz(metin);
+    }
+    /// The key that the mark in a button's caption names.
+    static Qt::Key ErisimTusu(const QPushButton& dugme) {
+        return static_cast<Qt::Key>(dugme.text().at(dugme.text().indexOf(u'&') + 1).toUpper().unicode());
+    }
+    static void NiteligiSec(QDialog& pencere) {
+        AlanaGit("Kay4");
+        QTest::keyClick(&Parcasi<QComboBox>(pencere, "Kay4"), Qt::Key_Down);
+    }
+
+  private slots:
+    void a_price_still_in_its_field_is_in_the_rest_when_the_access_key_saves() {
+        GuiFirma firma;
+        YeniKayitta(firma, {[](QDialog& pencere) {
+                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay1"));
+                        Yaz(QStringLiteral("ali veli"));
+                        NiteligiSec(pencere);
+                        AlanaYaz("Kay15", QStringLiteral("2330"));
+                        AlanaYaz("Kay8", QStringLiteral("1500"));
+                        Tusla(ErisimTusu(Parcasi<QPushButton>(pencere, "Command1")), Qt::AltModifier);
+                        QTRY_VERIFY(!pencere.isVisible());
+                    }});
+        const std::string bayt = firma.agac.Bayt(Metin(kSalonA) + u"/2026/" + Metin(kGun));
+        QVERIFY2(bayt.find("\"1500\",\"0\",\"1500\"") != std::string::npos, bayt.c_str());
+        QVERIFY(bayt.starts_with("\"Ali Veli\",\"\",\"\",\"D\xFC\xF0\xFCn\""));
+        QVERIFY(!firma.program.FormKayit.Yuklu());
+    }
+
+    void the_start_is_selected_whole_mended_when_it_is_left_and_the_end_is_not_on_purpose() {
+        GuiFirma firma;
+        YeniKayitta(
+            firma, {[&](QDialog& pencere) {
+                const auto model = firma.program.FormKayit.Tut();
+                AlanaGit("Kay12");
+                QCoreApplication::processEvents();
+                QCOMPARE(Parcasi<QLineEdit>(pencere, "Kay12").selectedText(), QStringLiteral("20:00"));
+                Yaz(QStringLiteral("2570"));
+                Tusla(Qt::Key_Tab);
+                QCOMPARE(QMetin(model->Kay[12].metin), QStringLiteral("00:00"));
+                QCOMPARE(Parcasi<QLineEdit>(pencere, "Kay12").displayText(), QStringLiteral("00:00"));
+                AlanaYaz("Kay15", QStringLiteral("9999"));
+                Tusla(Qt::Key_Tab);
+                QCOMPARE(QMetin(model->Kay[15].metin), QStringLiteral("99:99"));
+                Pencerede([] { Tusla(Qt::Key_Escape); },
+                          {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                                                "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"),
+                                 QStringLiteral("Evet"))});
+            }});
+    }
+
+    void enter_saves_and_a_refusal_puts_the_focus_where_something_is_missing() {
+        GuiFirma firma;
+        YeniKayitta(firma, {[&](QDialog& pencere) {
+                        Yaz(QStringLiteral("ali veli"));
+                        NiteligiSec(pencere);
+                        AlanaGit("Kay1");
+                        Pencerede([] { Tusla(Qt::Key_Return); },
+                                  {Mesaj(QStringLiteral("Lütfen bitiş saatini giriniz!"))});
+                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay15"));
+                        Yaz(QStringLiteral("2330"));
+                        Tusla(Qt::Key_Return);
+                    }});
+        QVERIFY(firma.agac.DosyaVar(Metin(kSalonA) + u"/2026/" + Metin(kGun)));
+    }
+
+    void ctrl_and_tab_turn_the_pages_from_any_field() {
+        GuiFirma firma;
+        YeniKayitta(firma, {[&](QDialog& pencere) {
+                        auto& sayfalar = Parcasi<QTabWidget>(pencere, "SSTab1");
+                        for (const int sayfa : {1, 2, 3, 0}) {
+                            Tusla(Qt::Key_Tab, Qt::ControlModifier);
+                            QCOMPARE(sayfalar.currentIndex(), sayfa);
+                            Tusla(
+                                Qt::Key_Tab); // into a field of the page, a list to choose from on the third
+                        }
+                        Tusla(Qt::Key_PageUp, Qt::ControlModifier);
+                        QCOMPARE(sayfalar.currentIndex(), 3);
+                        QCOMPARE(firma.program.FormKayit->SSTab1, 4);
+                        firma.program.FormKayit->KayitAc = 1; // closes without a question
+                        Tusla(Qt::Key_Escape);
+                    }});
+    }
+};
+
+VELORA_GUI_TEST(KayitKlavyesiTest)
+
+#include "KayitKlavyesiTest.moc"
