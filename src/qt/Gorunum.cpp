@@ -45,6 +45,7 @@ constexpr std::array kSolgunlar{QPalette::WindowText, QPalette::Text, QPalette::
 constexpr QRgb kSolgun = qRgb(150, 154, 158);
 
 constexpr int kSatirPayi = 6;           // what a row of a list is higher than its text
+constexpr int kHucrePayi = 6;           // what a cell of a list keeps free on either side
 constexpr int kDugmePayi = 3 * kAralik; // what a button is wider than its text, at least
 
 /// What we want otherwise than the style that all windows are drawn in.
@@ -86,6 +87,15 @@ class Bicim : public QProxyStyle {
         if (konu == SH_DialogButtonBox_ButtonsHaveIcons)
             return 0;
         return QProxyStyle::styleHint(konu, secenek, widget, ayrinti);
+    }
+
+    /// Cells of lists keep a distance, a number on the right from the text beside it.
+    int pixelMetric(PixelMetric konu, const QStyleOption* secenek, const QWidget* widget) const override {
+        if (konu == PM_FocusFrameHMargin)
+            return kHucrePayi;
+        if (konu == PM_HeaderMargin)
+            return kHucrePayi + 1; // its text stands over that of the cells
+        return QProxyStyle::pixelMetric(konu, secenek, widget);
     }
 
     QSize sizeFromContents(ContentsType tur, const QStyleOption* secenek, const QSize& icerik,

@@ -39,7 +39,7 @@ class AramaPenceresiTest : public QObject {
         QTimer bekci;
         connect(&bekci, &QTimer::timeout, this, [&] {
             QWidget* pencere = firma.disDunya.Pencere(ekran);
-            if (pencere == nullptr || !pencere->isActiveWindow())
+            if (pencere == nullptr || QApplication::activeWindow() != pencere)
                 return;
             bekci.stop();
             kosuldu = true;

@@ -44,7 +44,7 @@ class BakiyePenceresiTest : public QObject {
     void Raporda(GuiFirma& firma, const Is& is) {
         bool kosuldu = false;
         Durunca(firma, EkranAdi::FormBakiye, firma.program.FormBakiye, [&](QWidget& pencere) {
-            QVERIFY(QTest::qWaitForWindowActive(&pencere));
+            QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &pencere; }));
             kosuldu = true;
             is(pencere);
         });

@@ -96,7 +96,7 @@ class KayitPenceresiTest : public QObject {
         firma.Ac();
         YeniKayitta(firma, [&](QWidget& pencere) {
             const auto model = firma.program.FormKayit.Tut();
-            QVERIFY(QTest::qWaitForWindowActive(&pencere));
+            QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &pencere; }));
             auto& ucret = Bul<QLineEdit>(pencere, "Kay8");
             ucret.setFocus();
             QVERIFY(ucret.hasFocus());
