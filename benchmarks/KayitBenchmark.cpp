@@ -37,6 +37,7 @@ void KaydetmeninZemineOrani(benchmark::State& durum) {
     for (auto _ : durum) {
         zemin.push_back(Saniye([&] { benchmark::DoNotOptimize(Zemin(agac.YilYolu())); }));
         Doldur(*program.FormKayit.Tut());
+        program.FormTablo->Picture1.gorunur = durum.range(0) == 1;
         const auto bas = std::chrono::steady_clock::now();
         hepsi.push_back(Saniye([&] { program.FormKayit->Command1_Click(); }));
         kayit.push_back(std::chrono::duration<double>(kapanis - bas).count());
@@ -48,7 +49,13 @@ void KaydetmeninZemineOrani(benchmark::State& durum) {
     durum.counters["oran"] = Ortanca(hepsi) / Ortanca(zemin);
     durum.counters["oran_kayit"] = Ortanca(kayit) / Ortanca(zemin);
 }
-BENCHMARK(KaydetmeninZemineOrani)->Unit(benchmark::kMillisecond)->Iterations(200);
+// A panel of warnings that stands open is listed anew, which scans the table once more.
+BENCHMARK(KaydetmeninZemineOrani)
+    ->ArgName("panel")
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(200);
 
 /// Each through its dialogue and its question, with the totals that follow each.
 void BinOdeme(benchmark::State& durum) {

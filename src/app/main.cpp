@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "access/Baslangic.h"
 #include "qt/Ekranlar.h"
 #include "qt/Gorunum.h"
 #include "qt/Koruma.h"
@@ -18,6 +19,7 @@ static int Calistir(char** argv) {
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());
     velora::Program program(disDunya.Ver(), programDizini);
     velora::EkranlariTanit(disDunya, program);
+    velora::ProgramiHazirla(program);
     program.FormTablo.Goster();
     const int sonuc = disDunya.Bitti() ? 0 : QApplication::exec();
     disDunya.PencereleriBirak();
