@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "reservation/FormKayit.h"
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "storage/Sayi.h"
@@ -188,25 +187,8 @@ void FormBakiye::Liste_DblClick() {
 }
 
 void FormBakiye::Command6_Click() {
-    Program& p = program_;
-    if (Liste.secili < 0 || Liste.secili >= static_cast<int>(Liste.satirlar.size()))
-        return;
-    // A copy: events run before it is used.
-    const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
-    const Metin& gun = satir.sutun.front();
-    if (gun.empty())
-        return;
-    {
-        const auto tablo = p.FormTablo.Tut();
-        const Metin salon = Combo2.Metni();
-        if (tablo->Salon.Metni() != salon) {
-            tablo->Salon.Sec(salon);
-            p.OlaylariIsle();
-        }
-    }
-    p.FormKayit->KayitAc = 1;
-    // With the row's own day: the payments are read and written under it.
-    KayitYukle(p, satir.tag, gun);
+    if (const ListeSatiri* satir = Liste.Secili())
+        SatiriAc(program_, *satir, Combo2.Metni());
 }
 
 void FormBakiye::Command1_Click() {

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "reservation/FormKayit.h"
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "storage/Desen.h"
@@ -51,15 +50,8 @@ void FormArama::Liste_DblClick() {
 }
 
 void FormArama::Command1_Click() {
-    if (Liste.secili < 0)
-        return;
-    // A copy: a search may come in before the record is there.
-    const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
-    const Metin& ad = satir.sutun[0];
-    program_.FormTablo->Salon.Sec(satir.sutun[1]);
-    program_.OlaylariIsle();
-    program_.FormKayit->KayitAc = 1;
-    KayitYukle(program_, satir.tag, ad);
+    if (const ListeSatiri* satir = Liste.Secili())
+        SatiriAc(program_, *satir, Metin(satir->sutun[1]));
 }
 
 void FormArama::Command2_Click() {

@@ -68,4 +68,17 @@ void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& 
     program.FormKayit.GosterModal();
 }
 
+void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil) {
+    if (satir.sutun.front().empty())
+        return;
+    program.FormTablo->Salon.Sec(salon);
+    if (!yil.empty())
+        program.FormTablo->Sene.Sec(yil);
+    program.OlaylariIsle();
+    program.FormKayit->KayitAc = 1;
+    program.FormKayit->Tag = satir.tag;
+    // Under the row's own day: its payments are read and written there.
+    KayitYukle(program, satir.tag, satir.sutun.front());
+}
+
 } // namespace velora

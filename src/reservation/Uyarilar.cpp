@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "reservation/FormKayit.h"
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
@@ -119,16 +118,8 @@ void FormTablo::Liste_DblClick() {
 
 void FormTablo::Command8_Click() {
     Command8.etkin = false;
-    if (Liste.secili < 0 || Liste.secili >= static_cast<int>(Liste.satirlar.size()))
-        return;
-    // A copy: what runs from here on may list anew.
-    const ListeSatiri satir = Liste.satirlar[static_cast<std::size_t>(Liste.secili)];
-    Salon.Sec(satir.sutun[1]);
-    Sene.Sec(Parca(satir.sutun[0], kYilYeri, 4));
-    program_.OlaylariIsle();
-    program_.FormKayit->KayitAc = 1;
-    program_.FormKayit->Tag = satir.tag;
-    KayitYukle(program_, satir.tag, satir.sutun[0]);
+    if (const ListeSatiri* satir = Liste.Secili())
+        SatiriAc(program_, *satir, Metin(satir->sutun[1]), Metin(Parca(satir->sutun[0], kYilYeri, 4)));
 }
 
 void FormTablo::Command2_Click() {

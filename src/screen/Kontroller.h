@@ -162,6 +162,12 @@ struct ListeGorunumu {
     std::vector<ListeSatiri> satirlar;
     int secili = -1;                  ///< index of the marked row, -1 for none
     std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
+
+    /// The marked row, null for none.
+    const ListeSatiri* Secili() const {
+        const auto sira = static_cast<std::size_t>(secili);
+        return secili >= 0 && sira < satirlar.size() ? &satirlar[sira] : nullptr;
+    }
 };
 
 /// A timer of a screen. It runs while `aralik` isn't 0. The outside calls `Calis` when it is due.
