@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -77,6 +78,29 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
     }
     HepsiniTazele();
 }
+
+namespace {
+
+/// Tells that the left button of the mouse was let go on a widget: after what the click itself does. Keys tell nothing.
+class FareBirakma : public QObject {
+  public:
+    FareBirakma(QWidget& parca, Baglayici::Isleyici birakildi)
+        : QObject(&parca), birakildi_(std::move(birakildi)) {
+        parca.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() == QEvent::MouseButtonRelease &&
+            dynamic_cast<QMouseEvent&>(*olay).button() == Qt::LeftButton)
+            QMetaObject::invokeMethod(nesne, birakildi_, Qt::QueuedConnection);
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    Baglayici::Isleyici birakildi_;
+};
+
+} // namespace
 
 void Baglayici::HepsiniTazele() {
     Ortak& durum = Durum();
@@ -152,12 +176,8 @@ void Baglayici::Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tikl
 }
 
 void Baglayici::Bagla(QCheckBox& kutu, OnayKutusu& model, const Isleyici& birakildi) {
-    // First what the click changes, then what the released button does.
     Bagla(kutu, model);
-    connect(&kutu, &QCheckBox::released, this, [this, &kutu, birakildi] {
-        QMetaObject::invokeMethod(
-            &kutu, [this, birakildi] { Calistir(birakildi); }, Qt::QueuedConnection);
-    });
+    new FareBirakma(kutu, [this, birakildi] { Calistir(birakildi); });
 }
 
 void Baglayici::Bagla(QRadioButton& dugme, OnayKutusu& model) {
@@ -172,7 +192,7 @@ void Baglayici::Bagla(QRadioButton& dugme, OnayKutusu& model) {
 void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
     kutu.installEventFilter(this);
     connect(&kutu, &QComboBox::activated, this,
-            [this, &model](int sira) { Calistir([&model, sira] { model.Sec(sira); }); });
+            [this, &model](int sira) { Calistir([&model, sira] { model.Tikla(sira); }); });
     Izle([&kutu, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&kutu);
         if (konan != model.ogeler) {
@@ -182,8 +202,11 @@ void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
             konan = model.ogeler;
         }
         kutu.setCurrentIndex(model.secili);
-        if (model.secili < 0)
+        if (model.secili < 0) {
+            // A text as good as any entry.
+            RenkVer(kutu, QPalette::PlaceholderText, kutu.palette().color(QPalette::Text));
             kutu.setPlaceholderText(QMetin(model.serbest));
+        }
         kutu.setEnabled(model.etkin);
     });
 }

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QPointer>
 #include <QPushButton>
 
 #include "qt/Baglayici.h"
@@ -30,9 +31,22 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
     });
 }
 
+void Diyalog::OdagiListeyeVer(QPushButton& dugme, QWidget& liste) {
+    connect(&dugme, &QPushButton::clicked, &liste, [&dugme, &liste] {
+        if (!dugme.isEnabled())
+            liste.setFocus();
+    });
+}
+
 void Diyalog::reject() {
-    if (iptal_ != nullptr && iptal_->isEnabled())
-        iptal_->click();
+    if (iptal_ == nullptr || !iptal_->isEnabled())
+        return;
+    const QPointer<QWidget> odak = focusWidget();
+    const QPointer<Diyalog> kendisi = this;
+    iptal_->click();
+    // Still here, after a "Hayır": Enter goes on where it was, not on the cancel button.
+    if (kendisi != nullptr && isVisible() && odak != nullptr)
+        odak->setFocus();
 }
 
 void Diyalog::showEvent(QShowEvent* olay) {

@@ -32,8 +32,11 @@ class Diyalog : public QDialog {
     /// focus comes before both.
     void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
 
+    /// Where the button can't be pressed any more after its work, the list has the focus again.
+    void OdagiListeyeVer(QPushButton& dugme, QWidget& liste);
+
     /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels. Enter
-    /// adds. Where a button can't be pressed any more after its work, the list has the focus again.
+    /// adds.
     template <class Ekran>
     QHBoxLayout* ListeDugmeleri(Ekran* ekran, QWidget& liste) {
         auto* ekle = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
@@ -43,10 +46,7 @@ class Diyalog : public QDialog {
         ekle->setDefault(true);
         IptalDugmesi(kapat);
         for (QPushButton* dugme : {duzenle, sil})
-            connect(dugme, &QPushButton::clicked, &liste, [dugme, &liste] {
-                if (!dugme->isEnabled())
-                    liste.setFocus();
-            });
+            OdagiListeyeVer(*dugme, liste);
         return DugmeSeridi({ekle, duzenle, sil, kapat});
     }
 

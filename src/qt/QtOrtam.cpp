@@ -8,6 +8,7 @@
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/Kabuk.h"
 #include "qt/Kutular.h"
 #include "qt/OlayKilidi.h"
 #include "qt/Saat.h"
@@ -65,6 +66,7 @@ Ortam QtOrtam::Ver() {
     ortam.goster.gizle = [this](EkranAdi ekran) { Gizle(ekran); };
     ortam.zaman.simdi = MakineSaati;
     ortam.olaylar.isle = OlaylariIsle;
+    ortam.kabuk.dosyaAc = DosyaAc;
     ortam.olaylar.bitir = [this] { Bitir(); };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
     return ortam;

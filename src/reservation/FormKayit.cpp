@@ -16,7 +16,6 @@ constexpr std::array<MetinBakis, 8> kNitelikler{kNitelikSeciniz, u"Düğün",   
                                                 u"Toplantı",     u"Kokteyl", u"Konferans", u"Diğer"};
 constexpr MetinBakis kSaatMaskesi = u"##:##";
 constexpr MetinBakis kTarihMaskesi = u"##.##.####";
-constexpr int kOdemelerSayfasi = 2;
 
 void Ac(MetinKutusu& kutu, bool acik) {
     kutu.etkin = kutu.beyazZemin = acik;

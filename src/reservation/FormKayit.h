@@ -10,6 +10,9 @@ namespace velora {
 struct Program;
 
 inline constexpr int kKaySayisi = 18;
+// Of the four pages: the fields of the main file, and the payments.
+inline constexpr int kGenelSayfasi = 1;
+inline constexpr int kOdemelerSayfasi = 2;
 inline constexpr MetinBakis kNitelikSeciniz = u"Lütfen Seçiniz";
 inline constexpr MetinBakis kMenuSeciniz = u"Menü seçiniz...";
 

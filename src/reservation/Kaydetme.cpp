@@ -89,6 +89,7 @@ bool FormKayit::AlanlarTamam() {
 
 void FormKayit::AlanaDon(int no, const Metin& mesaj) {
     program_.ortam.sor.mesaj({mesaj});
+    SSTab1 = kGenelSayfasi; // all fields that are asked for stand there
     program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay" + SayiMetni(no));
 }
 

@@ -25,7 +25,7 @@ void FormKayit::Command8_Click() {
     for (const auto& [no, mesaj] : kGerekliler)
         if (Kirp(Kay[no].metin).empty()) {
             program_.ortam.sor.mesaj({mesaj});
-            SSTab1 = 1;
+            SSTab1 = kGenelSayfasi;
             program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay" + SayiMetni(no));
             return;
         }

@@ -29,12 +29,17 @@ int AcilirListe::Bul(MetinBakis metin) const {
     return yer == ogeler.end() ? -1 : static_cast<int>(yer - ogeler.begin());
 }
 
-void AcilirListe::Sec(int sira) {
-    if (sira == secili || sira < 0 || sira >= static_cast<int>(ogeler.size()))
+void AcilirListe::Tikla(int sira) {
+    if (sira < 0 || sira >= static_cast<int>(ogeler.size()))
         return;
     secili = sira;
     if (tiklandi)
         tiklandi();
+}
+
+void AcilirListe::Sec(int sira) {
+    if (sira != secili)
+        Tikla(sira);
 }
 
 void AcilirListe::Sec(MetinBakis metin) {

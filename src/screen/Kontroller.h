@@ -129,7 +129,9 @@ struct AcilirListe {
     /// Chooses another entry and runs the handler. The entry already chosen, or one that isn't there:
     /// nothing.
     void Sec(int sira);
-    /// The same by its text. An unlisted text leaves the choice and runs nothing.
+    /// What the user picks, also the entry already chosen: chooses it and runs the handler. One that isn't there: nothing.
+    void Tikla(int sira);
+    /// As `Sec`, by its text. An unlisted text leaves the choice and runs nothing.
     void Sec(MetinBakis metin);
     /// Chooses by its text and runs nothing; an unlisted text leaves the choice.
     void SessizSec(MetinBakis metin);

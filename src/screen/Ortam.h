@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <optional>
 
@@ -74,6 +75,12 @@ struct Ortam {
         /// Ends the program, with all its screens.
         std::function<void()> bitir;
     } olaylar;
+
+    struct Kabuk {
+        /// Opens a file in the program that the user reads such files with, and doesn't wait. What can't be opened, that
+        /// program or the system tells of.
+        std::function<void(const std::filesystem::path&)> dosyaAc;
+    } kabuk;
 
     struct Odak {
         /// Gives the keyboard focus to a control of a screen, by its name.

@@ -131,6 +131,7 @@ struct FormTablo {
     // --- the entries of the menu bar ---
     void Arasss_Click();
     void BakiyeRaporss_Click();
+    void iptalsebepss_Click(); ///< the log of cancellations, there or not, in the user's text viewer
     void Salontanimss_Click();
     void MenuAyars_Click();
     void Progrset_Click();
@@ -189,6 +190,7 @@ struct FormTablo {
     MenuGirdisi Arasss{u"Kayıt Ara"};
     // The menu "Raporlar".
     MenuGirdisi BakiyeRaporss{u"Rezervasyon Raporu"};
+    MenuGirdisi iptalsebepss{u"İptal Sebepleri"};
     // The menu "Ayarlar", in this order.
     MenuGirdisi Salontanimss{u"Salon Tanımları"};
     MenuGirdisi MenuAyars{u"Menü Tanımları"};

@@ -6,6 +6,12 @@
 
 namespace velora {
 
+namespace {
+
+constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt";
+
+} // namespace
+
 void FormTablo::iptals_Click() {
     const Cevap cevap =
         program_.ortam.sor.mesaj({.metin = u"Seçili kaydı silmek istediğinizden emin misiniz?",
@@ -36,7 +42,12 @@ void FormTablo::IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep) {
     Metin satir = SeciliTarih;
     for (const Metin& parca : {Salon.Metni(), kayit.No(1), kayit.No(5), kayit.No(6), UserNamem, sebep})
         satir += u" - " + parca;
-    program_.dosyalar.Ekle(program_.agac.KokYolu(u"IptalSebep.txt"), KodYaz(satir + u"\r\n"));
+    program_.dosyalar.Ekle(program_.agac.KokYolu(kIptalDosyasi), KodYaz(satir + u"\r\n"));
+}
+
+void FormTablo::iptalsebepss_Click() {
+    if (const auto yol = program_.dosyalar.SistemYolu(program_.agac.KokYolu(kIptalDosyasi)))
+        program_.ortam.kabuk.dosyaAc(*yol);
 }
 
 } // namespace velora

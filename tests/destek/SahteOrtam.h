@@ -50,7 +50,8 @@ class SahteOrtam {
     bool bitti = false; ///< the program was told to end
     std::vector<EkranAdi> acilanlar;
     std::vector<EkranAdi> gizlenenler;
-    std::vector<Metin> odaklar; ///< controls that were given the focus
+    std::vector<std::filesystem::path> acilanDosyalar; ///< given to the user's own programs
+    std::vector<Metin> odaklar;                        ///< controls that were given the focus
 
   private:
     Cevap MesajSor(const MesajKutusu& kutu);

@@ -30,6 +30,14 @@ TEST_F(AcilirListeTest, Choosing_the_same_entry_runs_nothing) {
     EXPECT_EQ(tik, 1);
 }
 
+TEST_F(AcilirListeTest, User_who_picks_the_same_entry_again_runs_the_click_again) {
+    liste.Tikla(1);
+    liste.Tikla(1);
+    liste.Tikla(4);
+    EXPECT_EQ(liste.secili, 1);
+    EXPECT_EQ(tik, 2);
+}
+
 TEST_F(AcilirListeTest, Text_of_the_second_of_two_equal_entries_keeps_the_second) {
     liste.Sec(2);
     liste.Sec(u"B");

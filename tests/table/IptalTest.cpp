@@ -144,4 +144,13 @@ TEST_F(Iptal, Todays_frame_is_tested_again) {
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 0);
 }
 
+TEST_F(Iptal, The_log_is_opened_in_the_users_own_program_there_or_not) {
+    kullanici.ProgramiAc();
+    EXPECT_EQ(kullanici.Tablo().iptalsebepss.baslik, u"İptal Sebepleri");
+    ASSERT_FALSE(agac.DosyaVar(u"IptalSebep.txt"));
+    kullanici.Tablo().iptalsebepss_Click();
+    EXPECT_EQ(kullanici.ortam.acilanDosyalar, std::vector{agac.Kok() / "IptalSebep.txt"});
+    EXPECT_FALSE(agac.DosyaVar(u"IptalSebep.txt")) << "looking makes no file";
+}
+
 } // namespace velora::test

@@ -51,8 +51,6 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.
     sutun->addWidget(Toplamlar(ekran));
     auto* detay = DugmeYap("Command6", ekran->Command6, [ekran] { ekran->Command6_Click(); });
     auto* kapat = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
-    detay->setAutoDefault(false);
-    kapat->setAutoDefault(false);
     IptalDugmesi(kapat);
     sutun->addLayout(DugmeSeridi({detay, kapat}));
     setWindowTitle(QMetin(ekran->baslik));

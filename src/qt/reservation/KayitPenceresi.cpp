@@ -92,7 +92,6 @@ QLayout* KayitPenceresi::Dugmeler() {
     auto* kaydet = DugmeYap("Command1", ekran_.Command1, [this] { ekran_.Command1_Click(); });
     kaydet->setDefault(true);
     auto* kapat = DugmeYap("Command2", ekran_.Command2, [this] { ekran_.Command2_Click(); });
-    kapat->setAutoDefault(false);
     IptalDugmesi(kapat);
     return DugmeSeridi({kaydet, kapat});
 }

@@ -42,7 +42,6 @@ OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdeme
     auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
     tamam->setDefault(true);
     auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
-    iptal->setAutoDefault(false);
     IptalDugmesi(iptal);
     sutun->addLayout(form);
     sutun->addLayout(DugmeSeridi({tamam, iptal}));

@@ -34,7 +34,9 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* dugmeler = new QHBoxLayout;
     dugmeler->setSpacing(kAralik);
     dugmeler->addWidget(DugmeYap("Command8", ekran_.Command8, [this] { ekran_.Command8_Click(); }));
-    dugmeler->addWidget(DugmeYap("Command7", ekran_.Command7, [this] { ekran_.Command7_Click(); }));
+    auto* sil = DugmeYap("Command7", ekran_.Command7, [this] { ekran_.Command7_Click(); });
+    OdagiListeyeVer(*sil, *liste);
+    dugmeler->addWidget(sil);
     dugmeler->addStretch(1);
     dugmeler->addLayout(Toplamlar());
     sutun->addWidget(liste, 1);

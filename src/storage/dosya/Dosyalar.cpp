@@ -96,11 +96,20 @@ Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), ko
 }
 
 std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& yol) const {
-    if ((ariza && ariza(is, yol)) || !yol.starts_with(kok_))
+    if (ariza && ariza(is, yol))
+        return {};
+    auto sonuc = SistemYolu(yol);
+    // The root itself can only be listed.
+    if (sonuc == kokYolu_ && is != DosyaIsi::Listele)
+        return {};
+    return sonuc;
+}
+
+std::optional<std::filesystem::path> Dosyalar::SistemYolu(const Metin& yol) const {
+    if (!yol.starts_with(kok_))
         return {};
     std::filesystem::path sonuc = kokYolu_;
     MetinBakis kalan = MetinBakis(yol).substr(kok_.size());
-    bool kokMu = true;
     while (!kalan.empty()) {
         if (kalan.front() != kAyrac)
             return {};
@@ -113,10 +122,7 @@ std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& y
         if (!parca)
             return {};
         sonuc /= *parca;
-        kokMu = false;
     }
-    if (kokMu && is != DosyaIsi::Listele)
-        return {};
     return sonuc;
 }
 
