@@ -33,7 +33,7 @@ QString GirdiyiSuz(const QString& eski, const QString& gorunen, const GirdiKural
 QString CokSatirGoster(QString metin);
 
 /// Drops, from now on, what is typed into a field, by keys or an input method, and lies outside the code page or has no
-/// `izin`: a key that does nothing. What is pasted doesn't pass here, it may have any length of either.
+/// `izin`: a key that does nothing, also to the selection. What is pasted or dropped doesn't pass here.
 void TuslariSuz(QWidget& alan, const HarfIzni& izin = {});
 
 /// Sets the text; the cursor of a field that has the focus keeps its place, counted from the end, behind what was
