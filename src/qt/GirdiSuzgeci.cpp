@@ -2,7 +2,12 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextCursor>
 
 #include "storage/KodSayfasi.h"
 
@@ -10,12 +15,14 @@ namespace velora {
 
 namespace {
 
-/// Characters that both texts begin with.
+/// Characters that both texts begin with. None of them is half a pair, or a letter that a mark now stands on.
 qsizetype OrtakBas(const QString& bir, const QString& iki) {
     const qsizetype enCok = std::min(bir.size(), iki.size());
     qsizetype adet = 0;
     while (adet < enCok && bir[adet] == iki[adet])
         ++adet;
+    while (adet > 0 && (bir[adet - 1].isHighSurrogate() || (adet < iki.size() && iki[adet].isMark())))
+        --adet;
     return adet;
 }
 
@@ -24,40 +31,138 @@ qsizetype OrtakSon(const QString& bir, const QString& iki, qsizetype bas) {
     qsizetype adet = 0;
     while (adet < enCok && bir[bir.size() - 1 - adet] == iki[iki.size() - 1 - adet])
         ++adet;
-    return adet;
+    return adet > 0 && bir[bir.size() - adet].isLowSurrogate() ? adet - 1 : adet;
 }
 
-QString KodSayfasinaUydur(const QString& gelen) {
-    if (gelen.size() == 1)
-        return KodVar(gelen[0].unicode()) ? gelen : QString();
+/// Where the first characters that a field of many lines shows of a text end in it.
+qsizetype MetindekiYer(const QString& metin, qsizetype gorunenAdet) {
+    qsizetype yer = 0;
+    for (; gorunenAdet > 0; --gorunenAdet)
+        yer += QStringView(metin).mid(yer, 2) == u"\r\n" ? 2 : 1;
+    return yer;
+}
+
+bool SatirSonu(QChar harf) {
+    return harf == u'\n' || harf == u'\r' || harf == QChar::LineSeparator ||
+           harf == QChar::ParagraphSeparator;
+}
+
+QString KodSayfasinaUydur(const QString& gelen, bool cokSatirli) {
     QString metin = gelen.normalized(QString::NormalizationForm_C);
+    metin.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     QString uygun;
     for (qsizetype i = 0; i < metin.size(); ++i) {
-        const bool cift = metin[i].isHighSurrogate() && i + 1 < metin.size() && metin[i + 1].isLowSurrogate();
-        uygun += KodVar(metin[i].unicode()) ? metin[i] : QChar(u'?');
-        i += cift ? 1 : 0;
+        const QChar harf = metin[i];
+        if (SatirSonu(harf))
+            uygun += cokSatirli ? u'\n' : u' ';
+        else if (!cokSatirli && harf.category() == QChar::Other_Control)
+            uygun += u' ';
+        else
+            uygun += KodVar(harf.unicode()) ? harf : QChar(u'?');
+        if (harf.isHighSurrogate() && i + 1 < metin.size() && metin[i + 1].isLowSurrogate())
+            ++i;
     }
     return uygun;
 }
 
+QString Gelen(const QString& gelen, const GirdiKurali& kural, qsizetype enCok) {
+    QString metin = KodSayfasinaUydur(gelen, kural.cokSatirli);
+    if (kural.izin)
+        metin.removeIf([&kural](QChar harf) { return !kural.izin(harf.unicode()); });
+    metin.replace(u'\n', QStringLiteral("\r\n"));
+    if (kural.enUzun > 0 && metin.size() > enCok) {
+        metin.truncate(std::max<qsizetype>(0, enCok));
+        if (metin.endsWith(u'\r')) // no half of a line break
+            metin.chop(1);
+    }
+    return metin;
+}
+
+class TusSuzgeci : public QObject {
+  public:
+    TusSuzgeci(QWidget& alan, HarfIzni izin) : QObject(&alan), izin_(std::move(izin)) {
+        alan.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() == QEvent::KeyPress)
+            return TusuSuz(*nesne, static_cast<QKeyEvent&>(*olay));
+        if (olay->type() == QEvent::InputMethod)
+            GetirileniSuz(static_cast<QInputMethodEvent&>(*olay));
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    [[nodiscard]] QString Suz(const QString& tuslanan) const {
+        QString metin = tuslanan.normalized(QString::NormalizationForm_C);
+        metin.removeIf(
+            [this](QChar harf) { return !KodVar(harf.unicode()) || (izin_ && !izin_(harf.unicode())); });
+        return metin;
+    }
+
+    /// True when the key is not to reach the field as it is.
+    [[nodiscard]] bool TusuSuz(QObject& alan, const QKeyEvent& tus) const {
+        const QString metin = Suz(tus.text());
+        if (metin == tus.text())
+            return false;
+        if (!metin.isEmpty()) {
+            QKeyEvent kalan(tus.type(), tus.key(), tus.modifiers(), metin, tus.isAutoRepeat());
+            QCoreApplication::sendEvent(&alan, &kalan);
+        }
+        return true;
+    }
+
+    /// A text of which nothing is left replaces nothing either.
+    void GetirileniSuz(QInputMethodEvent& olay) const {
+        const QString metin = Suz(olay.commitString());
+        if (metin != olay.commitString())
+            olay.setCommitString(metin, olay.replacementStart(),
+                                 metin.isEmpty() ? 0 : olay.replacementLength());
+    }
+
+    HarfIzni izin_;
+};
+
 } // namespace
 
-QString GirdiyiSuz(const QString& eski, const QString& yeni, const HarfIzni& izin, int enUzun) {
-    const qsizetype bas = OrtakBas(eski, yeni);
-    const qsizetype son = OrtakSon(eski, yeni, bas);
-    QString gelen = KodSayfasinaUydur(yeni.mid(bas, yeni.size() - bas - son));
-    if (izin)
-        gelen.removeIf([&izin](QChar harf) { return !izin(harf.unicode()); });
-    if (enUzun > 0)
-        gelen.truncate(std::max<qsizetype>(0, enUzun - bas - son));
-    return yeni.left(bas) + gelen + yeni.right(son);
+QString GirdiyiSuz(const QString& eski, const QString& gorunen, const GirdiKurali& kural) {
+    const QString onceki = kural.cokSatirli ? CokSatirGoster(eski) : eski;
+    const qsizetype bas = OrtakBas(onceki, gorunen);
+    const qsizetype son = OrtakSon(onceki, gorunen, bas);
+    const auto yer = [&](qsizetype adet) { return kural.cokSatirli ? MetindekiYer(eski, adet) : adet; };
+    QString ust = eski.left(yer(bas));
+    const QString alt = eski.mid(yer(onceki.size() - son));
+    ust += Gelen(gorunen.mid(bas, gorunen.size() - bas - son), kural, kural.enUzun - ust.size() - alt.size());
+    if (kural.cokSatirli && ust.endsWith(u'\r') && alt.startsWith(u'\n'))
+        ust += u'\n'; // two line breaks stay two
+    return ust + alt;
+}
+
+QString CokSatirGoster(QString metin) {
+    return metin.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+        .replace(u'\r', u'\n')
+        .replace(QChar(QChar::Nbsp), QChar(u' '));
+}
+
+void TuslariSuz(QWidget& alan, const HarfIzni& izin) {
+    new TusSuzgeci(alan, izin);
 }
 
 void MetniKoy(QLineEdit& kutu, const QString& metin) {
-    const qsizetype geriden = kutu.text().size() - kutu.cursorPosition();
+    const qsizetype geriden = kutu.displayText().size() - kutu.cursorPosition();
     kutu.setText(metin);
-    if (kutu.inputMask().isEmpty() && kutu.hasFocus())
-        kutu.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, metin.size() - geriden)));
+    if (kutu.hasFocus())
+        kutu.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, kutu.displayText().size() - geriden)));
+}
+
+void MetniKoy(QPlainTextEdit& kutu, const QString& metin) {
+    const qsizetype yer = kutu.textCursor().position();
+    const qsizetype geriden = kutu.toPlainText().size() - yer;
+    kutu.setPlainText(metin);
+    QTextCursor imlec = kutu.textCursor();
+    const qsizetype yeniYer = kutu.hasFocus() ? metin.size() - geriden : std::min(yer, metin.size());
+    imlec.setPosition(static_cast<int>(std::max<qsizetype>(0, yeniYer)));
+    kutu.setTextCursor(imlec);
 }
 
 } // namespace velora

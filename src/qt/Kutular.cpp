@@ -30,9 +30,10 @@ QMessageBox::Icon KutuSimgesi(Simge simge) {
 
 /// The line holds what a file can hold, as the fields of the windows do.
 void GirdiyiDenetle(QLineEdit& satir) {
+    TuslariSuz(satir);
     QObject::connect(&satir, &QLineEdit::textEdited, &satir,
                      [&satir, eski = satir.text()](const QString& yeni) mutable {
-                         eski = GirdiyiSuz(eski, yeni, {}, 0);
+                         eski = GirdiyiSuz(eski, yeni, {});
                          if (eski != yeni)
                              MetniKoy(satir, eski);
                      });

@@ -1,5 +1,4 @@
 // The binder's text fields.
-#include <algorithm>
 #include <chrono>
 #include <memory>
 
@@ -33,13 +32,30 @@ QString Gorunen(const QLineEdit& kutu) {
     return kutu.inputMask().isEmpty() ? kutu.text() : kutu.displayText();
 }
 
-QString SatirSonlariEkran(const Metin& metin) {
-    return QMetin(metin).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+/// Of all signs that the toolkit counts as digits only 0 to 9 may come into a mask.
+bool MaskeyeUygun(char16_t harf) {
+    return !QChar(harf).isNumber() || (harf >= u'0' && harf <= u'9');
 }
 
-Metin SatirSonlariDosya(QString metin) {
-    return MetinYap(metin.replace(u'\n', QStringLiteral("\r\n")));
+/// What a masked field takes of what it shows now; `eski` is what it showed before. What is refused leaves its place
+/// empty.
+QString MaskeyiSuz(const QString& eski, QString yeni) {
+    for (qsizetype i = 0; i < yeni.size(); ++i)
+        if (!MaskeyeUygun(yeni[i].unicode()) && (i >= eski.size() || yeni[i] != eski[i]))
+            yeni[i] = kBosYer;
+    return yeni;
 }
+
+/// How a field stood when it last took the text of its model. The field may be unable to show a text as it is; that is
+/// no reason to put it again.
+struct SonHal {
+    QString metin;   ///< of the model
+    QString gorunen; ///< in the field
+
+    [[nodiscard]] bool Ayni(const QString& yeniMetin, const QString& yeniGorunen) const {
+        return metin == yeniMetin && gorunen == yeniGorunen;
+    }
+};
 
 /// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor afterwards.
 class OdaktaSecen : public QObject {
@@ -89,53 +105,51 @@ void Baglayici::OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyi
 
 void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler) {
     kutu.setInputMask(QMaske(model.maske));
+    TuslariSuz(kutu, model.maske.empty() ? HarfIzni() : MaskeyeUygun);
     OdagiIzle(kutu, model, isler.odakGitti);
-    const auto eski = std::make_shared<QString>();
-    connect(&kutu, &QLineEdit::textEdited, this, [this, &kutu, &model, isler, eski] {
+    const auto son = std::make_shared<SonHal>();
+    connect(&kutu, &QLineEdit::textEdited, this, [this, &kutu, &model, isler, son] {
         Calistir([&] {
-            const QString yeni = kutu.inputMask().isEmpty()
-                                     ? GirdiyiSuz(*eski, kutu.text(), model.suzgec, model.enUzun)
-                                     : Gorunen(kutu);
-            model.metin = MetinYap(yeni);
+            model.metin = MetinYap(
+                kutu.inputMask().isEmpty()
+                    ? GirdiyiSuz(son->metin, kutu.text(), {.izin = model.suzgec, .enUzun = model.enUzun})
+                    : MaskeyiSuz(son->gorunen, Gorunen(kutu)));
             if (isler.degisti)
                 isler.degisti();
         });
     });
-    Izle([&kutu, &model, eski] {
+    Izle([&kutu, &model, son] {
         const QSignalBlocker sus(&kutu);
         const QString metin = QMetin(model.metin);
-        *eski = metin;
-        if (Gorunen(kutu) != metin)
+        if (Gorunen(kutu) != metin && !son->Ayni(metin, Gorunen(kutu)))
             MetniKoy(kutu, metin);
+        *son = {metin, Gorunen(kutu)};
         DurumunuVer(kutu, model);
     });
 }
 
 void Baglayici::Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri& isler) {
     kutu.setTabChangesFocus(true);
+    TuslariSuz(kutu);
     OdagiIzle(kutu, model, isler.odakGitti);
-    const auto eski = std::make_shared<QString>();
-    connect(&kutu, &QPlainTextEdit::textChanged, this, [this, &kutu, &model, isler, eski] {
-        if (kutu.toPlainText() == *eski)
+    const auto son = std::make_shared<SonHal>();
+    connect(&kutu, &QPlainTextEdit::textChanged, this, [this, &kutu, &model, isler, son] {
+        if (kutu.toPlainText() == son->gorunen)
             return;
         Calistir([&] {
-            model.metin =
-                SatirSonlariDosya(GirdiyiSuz(*eski, kutu.toPlainText(), model.suzgec, model.enUzun));
+            const GirdiKurali kural{.izin = model.suzgec, .enUzun = model.enUzun, .cokSatirli = true};
+            model.metin = MetinYap(GirdiyiSuz(son->metin, kutu.toPlainText(), kural));
             if (isler.degisti)
                 isler.degisti();
         });
     });
-    Izle([&kutu, &model, eski] {
+    Izle([&kutu, &model, son] {
         const QSignalBlocker sus(&kutu);
-        const QString metin = SatirSonlariEkran(model.metin);
-        *eski = metin;
-        if (kutu.toPlainText() != metin) {
-            const int yer = kutu.textCursor().position();
-            kutu.setPlainText(metin);
-            QTextCursor imlec = kutu.textCursor();
-            imlec.setPosition(std::min(yer, static_cast<int>(metin.size())));
-            kutu.setTextCursor(imlec);
-        }
+        const QString metin = QMetin(model.metin);
+        const QString istenen = CokSatirGoster(metin);
+        if (kutu.toPlainText() != istenen && !son->Ayni(metin, kutu.toPlainText()))
+            MetniKoy(kutu, istenen);
+        *son = {metin, kutu.toPlainText()};
         DurumunuVer(kutu, model);
     });
 }
@@ -147,6 +161,7 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model, const std::vector<Met
     for (const Metin& oge : ogeler)
         kutu.addItem(QMetin(oge));
     kutu.installEventFilter(this); // the wheel
+    TuslariSuz(kutu);              // its field gets the keys from it, past all filters of its own
     connect(&kutu, &QComboBox::activated, this, [this, &kutu, &model](int sira) {
         Calistir([&] { model.metin = MetinYap(kutu.itemText(sira)); });
     });

@@ -130,6 +130,24 @@ class QtOrtamTest : public QObject {
         QCOMPARE(yazilan, QStringLiteral("ab"));
     }
 
+    void an_input_box_holds_one_line_and_drops_a_typed_picture() {
+        QString yazilan;
+        Kutuda<QInputDialog>([&yazilan](QInputDialog& kutu) {
+            auto* satir = kutu.findChild<QLineEdit*>();
+            QTest::keyClick(satir, Qt::Key_A);
+            QTest::sendKeyEvent(QTest::Click, satir, Qt::Key_unknown, QStringLiteral("\U0001F600"),
+                                Qt::NoModifier);
+            yazilan = satir->text();
+            QGuiApplication::clipboard()->setText(QStringLiteral("\r\nb\tc\u2028d"));
+            satir->paste();
+            QGuiApplication::clipboard()->setText(QStringLiteral("語"));
+            satir->paste();
+            QTest::keyClick(&kutu, Qt::Key_Return);
+        });
+        QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u""}), Metin(u"a b c d?"));
+        QCOMPARE(yazilan, QStringLiteral("a"));
+    }
+
     void a_cancelled_input_box_gives_empty_text() {
         Kutuda<QInputDialog>([](QInputDialog& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
         QVERIFY(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}).empty());
