@@ -103,6 +103,59 @@ class KayitKlavyesiTest : public QObject {
         QVERIFY(firma.agac.DosyaVar(Metin(kSalonA) + u"/2026/" + Metin(kGun)));
     }
 
+    void a_refusal_turns_back_to_the_page_of_its_field() {
+        GuiFirma firma;
+        YeniKayitta(firma, {[&](QDialog& pencere) {
+                        Yaz(QStringLiteral("ali veli"));
+                        for (int i = 0; i < 3; ++i)
+                            Tusla(Qt::Key_Tab, Qt::ControlModifier);
+                        QCOMPARE(firma.program.FormKayit->SSTab1, 4);
+                        Pencerede([] { Tusla(Qt::Key_Return); },
+                                  {Mesaj(QStringLiteral("Lütfen bitiş saatini giriniz!"))});
+                        QCOMPARE(Parcasi<QTabWidget>(pencere, "SSTab1").currentIndex(), 0);
+                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay15"));
+                        firma.program.FormKayit->KayitAc = 1; // closes without a question
+                        Tusla(Qt::Key_Escape);
+                    }});
+    }
+
+    void enter_on_the_focused_close_button_closes_and_saves_nothing() {
+        GuiFirma firma;
+        YeniKayitta(firma, {[&](QDialog& pencere) {
+                        Yaz(QStringLiteral("ali veli"));
+                        NiteligiSec(pencere);
+                        AlanaYaz("Kay15", QStringLiteral("2330"));
+                        const auto kapat = [&](const char* cevap) {
+                            AlanaGit("Command2");
+                            Pencerede(
+                                [] { Tusla(Qt::Key_Return); },
+                                {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                                                      "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"),
+                                       QString::fromUtf8(cevap))});
+                        };
+                        kapat("Hayır");
+                        QVERIFY(pencere.isVisible());
+                        kapat("Evet");
+                    }});
+        QVERIFY(!firma.program.FormKayit.Yuklu());
+        QVERIFY(!firma.agac.DosyaVar(Metin(kSalonA) + u"/2026/" + Metin(kGun)));
+    }
+
+    void after_esc_and_a_no_the_focus_is_where_it_was() {
+        GuiFirma firma;
+        YeniKayitta(firma, {[&](QDialog& /*pencere*/) {
+                        AlanaGit("Kay5");
+                        Pencerede(
+                            [] { Tusla(Qt::Key_Escape); },
+                            {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                                                  "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"),
+                                   QStringLiteral("Hayır"))});
+                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay5"));
+                        firma.program.FormKayit->KayitAc = 1;
+                        Tusla(Qt::Key_Escape);
+                    }});
+    }
+
     void ctrl_and_tab_turn_the_pages_from_any_field() {
         GuiFirma firma;
         YeniKayitta(firma, {[&](QDialog& pencere) {
