@@ -165,6 +165,13 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model, const std::vector<Met
     connect(&kutu, &QComboBox::activated, this, [this, &kutu, &model](int sira) {
         Calistir([&] { model.metin = MetinYap(kutu.itemText(sira)); });
     });
+    // The arrow keys go on from the entry that the text is.
+    Izle([&kutu, &model] {
+        const QSignalBlocker sus(&kutu);
+        const int sira = kutu.findText(QMetin(model.metin), Qt::MatchExactly | Qt::MatchCaseSensitive);
+        if (sira >= 0 && sira != kutu.currentIndex())
+            kutu.setCurrentIndex(sira);
+    });
     Bagla(*kutu.lineEdit(), model);
 }
 

@@ -218,6 +218,19 @@ class MetinBaglamaTest : public QObject {
         QCOMPARE(sahne.Model(), QStringLiteral("ş? "));
     }
 
+    void the_arrow_keys_of_an_editable_list_go_on_from_the_text_of_the_model() {
+        Sahne sahne;
+        QComboBox kutu(&sahne.pencere);
+        sahne.baglayici.Bagla(kutu, *sahne.metin, {u"bir", u"iki", u"üç"});
+        sahne.metin->metin = u"iki";
+        Baglayici::HepsiniTazele();
+        QTest::keyClick(&kutu, Qt::Key_Down);
+        QCOMPARE(sahne.Model(), QStringLiteral("üç"));
+        sahne.metin->metin = u"elle";
+        Baglayici::HepsiniTazele();
+        QCOMPARE(kutu.currentText(), QStringLiteral("elle"));
+    }
+
     void what_a_field_of_many_lines_shows_otherwise_stands_when_another_place_is_edited() {
         Sahne sahne;
         const QString dosyadan = QStringLiteral("bir\riki\nüç\r\ndört\u00A0beş");
