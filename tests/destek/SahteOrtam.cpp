@@ -17,6 +17,8 @@ Ortam SahteOrtam::Ver() {
     ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return GirdiSor(kutu); };
     ortam.goster.ac = [this](EkranAdi ad, const std::function<void()>& gorununce) {
         acilanlar.push_back(ad);
+        if (acilinca)
+            acilinca(ad);
         gorununce();
     };
     ortam.goster.modal = [this](EkranAdi ad, const std::function<void()>& gorununce) {

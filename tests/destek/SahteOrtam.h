@@ -42,6 +42,8 @@ class SahteOrtam {
 
     /// What happens while a screen is shown modally. Without one it closes at once.
     std::map<EkranAdi, std::function<void()>> modalda;
+    /// Runs when a screen is shown beside the others.
+    std::function<void(EkranAdi)> acilinca;
     /// Runs where the program lets pending events run; `sira` counts those points from 1.
     std::function<void(int sira)> olayda;
 

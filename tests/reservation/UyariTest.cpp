@@ -99,6 +99,27 @@ TEST_F(UyariTest, Days_that_are_no_number_count_as_0_and_warn_of_nothing) {
 }
 
 // What a file doesn't fill stays from the names before it.
+TEST_F(UyariTest, Firm_reservations_may_be_warned_of_earlier_than_the_others) {
+    AyarKoy(26, u"\"20\"");
+    RezervasyonKoy(u"04.07.2012 - Gece");
+    RezervasyonKoy(u"04.07.2012 - Gündüz", {}, true);
+    Prog();
+    UyarilarBekle({u"04.07.2012 - Gece Kesin"});
+}
+
+TEST_F(UyariTest, Events_run_between_the_scan_of_the_table_and_the_list) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog();
+    // What happens in that turn is seen by the list.
+    kullanici.ortam.olayda = [&](int) {
+        std::filesystem::remove(agac.Yol(u"Salon A/2012/16.06.2012 - Gece"));
+        std::filesystem::remove(agac.Yol(u"Salon A/2012/16.06.2012 - Gece-Detay"));
+    };
+    KutuBekle(Metin(kYok));
+    Tablo().UyariGoster();
+    UyarilarBekle({});
+}
+
 TEST_F(UyariTest, A_record_without_details_is_what_the_one_before_it_was_on_purpose) {
     RezervasyonKoy(u"02.02.2012 - Gündüz", {}, true);
     agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece", AnaMetni());

@@ -49,9 +49,35 @@ TEST_F(AyarKomutlari, Captions_stand_as_the_user_reads_them) {
     EXPECT_EQ(Ayarlar().Check5.baslik, u"Resmi Tatiller ve Özel Günler");
     EXPECT_EQ(Ayarlar().Check6.baslik, u"Gün detaylarını göster");
     EXPECT_EQ(Ayarlar().Check7.baslik, u"Sözleşme numarası atama.");
-    EXPECT_EQ(Ayarlar().Aylar[1].baslik, u"Ocak");
-    EXPECT_EQ(Ayarlar().Aylar[9].baslik, u"Eylül");
-    EXPECT_EQ(Ayarlar().Aylar[12].baslik, u"Aralık");
+    const std::array<MetinBakis, 12> aylar{u"Ocak",   u"Şubat",   u"Mart",  u"Nisan", u"Mayıs", u"Haziran",
+                                           u"Temmuz", u"Ağustos", u"Eylül", u"Ekim",  u"Kasım", u"Aralık"};
+    for (int ay = 1; ay <= 12; ++ay)
+        EXPECT_EQ(Ayarlar().Aylar[ay].baslik, aylar[static_cast<std::size_t>(ay - 1)]);
+}
+
+TEST_F(AyarKomutlari, Rows_of_the_colours_stand_as_the_user_reads_them) {
+    const std::array<MetinBakis, 13> basliklar{u"Başlıklar (Ay ve Günler)", u"Normal Günler (Gündüz)",
+                                               u"Normal Günler (Gece)",     u"Hafta Sonu (Gündüz)",
+                                               u"Hafta Sonu (Gece)",        u"Kesin Rezervasyon (Gündüz)",
+                                               u"Kesin Rezervasyon (Gece)", u"Ön Rezervasyon (Gündüz)",
+                                               u"Ön Rezervasyon (Gece)",    u"Resmi Tatiller ve Özel Günler",
+                                               u"Uyarı Penceresi",          u"Geçmiş Günler",
+                                               u"Bugün Çerçevesi"};
+    for (std::size_t i = 0; i < basliklar.size(); ++i) {
+        const RenkSatiri& satir = kRenkSatirlari[i];
+        EXPECT_EQ(satir.onay == nullptr ? Metin(satir.baslik) : (Ayarlar().*satir.onay).baslik, basliklar[i]);
+    }
+}
+
+TEST_F(AyarKomutlari, Save_applies_first_then_writes_the_settings_and_then_the_months) {
+    std::vector<Metin> isler;
+    kullanici.Prog().dosyalar.ariza = [&isler](DosyaIsi is, const Metin& yol) {
+        if (is == DosyaIsi::Yaz || is == DosyaIsi::Listele)
+            isler.push_back(yol.substr(yol.rfind(u'\\') + 1));
+        return false;
+    };
+    Ayarlar().Command1_Click();
+    EXPECT_EQ(isler, (std::vector<Metin>{u"2012", u"Settings.dll", u"Visible.dll"}));
 }
 
 TEST_F(AyarKomutlari, Save_writes_both_files_with_all_defaults_and_unloads) {

@@ -120,6 +120,13 @@ TEST_F(FormMenuEkleTest, Content_of_five_thousand_signs_with_line_breaks_is_read
     EXPECT_EQ(Liste().back()[1], beklenen);
 }
 
+TEST_F(FormMenuEkleTest, Place_of_blanks_is_no_place_and_adds) {
+    Ekle().Tag = u"  ";
+    Yaz(u"yeni", u"üç");
+    Ekle().Command4_Click();
+    EXPECT_EQ(Liste(), (Satirlar{{u"A", u"Bir"}, {u"B", u"İki"}, {u"Yeni", u"Üç"}}));
+}
+
 TEST_F(FormMenuEkleTest, Place_that_is_gone_changes_no_menu) {
     for (const auto* tag : {u"2", u"-1", u"99999999999999999999"}) {
         Ekle().Tag = tag;

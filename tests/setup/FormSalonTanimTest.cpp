@@ -118,6 +118,23 @@ TEST_F(FormSalonTanimTest, First_hall_is_selected_and_its_table_is_loaded) {
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A") << "only the first hall is selected by its add";
 }
 
+TEST_F(FormSalonTanimTest, Add_writes_the_list_then_makes_the_folders_and_then_scans_the_first_hall) {
+    kullanici.ProgramiAc();
+    const auto isler = IsleriIzle();
+    SalonEkle(u"salon a");
+    EXPECT_EQ(*isler, (std::vector<DosyaIsi>{DosyaIsi::Yaz, DosyaIsi::KlasorYap, DosyaIsi::Listele}));
+}
+
+TEST_F(FormSalonTanimTest, Delete_scans_the_first_hall_and_then_writes_the_list) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n\"B\"\r\n");
+    kullanici.ProgramiAc();
+    Tablo().Salon.Sec(1);
+    Tanim();
+    const auto isler = IsleriIzle();
+    SalonSil(1, Cevap::Evet);
+    EXPECT_EQ(*isler, (std::vector<DosyaIsi>{DosyaIsi::Listele, DosyaIsi::Yaz}));
+}
+
 TEST_F(FormSalonTanimTest, Name_entered_twice_gives_two_entries_that_share_one_folder) {
     kullanici.ProgramiAc();
     SalonEkle(u"a");

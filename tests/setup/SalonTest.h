@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "destek/Kayitlar.h"
@@ -60,6 +63,17 @@ class SalonTest : public ::testing::Test {
     void SalonlarBekle(const Salonlar& beklenen) {
         EXPECT_EQ(Tanim().List1.ogeler, beklenen);
         EXPECT_EQ(Tablo().Salon.ogeler, beklenen);
+    }
+    /// What is written, made and listed on the disk from now on, without repeats.
+    std::shared_ptr<std::vector<DosyaIsi>> IsleriIzle() {
+        auto isler = std::make_shared<std::vector<DosyaIsi>>();
+        kullanici.Prog().dosyalar.ariza = [isler](DosyaIsi is, const Metin&) {
+            const bool izlenen = is == DosyaIsi::Yaz || is == DosyaIsi::KlasorYap || is == DosyaIsi::Listele;
+            if (izlenen && (isler->empty() || isler->back() != is))
+                isler->push_back(is);
+            return false;
+        };
+        return isler;
     }
     /// Everything of this kind fails from now on.
     void Boz(DosyaIsi bozuk) {

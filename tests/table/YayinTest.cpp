@@ -67,6 +67,12 @@ TEST_F(Yayin, An_unpublished_firm_is_sent_nothing_by_itself) {
 
 TEST_F(Yayin, Every_end_of_move_mode_publishes_on_purpose_also_a_refusal_and_a_no) {
     Baslat(1, 1);
+    Metin tagYayinda;
+    int modYayinda = 1;
+    kullanici.ortam.acilinca = [&](EkranAdi) {
+        tagYayinda = kullanici.Goz(20, 6, kGunduz).tag;
+        modYayinda = kullanici.Tablo().tasimamoducheck;
+    };
     kullanici.ortam.Bekle(
         BeklenenKutu{.baslik = u"Uyarı",
                      .metin = u"Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!"});
@@ -79,6 +85,8 @@ TEST_F(Yayin, Every_end_of_move_mode_publishes_on_purpose_also_a_refusal_and_a_n
     Tasi({22, 6, kGece});
     EXPECT_EQ(Yayinlar(), 3) << "a move";
     EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).tag, u"");
+    EXPECT_EQ(tagYayinda, u"") << "the table that is published is the one after the move";
+    EXPECT_EQ(modYayinda, 0);
 }
 
 TEST_F(Yayin, A_cancellation_publishes_the_table_without_it_and_a_no_publishes_nothing) {
