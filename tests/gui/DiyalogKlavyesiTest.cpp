@@ -1,19 +1,23 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QDateEdit>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
+#include "accounts/FormBakiye.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
 #include "qt/table/TabloGorunumu.h"
+#include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "setup/FormMenuAyar.h"
@@ -47,7 +51,39 @@ constexpr Sira kSiralar[]{
      "Renk0 Renk1 Renk2 Renk3 Renk4 Renk5 Renk8 Renk9 Renk10 Renk11 Renk6 Renk7 Renk12 Renk13 Renk19 Renk20 "
      "Renk21 Renk22 Check5 Renk23 Renk24 Renk14 Renk15 Check1 Renk17 Renk18 Renk16 Command3 Command1 "
      "Command4 Command2 qt_tabwidget_tabbar"},
+    {"FormKayit", 0,
+     "Kay1 Kay2 Kay3 Kay4 Kay5 Kay6 Kay7 Kay8 Command4 Kay11 Kay12 Kay15 Kay13 Kay14 Kay16 Kay17 Option1 "
+     "Check18 Check19 Command1 Command2 qt_tabwidget_tabbar"},
+    {"FormKayit", 1, "Liste Command8 Command1 Command2 qt_tabwidget_tabbar"},
+    {"FormKayit", 2, "Combo1 Label20 Aciklamalar Command1 Command2 qt_tabwidget_tabbar"},
+    {"FormKayit", 3,
+     "Check1 Check2 Check3 Check4 Check5 Check6 Check7 Check8 Check9 Check10 Check11 Check12 Check13 Check14 "
+     "Check15 Check16 Check17 Command1 Command2 qt_tabwidget_tabbar"},
+    {"FormOdemeAl", -1, "Text1 Aciklama Command2 DTPicker1"},
+    {"FormArama", -1, "Text1 Text2 Text3 Text4 Text5 Command3 Liste Command2"},
+    {"FormBakiye", -1, "Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command1"},
 };
+
+/// A window, the button that Enter presses from a field, and the one that cancels.
+struct Dugmeler {
+    const char* pencere;
+    const char* dolu;
+    const char* iptal;
+};
+
+constexpr Dugmeler kDugmeler[]{
+    {"FormSalonTanim", "Command1", "Command3"}, {"FormSalonTanimAd", "Command1", "Command2"},
+    {"FormMenuAyar", "Command1", "Command3"},   {"FormMenuEkle", "Command4", "Command3"},
+    {"FormAyarlar", "Command1", "Command2"},    {"FormRenk", "Command1", "Command2"},
+    {"FormKayit", "Command1", "Command2"},      {"FormOdemeAl", "Command1", "Command2"},
+    {"FormArama", "Command3", "Command2"},      {"FormBakiye", "ListeleGun", "Command1"},
+};
+
+/// A new reservation would ask before it is dropped.
+void SorusuzKapansin(Program& program) {
+    if (program.FormKayit.Yuklu())
+        program.FormKayit->KayitAc = 1;
+}
 
 /// Opens a screen's window as another screen does.
 void Ac(Program& program, const QString& ad) {
@@ -64,13 +100,18 @@ void Ac(Program& program, const QString& ad) {
         {"FormAyarlar", [&] { program.FormAyarlar.GosterModal(); }},
         {"FormRenk", [&] { program.FormRenk.GosterModal(); }},
         {"FormKayit", [&] { program.FormKayit.GosterModal(); }},
-        {"FormOdemeAl", [&] { program.FormOdemeAl.GosterModal(); }}};
+        {"FormOdemeAl", [&] { program.FormOdemeAl.GosterModal(); }},
+        {"FormArama", [&] { program.FormArama.GosterModal(); }},
+        {"FormBakiye", [&] { program.FormBakiye.GosterModal(); }}};
     acanlar[ad]();
 }
 
-QString Odaktaki() {
-    const QWidget* alan = QApplication::focusWidget();
-    return alan == nullptr ? QString() : alan->objectName();
+/// The Tab key until it leaves the control: a date takes it for its day, month and year first.
+void SonrakineGit() {
+    const QPointer<QWidget> alan = QApplication::focusWidget();
+    const int enCok = qobject_cast<QDateEdit*>(alan) == nullptr ? 1 : 3;
+    for (int i = 0; i < enCok && QApplication::focusWidget() == alan; ++i)
+        Tusla(Qt::Key_Tab);
 }
 
 /// The captions on the display that can have an access key.
@@ -114,8 +155,9 @@ class DiyalogKlavyesiTest : public QObject {
     void on_each_page_each_caption_has_an_access_key_of_its_own() {
         GuiFirma firma;
         firma.Ac();
-        for (const char* ad : {"FormSalonTanim", "FormSalonTanimAd", "FormMenuAyar", "FormMenuEkle",
-                               "FormAyarlar", "FormRenk", "FormKayit", "FormOdemeAl"})
+        for (const char* ad :
+             {"FormSalonTanim", "FormSalonTanimAd", "FormMenuAyar", "FormMenuEkle", "FormAyarlar", "FormRenk",
+              "FormKayit", "FormOdemeAl", "FormArama", "FormBakiye"})
             Pencerede([&] { Ac(firma.program, ad); }, {[](QDialog& pencere) {
                           QVERIFY(Yazilar(pencere).size() >= 2);
                           auto* sayfalar = pencere.findChild<QTabWidget*>();
@@ -153,7 +195,7 @@ class DiyalogKlavyesiTest : public QObject {
                           QStringList durulan;
                           for (qsizetype i = 0; i < beklenen.size(); ++i) {
                               durulan << Odaktaki();
-                              QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                              SonrakineGit();
                           }
                           QCOMPARE(durulan, beklenen);
                           QCOMPARE(Odaktaki(), beklenen.front());
@@ -164,18 +206,29 @@ class DiyalogKlavyesiTest : public QObject {
     void each_window_has_one_button_for_enter_and_escape_cancels() {
         GuiFirma firma;
         firma.Ac();
-        const QMap<QString, QString> dolular{{"FormSalonTanim", "Command1"}, {"FormSalonTanimAd", "Command1"},
-                                             {"FormMenuAyar", "Command1"},   {"FormMenuEkle", "Command4"},
-                                             {"FormAyarlar", "Command1"},    {"FormRenk", "Command1"}};
-        for (auto dolu = dolular.begin(); dolu != dolular.end(); ++dolu)
-            Pencerede([&] { Ac(firma.program, dolu.key()); }, {[&](QDialog& pencere) {
+        for (const Dugmeler& dugmeler : kDugmeler)
+            Pencerede([&] { Ac(firma.program, dugmeler.pencere); }, {[&](QDialog& pencere) {
                           QStringList bulunan;
                           for (const auto* dugme : pencere.findChildren<QPushButton*>())
                               if (dugme->isDefault())
                                   bulunan << dugme->objectName();
-                          QCOMPARE(bulunan, QStringList{dolu.value()});
+                          QCOMPARE(bulunan, QStringList{dugmeler.dolu});
+                          SorusuzKapansin(firma.program);
                           QTest::keyClick(&pencere, Qt::Key_Escape);
                           QVERIFY(!pencere.isVisible());
+                      }});
+    }
+
+    void enter_on_the_button_that_cancels_presses_that_one() {
+        GuiFirma firma;
+        firma.Ac();
+        for (const Dugmeler& dugmeler : kDugmeler)
+            Pencerede([&] { Ac(firma.program, dugmeler.pencere); }, {[&](QDialog& pencere) {
+                          SorusuzKapansin(firma.program);
+                          Parcasi<QPushButton>(pencere, dugmeler.iptal).setFocus();
+                          // A box would come out of another button.
+                          Pencerede([] { Tusla(Qt::Key_Return); }, {});
+                          QVERIFY2(!pencere.isVisible(), dugmeler.pencere);
                       }});
     }
 

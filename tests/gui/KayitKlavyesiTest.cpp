@@ -20,20 +20,11 @@ class KayitKlavyesiTest : public QObject {
 
     static constexpr MetinBakis kGun = u"20.06.2026 - Gece";
 
-    /// A new reservation on a free day; each of `isler` is done in the window or box that comes next.
-    static void YeniKayitta(GuiFirma& firma, const std::vector<Is>& isler) {
-        firma.Ac();
-        firma.Model().SeciliTarih = kGun;
-        Pencerede([&] { firma.Model().newkay_Click(); }, isler);
-    }
-    static void Tusla(Qt::Key tus, Qt::KeyboardModifiers ek = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget(), tus, ek);
-    }
     /// Tab until the focus is in a field.
     static void AlanaGit(const char* ad) {
-        for (int i = 0; i < 60 && QApplication::focusWidget()->objectName() != QLatin1String(ad); ++i)
+        for (int i = 0; i < 60 && Odaktaki() != QLatin1String(ad); ++i)
             Tusla(Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(ad));
+        QCOMPARE(Odaktaki(), QString::fromLatin1(ad));
     }
     static void AlanaYaz(const char* ad, const QString& metin) {
         AlanaGit(ad);
@@ -51,8 +42,8 @@ class KayitKlavyesiTest : public QObject {
   private slots:
     void a_price_still_in_its_field_is_in_the_rest_when_the_access_key_saves() {
         GuiFirma firma;
-        YeniKayitta(firma, {[](QDialog& pencere) {
-                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay1"));
+        YeniKayitta(firma, kGun, {[](QDialog& pencere) {
+                        QCOMPARE(Odaktaki(), QStringLiteral("Kay1"));
                         Yaz(QStringLiteral("ali veli"));
                         NiteligiSec(pencere);
                         AlanaYaz("Kay15", QStringLiteral("2330"));
@@ -69,7 +60,7 @@ class KayitKlavyesiTest : public QObject {
     void the_start_is_selected_whole_mended_when_it_is_left_and_the_end_is_not_on_purpose() {
         GuiFirma firma;
         YeniKayitta(
-            firma, {[&](QDialog& pencere) {
+            firma, kGun, {[&](QDialog& pencere) {
                 const auto model = firma.program.FormKayit.Tut();
                 AlanaGit("Kay12");
                 QCoreApplication::processEvents();
@@ -90,13 +81,13 @@ class KayitKlavyesiTest : public QObject {
 
     void enter_saves_and_a_refusal_puts_the_focus_where_something_is_missing() {
         GuiFirma firma;
-        YeniKayitta(firma, {[&](QDialog& pencere) {
+        YeniKayitta(firma, kGun, {[&](QDialog& pencere) {
                         Yaz(QStringLiteral("ali veli"));
                         NiteligiSec(pencere);
                         AlanaGit("Kay1");
                         Pencerede([] { Tusla(Qt::Key_Return); },
                                   {Mesaj(QStringLiteral("Lütfen bitiş saatini giriniz!"))});
-                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay15"));
+                        QCOMPARE(Odaktaki(), QStringLiteral("Kay15"));
                         Yaz(QStringLiteral("2330"));
                         Tusla(Qt::Key_Return);
                     }});
@@ -105,7 +96,7 @@ class KayitKlavyesiTest : public QObject {
 
     void a_refusal_turns_back_to_the_page_of_its_field() {
         GuiFirma firma;
-        YeniKayitta(firma, {[&](QDialog& pencere) {
+        YeniKayitta(firma, kGun, {[&](QDialog& pencere) {
                         Yaz(QStringLiteral("ali veli"));
                         for (int i = 0; i < 3; ++i)
                             Tusla(Qt::Key_Tab, Qt::ControlModifier);
@@ -113,7 +104,7 @@ class KayitKlavyesiTest : public QObject {
                         Pencerede([] { Tusla(Qt::Key_Return); },
                                   {Mesaj(QStringLiteral("Lütfen bitiş saatini giriniz!"))});
                         QCOMPARE(Parcasi<QTabWidget>(pencere, "SSTab1").currentIndex(), 0);
-                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay15"));
+                        QCOMPARE(Odaktaki(), QStringLiteral("Kay15"));
                         firma.program.FormKayit->KayitAc = 1; // closes without a question
                         Tusla(Qt::Key_Escape);
                     }});
@@ -121,7 +112,7 @@ class KayitKlavyesiTest : public QObject {
 
     void enter_on_the_focused_close_button_closes_and_saves_nothing() {
         GuiFirma firma;
-        YeniKayitta(firma, {[&](QDialog& pencere) {
+        YeniKayitta(firma, kGun, {[&](QDialog& pencere) {
                         Yaz(QStringLiteral("ali veli"));
                         NiteligiSec(pencere);
                         AlanaYaz("Kay15", QStringLiteral("2330"));
@@ -143,14 +134,14 @@ class KayitKlavyesiTest : public QObject {
 
     void after_esc_and_a_no_the_focus_is_where_it_was() {
         GuiFirma firma;
-        YeniKayitta(firma, {[&](QDialog& /*pencere*/) {
+        YeniKayitta(firma, kGun, {[&](QDialog& /*pencere*/) {
                         AlanaGit("Kay5");
                         Pencerede(
                             [] { Tusla(Qt::Key_Escape); },
                             {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
                                                   "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"),
                                    QStringLiteral("Hayır"))});
-                        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Kay5"));
+                        QCOMPARE(Odaktaki(), QStringLiteral("Kay5"));
                         firma.program.FormKayit->KayitAc = 1;
                         Tusla(Qt::Key_Escape);
                     }});
@@ -158,7 +149,7 @@ class KayitKlavyesiTest : public QObject {
 
     void ctrl_and_tab_turn_the_pages_from_any_field() {
         GuiFirma firma;
-        YeniKayitta(firma, {[&](QDialog& pencere) {
+        YeniKayitta(firma, kGun, {[&](QDialog& pencere) {
                         auto& sayfalar = Parcasi<QTabWidget>(pencere, "SSTab1");
                         for (const int sayfa : {1, 2, 3, 0}) {
                             Tusla(Qt::Key_Tab, Qt::ControlModifier);

@@ -6,6 +6,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -110,16 +111,20 @@ class KayitPenceresiTest : public QObject {
         GuiFirma firma;
         firma.Ac();
         YeniKayitta(firma, [&](QWidget& pencere) {
+            QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &pencere; }));
             auto& not3 = Bul<QLineEdit>(pencere, "TT3");
             auto& kutu = Bul<QCheckBox>(pencere, "Check3");
             QVERIFY(!not3.isEnabled());
-            const auto model = firma.program.FormKayit.Tut();
-            model->SSTab1 = 4;
-            QCoreApplication::processEvents();
+            Bul<QTabWidget>(pencere, "SSTab1").setCurrentIndex(3);
+            QVERIFY(kutu.isVisible());
+            QTest::mouseClick(&kutu, Qt::LeftButton, {}, {8, kutu.height() / 2});
+            QTRY_COMPARE(QApplication::focusWidget(), &not3);
+            QVERIFY(not3.isEnabled());
+            QCOMPARE(firma.program.FormKayit->Check[3].deger, 1);
             QTest::mouseClick(&kutu, Qt::LeftButton, {}, {8, kutu.height() / 2});
             QCoreApplication::processEvents();
-            QVERIFY(not3.isEnabled());
-            QCOMPARE(model->Check[3].deger, 1);
+            QVERIFY(!not3.isEnabled());
+            QVERIFY(QApplication::focusWidget() != &not3);
         });
     }
 

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include "gui/GuiFirma.h"
 #include "qt/table/TabloPenceresi.h"
@@ -91,6 +92,21 @@ Is TusBas(Qt::Key tus) {
     return [=](QDialog& pencere) { QTest::keyClick(&pencere, tus); };
 }
 
+void Tusla(Qt::Key tus, Qt::KeyboardModifiers ek) {
+    QTest::keyClick(QApplication::focusWidget(), tus, ek);
+}
+
+QString Odaktaki() {
+    const QWidget* alan = QApplication::focusWidget();
+    return alan == nullptr ? QString() : alan->objectName();
+}
+
+void YeniKayitta(GuiFirma& firma, MetinBakis gun, const std::vector<Is>& isler) {
+    firma.Ac();
+    firma.Model().SeciliTarih = gun;
+    Pencerede([&] { firma.Model().newkay_Click(); }, isler);
+}
+
 void MenudenSec(GuiFirma& firma, const char* girdi) {
     auto& menu = firma.Bul<QMenu>("ayarsd");
     QMenuBar& serit = *firma.Pencere().menuBar();
@@ -101,6 +117,11 @@ void MenudenSec(GuiFirma& firma, const char* girdi) {
 
 void Tikla(QWidget& pencere, const char* ad) {
     QTest::mouseClick(&Parcasi<QWidget>(pencere, ad), Qt::LeftButton);
+}
+
+void SatiraTikla(const QTreeWidget& liste, int sira) {
+    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {},
+                      liste.visualItemRect(liste.topLevelItem(sira)).center());
 }
 
 QString Isaretsiz(QString metin) {

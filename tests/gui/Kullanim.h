@@ -6,6 +6,10 @@
 #include <QDialog>
 #include <QString>
 
+#include "storage/Metin.h"
+
+class QTreeWidget;
+
 namespace velora::test {
 
 class GuiFirma;
@@ -32,11 +36,22 @@ Is Girdi(const QString& metin);
 /// In any window: a key is pressed.
 Is TusBas(Qt::Key tus);
 
+/// A key on the widget that has the focus, and the name of that widget's control.
+void Tusla(Qt::Key tus, Qt::KeyboardModifiers ek = Qt::NoModifier);
+QString Odaktaki();
+
+/// Opens the main screen and on it a new record on a day of the hall and year that it stands on; `isler` as in
+/// `Pencerede`.
+void YeniKayitta(GuiFirma& firma, MetinBakis gun, const std::vector<Is>& isler);
+
 /// Clicks on an entry of the menu "Ayarlar" of the main screen, by the name of its control.
 void MenudenSec(GuiFirma& firma, const char* girdi);
 
 /// Clicks on the middle of a widget of a window, by the name of its control.
 void Tikla(QWidget& pencere, const char* ad);
+
+/// Clicks on a row of a list, counted from 0.
+void SatiraTikla(const QTreeWidget& liste, int sira);
 
 /// A widget of a window by the name of its control.
 template <class Parca>

@@ -186,4 +186,21 @@ TEST_F(UyariTest, A_save_lists_a_visible_panel_anew_and_leaves_a_hidden_one_alon
     UyarilarBekle({});
 }
 
+TEST_F(UyariTest, A_cancelled_reservation_keeps_its_row_until_the_panel_is_listed_anew_on_purpose) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog();
+    ASSERT_TRUE(Tablo().Picture1.gorunur);
+    ASSERT_TRUE(kullanici.SagTikla({16, 6, kGece}));
+    KutuBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", Cevap::Evet, Simge::Soru);
+    kullanici.ortam.Bekle(
+        BeklenenGirdi{.baslik = u"İptal Sebebi", .metin = u"İptal sebebini yazınız!", .cevap = u"x"});
+    Tablo().iptals_Click();
+    EXPECT_FALSE(AnaVar(u"16.06.2012 - Gece"));
+    UyarilarBekle({u"16.06.2012 - Gece Kesin"});
+    EXPECT_TRUE(Tablo().Picture1.gorunur);
+    KutuBekle(Metin(kYok));
+    Tablo().UyariGoster();
+    UyarilarBekle({});
+}
+
 } // namespace velora::test

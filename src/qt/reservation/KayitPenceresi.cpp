@@ -69,13 +69,13 @@ KayitPenceresi::KayitPenceresi(Program& program)
       sayfalar_(new QTabWidget) {
     QVBoxLayout* sutun = SutunKur(*this);
     sutun->addWidget(sayfalar_);
-    sutun->addLayout(Dugmeler());
     sayfalar_->setObjectName(QStringLiteral("SSTab1"));
     SayfaTuslari(*sayfalar_);
     sayfalar_->addTab(GenelSayfasi(), QStringLiteral("Genel Bilgiler "));
     sayfalar_->addTab(OdemeSayfasi(), QStringLiteral("Ödemeler"));
     sayfalar_->addTab(MenuSayfasi(), QStringLiteral("Menüler"));
     sayfalar_->addTab(HizmetSayfasi(), QStringLiteral("Hizmetler"));
+    sutun->addLayout(Dugmeler()); // behind the pages for the Tab key too
     connect(sayfalar_, &QTabWidget::tabBarClicked, this,
             [this](int sira) { Bag().Calistir([this, sira] { ekran_.SSTab1 = sira + 1; }); });
     connect(sayfalar_, &QTabWidget::currentChanged, this,
