@@ -47,13 +47,15 @@ void DetayiYerlestir(FormKayit& kayit, const DetayDegerler& detay) {
 } // namespace
 
 void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& tarih) {
+    // First of all: the loading of the screen lets events run, and the pointer may move on to another day.
+    const Metin gun = tarih ? *tarih : program.FormTablo->SeciliTarih;
     const auto kayit = program.FormKayit.Tut();
     if (program.agac.RezervasyonVarMi(yol)) {
         AnaDegerler ana;
         AnaOku(program.dosyalar, yol, ana);
         AnayiYerlestir(*kayit, ana);
     }
-    kayit->Tarih = tarih ? *tarih : program.FormTablo->SeciliTarih;
+    kayit->Tarih = gun;
     const Metin detayYolu = yol + Metin(kDetayEki);
     if (!program.dosyalar.VarMi(detayYolu)) {
         // Never shown, never closed: left loaded it would pass its flags on to the next new record.

@@ -68,6 +68,8 @@ void FormTablo::Hucre_DblClick(SatirAdi satir, int gun) {
 }
 
 void FormTablo::newkay_Click() {
+    // The day that was pressed: the loading of the screen lets events run, and the pointer may move on.
+    const Metin gun = SeciliTarih;
     if (Kirp(Salon.Metni()).empty()) {
         program_.ortam.sor.mesaj({.metin = u"Lütfen Önce Salon Tanımı yapınız!", .simge = Simge::Kritik});
         program_.FormSalonTanim.GosterModal();
@@ -75,10 +77,10 @@ void FormTablo::newkay_Click() {
     }
     {
         const auto kayit = program_.FormKayit.Tut();
-        kayit->Tarih = SeciliTarih;
+        kayit->Tarih = gun;
         kayit->Kay[8].kilitli = false;
         kayit->Kay[12].metin =
-            AnahtarDilimi(SeciliTarih) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
+            AnahtarDilimi(gun) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
     }
     program_.FormKayit.GosterModal();
 }

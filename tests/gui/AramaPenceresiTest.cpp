@@ -1,5 +1,9 @@
+#include <algorithm>
+#include <array>
+
 #include <QApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -205,11 +209,19 @@ class AramaPenceresiTest : public QObject {
         });
     }
 
-    void every_control_has_a_name_for_those_who_cannot_see_it() {
+    void every_field_has_its_caption_also_for_those_who_cannot_see_it() {
         GuiFirma firma;
         Aramada(firma, [&](QWidget& pencere) {
-            for (const char* ad : {"Text1", "Text2", "Text3", "Text4", "Text5", "Liste"})
-                QVERIFY2(!Bul<QWidget>(pencere, ad).accessibleName().isEmpty(), ad);
+            const std::array alanlar{"Adı Soyadı", "Gelin / Damat", "Telefon", "Cep", "Sözleşme No"};
+            for (std::size_t i = 0; i < alanlar.size(); ++i) {
+                const auto& alan = *pencere.findChild<QLineEdit*>(QStringLiteral("Text%1").arg(i + 1));
+                QCOMPARE(alan.accessibleName(), QString::fromUtf8(alanlar[i]));
+                QVERIFY(std::ranges::any_of(pencere.findChildren<QLabel*>(), [&](const QLabel* etiket) {
+                    return etiket->buddy() == &alan &&
+                           etiket->text().remove(u'&') == QString::fromUtf8(alanlar[i]);
+                }));
+            }
+            QVERIFY(!Bul<QWidget>(pencere, "Liste").accessibleName().isEmpty());
         });
     }
 };

@@ -205,24 +205,6 @@ class BaglayiciTest : public QObject {
         QCOMPARE(sahne.sayi, 1);
     }
 
-    void a_click_on_the_marked_row_counts_and_the_focus_alone_marks_none() {
-        Sahne sahne;
-        QTreeWidget liste(&sahne.pencere);
-        sahne.ekran->satirlar = {{u"Ad"}, {{{u"A"}, {}, 0}, {{u"B"}, {}, 0}}, -1};
-        sahne.baglayici.Bagla(liste, sahne.ekran->satirlar, [&] { ++sahne.sayi; });
-        sahne.pencere.show();
-        liste.setFocus(Qt::TabFocusReason);
-        QCOMPARE(sahne.ekran->satirlar.secili, -1);
-        QCOMPARE(sahne.sayi, 0);
-        const QPoint ilk = liste.visualItemRect(liste.topLevelItem(0)).center();
-        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ilk);
-        QCOMPARE(sahne.ekran->satirlar.secili, 0);
-        const int once = sahne.sayi;
-        QVERIFY(once > 0);
-        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, ilk);
-        QVERIFY(sahne.sayi > once);
-    }
-
     void columns_of_numbers_stand_to_the_right() {
         Sahne sahne;
         QTreeWidget liste(&sahne.pencere);

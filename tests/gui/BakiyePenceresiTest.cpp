@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <array>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -12,6 +15,7 @@
 #include "accounts/FormBakiye.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloPenceresi.h"
 #include "reservation/FormKayit.h"
@@ -57,6 +61,10 @@ class BakiyePenceresiTest : public QObject {
         return *pencere.findChild<Parca*>(QString::fromLatin1(ad));
     }
     static QString Yazi(QWidget& pencere, const char* ad) { return Bul<QLabel>(pencere, ad).text(); }
+    static bool EtiketVar(const QWidget& pencere, const QString& yazi) {
+        return std::ranges::any_of(pencere.findChildren<QLabel*>(),
+                                   [&](const QLabel* etiket) { return Isaretsiz(etiket->text()) == yazi; });
+    }
     /// Where a row of the list stands on its viewport.
     static QPoint SatirYeri(QTreeWidget& liste, int sira) {
         return liste.visualItemRect(liste.topLevelItem(sira)).center();
@@ -93,15 +101,27 @@ class BakiyePenceresiTest : public QObject {
         });
     }
 
-    void every_control_has_a_name_for_those_who_cannot_see_it() {
+    void every_control_has_its_caption_also_for_those_who_cannot_see_it() {
         GuiFirma firma;
         firma.Ac();
         Raporda(firma, [&](QWidget& pencere) {
-            for (const char* ad : {"Combo2", "DTPicker1", "DTPicker2", "Combo1", "Liste", "DTop1", "DTop2",
-                                   "DTop3", "DTop4", "DTop5", "DTop6", "DTop7", "DTop8", "Toplam", "Alinan",
-                                   "Kalan", "Label14", "Label18", "Label19"})
-                QVERIFY2(!Bul<QWidget>(pencere, ad).accessibleName().isEmpty(), ad);
-            QCOMPARE(Bul<QWidget>(pencere, "DTPicker2").accessibleName(), QStringLiteral("Bitiş Tarihi"));
+            const std::array yazilar{std::pair{"Combo2", "Salon Adı"},
+                                     std::pair{"Combo1", "Rezervasyon Tipi"},
+                                     std::pair{"DTPicker1", "Başlangıç Tarihi"},
+                                     std::pair{"DTPicker2", "Bitiş Tarihi"},
+                                     std::pair{"DTop1", "Düğün"},
+                                     std::pair{"DTop8", "Diğer"},
+                                     std::pair{"Toplam", "Genel Toplam"},
+                                     std::pair{"Alinan", "Alınan Ödeme"},
+                                     std::pair{"Kalan", "Kalan Ödeme"},
+                                     std::pair{"Label14", "Kesin Rezervasyon"},
+                                     std::pair{"Label18", "Ön Rezervasyon"},
+                                     std::pair{"Label19", "Toplam Rezervasyon"}};
+            for (const auto& [ad, yazi] : yazilar) {
+                QCOMPARE(Bul<QWidget>(pencere, ad).accessibleName(), QString::fromUtf8(yazi));
+                QVERIFY2(EtiketVar(pencere, QString::fromUtf8(yazi)), yazi);
+            }
+            QVERIFY(!Bul<QWidget>(pencere, "Liste").accessibleName().isEmpty());
         });
     }
 

@@ -43,7 +43,7 @@ constexpr Sira kSiralar[]{
     {"FormSalonTanimAd", -1, "Text1 Command1 Command2"},
     {"FormMenuAyar", -1, "Liste Command1 Command3"},
     {"FormMenuEkle", -1, "Text1 Text2 Command4 Command3"},
-    {"FormRenk", -1, "txtRed txtGreen txtBlue txtWeb txtHex Command1 Command2"},
+    {"FormRenk", -1, "txtRed txtGreen txtBlue txtWeb txtHex txtTers Command1 Command2"},
     {"FormAyarlar", 0,
      "UyariGun UyariGun2 GunduzGece Check2 Check7 Check6 Check3 Aylar1 Aylar2 Aylar3 Aylar4 Aylar5 Aylar6 "
      "Aylar7 Aylar8 Aylar9 Aylar10 Aylar11 Aylar12 Command3 Command1 Command4 Command2 qt_tabwidget_tabbar"},

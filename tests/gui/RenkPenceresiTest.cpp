@@ -63,7 +63,7 @@ class RenkPenceresiTest : public QObject {
         Kutuda(firma, "Renk8", [](QDialog& pencere) {
             QCOMPARE(pencere.windowTitle(), QStringLiteral("Renk Seçiniz"));
             QCOMPARE(Ornek(pencere), QColor(241, 223, 92));
-            for (const char* ad : {"txtRed", "txtGreen", "txtBlue", "txtWeb", "txtHex"})
+            for (const char* ad : {"txtRed", "txtGreen", "txtBlue", "txtWeb", "txtHex", "txtTers"})
                 QCOMPARE(Alan(pencere, ad), QStringLiteral("0"));
         });
     }
@@ -119,6 +119,7 @@ class RenkPenceresiTest : public QObject {
                 QCOMPARE(Yazan(pencere), QColor(Qt::black));
                 QCOMPARE(Alan(pencere, "txtWeb"), QStringLiteral("#000000"));
                 QCOMPARE(Alan(pencere, "txtHex"), QStringLiteral("0"));
+                QCOMPARE(Alan(pencere, "txtTers"), QStringLiteral("&H000000&"));
             }
             QTest::mouseRelease(&cizelge, Qt::LeftButton, {}, {-3, 90});
         });

@@ -99,6 +99,11 @@ class UyariPaneliTest : public QObject {
         QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
         QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
         QCOMPARE(acilan, 2);
+        QTest::keyClick(&liste, Qt::Key_Return);
+        QCOMPARE(acilan, 2); // no row was chosen since
+        QTest::keyClick(&liste, Qt::Key_Space);
+        QTest::keyClick(&liste, Qt::Key_Return);
+        QCOMPARE(acilan, 3);
         QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonB));
     }
 

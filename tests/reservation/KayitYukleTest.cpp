@@ -210,4 +210,22 @@ TEST_F(KayitYukleTest, With_neither_state_in_the_file_the_firm_one_stands) {
     });
 }
 
+TEST_F(KayitYukleTest,
+       A_row_brings_the_table_to_its_hall_then_to_its_year_and_lets_events_run_before_it_opens) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    Prog();
+    std::vector<Metin> sira;
+    kullanici.Tablo().Salon.tiklandi = [&] { sira.push_back(kullanici.Tablo().Salon.Metni()); };
+    kullanici.Tablo().Sene.tiklandi = [&] { sira.push_back(kullanici.Tablo().Sene.Metni()); };
+    kullanici.ortam.olayda = [&](int) {
+        if (!Prog().FormKayit.Yuklu())
+            sira.emplace_back(u"olay");
+    };
+    SatiriAc(Prog(), {{u"02.01.2013 - Gece"}, Yol(u"02.01.2013 - Gece"), 0}, u"Salon B", u"2013");
+    kullanici.ortam.olayda = {};
+    ASSERT_GE(sira.size(), 3U);
+    sira.resize(3);
+    EXPECT_EQ(sira, (std::vector<Metin>{u"Salon B", u"2013", u"olay"}));
+}
+
 } // namespace velora::test

@@ -116,6 +116,44 @@ TEST_F(KayitAcma, New_reservation_takes_the_day_last_moved_over_and_not_the_pres
     EXPECT_EQ(acilma, 1);
 }
 
+// The loading of the screen lets events run: a waiting movement of the mouse arrives there.
+TEST_F(KayitAcma, Pointer_that_moves_on_while_the_screen_loads_leaves_a_new_reservation_on_its_day) {
+    kullanici.ProgramiAc();
+    ASSERT_TRUE(kullanici.SagTikla({20, 6, kGunduz}));
+    kullanici.ortam.olayda = [this](int) { kullanici.Uzerine({9, 8, kGece}); };
+    AcilincaBak([](const FormKayit& kayit) {
+        EXPECT_EQ(kayit.Tarih, u"20.06.2012 - Gündüz");
+        EXPECT_EQ(kayit.Kay[12].metin, u"11:00");
+    });
+    kullanici.Tablo().newkay_Click();
+    EXPECT_EQ(acilma, 1);
+}
+
+TEST_F(KayitAcma, Pointer_that_moves_on_while_the_screen_loads_leaves_a_record_with_its_own_payments) {
+    RezervasyonKoy(u"20.06.2012 - Gece");
+    agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece-Odeme", u"\"01.01.2012\",\"100\",\"x\"\r\n");
+    agac.KoyMetin(u"Salon A/2012/09.08.2012 - Gece-Odeme", u"\"01.01.2012\",\"999\",\"x\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.Uzerine({20, 6, kGece});
+    kullanici.ortam.olayda = [this](int) { kullanici.Uzerine({9, 8, kGece}); };
+    AcilincaBak([](const FormKayit& kayit) {
+        EXPECT_EQ(kayit.Tarih, u"20.06.2012 - Gece");
+        EXPECT_EQ(kayit.Kay[9].metin, u"100");
+    });
+    kullanici.Tablo().Hucre_DblClick(Satir(6, kGece), 20);
+    EXPECT_EQ(acilma, 1);
+}
+
+TEST_F(KayitAcma, Hall_of_blanks_counts_as_none) {
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Salon.ogeler[0] = u"  ";
+    kullanici.ortam.Bekle(
+        BeklenenKutu{u"Velora", u"Lütfen Önce Salon Tanımı yapınız!", Simge::Kritik, Cevap::Tamam});
+    kullanici.Tablo().newkay_Click();
+    EXPECT_EQ(kullanici.ortam.acilanlar.back(), EkranAdi::FormSalonTanim);
+    EXPECT_FALSE(kullanici.Prog().FormKayit.Yuklu());
+}
+
 TEST_F(KayitAcma, Without_a_hall_the_list_of_halls_opens_in_its_place) {
     agac.KoyMetin(u"Salon.dat", u"");
     kullanici.ProgramiAc();

@@ -223,6 +223,19 @@ TEST_F(TasimaModu, Drag_flags_stay_by_position_over_a_change_of_hall_and_a_drop_
     ModKapaliBekle();
 }
 
+TEST_F(TasimaModu, Mode_stays_open_over_a_change_of_year_and_a_drop_then_changes_nothing) {
+    UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
+    kullanici.ProgramiAc();
+    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.YilSec(u"2013");
+    EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 1);
+    const std::string once = agac.Resim();
+    SoruBekle(Cevap::Evet);
+    EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGunduz}));
+    EXPECT_EQ(agac.Resim(), once);
+    ModKapaliBekle();
+}
+
 TEST_F(TasimaModu, Scan_leaves_the_drag_flags_alone) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     kullanici.ProgramiAc();

@@ -47,11 +47,14 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.
     auto* suzgecler = new QGridLayout;
     sutun->addLayout(suzgecler);
     SuzgecleriKur(*suzgecler, ekran);
-    sutun->addWidget(Liste(ekran), 1);
+    QWidget* liste = Liste(ekran);
+    sutun->addWidget(liste, 1);
     sutun->addWidget(Toplamlar(ekran));
     auto* detay = DugmeYap("Command6", ekran->Command6, [ekran] { ekran->Command6_Click(); });
     auto* kapat = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
     IptalDugmesi(kapat);
+    VarsayilanDugme(*findChild<QPushButton*>(QStringLiteral("ListeleGun")), *liste, *detay);
+    OdagiListeyeVer(*detay, *liste);
     sutun->addLayout(DugmeSeridi({detay, kapat}));
     setWindowTitle(QMetin(ekran->baslik));
     resize(1080, 600);
@@ -68,7 +71,6 @@ void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
     Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("Bitiş Tarihi")),
                 ekran->DTPicker2);
     auto* listele = DugmeYap("ListeleGun", ekran->Listele, [ekran] { ekran->ListeleGun(); });
-    listele->setDefault(true);
     izgara.addWidget(listele, 1, 6);
     for (const int ara : {2, 5})
         izgara.setColumnMinimumWidth(ara, kAralik);

@@ -93,16 +93,19 @@ QFormLayout* DegerlerKur(Baglayici& baglayici, FormRenk& ekran) {
     ornek->setFrameShape(QFrame::StyledPanel); // seen also when it is as light as the window
     baglayici.Bagla(*ornek, ekran.picColorBox);
     form->addRow(ornek);
+    Metin basliksiz; // the last field stands without a caption
     const std::array alanlar{
         std::tuple{"txtRed", &ekran.redBaslik, &ekran.txtRed},
         std::tuple{"txtGreen", &ekran.greenBaslik, &ekran.txtGreen},
         std::tuple{"txtBlue", &ekran.blueBaslik, &ekran.txtBlue},
         std::tuple{"txtWeb", &ekran.webBaslik, &ekran.txtWeb},
         std::tuple{"txtHex", &ekran.hexBaslik, &ekran.txtHex},
+        std::tuple{"txtTers", &basliksiz, &ekran.txtTers},
     };
     for (const auto& [ad, baslik, model] : alanlar) {
         auto* kutu = new QLineEdit;
-        Adlandir(*kutu, QString::fromLatin1(ad), QMetin(*baslik));
+        Adlandir(*kutu, QString::fromLatin1(ad),
+                 baslik->empty() ? QStringLiteral("Ters değer") : QMetin(*baslik));
         kutu->setFixedWidth(kDegerEni);
         baglayici.Bagla(*kutu, *model);
         form->addRow(QMetin(*baslik), kutu);

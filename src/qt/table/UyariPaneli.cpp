@@ -51,10 +51,12 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
         *liste, tablo.Liste, [&tablo] { tablo.Liste_Click(); }, [&tablo] { tablo.Liste_DblClick(); });
     liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     sutun->addWidget(liste, 1);
+    detaylar_ = DugmeYap(*this, baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); });
     kapat_ = DugmeYap(*this, baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
-    sutun->addLayout(DugmeSeridi(
-        {DugmeYap(*this, baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); }),
-         kapat_}));
+    // Beside the keys of the window that the panel stands in.
+    detaylar_->setText(QStringLiteral("De&taylar"));
+    kapat_->setText(QStringLiteral("&Kapat"));
+    sutun->addLayout(DugmeSeridi({detaylar_, kapat_}));
     hide();
     baglayici.Izle([this, &tablo, baslik] {
         baslik->setText(QMetin(tablo.UyariBaslik.baslik));
@@ -66,6 +68,8 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
 void UyariPaneli::keyPressEvent(QKeyEvent* olay) {
     if (olay->key() == Qt::Key_Escape)
         kapat_->click();
+    if (olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter)
+        (kapat_->hasFocus() ? kapat_ : detaylar_)->click();
     olay->accept();
 }
 

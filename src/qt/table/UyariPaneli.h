@@ -16,12 +16,13 @@ class UyariPaneli : public QFrame {
     UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust);
 
   protected:
-    /// Esc closes it. No key of the panel gets through to the table.
+    /// Esc closes it, Enter opens the marked row. No key of the panel gets through to the table.
     void keyPressEvent(QKeyEvent* olay) override;
 
   private:
     void Tazele(const FormTablo& tablo);
 
+    QPushButton* detaylar_;
     QPushButton* kapat_;
 };
 
