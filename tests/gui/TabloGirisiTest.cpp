@@ -150,6 +150,22 @@ class TabloGirisiTest : public QObject {
         QCOMPARE(firma.Model().SeciliTarih, Metin(u"03.03.2026 - Gece"));
     }
 
+    void no_hover_reaches_the_cells_while_a_box_is_open() {
+        GuiFirma firma;
+        firma.Ac();
+        Uzerine(firma, Goz(firma, EylulGunduz, 11));
+        Metin kutuda;
+        QTimer::singleShot(50, &firma.Tablo(), [&] {
+            Uzerine(firma, Goz(firma, MartGece, 3));
+            kutuda = firma.Model().SeciliTarih;
+            QApplication::activeModalWidget()->close();
+        });
+        firma.program.ortam.sor.mesaj({u"Bir soru"});
+        QCOMPARE(kutuda, Metin(u"11.09.2026 - Gündüz"));
+        Uzerine(firma, Goz(firma, MartGece, 3));
+        QCOMPARE(firma.Model().SeciliTarih, Metin(u"03.03.2026 - Gece"));
+    }
+
     void no_hover_reaches_the_cells_while_a_button_is_down() {
         GuiFirma firma;
         firma.Ac();
