@@ -264,7 +264,7 @@ class DiyalogKlavyesiTest : public QObject {
                       AltIle(Qt::Key_M);
                       QCOMPARE(Odaktaki(), QStringLiteral("Text1"));
                       AltIle(Qt::Key_P);
-                      QTRY_VERIFY(!pencere.isVisible());
+                      Kapanincaya(pencere);
                   }});
         Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[](QDialog& pencere) {
                       const auto& ekim = Parcasi<QCheckBox>(pencere, "Aylar10");

@@ -68,6 +68,11 @@ void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
     QCOMPARE(sira, isler.size());
 }
 
+void Kapanincaya(QDialog& pencere) {
+    const QPointer<QDialog> beklenen = &pencere;
+    QTRY_VERIFY(beklenen == nullptr || !beklenen->isVisible());
+}
+
 Is Mesaj(const QString& metin, const QString& dugme) {
     return [=](QDialog& pencere) {
         auto* kutu = qobject_cast<QMessageBox*>(&pencere);

@@ -27,6 +27,9 @@ using Is = std::function<void(QDialog&)>;
 /// and fails too.
 void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler);
 
+/// Waits until a window is closed, and perhaps gone. An access key presses its button only after a moment.
+void Kapanincaya(QDialog& pencere);
+
 /// In a message box: it must say `metin`; its button `dugme` is clicked.
 Is Mesaj(const QString& metin, const QString& dugme = QStringLiteral("Tamam"));
 

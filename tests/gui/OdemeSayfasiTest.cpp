@@ -55,7 +55,7 @@ class OdemeSayfasiTest : public QObject {
                       QCOMPARE(odeme.windowTitle(), QStringLiteral("Ödeme Ekle"));
                       QCOMPARE(Odaktaki(), QStringLiteral("Text1"));
                       is(odeme);
-                      QTRY_VERIFY(!odeme.isVisible());
+                      Kapanincaya(odeme);
                   }});
     }
     static void Sil(QDialog& pencere, const QString& cevap) {
