@@ -14,7 +14,7 @@ constexpr std::array<MetinBakis, kAySayisi> kAyAdlari{u"OCAK",  u"ŞUBAT",   u"M
                                                       u"MAYIS", u"HAZİRAN", u"TEMMUZ", u"AĞUSTOS",
                                                       u"EYLÜL", u"EKİM",    u"KASIM",  u"ARALIK"};
 
-constexpr Yer kPanelYeri{0, 1500, 12000, 4200}; // of the panel of warnings; it is centred later
+constexpr Yer kPanelYeri{0, 1500, 13200, 4200}; // of the panel of warnings; it is centred later
 constexpr int kYilPayi = 10;                    // years that `Sene` offers before and after the current one
 constexpr int kSaatsayAraligi = 50'000;
 constexpr int kDuyuruAraligi = 2'500;
