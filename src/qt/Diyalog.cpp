@@ -31,6 +31,14 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
     });
 }
 
+QHBoxLayout* Diyalog::TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal) {
+    auto* tamamDugmesi = DugmeYap(tamam.ad, tamam.model, tamam.tiklandi);
+    auto* iptalDugmesi = DugmeYap(iptal.ad, iptal.model, iptal.tiklandi);
+    tamamDugmesi->setDefault(true);
+    IptalDugmesi(iptalDugmesi);
+    return DugmeSeridi({tamamDugmesi, iptalDugmesi});
+}
+
 void Diyalog::OdagiListeyeVer(QPushButton& dugme, QWidget& liste) {
     connect(&dugme, &QPushButton::clicked, &liste, [&dugme, &liste] {
         if (!dugme.isEnabled())

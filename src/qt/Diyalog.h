@@ -32,6 +32,15 @@ class Diyalog : public QDialog {
     /// focus comes before both.
     void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
 
+    /// What a button is made from.
+    struct DugmeTanimi {
+        const char* ad;
+        Dugme& model;
+        std::function<void()> tiklandi;
+    };
+    /// The row of a dialog that confirms or cancels: Enter presses the first, Esc the second.
+    QHBoxLayout* TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal);
+
     /// Where the button can't be pressed any more after its work, the list has the focus again.
     void OdagiListeyeVer(QPushButton& dugme, QWidget& liste);
 

@@ -209,31 +209,24 @@ TEST_F(TasimaModu, Dropped_colour_leaves_taken_cells_open_to_a_drop_until_the_ne
     UcDosyaBekle(u"21.06.2012 - Gece", "A");
 }
 
-TEST_F(TasimaModu, Drag_flags_stay_by_position_over_a_change_of_hall_and_a_drop_then_changes_nothing) {
+TEST_F(TasimaModu,
+       Drag_flags_stay_by_position_over_a_change_of_hall_or_year_and_a_drop_then_changes_nothing) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
-    kullanici.SalonSec(u"Salon B");
-    EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 1);
-    const std::string once = agac.Resim();
-    SoruBekle(Cevap::Evet);
-    EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGunduz}));
-    EXPECT_EQ(agac.Resim(), once);
-    ModKapaliBekle();
-}
-
-TEST_F(TasimaModu, Mode_stays_open_over_a_change_of_year_and_a_drop_then_changes_nothing) {
-    UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
-    kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
-    kullanici.YilSec(u"2013");
-    EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 1);
-    const std::string once = agac.Resim();
-    SoruBekle(Cevap::Evet);
-    EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGunduz}));
-    EXPECT_EQ(agac.Resim(), once);
-    ModKapaliBekle();
+    const std::vector<std::function<void()>> degisiklikler{[this] { kullanici.SalonSec(u"Salon B"); },
+                                                           [this] { kullanici.YilSec(u"2013"); }};
+    for (const auto& degistir : degisiklikler) {
+        kullanici.SalonSec(u"Salon A");
+        kullanici.Tablo().TasimaModuAc_Click();
+        degistir();
+        EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 1);
+        const std::string once = agac.Resim();
+        SoruBekle(Cevap::Evet);
+        EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGunduz}));
+        EXPECT_EQ(agac.Resim(), once);
+        ModKapaliBekle();
+    }
 }
 
 TEST_F(TasimaModu, Scan_leaves_the_drag_flags_alone) {

@@ -39,12 +39,9 @@ OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdeme
     miktar->setAlignment(Qt::AlignRight);
     Bag().Bagla(*miktar, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
     Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("Açıklama")), ekran->Aciklama);
-    auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
-    tamam->setDefault(true);
-    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
-    IptalDugmesi(iptal);
     sutun->addLayout(form);
-    sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
+                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
     sutun->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(QMetin(ekran->baslik));
     miktar->setFocus();

@@ -54,12 +54,9 @@ MenuEklePenceresi::MenuEklePenceresi(Program& program) : Diyalog(program.FormMen
     Adlandir(*icerik, QStringLiteral("Text2"), QMetin(ekran->Label2.baslik));
     Bag().Bagla(*icerik, ekran->Text2);
     form->addRow(QMetin(ekran->Label2.baslik), icerik);
-    auto* tamam = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
-    tamam->setDefault(true);
-    auto* iptal = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
-    IptalDugmesi(iptal);
     sutun->addLayout(form, 1);
-    sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->addLayout(TamamIptal({"Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }},
+                                {"Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }}));
     Bag().Izle([this, ekran] { setWindowTitle(QMetin(ekran->baslik)); });
     ad->setFocus();
 }

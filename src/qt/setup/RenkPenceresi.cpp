@@ -125,12 +125,9 @@ RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut())
     Adlandir(*cizelge, QStringLiteral("Picture1"), QStringLiteral("Renk çizelgesi"));
     ust->addWidget(cizelge);
     ust->addLayout(DegerlerKur(Bag(), *ekran));
-    auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
-    tamam->setDefault(true);
-    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
-    IptalDugmesi(iptal);
     sutun->addLayout(ust);
-    sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
+                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
     sutun->setSizeConstraint(QLayout::SetFixedSize); // as the chart
     setWindowTitle(QMetin(ekran->baslik));
     findChild<QWidget*>(QStringLiteral("txtRed"))->setFocus();

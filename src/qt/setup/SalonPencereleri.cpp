@@ -47,12 +47,9 @@ SalonAdPenceresi::SalonAdPenceresi(Program& program) : Diyalog(program.FormSalon
     ad->setMinimumWidth(kAlanEni);
     Bag().Bagla(*ad, ekran->Text1);
     form->addRow(QMetin(ekran->Label1.baslik), ad);
-    auto* tamam = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
-    tamam->setDefault(true);
-    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
-    IptalDugmesi(iptal);
     sutun->addLayout(form);
-    sutun->addLayout(DugmeSeridi({tamam, iptal}));
+    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
+                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
     sutun->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(QMetin(ekran->baslik));
     ad->setFocus();
