@@ -9,8 +9,8 @@ struct Splash {
     explicit Splash(Program& /*program*/) {}
     void Load() {}
 
-    int Check1 =
-        0; ///< 1 when the service answered in this run: the test with which every online feature starts
+    int Check1 = 0; ///< 1 when the service answered in this run: the test with which every online feature
+                    ///< starts
     int Check2 = 0; ///< 1 when the service reports the firm's calendar as published
 };
 

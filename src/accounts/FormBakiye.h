@@ -9,13 +9,13 @@ namespace velora {
 
 struct Program;
 
-/// The kinds of event that have a total of their own, by the numbers of their `DTop` less one. The last one also
-/// takes every kind that isn't named here.
+/// The kinds of event that have a total of their own, by the numbers of their `DTop` less one. The last one
+/// also takes every kind that isn't named here.
 inline constexpr std::array<MetinBakis, 8> kBakiyeTurleri{u"Düğün", u"Sünnet",  u"Toplantı",  u"Kına",
                                                           u"Nişan", u"Kokteyl", u"Konferans", u"Diğer"};
 
-/// "Rezervasyon Raporu": the reservations of one hall in a range of dates, and what they come to. The range lies in
-/// the year selected on the table.
+/// "Rezervasyon Raporu": the reservations of one hall in a range of dates, and what they come to. The range
+/// lies in the year selected on the table.
 struct FormBakiye {
     explicit FormBakiye(Program& program);
 
@@ -23,15 +23,15 @@ struct FormBakiye {
     void Activate();
     /// Reads the folder of the hall and lists what lies in the range. Nothing in it: a box says so.
     ///
-    /// A name in the folder that begins as a day's and is no date ends it there, and so does a reservation of the
-    /// range whose main file or details can't be opened. What was listed until then stays; totals and counters show
-    /// what they showed before, and no box comes.
+    /// A name in the folder that begins as a day's and is no date ends it there, and so does a reservation of
+    /// the range whose main file or details can't be opened. What was listed until then stays; totals and
+    /// counters show what they showed before, and no box comes.
     void ListeleGun();
     void Liste_Click();
     void Liste_DblClick();
     void Command1_Click(); ///< "Kapat"
-    /// "Detaylar": the table goes to the hall of the report, and the marked reservation is opened. Returns when it
-    /// has closed. Without a marked row nothing happens.
+    /// "Detaylar": the table goes to the hall of the report, and the marked reservation is opened. Returns
+    /// when it has closed. Without a marked row nothing happens.
     void Command6_Click();
     void Command4(); ///< "DTPicker1 Tarihi Sınırla"
     void Command5(); ///< "DTPicker2 Tarihi Sınırla"

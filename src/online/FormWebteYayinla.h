@@ -6,8 +6,8 @@ namespace velora {
 
 struct Program;
 
-/// "Veri Tabanı": stands while the year table of the selected hall is sent to the service. Nothing shows it unless the
-/// service has answered in this run.
+/// "Veri Tabanı": stands while the year table of the selected hall is sent to the service. Nothing shows it
+/// unless the service has answered in this run.
 struct FormWebteYayinla {
     explicit FormWebteYayinla(Program& program);
 

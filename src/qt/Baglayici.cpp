@@ -81,7 +81,8 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
 
 namespace {
 
-/// Tells that the left button of the mouse was let go on a widget: after what the click itself does. Keys tell nothing.
+/// Tells that the left button of the mouse was let go on a widget: after what the click itself does. Keys
+/// tell nothing.
 class FareBirakma : public QObject {
   public:
     FareBirakma(QWidget& parca, Baglayici::Isleyici birakildi)

@@ -67,8 +67,8 @@ class Baglayici : public QObject {
     /// A list that hasn't the focus passes the wheel on: it turns what lies under the pointer, not a choice.
     void Bagla(QComboBox& kutu, AcilirListe& model);
     void Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi);
-    /// `secildi` runs when the user marks a row, also on a press on the one that is marked already; a press on
-    /// another row runs it twice. `ciftTiklandi` runs on a double click. Only the model takes a mark away.
+    /// `secildi` runs when the user marks a row, also on a press on the one that is marked already; a press
+    /// on another row runs it twice. `ciftTiklandi` runs on a double click. Only the model takes a mark away.
     void Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& secildi = {},
                const Isleyici& ciftTiklandi = {});
     /// A plain list; `secildi` as above.
@@ -91,7 +91,8 @@ class Baglayici : public QObject {
     /// waits for its end.
     static bool KisaIsSuruyor();
 
-    /// Refreshes all widgets and takes the running handler for a long one from here on: it waits for the user.
+    /// Refreshes all widgets and takes the running handler for a long one from here on: it waits for the
+    /// user.
     static void KullaniciBekleniyor();
 
   protected:

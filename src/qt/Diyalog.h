@@ -13,9 +13,9 @@ namespace velora {
 class Baglayici;
 struct Dugme;
 
-/// The window of a screen that stands over others. Its X and the Esc key press the screen's own cancel button, and do
-/// nothing while that one is disabled: what closing means is the screen's to say. Its captions get access keys when it
-/// is first shown.
+/// The window of a screen that stands over others. Its X and the Esc key press the screen's own cancel
+/// button, and do nothing while that one is disabled: what closing means is the screen's to say. Its captions
+/// get access keys when it is first shown.
 class Diyalog : public QDialog {
   public:
     explicit Diyalog(std::weak_ptr<const void> ekran);
@@ -28,8 +28,8 @@ class Diyalog : public QDialog {
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
-    /// What Enter presses: `dugme` from any field, `listede` while the list has the focus. Another button that has the
-    /// focus comes before both.
+    /// What Enter presses: `dugme` from any field, `listede` while the list has the focus. Another button
+    /// that has the focus comes before both.
     void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
 
     /// What a button is made from.
@@ -44,8 +44,8 @@ class Diyalog : public QDialog {
     /// Where the button can't be pressed any more after its work, the list has the focus again.
     void OdagiListeyeVer(QPushButton& dugme, QWidget& liste);
 
-    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels. Enter
-    /// adds.
+    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
+    /// Enter adds.
     template <class Ekran>
     QHBoxLayout* ListeDugmeleri(Ekran* ekran, QWidget& liste) {
         auto* ekle = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });

@@ -86,8 +86,8 @@ std::vector<qsizetype> Adaylar(const QString& metin, const Tuslar& dolu) {
     return yerler;
 }
 
-/// Gives out keys so that as many captions as can be have one: a caption that finds none free takes the key of one that
-/// can do with another.
+/// Gives out keys so that as many captions as can be have one: a caption that finds none free takes the key
+/// of one that can do with another.
 class Dagitim {
   public:
     Dagitim(std::vector<Yazi*> yazilar, const Tuslar& dolu) : yazilar_(std::move(yazilar)) {

@@ -4,12 +4,12 @@ class QWidget;
 
 namespace velora {
 
-/// Marks an access key ("&") in each caption of a window that can take one: buttons, tick boxes, tabs, and labels that
-/// name a field (those with a buddy). The captions of the screens themselves know no marks.
+/// Marks an access key ("&") in each caption of a window that can take one: buttons, tick boxes, tabs, and
+/// labels that name a field (those with a buddy). The captions of the screens themselves know no marks.
 ///
-/// No two captions that are seen at the same time share a key; those on different pages may. A caption that is marked
-/// already keeps its mark, and one for which no letter is left gets none. Costs nothing where all are marked: meant to
-/// run after every refresh.
+/// No two captions that are seen at the same time share a key; those on different pages may. A caption that
+/// is marked already keeps its mark, and one for which no letter is left gets none. Costs nothing where all
+/// are marked: meant to run after every refresh.
 void ErisimTuslariVer(QWidget& pencere);
 
 } // namespace velora

@@ -51,11 +51,13 @@ void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     liste.addTopLevelItems(ogeler);
 }
 
-/// Marks a row, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that the model still has.
+/// Marks a row, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that the model
+/// still has.
 void Isaretle(QAbstractItemView& liste, int secili) {
     const QModelIndex satir = liste.model()->index(secili, 0);
     if (!satir.isValid()) {
-        // Told in so many words that it has no row, the view doesn't take its first one when it gets the focus.
+        // Told in so many words that it has no row, the view doesn't take its first one when it gets the
+        // focus.
         liste.setCurrentIndex({});
         liste.clearSelection();
     } else if (!liste.selectionModel()->isSelected(satir) || liste.currentIndex().row() != secili) {

@@ -37,8 +37,8 @@ bool MaskeyeUygun(char16_t harf) {
     return !QChar(harf).isNumber() || (harf >= u'0' && harf <= u'9');
 }
 
-/// What a masked field takes of what it shows now; `eski` is what it showed before. What is refused leaves its place
-/// empty.
+/// What a masked field takes of what it shows now; `eski` is what it showed before. What is refused leaves
+/// its place empty.
 QString MaskeyiSuz(const QString& eski, QString yeni) {
     for (qsizetype i = 0; i < yeni.size(); ++i)
         if (!MaskeyeUygun(yeni[i].unicode()) && (i >= eski.size() || yeni[i] != eski[i]))
@@ -46,8 +46,8 @@ QString MaskeyiSuz(const QString& eski, QString yeni) {
     return yeni;
 }
 
-/// How a field stood when it last took the text of its model. The field may be unable to show a text as it is; that is
-/// no reason to put it again.
+/// How a field stood when it last took the text of its model. The field may be unable to show a text as it
+/// is; that is no reason to put it again.
 struct SonHal {
     QString metin;   ///< of the model
     QString gorunen; ///< in the field
@@ -57,7 +57,8 @@ struct SonHal {
     }
 };
 
-/// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor afterwards.
+/// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor
+/// afterwards.
 class OdaktaSecen : public QObject {
   public:
     explicit OdaktaSecen(QLineEdit& kutu) : QObject(&kutu) { kutu.installEventFilter(this); }

@@ -22,12 +22,13 @@ QVBoxLayout* SutunKur(QWidget& parca);
 /// Labels in one aligned column, fields beside them.
 QFormLayout* FormKur();
 
-/// A row of buttons of one window, at the lower right, with some of them at the left end, if any. Tab walks them from
-/// left to right.
+/// A row of buttons of one window, at the lower right, with some of them at the left end, if any. Tab walks
+/// them from left to right.
 QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
                          std::initializer_list<QPushButton*> soldakiler = {});
 
-/// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever field.
+/// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever
+/// field.
 void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.

@@ -13,8 +13,8 @@ inline constexpr std::array<int, 5> kAramaNumaralari{1, 3, 5, 6, 14};
 /// These values, in this order, as the variables of a search hold them.
 using AramaDegerleri = std::array<Metin, kAramaNumaralari.size()>;
 
-/// One pass over a folder: it is listed once and the first values of each file are read once, so that a search can
-/// then open any name in it as often as it likes.
+/// One pass over a folder: it is listed once and the first values of each file are read once, so that a
+/// search can then open any name in it as often as it likes.
 class AramaOkumasi {
   public:
     /// At most so many bytes of a file are looked at: a huge stray file costs neither memory nor time.
@@ -23,9 +23,9 @@ class AramaOkumasi {
     /// A folder that isn't there gives an empty reading.
     AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor);
 
-    /// What opening the file of this name leaves in the variables: it fills those whose values the file holds, in
-    /// order, and leaves the rest as they were. False when it fills none; a file that isn't in the folder or can't be
-    /// opened does so too.
+    /// What opening the file of this name leaves in the variables: it fills those whose values the file
+    /// holds, in order, and leaves the rest as they were. False when it fills none; a file that isn't in the
+    /// folder or can't be opened does so too.
     bool Oku(MetinBakis ad, AramaDegerleri& hedef) const;
 
   private:

@@ -9,8 +9,8 @@ namespace velora {
 
 struct Program;
 
-/// "Kayıt Arama": finds reservations by what their files say of the customer. There is no index: each search reads the
-/// files. It stays open while a found record is edited.
+/// "Kayıt Arama": finds reservations by what their files say of the customer. There is no index: each search
+/// reads the files. It stays open while a found record is edited.
 struct FormArama {
     static constexpr int kOlcutSayisi = 5;
 
@@ -18,13 +18,13 @@ struct FormArama {
 
     void Load() {}
     void Activate();
-    /// "Detaylar": opens the marked row over the others, in its hall. Returns when the record has closed. With no row
-    /// marked, or when the record can't be opened: nothing, and no message says so.
+    /// "Detaylar": opens the marked row over the others, in its hall. Returns when the record has closed.
+    /// With no row marked, or when the record can't be opened: nothing, and no message says so.
     void Command1_Click();
     void Command2_Click(); ///< "Kapat"
-    /// "Ara": walks the folders of all halls and years, but opens each name in the year that is selected. Each
-    /// criterion that a file matches gives a row, so a file may be listed up to five times. A name that isn't there
-    /// is tested with the values of the file before it. Nothing found: a box says so.
+    /// "Ara": walks the folders of all halls and years, but opens each name in the year that is selected.
+    /// Each criterion that a file matches gives a row, so a file may be listed up to five times. A name that
+    /// isn't there is tested with the values of the file before it. Nothing found: a box says so.
     void Command3_Click();
     void Liste_ItemClick();
     void Liste_DblClick();

@@ -17,9 +17,9 @@ struct Program;
 /// only those missing, nothing is shown, no message says so, and `FormKayit` ends unloaded.
 void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& tarih = {});
 
-/// Opens the reservation of a list's row as an existing one: its first column is the day file name, its tag the path.
-/// First the table goes to that hall and, when it is given, to that year. A row without a text opens nothing. The row is
-/// taken as it is now: what runs meanwhile may list anew.
+/// Opens the reservation of a list's row as an existing one: its first column is the day file name, its tag
+/// the path. First the table goes to that hall and, when it is given, to that year. A row without a text
+/// opens nothing. The row is taken as it is now: what runs meanwhile may list anew.
 void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil = {});
 
 } // namespace velora

@@ -1,4 +1,5 @@
-// Reservations whose day is near: the scan over all halls and years, and the panel on the table that shows it.
+// Reservations whose day is near: the scan over all halls and years, and the panel on the table that shows
+// it.
 #include "reservation/Uyarilar.h"
 
 #include <algorithm>
@@ -49,8 +50,8 @@ Metin UyariTaramasi::Yol(std::size_t sira) const {
     return klasorler_[ad.klasor].yol + kAyrac + ad.metin;
 }
 
-/// Brings the values from where they stood before the name `ilk` to behind the name `sira`. Files fill from the first
-/// value on, so the latest of them come first and the ones before only add what is missing.
+/// Brings the values from where they stood before the name `ilk` to behind the name `sira`. Files fill from
+/// the first value on, so the latest of them come first and the ones before only add what is missing.
 template <class Degerler, class Oku>
 void UyariTaramasi::Yurut(Degerler& hal, std::size_t ilk, std::size_t sira, const Oku& oku) const {
     std::size_t dolu = 0;

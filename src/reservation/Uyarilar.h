@@ -18,9 +18,10 @@ struct UyariSuresi {
 
 /// Looks through year folders for reservations that are near.
 ///
-/// The plain way reads each name of each folder as a main record and its companion as details; what a file doesn't
-/// fill stays from the names before it, over all folders. Only days that are near can give a row. So only their files
-/// are read, and the names before them where something is missing in these; the rows are the same.
+/// The plain way reads each name of each folder as a main record and its companion as details; what a file
+/// doesn't fill stays from the names before it, over all folders. Only days that are near can give a row. So
+/// only their files are read, and the names before them where something is missing in these; the rows are the
+/// same.
 class UyariTaramasi {
   public:
     explicit UyariTaramasi(const Dosyalar& dosyalar) : dosyalar_(dosyalar) {}
@@ -28,8 +29,8 @@ class UyariTaramasi {
     /// Adds the names of a year folder that begin with a day number, behind those of the folders before.
     void KlasorEkle(const Metin& salon, const Metin& klasor);
 
-    /// The rows, in the order of the names: day file name, hall, customer, couple, telephone, mobile phone, and "Kesin"
-    /// or "Ön". The tag is the path of the main file. A record that is both gives both rows.
+    /// The rows, in the order of the names: day file name, hall, customer, couple, telephone, mobile phone,
+    /// and "Kesin" or "Ön". The tag is the path of the main file. A record that is both gives both rows.
     std::vector<ListeSatiri> Satirlar(const Gun& bugun, const UyariSuresi& sure) const;
 
   private:

@@ -129,7 +129,8 @@ struct AcilirListe {
     /// Chooses another entry and runs the handler. The entry already chosen, or one that isn't there:
     /// nothing.
     void Sec(int sira);
-    /// What the user picks, also the entry already chosen: chooses it and runs the handler. One that isn't there: nothing.
+    /// What the user picks, also the entry already chosen: chooses it and runs the handler. One that isn't
+    /// there: nothing.
     void Tikla(int sira);
     /// As `Sec`, by its text. An unlisted text leaves the choice and runs nothing.
     void Sec(MetinBakis metin);
@@ -137,8 +138,8 @@ struct AcilirListe {
     void SessizSec(MetinBakis metin);
     /// Takes the text as it stands, listed or not, and runs nothing.
     void MetinAta(MetinBakis metin);
-    /// Takes an entry out and runs nothing. The choice stays on its entry; with the chosen one gone nothing is
-    /// chosen. An index that isn't there: nothing.
+    /// Takes an entry out and runs nothing. The choice stays on its entry; with the chosen one gone nothing
+    /// is chosen. An index that isn't there: nothing.
     void Sil(int sira);
 };
 

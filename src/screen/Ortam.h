@@ -77,8 +77,8 @@ struct Ortam {
     } olaylar;
 
     struct Kabuk {
-        /// Opens a file in the program that the user reads such files with, and doesn't wait. What can't be opened, that
-        /// program or the system tells of.
+        /// Opens a file in the program that the user reads such files with, and doesn't wait. What can't be
+        /// opened, that program or the system tells of.
         std::function<void(const std::filesystem::path&)> dosyaAc;
     } kabuk;
 

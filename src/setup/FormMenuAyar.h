@@ -6,8 +6,8 @@ namespace velora {
 
 struct Program;
 
-/// "Menü Ayarları": the firm's banquet menus, a name and a content each, kept in `Menuler.dat`. The order of the
-/// list is the order of the file.
+/// "Menü Ayarları": the firm's banquet menus, a name and a content each, kept in `Menuler.dat`. The order of
+/// the list is the order of the file.
 struct FormMenuAyar {
     explicit FormMenuAyar(Program& program);
 

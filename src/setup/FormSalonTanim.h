@@ -6,8 +6,8 @@ namespace velora {
 
 struct Program;
 
-/// "Salon Tanımları": the list of halls, kept in `Salon.dat`. A hall's name is also its folder's name. The hall
-/// selector of the table carries the same names in the same order: each change goes to both.
+/// "Salon Tanımları": the list of halls, kept in `Salon.dat`. A hall's name is also its folder's name. The
+/// hall selector of the table carries the same names in the same order: each change goes to both.
 struct FormSalonTanim {
     explicit FormSalonTanim(Program& program);
 

@@ -40,12 +40,12 @@ struct Odeme {
     Metin aciklama;
 };
 
-/// Each fills what the file holds, in order, leaves the rest as it was, and says how many values it filled. Nothing
-/// when the file can't be opened.
+/// Each fills what the file holds, in order, leaves the rest as it was, and says how many values it filled.
+/// Nothing when the file can't be opened.
 std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef);
 std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef);
-/// Adds the payments of the file to the list. A payment whose date is blank adds nothing. False when the file can't be
-/// opened.
+/// Adds the payments of the file to the list. A payment whose date is blank adds nothing. False when the file
+/// can't be opened.
 bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef);
 
 /// Main record: every double quote goes, every comma becomes a full stop.

@@ -154,7 +154,8 @@ struct FormTablo {
     void GecmisGunler();
     void CetvelAc();
     void CetvelSil();
-    /// Lists the reservations that are near (reservation/Uyarilar). None, and not at the start: a box says so.
+    /// Lists the reservations that are near (reservation/Uyarilar). None, and not at the start: a box says
+    /// so.
     void UyariGoster();
     void TasimaBitir(); ///< closes move mode
 

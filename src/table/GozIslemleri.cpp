@@ -1,5 +1,6 @@
-// What happens on a cell: the pointer over it, a press, a click, a double click, a new reservation. All 24 rows
-// behave alike. Free and taken are told by the back colour alone, compared with the colours as they are now.
+// What happens on a cell: the pointer over it, a press, a click, a double click, a new reservation. All 24
+// rows behave alike. Free and taken are told by the back colour alone, compared with the colours as they are
+// now.
 #include <algorithm>
 
 #include "reservation/FormKayit.h"

@@ -27,7 +27,8 @@ struct TaramaDegerleri {
     }
 };
 
-/// Ten parts with a bar between them. A bar inside a value isn't escaped. The cell keeps its memory from scan to scan.
+/// Ten parts with a bar between them. A bar inside a value isn't escaped. The cell keeps its memory from scan
+/// to scan.
 void TagYaz(const Metin& kullanici, GunduzGece dilim, const TaramaDegerleri& degerler, Metin& tag) {
     tag = kullanici;
     for (const int no : {12, 4})

@@ -1,5 +1,5 @@
-// Move mode: taken cells can be dragged, and the first drop on a cell ends it. A reservation is its files, so a
-// move copies them to the names of the other day and deletes the old ones.
+// Move mode: taken cells can be dragged, and the first drop on a cell ends it. A reservation is its files, so
+// a move copies them to the names of the other day and deletes the old ones.
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
@@ -34,7 +34,8 @@ void FormTablo::Hucre_DragDrop(SatirAdi satir, int gun) {
 }
 
 void FormTablo::RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi) {
-    // A taken cell refuses itself by its colour. One that was painted as past since then doesn't: it stays where it is.
+    // A taken cell refuses itself by its colour. One that was painted as past since then doesn't: it stays
+    // where it is.
     if (kaynakAdi == hedefAdi)
         return;
     const Metin salon = Salon.Metni();

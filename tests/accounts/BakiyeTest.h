@@ -5,7 +5,8 @@
 
 namespace velora::test {
 
-/// The firm of `KayitTest` with a second hall; the report stands open over the table while the test works on it.
+/// The firm of `KayitTest` with a second hall; the report stands open over the table while the test works on
+/// it.
 class BakiyeTest : public KayitTest {
   protected:
     BakiyeTest() { agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n"); }

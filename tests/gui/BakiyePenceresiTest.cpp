@@ -29,8 +29,8 @@ class BakiyePenceresiTest : public QObject {
 
     using Is = std::function<void(QWidget&)>;
 
-    /// Runs `is` as soon as the window of the screen stands, and unloads what is left of it. Loading a screen lets
-    /// events run too, so it may take some of their rounds.
+    /// Runs `is` as soon as the window of the screen stands, and unloads what is left of it. Loading a screen
+    /// lets events run too, so it may take some of their rounds.
     template <class Ekran>
     void Durunca(GuiFirma& firma, EkranAdi ad, Pencere<Ekran>& ekran, const Is& is, int kalan = 100) {
         QTimer::singleShot(0, this, [this, &firma, ad, &ekran, is, kalan] {

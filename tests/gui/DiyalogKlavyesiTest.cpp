@@ -31,7 +31,8 @@ using namespace velora::test;
 
 namespace {
 
-/// A window by the name of its screen, and the controls that Tab walks, the one that has the focus at first in front.
+/// A window by the name of its screen, and the controls that Tab walks, the one that has the focus at first
+/// in front.
 struct Sira {
     const char* pencere;
     int sayfa; // of its tabs, from 0; -1 without tabs

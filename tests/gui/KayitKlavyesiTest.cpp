@@ -154,8 +154,8 @@ class KayitKlavyesiTest : public QObject {
                         for (const int sayfa : {1, 2, 3, 0}) {
                             Tusla(Qt::Key_Tab, Qt::ControlModifier);
                             QCOMPARE(sayfalar.currentIndex(), sayfa);
-                            Tusla(
-                                Qt::Key_Tab); // into a field of the page, a list to choose from on the third
+                            Tusla(Qt::Key_Tab); // into a field of the page, a list to choose from on the
+                                                // third
                         }
                         Tusla(Qt::Key_PageUp, Qt::ControlModifier);
                         QCOMPARE(sayfalar.currentIndex(), 3);

@@ -22,7 +22,8 @@ QRect Yeri(const QWidget& parca) {
     return {parca.mapTo(parca.window(), QPoint()), parca.size()};
 }
 
-/// The text that stands nearest to a widget in its row, on the side that `yon` names: 1 behind it, -1 before it.
+/// The text that stands nearest to a widget in its row, on the side that `yon` names: 1 behind it, -1 before
+/// it.
 QString Yandaki(const QWidget& parca, int yon) {
     const QRect yer = Yeri(parca);
     const QLabel* enYakin = nullptr;

@@ -19,8 +19,8 @@ namespace velora::test {
 
 namespace {
 
-constexpr int kEnCokFazla =
-    20; // windows that none was prepared for, each the answer to the closing of another
+constexpr int kEnCokFazla = 20; // windows that none was prepared for, each the answer to the closing of
+                                // another
 
 /// What a window manager does when a window over this one has closed; there may be none.
 void Etkinlestir(QWidget* pencere) {

@@ -22,9 +22,9 @@ void Yaz(const QString& metin);
 /// What is done in a modal window while it stands and has the focus.
 using Is = std::function<void(QDialog&)>;
 
-/// Runs `ac`, which opens modal windows one after the other and returns when they are closed; each of them gets the
-/// next of `isler`. A window that its work leaves open is closed. Fails when fewer windows come; a window more is closed
-/// and fails too.
+/// Runs `ac`, which opens modal windows one after the other and returns when they are closed; each of them
+/// gets the next of `isler`. A window that its work leaves open is closed. Fails when fewer windows come; a
+/// window more is closed and fails too.
 void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler);
 
 /// Waits until a window is closed, and perhaps gone. An access key presses its button only after a moment.
@@ -43,8 +43,8 @@ Is TusBas(Qt::Key tus);
 void Tusla(Qt::Key tus, Qt::KeyboardModifiers ek = Qt::NoModifier);
 QString Odaktaki();
 
-/// Opens the main screen and on it a new record on a day of the hall and year that it stands on; `isler` as in
-/// `Pencerede`.
+/// Opens the main screen and on it a new record on a day of the hall and year that it stands on; `isler` as
+/// in `Pencerede`.
 void YeniKayitta(GuiFirma& firma, MetinBakis gun, const std::vector<Is>& isler);
 
 /// Clicks on an entry of the menu "Ayarlar" of the main screen, by the name of its control.

@@ -22,8 +22,8 @@ class OdemeSayfasiTest : public QObject {
     static constexpr MetinBakis kGun = u"20.06.2026 - Gece";
     static constexpr auto kSilinsinMi = u"Ödeme kaydını silmek istediğinizden emin misiniz?";
 
-    /// An existing reservation with two payments of 100 and 250: `is` is done on their page, by a user who may change
-    /// amounts or may not.
+    /// An existing reservation with two payments of 100 and 250: `is` is done on their page, by a user who
+    /// may change amounts or may not.
     static void Odemelerde(GuiFirma& firma, const Is& is, bool tutarDegistirir = true) {
         firma.Rezervasyon(kSalonA, kGun, false);
         firma.agac.KoyMetin(

@@ -35,8 +35,8 @@ void FareyleSec(QComboBox& kutu, int sira) {
     QTRY_VERIFY(kutu.view()->isVisible());
     const QModelIndex oge = kutu.model()->index(sira, 0);
     kutu.view()->scrollTo(oge);
-    QTest::qWait(QApplication::doubleClickInterval() +
-                 50); // the list takes an earlier release for its opening
+    QTest::qWait(QApplication::doubleClickInterval() + 50); // the list takes an earlier release for its
+                                                            // opening
     QTest::mouseClick(kutu.view()->viewport(), Qt::LeftButton, {}, kutu.view()->visualRect(oge).center());
 }
 

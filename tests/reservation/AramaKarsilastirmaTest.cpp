@@ -7,8 +7,8 @@ namespace velora::test {
 
 namespace {
 
-/// Random trees of three years and two halls: whole, short, empty and foreign files, names that stand in several years,
-/// folders in the place of files. The words are few, so that the criteria find something.
+/// Random trees of three years and two halls: whole, short, empty and foreign files, names that stand in
+/// several years, folders in the place of files. The words are few, so that the criteria find something.
 class RastgeleAgac {
   public:
     RastgeleAgac(const GeciciAgac& agac, unsigned tohum) : agac_(agac), rastgele_(tohum) {}

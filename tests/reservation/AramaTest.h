@@ -5,8 +5,8 @@
 
 namespace velora::test {
 
-/// The firm of `KayitTest` with a second hall, and what is done on its search. Years go from 2002 to 2022; 2012 is
-/// the selected one.
+/// The firm of `KayitTest` with a second hall, and what is done on its search. Years go from 2002 to 2022;
+/// 2012 is the selected one.
 class AramaTest : public KayitTest {
   protected:
     enum Alan { kAd = 1, kGelinDamat, kTelefon, kCep, kSozlesmeNo };

@@ -6,7 +6,8 @@
 
 namespace velora::test {
 
-/// Report, search and the panel of warnings stand open and find nothing: each of them tells of its new list in a box.
+/// Report, search and the panel of warnings stand open and find nothing: each of them tells of its new list
+/// in a box.
 class KayitSirasiTest : public KayitTest {
   protected:
     void EkranlariAc() {
@@ -17,8 +18,8 @@ class KayitSirasiTest : public KayitTest {
         kullanici.Tablo().Picture1.gorunur = true;
         Prog().Splash->Check1 = Prog().Splash->Check2 = 1;
     }
-    /// Saves what the screen holds. What was written, asked and shown stands in `adimlar` afterwards, with the points
-    /// between at which events ran.
+    /// Saves what the screen holds. What was written, asked and shown stands in `adimlar` afterwards, with
+    /// the points between at which events ran.
     void KaydetVeIzle() {
         Kayit().Check18.Ata(0);
         KutuBekle(u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");

@@ -139,7 +139,8 @@ TEST_F(KayitYukleTest, A_record_without_details_does_not_open_and_no_message_say
     EXPECT_FALSE(Prog().FormKayit.Yuklu());
 }
 
-// A caller sets the flag first. Were the hidden screen kept, the next new record would be written over this one.
+// A caller sets the flag first. Were the hidden screen kept, the next new record would be written over this
+// one.
 TEST_F(KayitYukleTest, A_screen_that_was_never_shown_leaves_no_ghost_to_the_next_new_record) {
     RezervasyonKoy(u"01.06.2012 - Gece");
     Kayit().KayitAc = 1;

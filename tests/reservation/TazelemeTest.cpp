@@ -8,8 +8,8 @@
 
 namespace velora::test {
 
-/// A pre-reservation of 20 June, five days ahead, with the report of pre-reservations, the search for its customer and
-/// the panel of warnings standing open.
+/// A pre-reservation of 20 June, five days ahead, with the report of pre-reservations, the search for its
+/// customer and the panel of warnings standing open.
 class TazelemeTest : public KayitTest {
   protected:
     TazelemeTest() { RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"}, true); }

@@ -17,8 +17,8 @@ class EkranEtiketi : public QLabel {
     void Goster(const Etiket& model, const QRect& goz, QPoint imlec);
 };
 
-/// Where a label of this size stands: at `istenen`, beyond the cell's other side where it would leave `sinir`,
-/// and off the cell altogether where it would cover the pointer.
+/// Where a label of this size stands: at `istenen`, beyond the cell's other side where it would leave
+/// `sinir`, and off the cell altogether where it would cover the pointer.
 QRect EkranYeri(QSize boy, QPoint istenen, const QRect& goz, QPoint imlec, const QRect& sinir);
 
 } // namespace velora

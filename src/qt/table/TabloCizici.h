@@ -14,11 +14,11 @@ namespace velora {
 
 /// The colours of the table that are no colours of the model.
 struct TabloTonlari {
-    QColor zemin{243, 244, 245}; ///< where nothing stands
-    QColor cizgi{214, 216, 219}; ///< between cells
-    QColor cetvel{255, 128, 0};  ///< frame of the ruler
-    QColor cerceveIci{255, 255,
-                      255}; ///< thin line on the inside of a frame, so that it stands out on any cell
+    QColor zemin{243, 244, 245};      ///< where nothing stands
+    QColor cizgi{214, 216, 219};      ///< between cells
+    QColor cetvel{255, 128, 0};       ///< frame of the ruler
+    QColor cerceveIci{255, 255, 255}; ///< thin line on the inside of a frame, so that it stands out on any
+                                      ///< cell
 };
 
 /// Paints the year table from the model of its screen, on a widget or into a picture. Texts and pictograms
@@ -36,8 +36,8 @@ class TabloCizici {
     /// The part of the table that a frame about this pair of cells covers, in device pixels.
     static QRect CerceveBolgesi(const TabloDuzeni& duzen, const QRect& cift);
 
-    /// Marks the cell that the keys work on: two thin rings within its edge, dark and light, so that they stand
-    /// out on any colour and leave most of it free.
+    /// Marks the cell that the keys work on: two thin rings within its edge, dark and light, so that they
+    /// stand out on any colour and leave most of it free.
     static void OdakIsareti(QPainter& boyaci, const TabloDuzeni& duzen, const QRect& hucre);
 
   private:

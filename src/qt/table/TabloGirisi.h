@@ -20,8 +20,8 @@ class EkranEtiketi;
 class TabloGorunumu;
 struct Program;
 
-/// What the user does on the year table, by mouse and by keys: it turns the toolkit's events into the events of
-/// the screen's cells and heads, opens `Sagtus`, drags cells, and shows the hover label.
+/// What the user does on the year table, by mouse and by keys: it turns the toolkit's events into the events
+/// of the screen's cells and heads, opens `Sagtus`, drags cells, and shows the hover label.
 ///
 /// The pointer cell is the cell last moved over; the keys move it too. While `Sagtus` or a box is open, or a
 /// drag goes on, no hover reaches the cells. A press is always preceded by a hover of its own cell.

@@ -9,8 +9,8 @@ namespace velora {
 class Baglayici;
 struct FormTablo;
 
-/// The panel of warnings over the table: the reservations that are near. It stands where the model says, and within
-/// the table.
+/// The panel of warnings over the table: the reservations that are near. It stands where the model says, and
+/// within the table.
 class UyariPaneli : public QFrame {
   public:
     UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust);

@@ -75,7 +75,8 @@ class Dosyalar {
     /// Makes one folder, the last name of the path. False when it can't, also when it is there already.
     bool KlasorYap(const Metin& yol) const;
 
-    /// Where a file lies, in the words of the system, for another program. Nothing for a path that is refused.
+    /// Where a file lies, in the words of the system, for another program. Nothing for a path that is
+    /// refused.
     std::optional<std::filesystem::path> SistemYolu(const Metin& yol) const;
 
     /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
