@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "OlcumAgaci.h"
+#include "benchmarks/OlcumAgaci.h"
 #include "qt/table/TabloCizici.h"
 #include "setup/FormAyarlar.h"
 #include "table/FormTablo.h"

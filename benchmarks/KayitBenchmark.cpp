@@ -1,8 +1,8 @@
 // A new reservation saved into a year of 744, as a ratio to the floor, and a thousand payments on the screen.
 #include <benchmark/benchmark.h>
 
-#include "OlcumAgaci.h"
-#include "Zemin.h"
+#include "benchmarks/OlcumAgaci.h"
+#include "benchmarks/Zemin.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "table/FormTablo.h"

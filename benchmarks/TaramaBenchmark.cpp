@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "OlcumAgaci.h"
-#include "Zemin.h"
+#include "benchmarks/OlcumAgaci.h"
+#include "benchmarks/Zemin.h"
 #include "table/FormTablo.h"
 
 namespace velora::olcum {

@@ -18,6 +18,13 @@ project_files() {
     fi | sort -u | while IFS= read -r file; do [[ -f $file ]] && printf '%s\n' "$file"; done
 }
 
+# Where what may be kept from one checkout to the next is kept: the user's cache, or else the build folder.
+cache_folder() {
+    local folder=${XDG_CACHE_HOME:-${HOME:-}/.cache}/velora
+    mkdir -p "$folder" 2>/dev/null && [[ -w $folder ]] || folder=$PWD/build/cache
+    printf '%s' "$folder"
+}
+
 # Names of the packages of the given groups.
 packages_of() {
     awk -v groups=" $* " '!/^#/ && NF && index(groups, " " $2 " ") { print $1 }' "$PACKAGES"
@@ -83,6 +90,12 @@ quietly() {
 configure() {
     local folder=$1
     shift
+    # What was compiled once, in whatever checkout, isn't compiled again.
+    if command -v ccache >/dev/null; then
+        export CCACHE_DIR CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_MAXSIZE=2G
+        CCACHE_DIR=$(cache_folder)/ccache
+        set -- -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"
+    fi
     cmake -S . -B "$folder" -G Ninja "$@"
 }
 

@@ -18,7 +18,6 @@ constexpr std::size_t kTipSutunu = 5;
 /// The entries of `Combo1`.
 enum Tip { Tumu, OnRezervasyonlar, KesinRezervasyonlar };
 
-constexpr std::size_t kTarihUzunlugu = 10;
 constexpr std::size_t kGunAdiUzunlugu = 19; // of the longer one, with "Gündüz"
 
 // The values of the main file that the report shows, by their numbers.

@@ -10,6 +10,9 @@ namespace velora {
 /// A civil day of the calendar, never an instant.
 using Gun = std::chrono::year_month_day;
 
+/// Characters of a date dd.mm.yyyy.
+inline constexpr std::size_t kTarihUzunlugu = 10;
+
 /// The day that a text of the form dd.mm.yyyy names. One-digit days and months are taken too. Empty when the
 /// text has another form or the calendar has no such day.
 std::optional<Gun> TarihCoz(MetinBakis metin);

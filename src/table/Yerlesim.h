@@ -2,6 +2,9 @@
 
 namespace velora {
 
+/// Twips in one logical pixel of a view.
+inline constexpr double kTwipPikseli = 15;
+
 // The layout of the table works from an inner width and height of the screen. A view that wants the table to
 // fill its own width or height asks here which inner length it has to report. All lengths are twips.
 

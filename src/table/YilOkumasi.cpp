@@ -14,7 +14,6 @@ namespace {
 constexpr int kHatirlatmaTarihi = 18;
 constexpr int kHatirlatmaIsareti = 20;
 constexpr int kOnRezervasyon = 37;
-constexpr std::size_t kTarihUzunlugu = 10;
 
 struct AdYeri {
     int ay;

@@ -72,8 +72,7 @@ void Kullanici::ImleciBosaGotur() {
 }
 
 void Kullanici::Boyutla(int genislik, int yukseklik) {
-    constexpr double kTwip = 15;
-    Tablo().Resize(TabloIcGenisligi(genislik * kTwip), TabloIcYuksekligi(yukseklik * kTwip));
+    Tablo().Resize(TabloIcGenisligi(genislik * kTwipPikseli), TabloIcYuksekligi(yukseklik * kTwipPikseli));
 }
 
 void Kullanici::Bekle(int milisaniye) {

@@ -1,5 +1,10 @@
 #include "gui/GuiProgram.h"
 
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
 #include <QApplication>
 #include <QTest>
 
@@ -7,12 +12,37 @@
 
 namespace velora::test {
 
-int GuiTestleriniCalistir(QObject& testler, int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication uygulama(argc, argv);
-    GorunumuKur();
-    return QTest::qExec(&testler, argc, argv);
+namespace {
+
+std::map<std::string, GuiTesti::Uretici>& Testler() {
+    static std::map<std::string, GuiTesti::Uretici> testler;
+    return testler;
+}
+
+} // namespace
+
+GuiTesti::GuiTesti(const char* ad, Uretici uretici) {
+    Testler()[ad] = std::move(uretici);
 }
 
 } // namespace velora::test
+
+/// test_gui CLASS [what Qt Test takes]: runs the tests of a class as the program does its windows: same look,
+/// no display needed. Without a class it tells which there are.
+int main(int argc, char** argv) {
+    using namespace velora::test;
+    const auto test = argc > 1 ? Testler().find(argv[1]) : Testler().end();
+    if (test == Testler().end()) {
+        for (const auto& [ad, uretici] : Testler())
+            std::printf("%s\n", ad.c_str());
+        return 2;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication uygulama(argc, argv);
+    velora::GorunumuKur();
+    std::vector<char*> kalanlar(argv, argv + argc);
+    kalanlar.erase(kalanlar.begin() + 1);
+    const auto testler = test->second();
+    return QTest::qExec(testler.get(), static_cast<int>(kalanlar.size()), kalanlar.data());
+}

@@ -1,17 +1,21 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
 class QObject;
 
 namespace velora::test {
 
-/// Runs the tests of an object as the program does its windows: same look, no display needed.
-int GuiTestleriniCalistir(QObject& testler, int argc, char** argv);
+/// Tells the program of a test class. `ad` is what its command line calls it by.
+class GuiTesti {
+  public:
+    using Uretici = std::function<std::unique_ptr<QObject>()>;
+    GuiTesti(const char* ad, Uretici uretici);
+};
 
 } // namespace velora::test
 
-/// The `main` of a test program with one test class.
+/// Behind a test class: makes it known to the program.
 #define VELORA_GUI_TEST(Sinif)                                                                               \
-    int main(int argc, char** argv) {                                                                        \
-        Sinif testler;                                                                                       \
-        return velora::test::GuiTestleriniCalistir(testler, argc, argv);                                     \
-    }
+    static const velora::test::GuiTesti k##Sinif(#Sinif, [] { return std::make_unique<Sinif>(); });

@@ -12,8 +12,8 @@ using namespace velora;
 namespace {
 
 /// A window with a list of three entries in both kinds, and a button that has the focus.
-struct Sahne {
-    Sahne() : baglayici(ekran, &pencere) {
+struct ListeSahnesi {
+    ListeSahnesi() : baglayici(ekran, &pencere) {
         auto* sutun = new QVBoxLayout(&pencere);
         for (QWidget* parca : std::initializer_list<QWidget*>{&dugme, &duz, &sutunlu})
             sutun->addWidget(parca);
@@ -54,16 +54,16 @@ class ListeBaglamaTest : public QObject {
     Q_OBJECT
 
     /// Runs a test on both kinds of list.
-    static void Ikisinde(const std::function<void(Sahne&, QAbstractItemView&, int& secili)>& is) {
-        Sahne duzde;
+    static void Ikisinde(const std::function<void(ListeSahnesi&, QAbstractItemView&, int& secili)>& is) {
+        ListeSahnesi duzde;
         is(duzde, duzde.duz, duzde.ekran->duz.secili);
-        Sahne sutunluda;
+        ListeSahnesi sutunluda;
         is(sutunluda, sutunluda.sutunlu, sutunluda.ekran->sutunlu.secili);
     }
 
   private slots:
     void the_focus_marks_no_row_by_itself_and_the_arrow_marks_the_first() {
-        Ikisinde([](Sahne& sahne, QAbstractItemView& liste, const int& secili) {
+        Ikisinde([](ListeSahnesi& sahne, QAbstractItemView& liste, const int& secili) {
             liste.setFocus(Qt::TabFocusReason);
             QVERIFY(liste.hasFocus());
             QCOMPARE(secili, -1);
@@ -78,7 +78,7 @@ class ListeBaglamaTest : public QObject {
     }
 
     void a_press_on_the_row_that_is_marked_already_runs_the_handler_again() {
-        Ikisinde([](Sahne& sahne, QAbstractItemView& liste, const int& secili) {
+        Ikisinde([](ListeSahnesi& sahne, QAbstractItemView& liste, const int& secili) {
             Tikla(liste, Satir(liste, 1));
             QCOMPARE(secili, 1);
             sahne.sayi = 0;
@@ -89,7 +89,7 @@ class ListeBaglamaTest : public QObject {
     }
 
     void a_press_beside_the_rows_or_with_ctrl_leaves_the_mark() {
-        Ikisinde([](Sahne& sahne, QAbstractItemView& liste, const int& secili) {
+        Ikisinde([](ListeSahnesi& sahne, QAbstractItemView& liste, const int& secili) {
             Tikla(liste, Satir(liste, 1));
             sahne.sayi = 0;
             Tikla(liste, {20, liste.viewport()->height() - 4});
@@ -102,7 +102,7 @@ class ListeBaglamaTest : public QObject {
     }
 
     void the_model_takes_the_mark_away() {
-        Ikisinde([](Sahne&, QAbstractItemView& liste, int& secili) {
+        Ikisinde([](ListeSahnesi&, QAbstractItemView& liste, int& secili) {
             Tikla(liste, Satir(liste, 2));
             secili = -1;
             Baglayici::HepsiniTazele();

@@ -40,7 +40,7 @@ bool Etkin(const QWidget& pencere, const char* dugme) {
     return Parcasi<QPushButton>(pencere, dugme).isEnabled();
 }
 
-const QString kSilinsinMi = QStringLiteral("Seçili menüyü silmek istediğinizden emin misiniz?");
+const QString kMenuSilinsinMi = QStringLiteral("Seçili menüyü silmek istediğinizden emin misiniz?");
 
 } // namespace
 
@@ -171,16 +171,16 @@ class MenuPencereleriTest : public QObject {
             QVERIFY(!Etkin(pencere, "Command2") && !Etkin(pencere, "Command4"));
             MenuyeTikla(pencere, 0);
             QVERIFY(Etkin(pencere, "Command2") && Etkin(pencere, "Command4"));
-            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kSilinsinMi, QStringLiteral("Hayır"))});
+            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kMenuSilinsinMi, QStringLiteral("Hayır"))});
             QVERIFY(!Etkin(pencere, "Command2") && !Etkin(pencere, "Command4"));
             QCOMPARE(Liste(pencere).topLevelItemCount(), 2);
             MenuyeTikla(pencere, 0);
-            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kSilinsinMi, QStringLiteral("Evet"))});
+            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kMenuSilinsinMi, QStringLiteral("Evet"))});
             QCOMPARE(Liste(pencere).topLevelItemCount(), 1);
             QVERIFY(!Etkin(pencere, "Command2") && !Etkin(pencere, "Command4"));
             QCOMPARE(firma.agac.Bayt(u"Menuler.dat"), std::string("\"K\xFDna\",\"\xC7orba\"\r\n"));
             MenuyeTikla(pencere, 0);
-            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kSilinsinMi, QStringLiteral("Evet"))});
+            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kMenuSilinsinMi, QStringLiteral("Evet"))});
         });
         QVERIFY(firma.agac.DosyaVar(u"Menuler.dat"));
         QCOMPARE(firma.agac.Bayt(u"Menuler.dat"), std::string());

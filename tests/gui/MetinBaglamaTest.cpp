@@ -15,8 +15,8 @@ using namespace velora;
 namespace {
 
 /// One text of a screen, and the window that shows it.
-struct Sahne {
-    Sahne() : baglayici(metin, &pencere) {}
+struct MetinSahnesi {
+    MetinSahnesi() : baglayici(metin, &pencere) {}
 
     std::shared_ptr<MetinKutusu> metin = std::make_shared<MetinKutusu>();
     QWidget pencere;
@@ -56,7 +56,7 @@ class MetinBaglamaTest : public QObject {
 
   private slots:
     void a_mask_takes_no_other_digits_than_0_to_9_when_they_are_typed() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->maske = u"##:##";
         sahne.metin->metin = u"__:__";
         QLineEdit alan(&sahne.pencere);
@@ -77,7 +77,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_mask_takes_no_other_digits_than_0_to_9_when_they_are_pasted() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->maske = u"##.##.####";
         sahne.metin->metin = u"__.__.____";
         QLineEdit alan(&sahne.pencere);
@@ -94,7 +94,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_text_that_does_not_fit_its_mask_is_put_once_and_the_cursor_stays() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->maske = u"##:##";
         sahne.metin->metin = u"9:30";
         QLineEdit alan(&sahne.pencere);
@@ -112,7 +112,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_field_of_one_line_never_takes_a_line_break_or_a_tab() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         QLineEdit alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         Yapistir(alan, QStringLiteral("a\r\nb\rc\nd\te\u2028f\u2029g\n"));
@@ -121,7 +121,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_field_of_many_lines_takes_line_breaks_and_tabs() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         QPlainTextEdit alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         Yapistir(alan, QStringLiteral("a\r\nb\nc\td\u2028e"));
@@ -131,7 +131,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_line_break_counts_twice_for_the_limit() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->enUzun = 5;
         QPlainTextEdit alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
@@ -150,7 +150,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void the_cursor_stays_where_a_key_was_refused() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->enUzun = 4;
         sahne.metin->metin = u"a\r\nb";
         QPlainTextEdit alan(&sahne.pencere);
@@ -168,7 +168,7 @@ class MetinBaglamaTest : public QObject {
 
     void what_no_file_holds_is_dropped_when_typed_and_asked_for_when_pasted() {
         const QString yuz = QStringLiteral("\U0001F600");
-        Sahne sahne;
+        MetinSahnesi sahne;
         QLineEdit satir(&sahne.pencere);
         QPlainTextEdit satirlar(&sahne.pencere);
         sahne.baglayici.Bagla(satir, *sahne.metin);
@@ -193,7 +193,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_key_that_does_nothing_leaves_the_selection_alone() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->metin = u"abc";
         QLineEdit alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
@@ -205,7 +205,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void an_editable_list_drops_typed_signs_as_a_field_does() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         QComboBox kutu(&sahne.pencere);
         sahne.baglayici.Bagla(kutu, *sahne.metin, {u"bir", u"iki"});
         sahne.metin->metin.clear();
@@ -219,7 +219,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void the_arrow_keys_of_an_editable_list_go_on_from_the_text_of_the_model() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         QComboBox kutu(&sahne.pencere);
         sahne.baglayici.Bagla(kutu, *sahne.metin, {u"bir", u"iki", u"üç"});
         sahne.metin->metin = u"iki";
@@ -232,7 +232,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void what_a_field_of_many_lines_shows_otherwise_stands_when_another_place_is_edited() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         const QString dosyadan = QStringLiteral("bir\riki\nüç\r\ndört\u00A0beş");
         sahne.metin->metin = MetinYap(dosyadan);
         QPlainTextEdit alan(&sahne.pencere);
@@ -250,7 +250,7 @@ class MetinBaglamaTest : public QObject {
     }
 
     void a_text_that_is_shown_otherwise_is_put_once() {
-        Sahne sahne;
+        MetinSahnesi sahne;
         sahne.metin->metin = u"bir\riki\u00A0üç";
         QPlainTextEdit alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);

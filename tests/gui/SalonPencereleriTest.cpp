@@ -49,7 +49,7 @@ bool Degistirilebilir(const QWidget& pencere) {
     return sil;
 }
 
-const QString kSilinsinMi =
+const QString kSalonSilinsinMi =
     QStringLiteral("Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\n"
                    "Seçili salonu silmek istediğinize emin misiniz?");
 
@@ -101,12 +101,13 @@ class SalonPencereleriTest : public QObject {
             QVERIFY(!Degistirilebilir(pencere));
             SalonaTikla(pencere, 1);
             QVERIFY(Degistirilebilir(pencere));
-            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kSilinsinMi, QStringLiteral("Hayır"))});
+            Pencerede([&] { Tikla(pencere, "Command2"); },
+                      {Mesaj(kSalonSilinsinMi, QStringLiteral("Hayır"))});
             QVERIFY(!Degistirilebilir(pencere));
             QCOMPARE(Salonlar(pencere).size(), 2);
             SalonaTikla(pencere, 1);
             QVERIFY(Degistirilebilir(pencere));
-            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kSilinsinMi, QStringLiteral("Evet"))});
+            Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kSalonSilinsinMi, QStringLiteral("Evet"))});
             QVERIFY(!Degistirilebilir(pencere));
             QCOMPARE(Salonlar(pencere), QStringList{QStringLiteral("Gül Salonu")});
             QCOMPARE(SecicininSalonlari(firma), Salonlar(pencere));

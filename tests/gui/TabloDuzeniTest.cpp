@@ -13,11 +13,10 @@ using namespace velora::test;
 
 namespace {
 
-constexpr double kTwip = 15;
-
 /// The layout of a table of this size in logical pixels.
 TabloDuzeni Duzen(FormTablo& tablo, QSize boy, double olcek) {
-    tablo.Resize(TabloIcGenisligi(boy.width() * kTwip), TabloIcYuksekligi(boy.height() * kTwip));
+    tablo.Resize(TabloIcGenisligi(boy.width() * kTwipPikseli),
+                 TabloIcYuksekligi(boy.height() * kTwipPikseli));
     return {tablo, olcek};
 }
 

@@ -13,14 +13,14 @@ using namespace velora::test;
 
 namespace {
 
-constexpr double kTwip = 15;
 constexpr QColor kZemin(243, 244, 245);
 
 /// The table of a firm painted into a picture.
 struct Tablo {
     explicit Tablo(GuiFirma& firma, QSize boy = {1280, 640}, double olcek = 1) {
         FormTablo& model = firma.Model();
-        model.Resize(TabloIcGenisligi(boy.width() * kTwip), TabloIcYuksekligi(boy.height() * kTwip));
+        model.Resize(TabloIcGenisligi(boy.width() * kTwipPikseli),
+                     TabloIcYuksekligi(boy.height() * kTwipPikseli));
         Ciz(firma, boy, olcek);
     }
 
@@ -50,10 +50,6 @@ struct Tablo {
     QImage resim;
 };
 
-const Hucre& Goz(GuiFirma& firma, SatirAdi satir, int gun) {
-    return firma.Model().satirlar[static_cast<std::size_t>(satir)].gun[gun];
-}
-
 } // namespace
 
 class TabloResmiTest : public QObject {
@@ -77,7 +73,7 @@ class TabloResmiTest : public QObject {
         for (int no = 0; no < kSatirSayisi; ++no)
             for (int gun = 1; gun <= kGunSayisi; ++gun) {
                 const auto satir = static_cast<SatirAdi>(no);
-                const Hucre& hucre = Goz(firma, satir, gun);
+                const Hucre& hucre = firma.Model().Gozu(satir, gun);
                 if (SatirAyi(satir) == 5 && gun >= 20 && gun <= 22)
                     continue; // today's frame reaches into these
                 const QColor beklenen = hucre.gorunur ? QRenk(hucre.zemin) : kZemin;
@@ -106,7 +102,7 @@ class TabloResmiTest : public QObject {
         for (int no = 0; no < kSatirSayisi; ++no)
             for (int gun = 1; gun <= kGunSayisi; ++gun) {
                 const auto satir = static_cast<SatirAdi>(no);
-                const Hucre& hucre = Goz(firma, satir, gun);
+                const Hucre& hucre = firma.Model().Gozu(satir, gun);
                 if (!hucre.gorunur || (SatirAyi(satir) == 5 && gun >= 20 && gun <= 22))
                     continue;
                 const QRect yer = tablo.duzen.Hucre(satir, gun);

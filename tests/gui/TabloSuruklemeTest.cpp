@@ -15,7 +15,7 @@ using namespace velora::test;
 
 namespace {
 
-QPoint Goz(GuiFirma& firma, SatirAdi satir, int gun) {
+QPoint GozYeri(GuiFirma& firma, SatirAdi satir, int gun) {
     return firma.Orta(firma.Tablo().Duzen().Hucre(satir, gun));
 }
 
@@ -61,12 +61,12 @@ class TabloSuruklemeTest : public QObject {
         std::vector<Metin> sorular;
         Cevapla(firma, sorular, Cevap::Evet);
         firma.Model().TasimaModuAc_Click();
-        const QPoint bas = Goz(firma, EylulGunduz, 10);
+        const QPoint bas = GozYeri(firma, EylulGunduz, 10);
         QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, bas);
         QVERIFY(firma.Tablo().findChild<QDrag*>() == nullptr);
         Cek(firma, bas + QPoint(QApplication::startDragDistance() + 1, 0));
         QVERIFY(firma.Tablo().findChild<QDrag*>() != nullptr);
-        QVERIFY(Birak(firma, Goz(firma, KasimGece, 20)));
+        QVERIFY(Birak(firma, GozYeri(firma, KasimGece, 20)));
         QVERIFY2(sorular.empty(), "no box while the toolkit is still in its drag");
         QTRY_COMPARE(sorular.size(), std::size_t{1});
         QVERIFY(firma.agac.DosyaVar(Dosya(u"20.11.2026 - Gece")));
@@ -83,7 +83,7 @@ class TabloSuruklemeTest : public QObject {
         firma.program.ortam.goster.modal = [&](EkranAdi, const auto&) { ++acilma; };
         firma.Model().TasimaModuAc_Click();
         firma.Model().AyAdi_Click(3);
-        const QPoint yer = Goz(firma, EylulGunduz, 10);
+        const QPoint yer = GozYeri(firma, EylulGunduz, 10);
         for (const auto dugme : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
             QTest::mouseClick(&firma.Tablo(), dugme, {}, yer);
             QTest::mouseDClick(&firma.Tablo(), dugme, {}, yer);
@@ -99,7 +99,7 @@ class TabloSuruklemeTest : public QObject {
         GuiFirma firma;
         firma.Ac();
         firma.Model().TasimaModuAc_Click();
-        const QPoint bas = Goz(firma, EylulGunduz, 10);
+        const QPoint bas = GozYeri(firma, EylulGunduz, 10);
         QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, bas);
         Cek(firma, bas + QPoint(50, 0));
         QVERIFY(firma.Tablo().findChild<QDrag*>() == nullptr);
@@ -111,7 +111,7 @@ class TabloSuruklemeTest : public QObject {
         firma.Ac();
         firma.Model().TasimaModuAc_Click();
         QVERIFY(!Birak(firma, {20, 10}));
-        QVERIFY(!Birak(firma, Goz(firma, SubatGunduz, 30)));
+        QVERIFY(!Birak(firma, GozYeri(firma, SubatGunduz, 30)));
         QCOMPARE(firma.Model().tasimamoducheck, 1);
         QVERIFY(firma.Model().Gozu(EylulGunduz, 10).otomatikSurukleme);
     }
@@ -124,7 +124,7 @@ class TabloSuruklemeTest : public QObject {
         std::vector<Metin> sorular;
         Cevapla(firma, sorular, Cevap::Tamam);
         firma.Model().TasimaModuAc_Click();
-        QVERIFY(Birak(firma, Goz(firma, EylulGece, 11)));
+        QVERIFY(Birak(firma, GozYeri(firma, EylulGece, 11)));
         QTRY_COMPARE(sorular.size(), std::size_t{1});
         QVERIFY(sorular[0].starts_with(u"Bu tarihe taşıma yapamazsınız!"));
         QCOMPARE(firma.Model().tasimamoducheck, 0);
@@ -135,7 +135,7 @@ class TabloSuruklemeTest : public QObject {
         firma.Ac();
         QMimeData veri;
         veri.setText(QStringLiteral("başka"));
-        QVERIFY(!Birak(firma, Goz(firma, EylulGece, 11), veri));
+        QVERIFY(!Birak(firma, GozYeri(firma, EylulGece, 11), veri));
     }
 };
 

@@ -23,7 +23,7 @@ class TabloYukleme : public TabloTest {
 TEST_F(TabloYukleme, Title_is_the_name_and_the_version) {
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Tablo().baslik, u"Velora " + Metin(kSurum));
-    EXPECT_EQ(kullanici.Tablo().baslik, u"Velora 1.0.0");
+    EXPECT_EQ(kullanici.Tablo().baslik, u"Velora 2.0.5");
 }
 
 TEST_F(TabloYukleme, Halls_come_in_the_order_of_the_file_and_blank_ones_are_left_out) {

@@ -24,7 +24,7 @@ namespace velora {
 namespace {
 
 // Of the list; the last one takes what is left.
-constexpr std::array kSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
+constexpr std::array kBakiyeSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
 constexpr int kSecimEni = 300; // of the two lists to choose from
 
 /// A field with its caption before it.
@@ -84,7 +84,7 @@ QWidget* BakiyePenceresi::Liste(FormBakiye* ekran) {
     Bag().Bagla(
         *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
     int sutun = 0;
-    for (const int en : kSutunEnleri)
+    for (const int en : kBakiyeSutunEnleri)
         liste->setColumnWidth(sutun++, en);
     return liste;
 }

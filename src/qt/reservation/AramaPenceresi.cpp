@@ -21,10 +21,10 @@ namespace {
 
 constexpr std::array<const char16_t*, FormArama::kOlcutSayisi> kAlanlar{u"Adı Soyadı", u"Gelin / Damat",
                                                                         u"Telefon", u"Cep", u"Sözleşme No"};
-constexpr int kAlanEni = 380;
+constexpr int kOlcutEni = 380;
 // The columns of the names share what is left.
 constexpr int kKalan = 0;
-constexpr std::array kSutunEnleri{180, 160, kKalan, kKalan, 110, 110};
+constexpr std::array kAramaSutunEnleri{180, 160, kKalan, kKalan, 110, 110};
 constexpr QSize kEnKucukListe{760, 160};
 
 } // namespace
@@ -60,7 +60,7 @@ QLayout* AramaPenceresi::Olcutler(FormArama* ekran) {
         auto* alan = new QLineEdit(this);
         Adlandir(*alan, QStringLiteral("Text%1").arg(no), yazi);
         Bag().Bagla(*alan, ekran->Text[no]);
-        alan->setFixedWidth(kAlanEni);
+        alan->setFixedWidth(kOlcutEni);
         form->addRow(yazi, alan);
     }
     auto* serit = new QHBoxLayout;
@@ -80,8 +80,8 @@ QTreeWidget* AramaPenceresi::Liste(FormArama* ekran) {
     liste->setMinimumSize(kEnKucukListe);
     QHeaderView* basliklar = liste->header();
     basliklar->setStretchLastSection(false);
-    for (int i = 0; i < static_cast<int>(kSutunEnleri.size()); ++i)
-        if (const int en = kSutunEnleri[static_cast<std::size_t>(i)]; en != kKalan)
+    for (int i = 0; i < static_cast<int>(kAramaSutunEnleri.size()); ++i)
+        if (const int en = kAramaSutunEnleri[static_cast<std::size_t>(i)]; en != kKalan)
             basliklar->resizeSection(i, en);
         else
             basliklar->setSectionResizeMode(i, QHeaderView::Stretch);

@@ -16,13 +16,13 @@ namespace velora {
 
 namespace {
 
-constexpr int kAlanEni = 260;
+constexpr int kOdemeAlaniEni = 260;
 
 template <class Parca>
 Parca* AlanEkle(QFormLayout& form, const char* ad, const QString& yazi) {
     auto* parca = new Parca;
     Adlandir(*parca, QString::fromLatin1(ad), yazi);
-    parca->setMinimumWidth(kAlanEni);
+    parca->setMinimumWidth(kOdemeAlaniEni);
     form.addRow(yazi, parca);
     return parca;
 }

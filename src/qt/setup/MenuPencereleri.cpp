@@ -20,7 +20,7 @@ namespace velora {
 namespace {
 
 constexpr int kAdSutunu = 180;
-constexpr int kAlanEni = 340;
+constexpr int kMenuAlaniEni = 340;
 
 } // namespace
 
@@ -47,7 +47,7 @@ MenuEklePenceresi::MenuEklePenceresi(Program& program) : Diyalog(program.FormMen
     QFormLayout* form = FormKur();
     auto* ad = new QLineEdit;
     Adlandir(*ad, QStringLiteral("Text1"), QMetin(ekran->Label1.baslik));
-    ad->setMinimumWidth(kAlanEni);
+    ad->setMinimumWidth(kMenuAlaniEni);
     Bag().Bagla(*ad, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
     form->addRow(QMetin(ekran->Label1.baslik), ad);
     auto* icerik = new QPlainTextEdit;

@@ -18,7 +18,7 @@ namespace velora {
 
 namespace {
 
-constexpr int kAlanEni = 260;
+constexpr int kSalonAlaniEni = 260;
 
 } // namespace
 
@@ -44,7 +44,7 @@ SalonAdPenceresi::SalonAdPenceresi(Program& program) : Diyalog(program.FormSalon
     QFormLayout* form = FormKur();
     auto* ad = new QLineEdit;
     Adlandir(*ad, QStringLiteral("Text1"), QMetin(ekran->Label1.baslik));
-    ad->setMinimumWidth(kAlanEni);
+    ad->setMinimumWidth(kSalonAlaniEni);
     Bag().Bagla(*ad, ekran->Text1);
     form->addRow(QMetin(ekran->Label1.baslik), ad);
     sutun->addLayout(form);

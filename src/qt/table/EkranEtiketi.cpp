@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "qt/Ceviri.h"
+#include "table/Yerlesim.h"
 
 namespace velora {
 
 namespace {
 
-constexpr double kTwipPikseli = 15;
 constexpr int kPay = 4; // logical pixels about the text
 
 /// A length along one axis: behind the cell where there is room, otherwise before it.

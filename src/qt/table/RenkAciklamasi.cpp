@@ -16,7 +16,7 @@ namespace velora {
 namespace {
 
 constexpr int kOrnekEni = 20;
-constexpr int kOrnekBoyu = 16;
+constexpr int kAciklamaBoyu = 16;
 
 struct Aciklama {
     const char16_t* ad;
@@ -58,7 +58,7 @@ QSize RenkAciklamasi::sizeHint() const {
     int genislik = 2 * kAralik * (static_cast<int>(kAciklamalar.size()) - 1);
     for (const Ornek& ornek : ornekler_)
         genislik += Genislik(ornek);
-    return {genislik, std::max(kOrnekBoyu + 2, fontMetrics().height())};
+    return {genislik, std::max(kAciklamaBoyu + 2, fontMetrics().height())};
 }
 
 QSize RenkAciklamasi::minimumSizeHint() const {
@@ -68,11 +68,11 @@ QSize RenkAciklamasi::minimumSizeHint() const {
 void RenkAciklamasi::paintEvent(QPaintEvent* /*olay*/) {
     QPainter boyaci(this);
     int x = std::max(0, width() - sizeHint().width());
-    const int y = (height() - kOrnekBoyu) / 2;
+    const int y = (height() - kAciklamaBoyu) / 2;
     for (const Ornek& ornek : ornekler_) {
         if (x + Genislik(ornek) > width())
             break;
-        const QRect kutu(x, y, kOrnekEni, kOrnekBoyu);
+        const QRect kutu(x, y, kOrnekEni, kAciklamaBoyu);
         boyaci.fillRect(kutu, palette().color(QPalette::Dark));
         const QRect ic = kutu.adjusted(1, 1, -1, -1);
         boyaci.fillRect(ic, QRenk(ornek.alt));

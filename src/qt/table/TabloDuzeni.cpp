@@ -4,12 +4,13 @@
 #include <cmath>
 #include <utility>
 
+#include "table/Yerlesim.h"
+
 namespace velora {
 
 namespace {
 
-constexpr double kTwipPikseli = 15; // twips in a logical pixel
-constexpr double kAyBoslugu = 3;    // logical pixels between two months
+constexpr double kAyBoslugu = 3; // logical pixels between two months
 
 QRect Dikdortgen(int sol, int ust, int sag, int alt) {
     return {sol, ust, sag - sol, alt - ust};

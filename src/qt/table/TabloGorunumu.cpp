@@ -19,8 +19,6 @@ namespace velora {
 
 namespace {
 
-constexpr double kTwipPikseli = 15;
-
 class Iz {
   public:
     void Ekle(std::uint64_t sayi) {

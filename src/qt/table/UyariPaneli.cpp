@@ -14,12 +14,11 @@
 #include "qt/Gorunum.h"
 #include "qt/Yerlesimler.h"
 #include "table/FormTablo.h"
+#include "table/Yerlesim.h"
 
 namespace velora {
 
 namespace {
-
-constexpr double kTwipPikseli = 15;
 
 QPushButton* DugmeYap(QWidget& ust, Baglayici& baglayici, const char* ad, Dugme& model,
                       const Baglayici::Isleyici& tiklandi) {

@@ -20,13 +20,13 @@ using test::GeciciKok;
 constexpr int kTur = 150;
 constexpr unsigned kEnUzunOmur = 20; ///< seconds after which a forgotten child ends by itself
 
-struct Ornek {
+struct OrnekKayit {
     std::string bayt;
     std::array<Metin, kAnaDegerSayisi> degerler;
 };
 
-Ornek YeniOrnek(char harf, std::size_t uzunluk) {
-    Ornek ornek;
+OrnekKayit YeniOrnek(char harf, std::size_t uzunluk) {
+    OrnekKayit ornek;
     for (std::size_t i = 0; i < ornek.degerler.size(); ++i) {
         const std::string deger(uzunluk + i, harf);
         ornek.bayt += (i == 0 ? "\"" : ",\"") + deger + "\"";
@@ -37,8 +37,8 @@ Ornek YeniOrnek(char harf, std::size_t uzunluk) {
 }
 
 /// Saves the two records in turn for ever. Tells by one byte that it has begun.
-[[noreturn]] void Kaydet(const GeciciKok& kok, const Metin& yol, const Ornek& kisa, const Ornek& uzun,
-                         int haber) {
+[[noreturn]] void Kaydet(const GeciciKok& kok, const Metin& yol, const OrnekKayit& kisa,
+                         const OrnekKayit& uzun, int haber) {
     ::alarm(kEnUzunOmur);
     for (unsigned i = 0;; ++i) {
         kok.dosyalar.Yaz(yol, i % 2 == 0 ? uzun.bayt : kisa.bayt);
@@ -48,7 +48,7 @@ Ornek YeniOrnek(char harf, std::size_t uzunluk) {
 }
 
 /// Starts the saving child, lets it run for a while and kills it. False when it didn't come so far.
-bool BirOlum(const GeciciKok& kok, const Metin& yol, const Ornek& kisa, const Ornek& uzun,
+bool BirOlum(const GeciciKok& kok, const Metin& yol, const OrnekKayit& kisa, const OrnekKayit& uzun,
              std::chrono::microseconds sure) {
     std::array<int, 2> boru{};
     if (::pipe(boru.data()) != 0)
@@ -70,7 +70,7 @@ bool BirOlum(const GeciciKok& kok, const Metin& yol, const Ornek& kisa, const Or
 }
 
 /// The values of the file; empty texts when something else than line ends stands behind them.
-std::array<Metin, kAnaDegerSayisi> Degerler(const std::string& bayt) {
+std::array<Metin, kAnaDegerSayisi> BaytinDegerleri(const std::string& bayt) {
     std::array<Metin, kAnaDegerSayisi> degerler;
     DegerOkuyucu okuyucu(bayt);
     for (Metin& deger : degerler)
@@ -83,8 +83,8 @@ std::array<Metin, kAnaDegerSayisi> Degerler(const std::string& bayt) {
 TEST(Oldurme, A_program_killed_while_saving_leaves_one_of_the_two_records_whole) {
     const GeciciKok kok;
     const Metin yol = kok.Yol(u"05.01.2012 - Gündüz");
-    const Ornek kisa = YeniOrnek('k', 5);
-    const Ornek uzun = YeniOrnek('u', 150);
+    const OrnekKayit kisa = YeniOrnek('k', 5);
+    const OrnekKayit uzun = YeniOrnek('u', 150);
     ASSERT_LT(uzun.bayt.size(), 4096U);
     kok.HamYaz(u"05.01.2012 - Gündüz", kisa.bayt);
 
@@ -96,7 +96,7 @@ TEST(Oldurme, A_program_killed_while_saving_leaves_one_of_the_two_records_whole)
         ASSERT_TRUE(BirOlum(kok, yol, kisa, uzun, std::chrono::microseconds(mikrosaniye(rastgele))));
         const auto bayt = kok.HamOku(u"05.01.2012 - Gündüz");
         ASSERT_TRUE(bayt);
-        const auto degerler = Degerler(*bayt);
+        const auto degerler = BaytinDegerleri(*bayt);
         kisaSayisi += degerler == kisa.degerler ? 1 : 0;
         uzunSayisi += degerler == uzun.degerler ? 1 : 0;
         ASSERT_EQ(kisaSayisi + uzunSayisi, tur + 1) << testing::PrintToString(*bayt);
