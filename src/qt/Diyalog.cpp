@@ -31,12 +31,8 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
     });
 }
 
-QHBoxLayout* Diyalog::TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal) {
-    auto* tamamDugmesi = DugmeYap(tamam.ad, tamam.model, tamam.tiklandi);
-    auto* iptalDugmesi = DugmeYap(iptal.ad, iptal.model, iptal.tiklandi);
-    tamamDugmesi->setDefault(true);
-    IptalDugmesi(iptalDugmesi);
-    return DugmeSeridi({tamamDugmesi, iptalDugmesi});
+void Diyalog::IlkOdak(const char* ad) {
+    findChild<QWidget*>(QString::fromLatin1(ad))->setFocus();
 }
 
 void Diyalog::OdagiListeyeVer(QPushButton& dugme, QWidget& liste) {

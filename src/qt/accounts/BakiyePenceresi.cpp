@@ -39,38 +39,35 @@ Parca* AlanEkle(QGridLayout& izgara, int satir, int sutun, const char* ad, const
 
 } // namespace
 
-BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.Tut()) {
-    const auto tut = program.FormBakiye.Tut();
-    FormBakiye* ekran = tut.get();
+BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.FormBakiye.Tut()) {
     QVBoxLayout* sutun = SutunKur(*this);
     // In the window first: the keys go through the fields in the order in which they come into it.
     auto* suzgecler = new QGridLayout;
     sutun->addLayout(suzgecler);
-    SuzgecleriKur(*suzgecler, ekran);
-    QWidget* liste = Liste(ekran);
+    SuzgecleriKur(*suzgecler);
+    QWidget* liste = Liste();
     sutun->addWidget(liste, 1);
-    sutun->addWidget(Toplamlar(ekran));
-    auto* detay = DugmeYap("Command6", ekran->Command6, [ekran] { ekran->Command6_Click(); });
-    auto* kapat = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    sutun->addWidget(Toplamlar());
+    auto* detay = DugmeYap({"Command6", &FormBakiye::Command6, &FormBakiye::Command6_Click});
+    auto* kapat = DugmeYap({"Command1", &FormBakiye::Command1, &FormBakiye::Command1_Click});
     IptalDugmesi(kapat);
     VarsayilanDugme(*findChild<QPushButton*>(QStringLiteral("ListeleGun")), *liste, *detay);
     OdagiListeyeVer(*detay, *liste);
     sutun->addLayout(DugmeSeridi({detay, kapat}));
-    setWindowTitle(QMetin(ekran->baslik));
     resize(1080, 600);
-    findChild<QWidget*>(QStringLiteral("Combo2"))->setFocus();
+    IlkOdak("Combo2");
 }
 
-void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
+void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara) {
     izgara.setSpacing(kAralik);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("Salon Adı")), ekran->Combo2);
+    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("Salon Adı")), Model().Combo2);
     Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("Başlangıç Tarihi")),
-                ekran->DTPicker1);
+                Model().DTPicker1);
     Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon Tipi")),
-                ekran->Combo1);
+                Model().Combo1);
     Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("Bitiş Tarihi")),
-                ekran->DTPicker2);
-    auto* listele = DugmeYap("ListeleGun", ekran->Listele, [ekran] { ekran->ListeleGun(); });
+                Model().DTPicker2);
+    auto* listele = DugmeYap({"ListeleGun", &FormBakiye::Listele, &FormBakiye::ListeleGun});
     izgara.addWidget(listele, 1, 6);
     for (const int ara : {2, 5})
         izgara.setColumnMinimumWidth(ara, kAralik);
@@ -78,18 +75,17 @@ void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
     izgara.setColumnStretch(7, 1);
 }
 
-QWidget* BakiyePenceresi::Liste(FormBakiye* ekran) {
+QWidget* BakiyePenceresi::Liste() {
     auto* liste = new QTreeWidget;
     Adlandir(*liste, QStringLiteral("Liste"), QStringLiteral("Rezervasyonlar"));
-    Bag().Bagla(
-        *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
+    Bag().Bagla(*liste, Model().Liste, Isle(&FormBakiye::Liste_Click), Isle(&FormBakiye::Liste_DblClick));
     int sutun = 0;
     for (const int en : kBakiyeSutunEnleri)
         liste->setColumnWidth(sutun++, en);
     return liste;
 }
 
-QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
+QWidget* BakiyePenceresi::Toplamlar() {
     auto* cerceve = new QFrame;
     cerceve->setFrameShape(QFrame::StyledPanel);
     cerceve->setBackgroundRole(QPalette::Base);
@@ -100,13 +96,13 @@ QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
     constexpr int kSatir = static_cast<int>(kBakiyeTurleri.size()) / 2; // the kinds stand in two columns
     for (int sira = 0; sira < 2 * kSatir; ++sira)
         ToplamEkle(*izgara, sira % kSatir, sira / kSatir * 3, QStringLiteral("DTop%1").arg(sira + 1),
-                   QMetin(kBakiyeTurleri[static_cast<std::size_t>(sira)]), ekran->DTop[sira + 1]);
-    const std::array sagdakiler{std::tuple{"Toplam", u"Genel Toplam", &ekran->Toplam},
-                                std::tuple{"Alinan", u"Alınan Ödeme", &ekran->Alinan},
-                                std::tuple{"Kalan", u"Kalan Ödeme", &ekran->Kalan},
-                                std::tuple{"Label14", u"Kesin Rezervasyon", &ekran->Label14},
-                                std::tuple{"Label18", u"Ön Rezervasyon", &ekran->Label18},
-                                std::tuple{"Label19", u"Toplam Rezervasyon", &ekran->Label19}};
+                   QMetin(kBakiyeTurleri[static_cast<std::size_t>(sira)]), Model().DTop[sira + 1]);
+    const std::array sagdakiler{std::tuple{"Toplam", u"Genel Toplam", &Model().Toplam},
+                                std::tuple{"Alinan", u"Alınan Ödeme", &Model().Alinan},
+                                std::tuple{"Kalan", u"Kalan Ödeme", &Model().Kalan},
+                                std::tuple{"Label14", u"Kesin Rezervasyon", &Model().Label14},
+                                std::tuple{"Label18", u"Ön Rezervasyon", &Model().Label18},
+                                std::tuple{"Label19", u"Toplam Rezervasyon", &Model().Label19}};
     int sira = 0;
     for (const auto& [ad, yazi, model] : sagdakiler) {
         ToplamEkle(*izgara, sira % 3, 6 + sira / 3 * 3, QString::fromLatin1(ad), QString::fromUtf16(yazi),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 class QTreeWidget;
 
@@ -10,14 +10,14 @@ struct FormArama;
 struct Program;
 
 /// The window of `FormArama`.
-class AramaPenceresi : public Diyalog {
+class AramaPenceresi : public EkranPenceresi<FormArama> {
   public:
     explicit AramaPenceresi(Program& program);
 
   private:
-    QTreeWidget* Liste(FormArama* ekran);
+    QTreeWidget* Liste();
     /// The criteria, with "Ara" behind the last of them.
-    QLayout* Olcutler(FormArama* ekran);
+    QLayout* Olcutler();
 };
 
 } // namespace velora

@@ -65,8 +65,7 @@ QString AlanAdi(const char* dizi, int no) {
 } // namespace
 
 KayitPenceresi::KayitPenceresi(Program& program)
-    : Diyalog(program.FormKayit.Tut()), program_(program), tut_(program.FormKayit.Tut()), ekran_(*tut_),
-      sayfalar_(new QTabWidget) {
+    : EkranPenceresi(program.FormKayit.Tut()), sayfalar_(new QTabWidget) {
     QVBoxLayout* sutun = SutunKur(*this);
     sutun->addWidget(sayfalar_);
     sayfalar_->setObjectName(QStringLiteral("SSTab1"));
@@ -77,30 +76,26 @@ KayitPenceresi::KayitPenceresi(Program& program)
     sayfalar_->addTab(HizmetSayfasi(), QStringLiteral("Hizmetler"));
     sutun->addLayout(Dugmeler()); // behind the pages for the Tab key too
     connect(sayfalar_, &QTabWidget::tabBarClicked, this,
-            [this](int sira) { Bag().Calistir([this, sira] { ekran_.SSTab1 = sira + 1; }); });
+            [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     connect(sayfalar_, &QTabWidget::currentChanged, this,
-            [this](int sira) { Bag().Calistir([this, sira] { ekran_.SSTab1 = sira + 1; }); });
-    Bag().Izle([this] {
-        setWindowTitle(QMetin(ekran_.baslik));
-        sayfalar_->setCurrentIndex(ekran_.SSTab1 - 1);
-    });
-    findChild<QWidget*>(QStringLiteral("Kay1"))->setFocus();
-    tut_.reset();
+            [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
+    Bag().Izle([this] { sayfalar_->setCurrentIndex(Model().SSTab1 - 1); });
+    IlkOdak("Kay1");
 }
 
 QLayout* KayitPenceresi::Dugmeler() {
-    auto* kaydet = DugmeYap("Command1", ekran_.Command1, [this] { ekran_.Command1_Click(); });
+    auto* kaydet = DugmeYap({"Command1", &FormKayit::Command1, &FormKayit::Command1_Click});
     kaydet->setDefault(true);
-    auto* kapat = DugmeYap("Command2", ekran_.Command2, [this] { ekran_.Command2_Click(); });
+    auto* kapat = DugmeYap({"Command2", &FormKayit::Command2, &FormKayit::Command2_Click});
     IptalDugmesi(kapat);
     return DugmeSeridi({kaydet, kapat});
 }
 
 QWidget* KayitPenceresi::AlanYap(int no) {
-    MetinKutusu& model = ekran_.Kay[no];
+    MetinKutusu& model = Model().Kay[no];
     if (no == 4) {
         auto* kutu = new QComboBox;
-        Bag().Bagla(*kutu, model, ekran_.Kay4Listesi);
+        Bag().Bagla(*kutu, model, Model().Kay4Listesi);
         return kutu;
     }
     if (Icinde(kCokSatirlilar, no)) {
@@ -113,9 +108,9 @@ QWidget* KayitPenceresi::AlanYap(int no) {
     Baglayici::AlanIsleri isler;
     if (no == 8) {
         kutu->setAlignment(Qt::AlignRight);
-        isler.odakGitti = [this] { ekran_.Kay8_LostFocus(); };
+        isler.odakGitti = Isle(&FormKayit::Kay8_LostFocus);
     } else if (no == 12) {
-        isler.odakGitti = [this] { ekran_.Kay12_LostFocus(); };
+        isler.odakGitti = Isle(&FormKayit::Kay12_LostFocus);
     }
     Bag().Bagla(*kutu, model, isler);
     return kutu;
@@ -137,7 +132,7 @@ void KayitPenceresi::AlanEkle(QFormLayout& form, int no, const QString& yazi, co
     if (no == 8) {
         satir->addWidget(new QLabel(ardindan));
         satir->addSpacing(kAralik);
-        satir->addWidget(DugmeYap("Command4", ekran_.Command4, [this] { ekran_.Command4_Click(); }));
+        satir->addWidget(DugmeYap({"Command4", &FormKayit::Command4, &FormKayit::Command4_Click}));
     } else {
         satir->addWidget(new QLabel(ardindan));
     }
@@ -157,7 +152,7 @@ QWidget* KayitPenceresi::GenelSayfasi() {
     QFont kalin = tarih->font();
     kalin.setBold(true);
     tarih->setFont(kalin);
-    Bag().Izle([this, tarih] { tarih->setText(QMetin(ekran_.Tarih)); });
+    Bag().Izle([this, tarih] { tarih->setText(QMetin(Model().Tarih)); });
     sol->addRow(QStringLiteral("Rezervasyon Tarihi"), tarih);
     for (const AlanYazisi& alan : kSolAlanlar)
         AlanEkle(*sol, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
@@ -181,8 +176,8 @@ QWidget* KayitPenceresi::DurumSecimi() {
     auto* satir = new QHBoxLayout(parca);
     satir->setContentsMargins(0, 0, 0, 0);
     satir->setSpacing(2 * kAralik);
-    const std::array secenekler{std::pair{u"Kesin Rezervasyon", &ekran_.Option1},
-                                std::pair{u"Ön Rezervasyon", &ekran_.Option2}};
+    const std::array secenekler{std::pair{u"Kesin Rezervasyon", &Model().Option1},
+                                std::pair{u"Ön Rezervasyon", &Model().Option2}};
     int no = 0;
     for (const auto& [yazi, model] : secenekler) {
         auto* dugme = new QRadioButton(QString::fromUtf16(yazi));
@@ -201,10 +196,10 @@ QWidget* KayitPenceresi::HatirlatmaSecimi() {
     satir->setSpacing(kAralik);
     auto* yaklasinca = new QCheckBox(QStringLiteral("Yaklaşınca Hatırlat"));
     Adlandir(*yaklasinca, QStringLiteral("Check18"), yaklasinca->text());
-    Bag().Bagla(*yaklasinca, ekran_.Check18);
+    Bag().Bagla(*yaklasinca, Model().Check18);
     auto* tarihte = new QCheckBox(QStringLiteral("Bu Tarihte Hatırlat"));
     Adlandir(*tarihte, QStringLiteral("Check19"), tarihte->text());
-    Bag().Bagla(*tarihte, ekran_.Check19, [this] { ekran_.Check19_MouseUp(); });
+    Bag().Bagla(*tarihte, Model().Check19, Isle(&FormKayit::Check19_MouseUp));
     QWidget* tarih = AlanYap(18);
     Adlandir(*tarih, QStringLiteral("Kay18"), QStringLiteral("Bu Tarihte Hatırlat"));
     tarih->setFixedWidth(kKisaAlanEni);
@@ -220,14 +215,14 @@ QWidget* KayitPenceresi::MenuSayfasi() {
     QVBoxLayout* sutun = SutunKur(*sayfa);
     auto* secim = new QComboBox;
     Adlandir(*secim, QStringLiteral("Combo1"), QStringLiteral("Menü"));
-    Bag().Bagla(*secim, ekran_.Combo1);
+    Bag().Bagla(*secim, Model().Combo1);
     auto* metin = new QPlainTextEdit;
     Adlandir(*metin, QStringLiteral("Label20"), QStringLiteral("Menü içeriği"));
-    Bag().Bagla(*metin, ekran_.Label20);
+    Bag().Bagla(*metin, Model().Label20);
     auto* aciklama = new QPlainTextEdit;
     QLabel* baslik = EtiketYap(QStringLiteral("Özel İstekler ve Açıklamalar"), *aciklama);
     Adlandir(*aciklama, QStringLiteral("Aciklamalar"), baslik->text());
-    Bag().Bagla(*aciklama, ekran_.Aciklamalar);
+    Bag().Bagla(*aciklama, Model().Aciklamalar);
     sutun->addWidget(secim);
     sutun->addWidget(metin, 1);
     sutun->addSpacing(kAralik);
@@ -246,10 +241,10 @@ QWidget* KayitPenceresi::HizmetSayfasi() {
         const QString ad = QMetin(kHizmetAdlari[static_cast<std::size_t>(no - 1)]);
         auto* kutu = new QCheckBox(ad);
         Adlandir(*kutu, AlanAdi("Check", no), ad);
-        Bag().Bagla(*kutu, ekran_.Check[no], [this, no] { ekran_.Check_MouseUp(no); });
+        Bag().Bagla(*kutu, Model().Check[no], [this, no] { Model().Check_MouseUp(no); });
         auto* not_ = new QLineEdit;
         Adlandir(*not_, AlanAdi("TT", no), ad + QStringLiteral(", not"));
-        Bag().Bagla(*not_, ekran_.TT[no]);
+        Bag().Bagla(*not_, Model().TT[no]);
         const int sutun = (no - 1) / kSatir * 3;
         izgara->addWidget(kutu, (no - 1) % kSatir, sutun);
         izgara->addWidget(not_, (no - 1) % kSatir, sutun + 1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 class QFormLayout;
 class QTabWidget;
@@ -11,7 +11,7 @@ struct FormKayit;
 struct Program;
 
 /// The window of `FormKayit`: four pages and a row of buttons.
-class KayitPenceresi : public Diyalog {
+class KayitPenceresi : public EkranPenceresi<FormKayit> {
   public:
     explicit KayitPenceresi(Program& program);
 
@@ -28,9 +28,6 @@ class KayitPenceresi : public Diyalog {
     QWidget* HatirlatmaSecimi();
     QLayout* Toplamlar();
 
-    Program& program_;
-    std::shared_ptr<FormKayit> tut_; // only while the window is built
-    FormKayit& ekran_;
     QTabWidget* sayfalar_;
 };
 

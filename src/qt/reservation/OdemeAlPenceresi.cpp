@@ -29,21 +29,18 @@ Parca* AlanEkle(QFormLayout& form, const char* ad, const QString& yazi) {
 
 } // namespace
 
-OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdemeAl.Tut()) {
-    const auto tut = program.FormOdemeAl.Tut();
-    FormOdemeAl* ekran = tut.get();
+OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : EkranPenceresi(program.FormOdemeAl.Tut()) {
     QVBoxLayout* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih Seçin")), ekran->DTPicker1);
+    Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih Seçin")), Model().DTPicker1);
     auto* miktar = AlanEkle<QLineEdit>(*form, "Text1", QStringLiteral("Miktar Girin"));
     miktar->setAlignment(Qt::AlignRight);
-    Bag().Bagla(*miktar, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
-    Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("Açıklama")), ekran->Aciklama);
+    Bag().Bagla(*miktar, Model().Text1, {.degisti = Isle(&FormOdemeAl::Text1_Change), .odakGitti = {}});
+    Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("Açıklama")), Model().Aciklama);
     sutun->addLayout(form);
-    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
-                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
+    sutun->addLayout(TamamIptal({"Command1", &FormOdemeAl::Command1, &FormOdemeAl::Command1_Click},
+                                {"Command2", &FormOdemeAl::Command2, &FormOdemeAl::Command2_Click}));
     sutun->setSizeConstraint(QLayout::SetFixedSize);
-    setWindowTitle(QMetin(ekran->baslik));
     miktar->setFocus();
 }
 

@@ -29,12 +29,12 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* liste = new QTreeWidget;
     liste->setObjectName(QStringLiteral("Liste"));
     liste->setAccessibleName(QStringLiteral("Ödemeler"));
-    Bag().Bagla(*liste, ekran_.Liste, [this] { ekran_.Liste_ItemClick(); });
+    Bag().Bagla(*liste, Model().Liste, Isle(&FormKayit::Liste_ItemClick));
     liste->header()->setDefaultSectionSize(kSutunEni);
     auto* dugmeler = new QHBoxLayout;
     dugmeler->setSpacing(kAralik);
-    dugmeler->addWidget(DugmeYap("Command8", ekran_.Command8, [this] { ekran_.Command8_Click(); }));
-    auto* sil = DugmeYap("Command7", ekran_.Command7, [this] { ekran_.Command7_Click(); });
+    dugmeler->addWidget(DugmeYap({"Command8", &FormKayit::Command8, &FormKayit::Command8_Click}));
+    auto* sil = DugmeYap({"Command7", &FormKayit::Command7, &FormKayit::Command7_Click});
     OdagiListeyeVer(*sil, *liste);
     dugmeler->addWidget(sil);
     dugmeler->addStretch(1);
@@ -47,8 +47,8 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    const std::array toplamlar{std::tuple{u"Alınan Ödeme :", "Kayam9", &ekran_.Kayam9},
-                               std::tuple{u"Kalan Ödeme :", "Kayam10", &ekran_.Kayam10}};
+    const std::array toplamlar{std::tuple{u"Alınan Ödeme :", "Kayam9", &Model().Kayam9},
+                               std::tuple{u"Kalan Ödeme :", "Kayam10", &Model().Kayam10}};
     for (const auto& [yazi, ad, model] : toplamlar) {
         auto* tutar = new QLabel;
         tutar->setObjectName(QString::fromLatin1(ad));

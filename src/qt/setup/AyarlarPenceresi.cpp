@@ -49,28 +49,26 @@ void GunSatiriEkle(Baglayici& baglayici, QGridLayout& izgara, const QString& ad,
 
 } // namespace
 
-AyarlarPenceresi::AyarlarPenceresi(Program& program) : Diyalog(program.FormAyarlar.Tut()) {
-    const auto tut = program.FormAyarlar.Tut();
-    FormAyarlar* ekran = tut.get();
+AyarlarPenceresi::AyarlarPenceresi(Program& program) : EkranPenceresi(program.FormAyarlar.Tut()) {
     auto* sutun = SutunKur(*this);
     auto* sayfalar = new QTabWidget;
     SayfaTuslari(*sayfalar);
-    sayfalar->addTab(GenelSayfasi(*ekran), QMetin(ekran->sayfalar[0]));
-    sayfalar->addTab(GorunumSayfasi(*ekran), QMetin(ekran->sayfalar[1]));
-    auto* kaydet = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    sayfalar->addTab(GenelSayfasi(), QMetin(Model().sayfalar[0]));
+    sayfalar->addTab(GorunumSayfasi(), QMetin(Model().sayfalar[1]));
+    auto* kaydet = DugmeYap({"Command1", &FormAyarlar::Command1, &FormAyarlar::Command1_Click});
     kaydet->setDefault(true);
-    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
+    auto* iptal = DugmeYap({"Command2", &FormAyarlar::Command2, &FormAyarlar::Command2_Click});
     IptalDugmesi(iptal);
-    auto* uygula = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
-    auto* varsayilan = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
+    auto* uygula = DugmeYap({"Command4", &FormAyarlar::Command4, &FormAyarlar::Command4_Click});
+    auto* varsayilan = DugmeYap({"Command3", &FormAyarlar::Command3, &FormAyarlar::Command3_Click});
     sutun->addWidget(sayfalar, 1);
     sutun->addLayout(DugmeSeridi({kaydet, uygula, iptal}, {varsayilan}));
     sutun->setSizeConstraint(QLayout::SetFixedSize); // nothing in it could use more room
-    setWindowTitle(QMetin(ekran->baslik));
-    findChild<QWidget*>(QStringLiteral("UyariGun"))->setFocus();
+    IlkOdak("UyariGun");
 }
 
-QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
+QWidget* AyarlarPenceresi::GenelSayfasi() {
+    FormAyarlar& ekran = Model();
     auto* sayfa = new QWidget;
     auto* sutun = SutunKur(*sayfa);
     auto* izgara = new QGridLayout;
@@ -92,12 +90,13 @@ QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
     sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check7"), ekran.Check7));
     sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check6"), ekran.Check6));
     sutun->addSpacing(kAralik);
-    sutun->addWidget(AylarKutusu(ekran));
+    sutun->addWidget(AylarKutusu());
     sutun->addStretch(1);
     return sayfa;
 }
 
-QWidget* AyarlarPenceresi::AylarKutusu(FormAyarlar& ekran) {
+QWidget* AyarlarPenceresi::AylarKutusu() {
+    FormAyarlar& ekran = Model();
     auto* kutu = new QGroupBox;
     auto* izgara = new QGridLayout(kutu);
     izgara->setSpacing(kAralik);
@@ -108,7 +107,7 @@ QWidget* AyarlarPenceresi::AylarKutusu(FormAyarlar& ekran) {
     return kutu;
 }
 
-QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
+QWidget* AyarlarPenceresi::GorunumSayfasi() {
     auto* sayfa = new QWidget;
     auto* izgara = new QGridLayout(sayfa);
     izgara->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
@@ -118,16 +117,16 @@ QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
     izgara->addWidget(new QLabel(QMetin(kMetinRengi)), 0, 2);
     int satir = 0;
     for (const RenkSatiri& renkler : kRenkSatirlari)
-        RenkSatiriEkle(*izgara, ++satir, renkler, ekran);
+        RenkSatiriEkle(*izgara, ++satir, renkler);
     izgara->setColumnStretch(3, 1);
     izgara->setRowStretch(satir + 1, 1);
     return sayfa;
 }
 
-void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler,
-                                      FormAyarlar& ekran) {
+void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler) {
+    FormAyarlar& ekran = Model();
     const QString yazi = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
-    QWidget* zemin = RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
+    QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
     if (renkler.onay != nullptr) {
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
         izgara.addWidget(
@@ -138,11 +137,11 @@ void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const Renk
     }
     izgara.addWidget(zemin, satir, 1);
     if (renkler.yazi != kRenkYok)
-        izgara.addWidget(RenkKutusu(ekran, renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
+        izgara.addWidget(RenkKutusu(renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
 }
 
-QWidget* AyarlarPenceresi::RenkKutusu(FormAyarlar& ekran, int renk, const QString& ipucu,
-                                      const QString& okunan) {
+QWidget* AyarlarPenceresi::RenkKutusu(int renk, const QString& ipucu, const QString& okunan) {
+    FormAyarlar& ekran = Model();
     auto* kutu = new QToolButton;
     Adlandir(*kutu, QStringLiteral("Renk%1").arg(renk), okunan + QStringLiteral(", ") + ipucu);
     kutu->setToolTip(ipucu);

@@ -24,40 +24,33 @@ constexpr int kMenuAlaniEni = 340;
 
 } // namespace
 
-MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : Diyalog(program.FormMenuAyar.Tut()) {
-    const auto tut = program.FormMenuAyar.Tut();
-    FormMenuAyar* ekran = tut.get();
+MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : EkranPenceresi(program.FormMenuAyar.Tut()) {
     auto* sutun = SutunKur(*this);
     auto* liste = new QTreeWidget;
-    Adlandir(*liste, QStringLiteral("Liste"), QMetin(ekran->baslik));
-    Bag().Bagla(
-        *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
+    Adlandir(*liste, QStringLiteral("Liste"), QMetin(Model().baslik));
+    Bag().Bagla(*liste, Model().Liste, Isle(&FormMenuAyar::Liste_Click), Isle(&FormMenuAyar::Liste_DblClick));
     liste->setColumnWidth(0, kAdSutunu);
     sutun->addWidget(liste, 1);
-    sutun->addLayout(ListeDugmeleri(ekran, *liste));
-    setWindowTitle(QMetin(ekran->baslik));
+    sutun->addLayout(ListeDugmeleri(*liste));
     liste->setFocus();
     resize(640, 380);
 }
 
-MenuEklePenceresi::MenuEklePenceresi(Program& program) : Diyalog(program.FormMenuEkle.Tut()) {
-    const auto tut = program.FormMenuEkle.Tut();
-    FormMenuEkle* ekran = tut.get();
+MenuEklePenceresi::MenuEklePenceresi(Program& program) : EkranPenceresi(program.FormMenuEkle.Tut()) {
     auto* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
     auto* ad = new QLineEdit;
-    Adlandir(*ad, QStringLiteral("Text1"), QMetin(ekran->Label1.baslik));
+    Adlandir(*ad, QStringLiteral("Text1"), QMetin(Model().Label1.baslik));
     ad->setMinimumWidth(kMenuAlaniEni);
-    Bag().Bagla(*ad, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
-    form->addRow(QMetin(ekran->Label1.baslik), ad);
+    Bag().Bagla(*ad, Model().Text1, {.degisti = Isle(&FormMenuEkle::Text1_Change), .odakGitti = {}});
+    form->addRow(QMetin(Model().Label1.baslik), ad);
     auto* icerik = new QPlainTextEdit;
-    Adlandir(*icerik, QStringLiteral("Text2"), QMetin(ekran->Label2.baslik));
-    Bag().Bagla(*icerik, ekran->Text2);
-    form->addRow(QMetin(ekran->Label2.baslik), icerik);
+    Adlandir(*icerik, QStringLiteral("Text2"), QMetin(Model().Label2.baslik));
+    Bag().Bagla(*icerik, Model().Text2);
+    form->addRow(QMetin(Model().Label2.baslik), icerik);
     sutun->addLayout(form, 1);
-    sutun->addLayout(TamamIptal({"Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }},
-                                {"Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }}));
-    Bag().Izle([this, ekran] { setWindowTitle(QMetin(ekran->baslik)); });
+    sutun->addLayout(TamamIptal({"Command4", &FormMenuEkle::Command4, &FormMenuEkle::Command4_Click},
+                                {"Command3", &FormMenuEkle::Command3, &FormMenuEkle::Command3_Click}));
     ad->setFocus();
 }
 

@@ -115,22 +115,19 @@ QFormLayout* DegerlerKur(Baglayici& baglayici, FormRenk& ekran) {
 
 } // namespace
 
-RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut()) {
-    const auto tut = program.FormRenk.Tut();
-    FormRenk* ekran = tut.get();
+RenkPenceresi::RenkPenceresi(Program& program) : EkranPenceresi(program.FormRenk.Tut()) {
     auto* sutun = SutunKur(*this);
     auto* ust = new QHBoxLayout;
     ust->setSpacing(2 * kAralik);
-    auto* cizelge = new Cizelge(Bag(), *ekran);
+    auto* cizelge = new Cizelge(Bag(), Model());
     Adlandir(*cizelge, QStringLiteral("Picture1"), QStringLiteral("Renk çizelgesi"));
     ust->addWidget(cizelge);
-    ust->addLayout(DegerlerKur(Bag(), *ekran));
+    ust->addLayout(DegerlerKur(Bag(), Model()));
     sutun->addLayout(ust);
-    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
-                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
+    sutun->addLayout(TamamIptal({"Command1", &FormRenk::Command1, &FormRenk::Command1_Click},
+                                {"Command2", &FormRenk::Command2, &FormRenk::Command2_Click}));
     sutun->setSizeConstraint(QLayout::SetFixedSize); // as the chart
-    setWindowTitle(QMetin(ekran->baslik));
-    findChild<QWidget*>(QStringLiteral("txtRed"))->setFocus();
+    IlkOdak("txtRed");
 }
 
 } // namespace velora

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 namespace velora {
 
+struct FormRenk;
 struct Program;
 
 /// The window of `FormRenk`.
-class RenkPenceresi : public Diyalog {
+class RenkPenceresi : public EkranPenceresi<FormRenk> {
   public:
     explicit RenkPenceresi(Program& program);
 };
