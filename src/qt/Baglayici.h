@@ -53,8 +53,8 @@ class Baglayici : public QObject {
     void Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
     /// A field of many lines. The model's line ends are CR LF.
     void Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
-    /// An editable list: the text is the model's, `ogeler` is what it offers.
-    void Bagla(QComboBox& kutu, MetinKutusu& model, const std::vector<Metin>& ogeler);
+    /// An editable list.
+    void Bagla(QComboBox& kutu, MetinKutusu& model);
     /// A date, with its calendar. A day outside the model's limits can be neither typed nor chosen.
     void Bagla(QDateEdit& kutu, TarihSecici& model);
     /// A tick box whose handler also wants to know that the mouse was let go on it.

@@ -7,7 +7,6 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include "qt/Baglayici.h"
 #include "qt/ErisimTuslari.h"
 
 namespace velora {
@@ -29,6 +28,13 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
         else if (eski == &liste && qobject_cast<const QPushButton*>(yeni) == nullptr)
             dugme.setDefault(true);
     });
+}
+
+QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
+    auto* etiket = new QLabel(this);
+    Adlandir(*etiket, ad, QMetin(model.once));
+    baglayici_->Bagla(*etiket, model);
+    return etiket;
 }
 
 void Diyalog::IlkOdak(const char* ad) {

@@ -2,16 +2,18 @@
 
 #include <functional>
 #include <memory>
+#include <type_traits>
 
 #include <QDialog>
+#include <QFormLayout>
+#include <QLabel>
 #include <QPushButton>
 
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
 #include "qt/Yerlesimler.h"
 
 namespace velora {
-
-class Baglayici;
-struct Dugme;
 
 /// A window that stands over others. Its X and the Esc key press the screen's own cancel
 /// button, and do nothing while that one is disabled: what closing means is the screen's to say. Its captions
@@ -24,6 +26,27 @@ class Diyalog : public QDialog {
 
   protected:
     Baglayici& Bag() { return *baglayici_; }
+
+    /// The widget of a control: under its name, called by its caption, bound to it. Tick boxes show the
+    /// caption themselves, for others see `EtiketYap`.
+    template <class Parca, class Model, class... Isler>
+    Parca* ParcaYap(const QString& ad, Model& model, const Isler&... isler) {
+        auto* parca = new Parca(this);
+        Adlandir(*parca, ad, QMetin(model.baslik));
+        if constexpr (std::is_same_v<Model, OnayKutusu>)
+            parca->setText(QMetin(model.baslik));
+        Bag().Bagla(*parca, model, isler...);
+        return parca;
+    }
+    /// A row of a form: a control's widget with its caption before it.
+    template <class Parca, class Model, class... Isler>
+    Parca* SatirEkle(QFormLayout& form, const QString& ad, Model& model, const Isler&... isler) {
+        auto* parca = ParcaYap<Parca>(ad, model, isler...);
+        form.addRow(EtiketYap(QMetin(model.baslik), *parca), parca);
+        return parca;
+    }
+    /// The text of a label that changes, called by what stands before it.
+    QLabel* DegerYap(const QString& ad, Etiket& model);
 
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);

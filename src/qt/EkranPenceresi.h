@@ -1,7 +1,5 @@
 #pragma once
 
-#include "qt/Baglayici.h"
-#include "qt/Ceviri.h"
 #include "qt/Diyalog.h"
 
 namespace velora {

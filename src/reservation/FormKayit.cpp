@@ -24,8 +24,8 @@ void Ac(MetinKutusu& kutu, bool acik) {
 } // namespace
 
 FormKayit::FormKayit(Program& program) : program_(program) {
-    for (const MetinBakis nitelik : kNitelikler)
-        Kay4Listesi.emplace_back(nitelik);
+    BasliklariKoy();
+    Kay[4].ogeler.assign(kNitelikler.begin(), kNitelikler.end());
     Kay[4].metin = kNitelikSeciniz;
     for (const int no : {12, 15}) {
         Kay[no].maske = kSaatMaskesi;
@@ -55,7 +55,6 @@ FormKayit::FormKayit(Program& program) : program_(program) {
     }
     Aciklamalar.enUzun = Label20.enUzun = 5000;
     Combo1.tiklandi = [this] { Combo1_Click(); };
-    Liste.basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
     Liste.sayiSutunlari = {1};
 }
 

@@ -13,6 +13,7 @@ constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";
 } // namespace
 
 FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
+    Liste.baslik = u"Menü Ayarları";
     Liste.basliklar = {u"Menü Adı", u"Menü İçeriği"};
     Command1.baslik = u"Ekle";
     Command2.baslik = u"Sil";

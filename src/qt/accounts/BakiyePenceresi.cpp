@@ -27,16 +27,6 @@ namespace {
 constexpr std::array kBakiyeSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
 constexpr int kSecimEni = 300; // of the two lists to choose from
 
-/// A field with its caption before it.
-template <class Parca>
-Parca* AlanEkle(QGridLayout& izgara, int satir, int sutun, const char* ad, const QString& yazi) {
-    auto* parca = new Parca;
-    Adlandir(*parca, QString::fromLatin1(ad), yazi);
-    izgara.addWidget(EtiketYap(yazi, *parca), satir, sutun);
-    izgara.addWidget(parca, satir, sutun + 1);
-    return parca;
-}
-
 } // namespace
 
 BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.FormBakiye.Tut()) {
@@ -60,13 +50,14 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
 
 void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara) {
     izgara.setSpacing(kAralik);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("Salon Adı")), Model().Combo2);
-    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("Başlangıç Tarihi")),
-                Model().DTPicker1);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon Tipi")),
-                Model().Combo1);
-    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("Bitiş Tarihi")),
-                Model().DTPicker2);
+    const auto ekle = [&]<class Parca>(int satir, int sutun, Parca* parca) {
+        izgara.addWidget(EtiketYap(parca->accessibleName(), *parca), satir, sutun);
+        izgara.addWidget(parca, satir, sutun + 1);
+    };
+    ekle(0, 0, ParcaYap<QComboBox>(QStringLiteral("Combo2"), Model().Combo2));
+    ekle(0, 3, ParcaYap<QDateEdit>(QStringLiteral("DTPicker1"), Model().DTPicker1));
+    ekle(1, 0, ParcaYap<QComboBox>(QStringLiteral("Combo1"), Model().Combo1));
+    ekle(1, 3, ParcaYap<QDateEdit>(QStringLiteral("DTPicker2"), Model().DTPicker2));
     auto* listele = DugmeYap({"ListeleGun", &FormBakiye::Listele, &FormBakiye::ListeleGun});
     izgara.addWidget(listele, 1, 6);
     for (const int ara : {2, 5})
@@ -76,9 +67,8 @@ void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara) {
 }
 
 QWidget* BakiyePenceresi::Liste() {
-    auto* liste = new QTreeWidget;
-    Adlandir(*liste, QStringLiteral("Liste"), QStringLiteral("Rezervasyonlar"));
-    Bag().Bagla(*liste, Model().Liste, Isle(&FormBakiye::Liste_Click), Isle(&FormBakiye::Liste_DblClick));
+    auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste,
+                                        Isle(&FormBakiye::Liste_Click), Isle(&FormBakiye::Liste_DblClick));
     int sutun = 0;
     for (const int en : kBakiyeSutunEnleri)
         liste->setColumnWidth(sutun++, en);
@@ -96,17 +86,14 @@ QWidget* BakiyePenceresi::Toplamlar() {
     constexpr int kSatir = static_cast<int>(kBakiyeTurleri.size()) / 2; // the kinds stand in two columns
     for (int sira = 0; sira < 2 * kSatir; ++sira)
         ToplamEkle(*izgara, sira % kSatir, sira / kSatir * 3, QStringLiteral("DTop%1").arg(sira + 1),
-                   QMetin(kBakiyeTurleri[static_cast<std::size_t>(sira)]), Model().DTop[sira + 1]);
-    const std::array sagdakiler{std::tuple{"Toplam", u"Genel Toplam", &Model().Toplam},
-                                std::tuple{"Alinan", u"Alınan Ödeme", &Model().Alinan},
-                                std::tuple{"Kalan", u"Kalan Ödeme", &Model().Kalan},
-                                std::tuple{"Label14", u"Kesin Rezervasyon", &Model().Label14},
-                                std::tuple{"Label18", u"Ön Rezervasyon", &Model().Label18},
-                                std::tuple{"Label19", u"Toplam Rezervasyon", &Model().Label19}};
+                   Model().DTop[sira + 1]);
+    const std::array sagdakiler{
+        std::pair{"Toplam", &Model().Toplam},   std::pair{"Alinan", &Model().Alinan},
+        std::pair{"Kalan", &Model().Kalan},     std::pair{"Label14", &Model().Label14},
+        std::pair{"Label18", &Model().Label18}, std::pair{"Label19", &Model().Label19}};
     int sira = 0;
-    for (const auto& [ad, yazi, model] : sagdakiler) {
-        ToplamEkle(*izgara, sira % 3, 6 + sira / 3 * 3, QString::fromLatin1(ad), QString::fromUtf16(yazi),
-                   *model);
+    for (const auto& [ad, model] : sagdakiler) {
+        ToplamEkle(*izgara, sira % 3, 6 + sira / 3 * 3, QString::fromLatin1(ad), *model);
         ++sira;
     }
     for (const int sutun : {1, 4, 7, 10})
@@ -115,13 +102,11 @@ QWidget* BakiyePenceresi::Toplamlar() {
 }
 
 void BakiyePenceresi::ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad,
-                                 const QString& yazi, Etiket& model) {
-    auto* tutar = new QLabel;
-    Adlandir(*tutar, ad, yazi);
-    Bag().Bagla(*tutar, model);
+                                 Etiket& model) {
+    QLabel* tutar = DegerYap(ad, model);
     // The block keeps its shape when the amounts grow.
     tutar->setMinimumWidth(tutar->fontMetrics().horizontalAdvance(QStringLiteral(": 9.999.999 TL")));
-    auto* baslik = new QLabel(yazi);
+    auto* baslik = new QLabel(QMetin(model.once));
     for (QLabel* etiket : {baslik, tutar})
         etiket->setMargin(kAralik / 4);
     izgara.addWidget(baslik, satir, sutun);

@@ -20,8 +20,7 @@ class BakiyePenceresi : public EkranPenceresi<FormBakiye> {
     void SuzgecleriKur(QGridLayout& izgara);
     QWidget* Liste();
     QWidget* Toplamlar();
-    void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, const QString& yazi,
-                    Etiket& model);
+    void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, Etiket& model);
 };
 
 } // namespace velora

@@ -19,8 +19,6 @@ namespace velora {
 
 namespace {
 
-constexpr std::array<const char16_t*, FormArama::kOlcutSayisi> kAlanlar{u"Adı Soyadı", u"Gelin / Damat",
-                                                                        u"Telefon", u"Cep", u"Sözleşme No"};
 constexpr int kOlcutEni = 380;
 // The columns of the names share what is left.
 constexpr int kKalan = 0;
@@ -50,14 +48,9 @@ AramaPenceresi::AramaPenceresi(Program& program) : EkranPenceresi(program.FormAr
 
 QLayout* AramaPenceresi::Olcutler() {
     QFormLayout* form = FormKur();
-    for (int no = 1; no <= FormArama::kOlcutSayisi; ++no) {
-        const QString yazi = QString::fromUtf16(kAlanlar[static_cast<std::size_t>(no - 1)]);
-        auto* alan = new QLineEdit(this);
-        Adlandir(*alan, QStringLiteral("Text%1").arg(no), yazi);
-        Bag().Bagla(*alan, Model().Text[no]);
-        alan->setFixedWidth(kOlcutEni);
-        form->addRow(yazi, alan);
-    }
+    for (int no = 1; no <= FormArama::kOlcutSayisi; ++no)
+        SatirEkle<QLineEdit>(*form, QStringLiteral("Text%1").arg(no), Model().Text[no])
+            ->setFixedWidth(kOlcutEni);
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
     serit->addLayout(form);
@@ -68,9 +61,8 @@ QLayout* AramaPenceresi::Olcutler() {
 }
 
 QTreeWidget* AramaPenceresi::Liste() {
-    auto* liste = new QTreeWidget(this);
-    Adlandir(*liste, QStringLiteral("Liste"), QStringLiteral("Bulunan kayıtlar"));
-    Bag().Bagla(*liste, Model().Liste, Isle(&FormArama::Liste_ItemClick), Isle(&FormArama::Liste_DblClick));
+    auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste,
+                                        Isle(&FormArama::Liste_ItemClick), Isle(&FormArama::Liste_DblClick));
     liste->setMinimumSize(kEnKucukListe);
     QHeaderView* basliklar = liste->header();
     basliklar->setStretchLastSection(false);

@@ -22,7 +22,7 @@ class KayitPenceresi : public EkranPenceresi<FormKayit> {
     QWidget* HizmetSayfasi();
     QLayout* Dugmeler();
 
-    void AlanEkle(QFormLayout& form, int no, const QString& yazi, const QString& ardindan = {});
+    void AlanEkle(QFormLayout& form, int no);
     QWidget* AlanYap(int no);
     QWidget* DurumSecimi();
     QWidget* HatirlatmaSecimi();

@@ -26,10 +26,8 @@ constexpr int kTutarEni = 90;
 QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* sayfa = new QWidget;
     QVBoxLayout* sutun = SutunKur(*sayfa);
-    auto* liste = new QTreeWidget;
-    liste->setObjectName(QStringLiteral("Liste"));
-    liste->setAccessibleName(QStringLiteral("Ödemeler"));
-    Bag().Bagla(*liste, Model().Liste, Isle(&FormKayit::Liste_ItemClick));
+    auto* liste =
+        ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste, Isle(&FormKayit::Liste_ItemClick));
     liste->header()->setDefaultSectionSize(kSutunEni);
     auto* dugmeler = new QHBoxLayout;
     dugmeler->setSpacing(kAralik);
@@ -47,19 +45,15 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    const std::array toplamlar{std::tuple{u"Alınan Ödeme :", "Kayam9", &Model().Kayam9},
-                               std::tuple{u"Kalan Ödeme :", "Kayam10", &Model().Kayam10}};
-    for (const auto& [yazi, ad, model] : toplamlar) {
-        auto* tutar = new QLabel;
-        tutar->setObjectName(QString::fromLatin1(ad));
-        tutar->setAccessibleName(QString::fromUtf16(yazi));
+    for (const int no : {9, 10}) {
+        Etiket& model = no == 9 ? Model().Kayam9 : Model().Kayam10;
+        QLabel* tutar = DegerYap(QStringLiteral("Kayam%1").arg(no), model);
         tutar->setMinimumWidth(kTutarEni);
         tutar->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         tutar->setMargin(kAralik / 2);
-        Bag().Bagla(*tutar, *model);
-        serit->addWidget(new QLabel(QString::fromUtf16(yazi)));
+        serit->addWidget(new QLabel(QMetin(model.once)));
         serit->addWidget(tutar);
-        serit->addWidget(new QLabel(QStringLiteral("TL")));
+        serit->addWidget(new QLabel(QMetin(model.sonra)));
         serit->addSpacing(kAralik);
     }
     return serit;

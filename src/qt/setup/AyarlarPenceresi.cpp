@@ -27,26 +27,6 @@ constexpr int kGunEni = 56;
 constexpr QSize kRenkKutusu(56, 22);
 constexpr int kAySutunu = 4; // months in a row
 
-QCheckBox* OnayYap(Baglayici& baglayici, const QString& ad, OnayKutusu& model) {
-    auto* kutu = new QCheckBox(QMetin(model.baslik));
-    Adlandir(*kutu, ad, kutu->text());
-    baglayici.Bagla(*kutu, model);
-    return kutu;
-}
-
-void GunSatiriEkle(Baglayici& baglayici, QGridLayout& izgara, const QString& ad, MetinKutusu& model,
-                   const QString& once, const QString& sonra) {
-    auto* kutu = new QLineEdit;
-    Adlandir(*kutu, ad, once);
-    kutu->setFixedWidth(kGunEni);
-    kutu->setAlignment(Qt::AlignRight);
-    baglayici.Bagla(*kutu, model);
-    const int satir = izgara.rowCount();
-    izgara.addWidget(EtiketYap(once, *kutu), satir, 0);
-    izgara.addWidget(kutu, satir, 1);
-    izgara.addWidget(new QLabel(sonra), satir, 2);
-}
-
 } // namespace
 
 AyarlarPenceresi::AyarlarPenceresi(Program& program) : EkranPenceresi(program.FormAyarlar.Tut()) {
@@ -74,25 +54,31 @@ QWidget* AyarlarPenceresi::GenelSayfasi() {
     auto* izgara = new QGridLayout;
     izgara->setSpacing(kAralik);
     izgara->setColumnStretch(2, 1);
-    GunSatiriEkle(Bag(), *izgara, QStringLiteral("UyariGun"), ekran.UyariGun, QMetin(ekran.uyariGunBaslik),
-                  QMetin(ekran.uyariGunSonu));
-    GunSatiriEkle(Bag(), *izgara, QStringLiteral("UyariGun2"), ekran.UyariGun2, QMetin(ekran.uyariGun2Baslik),
-                  QMetin(ekran.uyariGunSonu));
-    auto* liste = new QComboBox;
-    Adlandir(*liste, QStringLiteral("GunduzGece"), QMetin(ekran.gunduzGeceBaslik));
-    Bag().Bagla(*liste, ekran.GunduzGece);
+    GunSatiriEkle(*izgara, QStringLiteral("UyariGun"), ekran.UyariGun);
+    GunSatiriEkle(*izgara, QStringLiteral("UyariGun2"), ekran.UyariGun2);
+    auto* liste = ParcaYap<QComboBox>(QStringLiteral("GunduzGece"), ekran.GunduzGece);
     const int satir = izgara->rowCount();
-    izgara->addWidget(EtiketYap(QMetin(ekran.gunduzGeceBaslik), *liste), satir, 0);
+    izgara->addWidget(EtiketYap(QMetin(ekran.GunduzGece.baslik), *liste), satir, 0);
     izgara->addWidget(liste, satir, 1, 1, 2, Qt::AlignLeft);
     sutun->addLayout(izgara);
     sutun->addSpacing(kAralik);
-    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check2"), ekran.Check2));
-    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check7"), ekran.Check7));
-    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check6"), ekran.Check6));
+    sutun->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check2"), ekran.Check2));
+    sutun->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check7"), ekran.Check7));
+    sutun->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check6"), ekran.Check6));
     sutun->addSpacing(kAralik);
     sutun->addWidget(AylarKutusu());
     sutun->addStretch(1);
     return sayfa;
+}
+
+void AyarlarPenceresi::GunSatiriEkle(QGridLayout& izgara, const QString& ad, MetinKutusu& model) {
+    auto* kutu = ParcaYap<QLineEdit>(ad, model);
+    kutu->setFixedWidth(kGunEni);
+    kutu->setAlignment(Qt::AlignRight);
+    const int satir = izgara.rowCount();
+    izgara.addWidget(EtiketYap(QMetin(model.baslik), *kutu), satir, 0);
+    izgara.addWidget(kutu, satir, 1);
+    izgara.addWidget(new QLabel(QMetin(model.sonra)), satir, 2);
 }
 
 QWidget* AyarlarPenceresi::AylarKutusu() {
@@ -100,9 +86,9 @@ QWidget* AyarlarPenceresi::AylarKutusu() {
     auto* kutu = new QGroupBox;
     auto* izgara = new QGridLayout(kutu);
     izgara->setSpacing(kAralik);
-    izgara->addWidget(OnayYap(Bag(), QStringLiteral("Check3"), ekran.Check3), 0, 0, 1, kAySutunu);
+    izgara->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check3"), ekran.Check3), 0, 0, 1, kAySutunu);
     for (int ay = 1; ay <= BirTabanli<OnayKutusu, 12>::kAdet; ++ay)
-        izgara->addWidget(OnayYap(Bag(), QStringLiteral("Aylar%1").arg(ay), ekran.Aylar[ay]),
+        izgara->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Aylar%1").arg(ay), ekran.Aylar[ay]),
                           1 + (ay - 1) / kAySutunu, (ay - 1) % kAySutunu);
     return kutu;
 }
@@ -129,9 +115,9 @@ void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const Renk
     QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
     if (renkler.onay != nullptr) {
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
-        izgara.addWidget(
-            OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), ekran.*renkler.onay),
-            satir, 0);
+        izgara.addWidget(ParcaYap<QCheckBox>(gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"),
+                                             ekran.*renkler.onay),
+                         satir, 0);
     } else {
         izgara.addWidget(EtiketYap(yazi, *zemin), satir, 0);
     }

@@ -18,6 +18,7 @@ class AyarlarPenceresi : public EkranPenceresi<FormAyarlar> {
   private:
     QWidget* GenelSayfasi();
     QWidget* GorunumSayfasi();
+    void GunSatiriEkle(QGridLayout& izgara, const QString& ad, MetinKutusu& model);
     QWidget* AylarKutusu();
     void RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler);
     QWidget* RenkKutusu(int renk, const QString& ipucu, const QString& okunan);

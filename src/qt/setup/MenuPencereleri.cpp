@@ -26,9 +26,9 @@ constexpr int kMenuAlaniEni = 340;
 
 MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : EkranPenceresi(program.FormMenuAyar.Tut()) {
     auto* sutun = SutunKur(*this);
-    auto* liste = new QTreeWidget;
-    Adlandir(*liste, QStringLiteral("Liste"), QMetin(Model().baslik));
-    Bag().Bagla(*liste, Model().Liste, Isle(&FormMenuAyar::Liste_Click), Isle(&FormMenuAyar::Liste_DblClick));
+    auto* liste =
+        ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste, Isle(&FormMenuAyar::Liste_Click),
+                              Isle(&FormMenuAyar::Liste_DblClick));
     liste->setColumnWidth(0, kAdSutunu);
     sutun->addWidget(liste, 1);
     sutun->addLayout(ListeDugmeleri(*liste));
@@ -39,15 +39,10 @@ MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : EkranPenceresi(program.
 MenuEklePenceresi::MenuEklePenceresi(Program& program) : EkranPenceresi(program.FormMenuEkle.Tut()) {
     auto* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    auto* ad = new QLineEdit;
-    Adlandir(*ad, QStringLiteral("Text1"), QMetin(Model().Label1.baslik));
+    const Baglayici::AlanIsleri isler{.degisti = Isle(&FormMenuEkle::Text1_Change), .odakGitti = {}};
+    auto* ad = SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1, isler);
     ad->setMinimumWidth(kMenuAlaniEni);
-    Bag().Bagla(*ad, Model().Text1, {.degisti = Isle(&FormMenuEkle::Text1_Change), .odakGitti = {}});
-    form->addRow(QMetin(Model().Label1.baslik), ad);
-    auto* icerik = new QPlainTextEdit;
-    Adlandir(*icerik, QStringLiteral("Text2"), QMetin(Model().Label2.baslik));
-    Bag().Bagla(*icerik, Model().Text2);
-    form->addRow(QMetin(Model().Label2.baslik), icerik);
+    SatirEkle<QPlainTextEdit>(*form, QStringLiteral("Text2"), Model().Text2);
     sutun->addLayout(form, 1);
     sutun->addLayout(TamamIptal({"Command4", &FormMenuEkle::Command4, &FormMenuEkle::Command4_Click},
                                 {"Command3", &FormMenuEkle::Command3, &FormMenuEkle::Command3_Click}));

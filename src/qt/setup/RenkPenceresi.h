@@ -11,6 +11,10 @@ struct Program;
 class RenkPenceresi : public EkranPenceresi<FormRenk> {
   public:
     explicit RenkPenceresi(Program& program);
+
+  private:
+    /// The sample, and below it the fields that say its colour.
+    QFormLayout* Degerler();
 };
 
 } // namespace velora

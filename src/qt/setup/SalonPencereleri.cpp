@@ -24,9 +24,8 @@ constexpr int kSalonAlaniEni = 260;
 
 SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : EkranPenceresi(program.FormSalonTanim.Tut()) {
     auto* sutun = SutunKur(*this);
-    auto* liste = new QListWidget;
-    Adlandir(*liste, QStringLiteral("List1"), QMetin(Model().Label8.baslik));
-    Bag().Bagla(*liste, Model().List1, Isle(&FormSalonTanim::List1_Click));
+    auto* liste =
+        ParcaYap<QListWidget>(QStringLiteral("List1"), Model().List1, Isle(&FormSalonTanim::List1_Click));
     sutun->addWidget(EtiketYap(QMetin(Model().Label8.baslik), *liste));
     sutun->addWidget(liste, 1);
     sutun->addLayout(ListeDugmeleri(*liste));
@@ -37,11 +36,8 @@ SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : EkranPenceresi(prog
 SalonAdPenceresi::SalonAdPenceresi(Program& program) : EkranPenceresi(program.FormSalonTanimAd.Tut()) {
     auto* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    auto* ad = new QLineEdit;
-    Adlandir(*ad, QStringLiteral("Text1"), QMetin(Model().Label1.baslik));
+    auto* ad = SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1);
     ad->setMinimumWidth(kSalonAlaniEni);
-    Bag().Bagla(*ad, Model().Text1);
-    form->addRow(QMetin(Model().Label1.baslik), ad);
     sutun->addLayout(form);
     sutun->addLayout(
         TamamIptal({"Command1", &FormSalonTanimAd::Command1, &FormSalonTanimAd::Command1_Click},
