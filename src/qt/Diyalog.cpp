@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QPointer>
 #include <QPushButton>
+#include <QTreeWidget>
 
 #include "qt/ErisimTuslari.h"
 
@@ -35,6 +36,13 @@ QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
     Adlandir(*etiket, ad, QMetin(model.once));
     baglayici_->Bagla(*etiket, model);
     return etiket;
+}
+
+QTreeWidget* Diyalog::ListeYap(ListeGorunumu& model, std::span<const int> enler,
+                               const Baglayici::Isleyici& secildi, const Baglayici::Isleyici& ciftTiklandi) {
+    auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), model, secildi, ciftTiklandi);
+    SutunEnleriVer(*liste, enler);
+    return liste;
 }
 
 void Diyalog::IlkOdak(const char* ad) {

@@ -48,6 +48,10 @@ class Diyalog : public QDialog {
     /// The text of a label that changes, called by what stands before it.
     QLabel* DegerYap(const QString& ad, Etiket& model);
 
+    /// The list of a screen, its columns in these widths.
+    QTreeWidget* ListeYap(ListeGorunumu& model, std::span<const int> enler,
+                          const Baglayici::Isleyici& secildi, const Baglayici::Isleyici& ciftTiklandi);
+
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }

@@ -25,9 +25,17 @@ class EkranPenceresi : public Diyalog {
 
     Ekran& Model() const { return ekran_; }
 
-    /// A handler for what is bound to it.
+    /// A handler for what is bound to it; null for none.
     Baglayici::Isleyici Isle(Olay olay) const {
+        if (olay == nullptr)
+            return {};
         return [&ekran = ekran_, olay] { (ekran.*olay)(); };
+    }
+
+    /// The list of the screen, its columns in these widths (`SutunEnleriVer`); what runs when a row is
+    /// marked, and at a double click.
+    QTreeWidget* ListeYap(std::span<const int> enler, Olay secildi, Olay ciftTiklandi = nullptr) {
+        return Diyalog::ListeYap(ekran_.Liste, enler, Isle(secildi), Isle(ciftTiklandi));
     }
 
     /// A button under the name of its control.

@@ -6,10 +6,12 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
+#include <QTreeWidget>
 
 #include "qt/Gorunum.h"
 
@@ -46,6 +48,19 @@ QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
     serit->addStretch(1);
     std::ranges::for_each(sagdakiler, ekle);
     return serit;
+}
+
+void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler) {
+    QHeaderView& basliklar = *liste.header();
+    basliklar.setStretchLastSection(std::ranges::find(enler, kKalanEn) == enler.end());
+    int sutun = 0;
+    for (const int en : enler) {
+        if (en == kKalanEn)
+            basliklar.setSectionResizeMode(sutun, QHeaderView::Stretch);
+        else
+            basliklar.resizeSection(sutun, en);
+        ++sutun;
+    }
 }
 
 void SayfaTuslari(QTabWidget& sayfalar) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 
 #include <QString>
 
@@ -9,6 +10,7 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTabWidget;
+class QTreeWidget;
 class QVBoxLayout;
 class QWidget;
 
@@ -26,6 +28,13 @@ QFormLayout* FormKur();
 /// them from left to right.
 QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
                          std::initializer_list<QPushButton*> soldakiler = {});
+
+/// In the widths of a list's columns: shares with the others of its kind what is left.
+inline constexpr int kKalanEn = 0;
+
+/// The widths of a list's columns, from the first on. Where none is `kKalanEn`, the last column of the list
+/// takes what is left.
+void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler);
 
 /// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever
 /// field.

@@ -7,7 +7,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -35,7 +34,7 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
     auto* suzgecler = new QGridLayout;
     sutun->addLayout(suzgecler);
     SuzgecleriKur(*suzgecler);
-    QWidget* liste = Liste();
+    QWidget* liste = ListeYap(kBakiyeSutunEnleri, &FormBakiye::Liste_Click, &FormBakiye::Liste_DblClick);
     sutun->addWidget(liste, 1);
     sutun->addWidget(Toplamlar());
     auto* detay = DugmeYap({"Command6", &FormBakiye::Command6, &FormBakiye::Command6_Click});
@@ -64,15 +63,6 @@ void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara) {
         izgara.setColumnMinimumWidth(ara, kAralik);
     izgara.setColumnMinimumWidth(1, kSecimEni);
     izgara.setColumnStretch(7, 1);
-}
-
-QWidget* BakiyePenceresi::Liste() {
-    auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste,
-                                        Isle(&FormBakiye::Liste_Click), Isle(&FormBakiye::Liste_DblClick));
-    int sutun = 0;
-    for (const int en : kBakiyeSutunEnleri)
-        liste->setColumnWidth(sutun++, en);
-    return liste;
 }
 
 QWidget* BakiyePenceresi::Toplamlar() {

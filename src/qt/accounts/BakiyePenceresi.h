@@ -18,7 +18,6 @@ class BakiyePenceresi : public EkranPenceresi<FormBakiye> {
 
   private:
     void SuzgecleriKur(QGridLayout& izgara);
-    QWidget* Liste();
     QWidget* Toplamlar();
     void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, Etiket& model);
 };

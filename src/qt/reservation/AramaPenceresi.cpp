@@ -4,7 +4,6 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -21,8 +20,7 @@ namespace {
 
 constexpr int kOlcutEni = 380;
 // The columns of the names share what is left.
-constexpr int kKalan = 0;
-constexpr std::array kAramaSutunEnleri{180, 160, kKalan, kKalan, 110, 110};
+constexpr std::array kAramaSutunEnleri{180, 160, kKalanEn, kKalanEn, 110, 110};
 constexpr QSize kEnKucukListe{760, 160};
 
 } // namespace
@@ -32,7 +30,8 @@ AramaPenceresi::AramaPenceresi(Program& program) : EkranPenceresi(program.FormAr
     QVBoxLayout* sutun = SutunKur(*this);
     sutun->addLayout(Olcutler());
     auto* ara = findChild<QPushButton*>(QStringLiteral("Command3"));
-    QTreeWidget* liste = Liste();
+    auto* liste = ListeYap(kAramaSutunEnleri, &FormArama::Liste_ItemClick, &FormArama::Liste_DblClick);
+    liste->setMinimumSize(kEnKucukListe);
     sutun->addSpacing(kAralik);
     sutun->addWidget(liste, 1);
     auto* detaylar = DugmeYap({"Command1", &FormArama::Command1, &FormArama::Command1_Click});
@@ -58,20 +57,6 @@ QLayout* AramaPenceresi::Olcutler() {
                      Qt::AlignBottom);
     serit->addStretch(1);
     return serit;
-}
-
-QTreeWidget* AramaPenceresi::Liste() {
-    auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste,
-                                        Isle(&FormArama::Liste_ItemClick), Isle(&FormArama::Liste_DblClick));
-    liste->setMinimumSize(kEnKucukListe);
-    QHeaderView* basliklar = liste->header();
-    basliklar->setStretchLastSection(false);
-    for (int i = 0; i < static_cast<int>(kAramaSutunEnleri.size()); ++i)
-        if (const int en = kAramaSutunEnleri[static_cast<std::size_t>(i)]; en != kKalan)
-            basliklar->resizeSection(i, en);
-        else
-            basliklar->setSectionResizeMode(i, QHeaderView::Stretch);
-    return liste;
 }
 
 } // namespace velora

@@ -2,8 +2,6 @@
 
 #include "qt/EkranPenceresi.h"
 
-class QTreeWidget;
-
 namespace velora {
 
 struct FormArama;
@@ -15,7 +13,6 @@ class AramaPenceresi : public EkranPenceresi<FormArama> {
     explicit AramaPenceresi(Program& program);
 
   private:
-    QTreeWidget* Liste();
     /// The criteria, with "Ara" behind the last of them.
     QLayout* Olcutler();
 };

@@ -2,7 +2,6 @@
 #include <array>
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -18,7 +17,7 @@ namespace velora {
 
 namespace {
 
-constexpr int kSutunEni = 120;
+constexpr std::array kOdemeSutunEnleri{120, 120};
 constexpr int kTutarEni = 90;
 
 } // namespace
@@ -26,9 +25,7 @@ constexpr int kTutarEni = 90;
 QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* sayfa = new QWidget;
     QVBoxLayout* sutun = SutunKur(*sayfa);
-    auto* liste =
-        ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste, Isle(&FormKayit::Liste_ItemClick));
-    liste->header()->setDefaultSectionSize(kSutunEni);
+    auto* liste = ListeYap(kOdemeSutunEnleri, &FormKayit::Liste_ItemClick);
     auto* dugmeler = new QHBoxLayout;
     dugmeler->setSpacing(kAralik);
     dugmeler->addWidget(DugmeYap({"Command8", &FormKayit::Command8, &FormKayit::Command8_Click}));

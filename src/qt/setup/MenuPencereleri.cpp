@@ -1,8 +1,9 @@
 #include "qt/setup/MenuPencereleri.h"
 
+#include <array>
+
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -19,17 +20,14 @@ namespace velora {
 
 namespace {
 
-constexpr int kAdSutunu = 180;
+constexpr std::array kMenuSutunEnleri{180};
 constexpr int kMenuAlaniEni = 340;
 
 } // namespace
 
 MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : EkranPenceresi(program.FormMenuAyar.Tut()) {
     auto* sutun = SutunKur(*this);
-    auto* liste =
-        ParcaYap<QTreeWidget>(QStringLiteral("Liste"), Model().Liste, Isle(&FormMenuAyar::Liste_Click),
-                              Isle(&FormMenuAyar::Liste_DblClick));
-    liste->setColumnWidth(0, kAdSutunu);
+    auto* liste = ListeYap(kMenuSutunEnleri, &FormMenuAyar::Liste_Click, &FormMenuAyar::Liste_DblClick);
     sutun->addWidget(liste, 1);
     sutun->addLayout(ListeDugmeleri(*liste));
     liste->setFocus();
