@@ -159,7 +159,7 @@ class QtOrtamTest : public QObject {
         Baglayici baglayici(ekran, &pencere);
         int gorulen = 0;
         baglayici.Izle([&] {
-            if (!Baglayici::KisaIsSuruyor())
+            if (!Baglayici::IsSuruyor())
                 gorulen = *ekran;
         });
         int kutuda = 0;
