@@ -24,6 +24,8 @@ constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that fi
 } // namespace
 
 FormTablo::FormTablo(Program& program) : program_(program) {
+    for (const KomutTanimi& komut : Komutlar())
+        Girdi(komut.komut).baslik = komut.baslik;
     for (int gun = 1; gun <= kGunSayisi; ++gun)
         ALabel[gun].baslik = SayiMetni(gun);
     for (int ay = 1; ay <= kAySayisi; ++ay)

@@ -53,8 +53,9 @@ void FormTablo::Hucre_MouseMove(SatirAdi satir, int gun) {
 }
 
 bool FormTablo::Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme) {
-    newkay.etkin = BosRenkte(satir, gun);
-    iptals.etkin = !newkay.etkin;
+    const bool bos = BosRenkte(satir, gun);
+    Girdi(Komut::newkay).etkin = bos;
+    Girdi(Komut::iptals).etkin = !bos;
     SeciliTarih2 = SeciliTarih;
     return sagDugme;
 }
