@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "screen/Kontroller.h"
@@ -152,6 +153,9 @@ struct FormTablo {
     void Command7(); ///< "Otomatik Yayin": publishes again what is published already, and else nothing
     /// Shows the screen that sends the table of the selected hall and year to the service. Offline: nothing.
     void Yayinla();
+    /// What follows a change of the reservations: the scan, today's frame, the publish. `once` runs before
+    /// each.
+    void DegisikligiGoster(const std::function<void()>& once = {});
     void GecmisGunler();
     void CetvelAc();
     void CetvelSil();

@@ -80,8 +80,8 @@ void FormTablo::newkay_Click() {
     {
         const auto kayit = program_.FormKayit.Tut();
         kayit->Tarih = gun;
-        kayit->Kay[8].kilitli = false;
-        kayit->Kay[12].metin =
+        kayit->Kay[AnaNo::ToplamUcret].kilitli = false;
+        kayit->Kay[AnaNo::BaslamaSaati].metin =
             AnahtarDilimi(gun) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
     }
     program_.FormKayit.GosterModal();
