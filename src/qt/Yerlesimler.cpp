@@ -78,15 +78,15 @@ void SayfaTuslari(QTabWidget& sayfalar) {
                          });
 }
 
-QLabel* EtiketYap(const QString& yazi, QWidget& alan) {
-    auto* etiket = new QLabel(yazi);
+QLabel* EtiketYap(const QString& baslik, QWidget& alan) {
+    auto* etiket = new QLabel(baslik);
     etiket->setBuddy(&alan);
     return etiket;
 }
 
-void Adlandir(QWidget& parca, const QString& ad, const QString& yazi) {
+void Adlandir(QWidget& parca, const QString& ad, const QString& baslik) {
     parca.setObjectName(ad);
-    parca.setAccessibleName(yazi);
+    parca.setAccessibleName(baslik);
 }
 
 } // namespace velora

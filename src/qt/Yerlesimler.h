@@ -41,9 +41,9 @@ void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler);
 void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.
-QLabel* EtiketYap(const QString& yazi, QWidget& alan);
+QLabel* EtiketYap(const QString& baslik, QWidget& alan);
 
 /// The name of a widget's control, and what it is called for those who can't see it.
-void Adlandir(QWidget& parca, const QString& ad, const QString& yazi);
+void Adlandir(QWidget& parca, const QString& ad, const QString& baslik);
 
 } // namespace velora

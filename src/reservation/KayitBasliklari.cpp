@@ -6,28 +6,29 @@ namespace velora {
 namespace {
 
 struct AlanBasligi {
-    int no;
+    AnaNo::No no;
     MetinBakis baslik;
     MetinBakis sonra = {};
 };
 
-/// `Kay9` and `Kay10` aren't seen: `Kayam9` and `Kayam10` stand for them.
-constexpr std::array<AlanBasligi, 16> kAlanBasliklari{{{1, u"Adı Soyadı"},
-                                                       {2, u"Yöresi"},
-                                                       {3, u"Gelin / Damat"},
-                                                       {4, u"Niteliği"},
-                                                       {5, u"Telefon"},
-                                                       {6, u"Cep"},
-                                                       {7, u"Adres"},
-                                                       {8, u"Toplam Ücret", u"TL"},
-                                                       {11, u"Ön Açıklama"},
-                                                       {12, u"Başlama Saati"},
-                                                       {13, u"Sözleşme Tarihi", u"(gün.ay.yıl)"},
-                                                       {14, u"Sözleşme No"},
-                                                       {15, u"Bitiş Saati"},
-                                                       {16, u"T.C. Kimlik No"},
-                                                       {17, u"Davetli Sayısı"},
-                                                       {18, u"Bu Tarihte Hatırlat"}}};
+/// What is paid and what is left aren't seen: `Kayam9` and `Kayam10` stand for them.
+constexpr std::array<AlanBasligi, 16> kAlanBasliklari{
+    {{AnaNo::AdiSoyadi, u"Adı Soyadı"},
+     {AnaNo::Yoresi, u"Yöresi"},
+     {AnaNo::GelinDamat, u"Gelin / Damat"},
+     {AnaNo::Niteligi, u"Niteliği"},
+     {AnaNo::Telefon, u"Telefon"},
+     {AnaNo::Cep, u"Cep"},
+     {AnaNo::Adres, u"Adres"},
+     {AnaNo::ToplamUcret, u"Toplam Ücret", u"TL"},
+     {AnaNo::OnAciklama, u"Ön Açıklama"},
+     {AnaNo::BaslamaSaati, u"Başlama Saati"},
+     {AnaNo::SozlesmeTarihi, u"Sözleşme Tarihi", u"(gün.ay.yıl)"},
+     {AnaNo::SozlesmeNo, u"Sözleşme No"},
+     {AnaNo::BitisSaati, u"Bitiş Saati"},
+     {AnaNo::KimlikNo, u"T.C. Kimlik No"},
+     {AnaNo::DavetliSayisi, u"Davetli Sayısı"},
+     {AnaNo::HatirlatmaTarihi, u"Bu Tarihte Hatırlat"}}};
 
 /// The services, by the numbers of their `Check` and `TT` fields less one.
 constexpr std::array<MetinBakis, kHizmetSayisi> kHizmetAdlari{u"Yaş Pasta Servisi",

@@ -51,8 +51,8 @@ struct Yer {
     bool operator==(const Yer&) const = default;
 };
 
-// What stands on a control or beside it is the screen's: a window shows these texts and has none of its own.
-// Where no label stands beside a field, its `baslik` is what the field is called for those who can't see it.
+// What stands on a control or beside it is the screen's to say, a window shows it. Where no label stands
+// beside a field, its `baslik` is what the field is called for those who can't see it.
 
 struct Etiket {
     Metin baslik; ///< its text

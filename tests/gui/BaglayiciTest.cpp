@@ -363,43 +363,6 @@ class BaglayiciTest : public QObject {
         QCOMPARE(kutu.text(), QStringLiteral("son"));
     }
 
-    void a_handler_shows_only_its_end_however_long_it_takes() {
-        Sahne sahne;
-        std::vector<bool> suruyor;
-        sahne.baglayici.Calistir([&] {
-            QTest::qSleep(150);
-            suruyor.push_back(Baglayici::IsSuruyor());
-            sahne.baglayici.Calistir([&] { suruyor.push_back(Baglayici::IsSuruyor()); });
-            suruyor.push_back(Baglayici::IsSuruyor());
-        });
-        suruyor.push_back(Baglayici::IsSuruyor());
-        QCOMPARE(suruyor, (std::vector{true, true, true, false}));
-    }
-
-    void a_handler_that_waits_for_the_user_is_none_until_the_answer_and_one_inside_is_of_its_own() {
-        Sahne sahne;
-        std::vector<bool> suruyor;
-        const auto bak = [&] { suruyor.push_back(Baglayici::IsSuruyor()); };
-        sahne.baglayici.Calistir([&] {
-            bak();
-            {
-                const Baglayici::KullaniciBekleme pencere;
-                bak();
-                sahne.baglayici.Calistir([&] {
-                    bak();
-                    {
-                        const Baglayici::KullaniciBekleme kutu;
-                        bak();
-                    }
-                    bak();
-                });
-                bak();
-            }
-            bak();
-        });
-        QCOMPARE(suruyor, (std::vector{true, false, true, false, true, false, true}));
-    }
-
     void a_screen_that_unloads_itself_lives_until_its_handler_has_returned() {
         Sahne sahne;
         QPushButton dugme(&sahne.pencere);

@@ -176,6 +176,47 @@ class QtOrtamTest : public QObject {
         QCOMPARE(gorulen, 9);
     }
 
+    void a_handler_shows_only_its_end_however_long_it_takes() {
+        const auto ekran = std::make_shared<int>(0);
+        QObject pencere;
+        Baglayici baglayici(ekran, &pencere);
+        std::vector<bool> suruyor;
+        baglayici.Calistir([&] {
+            QTest::qSleep(150);
+            suruyor.push_back(Baglayici::IsSuruyor());
+            baglayici.Calistir([&] { suruyor.push_back(Baglayici::IsSuruyor()); });
+            suruyor.push_back(Baglayici::IsSuruyor());
+        });
+        suruyor.push_back(Baglayici::IsSuruyor());
+        QCOMPARE(suruyor, (std::vector{true, true, true, false}));
+    }
+
+    void a_handler_that_waits_for_the_user_is_none_until_the_answer_and_one_inside_is_of_its_own() {
+        const auto ekran = std::make_shared<int>(0);
+        QObject pencere;
+        Baglayici baglayici(ekran, &pencere);
+        std::vector<bool> suruyor;
+        const auto bak = [&] { suruyor.push_back(Baglayici::IsSuruyor()); };
+        baglayici.Calistir([&] {
+            bak();
+            {
+                const Baglayici::KullaniciBekleme acikPencere;
+                bak();
+                baglayici.Calistir([&] {
+                    bak();
+                    {
+                        const Baglayici::KullaniciBekleme acikKutu;
+                        bak();
+                    }
+                    bak();
+                });
+                bak();
+            }
+            bak();
+        });
+        QCOMPARE(suruyor, (std::vector{true, false, true, false, true, false, true}));
+    }
+
     void a_window_is_made_at_its_first_showing_and_dropped_when_hidden() {
         int yapilan = 0;
         disDunya_->Tanit(EkranAdi::FormAyarlar, [&] {

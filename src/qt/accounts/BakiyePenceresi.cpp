@@ -49,7 +49,7 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
 
 void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara) {
     izgara.setSpacing(kAralik);
-    const auto ekle = [&]<class Parca>(int satir, int sutun, Parca* parca) {
+    const auto ekle = [&](int satir, int sutun, QWidget* parca) {
         izgara.addWidget(EtiketYap(parca->accessibleName(), *parca), satir, sutun);
         izgara.addWidget(parca, satir, sutun + 1);
     };

@@ -29,10 +29,14 @@ constexpr int kKisaAlanEni = 110;
 constexpr int kCokSatirBoyu = 64;
 
 // The fields of the first page, column by column.
-constexpr std::array kSolAlanlar{1, 2, 3, 4, 5, 6, 7, 8};
-constexpr std::array kSagAlanlar{11, 12, 15, 13, 14, 16, 17};
-constexpr std::array kCokSatirlilar{7, 11};
-constexpr std::array kKisalar{8, 12, 13, 14, 15, 18};
+constexpr std::array kSolAlanlar{AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Niteligi,
+                                 AnaNo::Telefon,   AnaNo::Cep,    AnaNo::Adres,      AnaNo::ToplamUcret};
+constexpr std::array kSagAlanlar{AnaNo::OnAciklama,     AnaNo::BaslamaSaati, AnaNo::BitisSaati,
+                                 AnaNo::SozlesmeTarihi, AnaNo::SozlesmeNo,   AnaNo::KimlikNo,
+                                 AnaNo::DavetliSayisi};
+constexpr std::array kCokSatirlilar{AnaNo::Adres, AnaNo::OnAciklama};
+constexpr std::array kKisalar{AnaNo::ToplamUcret, AnaNo::BaslamaSaati, AnaNo::SozlesmeTarihi,
+                              AnaNo::SozlesmeNo,  AnaNo::BitisSaati,   AnaNo::HatirlatmaTarihi};
 
 template <class Dizi>
 bool Icinde(const Dizi& dizi, int no) {
@@ -54,21 +58,15 @@ KayitPenceresi::KayitPenceresi(Program& program)
     std::size_t no = 0;
     for (QWidget* sayfa : {GenelSayfasi(), OdemeSayfasi(), MenuSayfasi(), HizmetSayfasi()})
         sayfalar_->addTab(sayfa, QMetin(Model().sayfalar[no++]));
-    sutun->addLayout(Dugmeler()); // behind the pages for the Tab key too
+    // Behind the pages for the Tab key too.
+    sutun->addLayout(TamamIptal({"Command1", &FormKayit::Command1, &FormKayit::Command1_Click},
+                                {"Command2", &FormKayit::Command2, &FormKayit::Command2_Click}));
     connect(sayfalar_, &QTabWidget::tabBarClicked, this,
             [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     connect(sayfalar_, &QTabWidget::currentChanged, this,
             [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     Bag().Izle([this] { sayfalar_->setCurrentIndex(Model().SSTab1 - 1); });
     IlkOdak("Kay1");
-}
-
-QLayout* KayitPenceresi::Dugmeler() {
-    auto* kaydet = DugmeYap({"Command1", &FormKayit::Command1, &FormKayit::Command1_Click});
-    kaydet->setDefault(true);
-    auto* kapat = DugmeYap({"Command2", &FormKayit::Command2, &FormKayit::Command2_Click});
-    IptalDugmesi(kapat);
-    return DugmeSeridi({kaydet, kapat});
 }
 
 QWidget* KayitPenceresi::AlanYap(int no) {
@@ -82,12 +80,12 @@ QWidget* KayitPenceresi::AlanYap(int no) {
         return kutu;
     }
     Baglayici::AlanIsleri isler;
-    if (no == 8)
+    if (no == AnaNo::ToplamUcret)
         isler.odakGitti = Isle(&FormKayit::Kay8_LostFocus);
-    if (no == 12)
+    if (no == AnaNo::BaslamaSaati)
         isler.odakGitti = Isle(&FormKayit::Kay12_LostFocus);
     auto* kutu = ParcaYap<QLineEdit>(ad, model, isler);
-    if (no == 8)
+    if (no == AnaNo::ToplamUcret)
         kutu->setAlignment(Qt::AlignRight);
     return kutu;
 }
@@ -106,7 +104,7 @@ void KayitPenceresi::AlanEkle(QFormLayout& form, int no) {
     kutu->setFixedWidth(kKisaAlanEni);
     satir->addWidget(kutu);
     satir->addWidget(new QLabel(QMetin(model.sonra)));
-    if (no == 8) {
+    if (no == AnaNo::ToplamUcret) {
         satir->addSpacing(kAralik);
         satir->addWidget(DugmeYap({"Command4", &FormKayit::Command4, &FormKayit::Command4_Click}));
     }
@@ -164,7 +162,7 @@ QWidget* KayitPenceresi::HatirlatmaSecimi() {
     auto* yaklasinca = ParcaYap<QCheckBox>(QStringLiteral("Check18"), Model().Check18);
     auto* tarihte =
         ParcaYap<QCheckBox>(QStringLiteral("Check19"), Model().Check19, Isle(&FormKayit::Check19_MouseUp));
-    QWidget* tarih = AlanYap(18);
+    QWidget* tarih = AlanYap(AnaNo::HatirlatmaTarihi);
     tarih->setFixedWidth(kKisaAlanEni);
     satir->addWidget(yaklasinca, 0, 0);
     satir->addWidget(tarihte, 1, 0);

@@ -20,7 +20,6 @@ class KayitPenceresi : public EkranPenceresi<FormKayit> {
     QWidget* OdemeSayfasi();
     QWidget* MenuSayfasi();
     QWidget* HizmetSayfasi();
-    QLayout* Dugmeler();
 
     void AlanEkle(QFormLayout& form, int no);
     QWidget* AlanYap(int no);

@@ -111,19 +111,19 @@ QWidget* AyarlarPenceresi::GorunumSayfasi() {
 
 void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler) {
     FormAyarlar& ekran = Model();
-    const QString yazi = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
-    QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
+    const QString baslik = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
+    QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu), baslik);
     if (renkler.onay != nullptr) {
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
         izgara.addWidget(ParcaYap<QCheckBox>(gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"),
                                              ekran.*renkler.onay),
                          satir, 0);
     } else {
-        izgara.addWidget(EtiketYap(yazi, *zemin), satir, 0);
+        izgara.addWidget(EtiketYap(baslik, *zemin), satir, 0);
     }
     izgara.addWidget(zemin, satir, 1);
     if (renkler.yazi != kRenkYok)
-        izgara.addWidget(RenkKutusu(renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
+        izgara.addWidget(RenkKutusu(renkler.yazi, QMetin(renkler.yaziIpucu), baslik), satir, 2);
 }
 
 QWidget* AyarlarPenceresi::RenkKutusu(int renk, const QString& ipucu, const QString& okunan) {
