@@ -101,8 +101,8 @@ void FormAyarlar::Load() {
 bool FormAyarlar::DosyalardanOku() {
     std::array<Metin, 33> ayarlar;
     std::array<Metin, 13> aylar;
-    return HepsiniOku(program_, u"Settings.dll", ayarlar) && AyarlariYerlestir(ayarlar) &&
-           HepsiniOku(program_, u"Visible.dll", aylar) && AylariYerlestir(aylar);
+    return HepsiniOku(program_, kAyarDosyasi, ayarlar) && AyarlariYerlestir(ayarlar) &&
+           HepsiniOku(program_, kAyDosyasi, aylar) && AylariYerlestir(aylar);
 }
 
 bool FormAyarlar::AyarlariYerlestir(const std::array<Metin, 33>& deger) {

@@ -1,5 +1,6 @@
 // What the user does with the settings: type, pick colours, apply, save, drop.
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormAyarlar.h"
 #include "setup/FormRenk.h"
 #include "storage/YazimBicimi.h"
@@ -18,8 +19,7 @@ void FormAyarlar::Renk_Click(int n) {
 
 void FormAyarlar::Command4_Click() {
     if (Check4.deger == 1)
-        program_.ortam.sor.mesaj(
-            {.metin = u"Yaptığınız yarı gün değişikliği programı yeniden başlattığınızda çalışacaktır!"});
+        Soyle(program_, u"Yaptığınız yarı gün değişikliği programı yeniden başlattığınızda çalışacaktır!");
     program_.FormTablo->Command3(); // the layer under all others
     program_.FormTablo->Command1(); // the scan
 }
@@ -27,8 +27,8 @@ void FormAyarlar::Command4_Click() {
 void FormAyarlar::Command1_Click() {
     Program& p = program_;
     Command4_Click();
-    p.dosyalar.Yaz(p.agac.KokYolu(u"Settings.dll"), AyarBaytlari());
-    p.dosyalar.Yaz(p.agac.KokYolu(u"Visible.dll"), AyBaytlari());
+    p.dosyalar.Yaz(p.agac.KokYolu(kAyarDosyasi), AyarBaytlari());
+    p.dosyalar.Yaz(p.agac.KokYolu(kAyDosyasi), AyBaytlari());
     p.FormAyarlar.Bosalt();
 }
 
