@@ -4,6 +4,7 @@
 
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "storage/Desen.h"
 #include "storage/Harf.h"
 #include "table/FormTablo.h"
@@ -39,15 +40,16 @@ FormArama::FormArama(Program& program) : program_(program) {
         Text[no].baslik = kOlcutAdlari[static_cast<std::size_t>(no - 1)];
     Liste.baslik = u"Bulunan kayıtlar";
     Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin Damat", u"Telefon", u"Cep"};
+    Liste.secimDugmeleri.dugmeler = {&Command1};
 }
 
 void FormArama::Activate() {
-    Command1.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
     acikmi = 1;
 }
 
 void FormArama::Liste_ItemClick() {
-    Command1.etkin = true;
+    Liste.secimDugmeleri.Ac(true);
 }
 
 void FormArama::Liste_DblClick() {
@@ -66,14 +68,13 @@ void FormArama::Command2_Click() {
 
 void FormArama::Command3_Click() {
     if (Text[kSozlesmeNo].metin == u"0") {
-        program_.ortam.sor.mesaj({u"Lütfen geçerli bir sözleşme numarası giriniz!"});
+        Soyle(program_, u"Lütfen geçerli bir sözleşme numarası giriniz!");
         return;
     }
-    Liste.satirlar.clear();
-    Liste.secili = -1;
+    Liste.Temizle();
     Ara();
     if (Liste.satirlar.empty())
-        program_.ortam.sor.mesaj({u"Hiç kayıt bulunamadı!"});
+        Soyle(program_, u"Hiç kayıt bulunamadı!");
 }
 
 void FormArama::Ara() {

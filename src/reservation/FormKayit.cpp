@@ -2,6 +2,7 @@
 
 #include "documents/FormPrint.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "screen/TusSuzgeci.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Sayi.h"
@@ -58,6 +59,7 @@ FormKayit::FormKayit(Program& program) : program_(program) {
     Aciklamalar.enUzun = Label20.enUzun = 5000;
     Combo1.tiklandi = [this] { Combo1_Click(); };
     Liste.sayiSutunlari = {1};
+    Liste.secimDugmeleri.dugmeler = {&Command7, &Command9};
 }
 
 void FormKayit::Load() {
@@ -81,7 +83,7 @@ void FormKayit::Load() {
 bool FormKayit::MenuleriOku() {
     Combo1.ogeler.emplace_back(kMenuSeciniz);
     ListCombo1.emplace_back();
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Menuler.dat"));
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kMenuDosyasi));
     if (!bayt)
         return false;
     DegerOkuyucu okuyucu(*bayt);
@@ -107,7 +109,7 @@ bool FormKayit::SozlesmeNoOner() {
         Kay[AnaNo::SozlesmeNo].metin.clear();
         return true;
     }
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Count.dat"));
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kSayacDosyasi));
     Metin sonNo;
     if (!bayt || !DegerOkuyucu(*bayt).Oku(sonNo))
         return false;
@@ -129,16 +131,17 @@ void FormKayit::Activate() {
         Command1.ipucu = u"Değişiklikleri Kaydet";
         Command2.ipucu = u"Değişiklikleri Kaydetmeden Kapat";
     }
-    Command9.etkin = Command7.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
     Command12(); // the totals
 }
 
 void FormKayit::Command2_Click() {
     Program& p = program_;
     if (KayitAc == 0 && Basildi == 0 &&
-        p.ortam.sor.mesaj({u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
-                           u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
-                           u"Uyarı", Simge::Uyari, KutuDugmeleri::EvetHayir}) != Cevap::Evet)
+        !Sor(p,
+             u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+             u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
+             u"Uyarı", Simge::Uyari))
         return;
     p.FormKayit.Bosalt();
 }

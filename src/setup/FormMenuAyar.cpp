@@ -1,25 +1,23 @@
 #include "setup/FormMenuAyar.h"
 
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormMenuEkle.h"
 #include "storage/ListeDosyasi.h"
 
 namespace velora {
 
-namespace {
-
-constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";
-
-} // namespace
+namespace {} // namespace
 
 FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
-    Liste.baslik = u"Menü Ayarları";
+    Liste.baslik = baslik;
     Liste.basliklar = {u"Menü Adı", u"Menü İçeriği"};
     Command1.baslik = u"Ekle";
     Command2.baslik = u"Sil";
     Command3.baslik = u"Kapat";
     Command4.baslik = u"Düzenle";
     Kaydet.baslik = u"Kaydet";
+    Liste.secimDugmeleri.dugmeler = {&Command2, &Command4};
 }
 
 void FormMenuAyar::Load() {
@@ -29,12 +27,12 @@ void FormMenuAyar::Load() {
 }
 
 void FormMenuAyar::Activate() {
-    Command2.etkin = Command4.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
 }
 
 void FormMenuAyar::Liste_Click() {
     if (Liste.secili >= 0)
-        Command2.etkin = Command4.etkin = true;
+        Liste.secimDugmeleri.Ac(true);
 }
 
 void FormMenuAyar::Liste_DblClick() {
@@ -48,11 +46,12 @@ void FormMenuAyar::Command1_Click() {
 }
 
 void FormMenuAyar::Command4_Click() {
-    if (Liste.secili < 0)
+    const ListeSatiri* satir = Liste.Secili();
+    if (satir == nullptr)
         return;
     {
         const auto ekle = program_.FormMenuEkle.Tut();
-        const SutunMetinleri& sutun = Liste.satirlar[static_cast<std::size_t>(Liste.secili)].sutun;
+        const SutunMetinleri& sutun = satir->sutun;
         ekle->Text1.metin = sutun[0];
         ekle->Text1_Change();
         ekle->Text2.metin = sutun[1];
@@ -64,16 +63,10 @@ void FormMenuAyar::Command4_Click() {
 }
 
 void FormMenuAyar::Command2_Click() {
-    Command2.etkin = Command4.etkin = false;
-    const Cevap cevap =
-        program_.ortam.sor.mesaj({.metin = u"Seçili menüyü silmek istediğinizden emin misiniz?",
-                                  .simge = Simge::Soru,
-                                  .dugmeler = KutuDugmeleri::EvetHayir});
-    if (cevap == Cevap::Hayir)
+    Liste.secimDugmeleri.Ac(false);
+    if (!Sor(program_, u"Seçili menüyü silmek istediğinizden emin misiniz?"))
         return;
-    if (Liste.secili >= 0)
-        Liste.satirlar.erase(Liste.satirlar.begin() + Liste.secili);
-    Liste.secili = -1;
+    Liste.SeciliyiSil();
     Kaydet_Click();
 }
 
@@ -86,7 +79,7 @@ void FormMenuAyar::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
     SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar);
-    Command2.etkin = Command4.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
 }
 
 } // namespace velora
