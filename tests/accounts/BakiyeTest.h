@@ -15,16 +15,10 @@ class BakiyeTest : public KayitTest {
 
     /// The report is opened from the menu of the table, and `is` is what the user does on it.
     void RaporAc(const Is& is) {
-        bool gorundu = false;
         Prog();
-        kullanici.ortam.modalda[EkranAdi::FormBakiye] = [&] {
-            gorundu = true;
-            is();
-        };
+        EkranBekle(EkranAdi::FormBakiye, is);
         kullanici.Tablo().BakiyeRaporss_Click();
-        kullanici.ortam.modalda.erase(EkranAdi::FormBakiye);
         Prog().FormBakiye.Bosalt();
-        EXPECT_TRUE(gorundu) << "the screen was never shown";
     }
     /// Opens the report on the whole of 2012, lists, and then does `is`.
     void YiliListele(const Is& is) {

@@ -24,18 +24,18 @@ class Ayarlama : public ::testing::Test {
     FormAyarlar& Ayarlar() { return *kullanici.Prog().FormAyarlar.Tut(); }
     /// Opens the settings; `is` is done on them while they stand.
     void AyarlarAcikken(std::function<void()> is) {
-        kullanici.ortam.modalda[EkranAdi::FormAyarlar] = std::move(is);
+        kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormAyarlar, std::move(is)});
         kullanici.Prog().FormAyarlar.GosterModal();
     }
     /// Clicks a colour box, drags over the chart to this colour and presses "Tamam".
     void RenkSec(int no, RenkDegeri renk) {
-        kullanici.ortam.modalda[EkranAdi::FormRenk] = [this, renk] {
-            const auto secici = kullanici.Prog().FormRenk.Tut();
-            secici->Picture1_MouseDown(0x123456);
-            secici->Picture1_MouseMove(renk);
-            secici->Picture1_MouseUp();
-            secici->Command1_Click();
-        };
+        kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, [this, renk] {
+                                                const auto secici = kullanici.Prog().FormRenk.Tut();
+                                                secici->Picture1_MouseDown(0x123456);
+                                                secici->Picture1_MouseMove(renk);
+                                                secici->Picture1_MouseUp();
+                                                secici->Command1_Click();
+                                            }});
         Ayarlar().Renk_Click(no);
     }
     void SiraMesajiBekle() {

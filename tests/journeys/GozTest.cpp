@@ -64,16 +64,13 @@ TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_
     EXPECT_EQ(kullanici.Goz(3, 11, kGece).zemin, renk(12));
     EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).zemin, renk(2));
 
-    Metin baslik;
-    Metin no;
-    kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
-        baslik = kullanici.Prog().FormKayit->Tarih;
-        no = kullanici.Prog().FormKayit->Kay[14].metin;
-        kullanici.Prog().FormKayit->Command2_Click();
-    };
+    kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormKayit, [&] {
+                                            const auto kayit = kullanici.Prog().FormKayit.Tut();
+                                            EXPECT_EQ(kayit->Tarih, u"03.11.2012 - Gece");
+                                            EXPECT_EQ(kayit->Kay[14].metin, u"17");
+                                            kayit->Command2_Click();
+                                        }});
     kullanici.CiftTikla({3, 11, kGece});
-    EXPECT_EQ(baslik, u"03.11.2012 - Gece");
-    EXPECT_EQ(no, u"17");
 
     Tasi({3, 11, kGece}, {20, 6, kGunduz});
     kullanici.ProgramiKapat();

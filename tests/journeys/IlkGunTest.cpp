@@ -15,7 +15,7 @@ class IlkGun : public ::testing::Test {
 
     Program& Prog() { return kullanici.Prog(); }
     FormKayit& Kayit() { return *Prog().FormKayit.Tut(); }
-    void EkrandaYap(EkranAdi ekran, Is is) { kullanici.ortam.modalda[ekran] = std::move(is); }
+    void EkrandaYap(EkranAdi ekran, Is is) { kullanici.ortam.Bekle(BeklenenEkran{ekran, std::move(is)}); }
 
     void SalonuTanimla() {
         kullanici.ortam.Bekle(BeklenenKutu{
@@ -30,14 +30,14 @@ class IlkGun : public ::testing::Test {
         IlkSalonuSor(Prog());
     }
     void MenuyuTanimla() {
-        EkrandaYap(EkranAdi::FormMenuEkle, [this] {
-            const auto ekle = Prog().FormMenuEkle.Tut();
-            ekle->Text1.metin = u"klasik";
-            ekle->Text1_Change();
-            ekle->Text2.metin = u"çorba, et sote";
-            ekle->Command4_Click();
-        });
         EkrandaYap(EkranAdi::FormMenuAyar, [this] {
+            EkrandaYap(EkranAdi::FormMenuEkle, [this] {
+                const auto ekle = Prog().FormMenuEkle.Tut();
+                ekle->Text1.metin = u"klasik";
+                ekle->Text1_Change();
+                ekle->Text2.metin = u"çorba, et sote";
+                ekle->Command4_Click();
+            });
             Prog().FormMenuAyar->Command1_Click();
             Prog().FormMenuAyar->Command3_Click();
         });

@@ -15,28 +15,37 @@ class SalonVeMenu : public ::testing::Test {
     static constexpr auto kGece = velora::GunduzGece::Gece;
 
     Program& Prog() { return kullanici.Prog(); }
-    std::map<EkranAdi, std::function<void()>>& Modalda() { return kullanici.ortam.modalda; }
+    /// The screen is expected next; `is` is what the user does on it.
+    void EkrandaYap(EkranAdi ekran, std::function<void()> is) {
+        kullanici.ortam.Bekle(BeklenenEkran{ekran, std::move(is)});
+    }
     void SalonSorusu(const Metin& cevap) {
         kullanici.ortam.Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
     }
     /// Opens the halls, does `is` and closes them.
     void SalonlarAcikken(const std::function<void(FormSalonTanim&)>& is) {
-        Modalda()[EkranAdi::FormSalonTanim] = [this, is] {
+        EkrandaYap(EkranAdi::FormSalonTanim, [this, is] {
             is(*Prog().FormSalonTanim.Tut());
             Prog().FormSalonTanim->Command3_Click();
-        };
+        });
         Prog().FormSalonTanim.GosterModal();
         EXPECT_FALSE(Prog().FormSalonTanim.Yuklu());
     }
+    void SalonEkle(const Metin& ad) {
+        SalonlarAcikken([this, ad](FormSalonTanim& tanim) {
+            SalonSorusu(ad);
+            tanim.Command1_Click();
+        });
+    }
     void MenuYaz(const Metin& ad, const Metin& icerik) {
-        Modalda()[EkranAdi::FormMenuEkle] = [this, ad, icerik] {
+        EkrandaYap(EkranAdi::FormMenuEkle, [this, ad, icerik] {
             const auto ekle = Prog().FormMenuEkle.Tut();
             ekle->Text1.metin = ad;
             ekle->Text1_Change();
             ekle->Text2.metin = icerik;
             ASSERT_TRUE(ekle->Command4.etkin);
             ekle->Command4_Click();
-        };
+        });
     }
     void RezervasyonKoy(const Metin& salon, int yil) {
         const Metin yol = salon + u"/" + SayiMetni(yil) + u"/20.06." + SayiMetni(yil) + u" - Gece";
@@ -61,7 +70,7 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
     kullanici.ortam.Bekle(BeklenenKutu{
         u"Salon Tanımı", u"Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister misiniz?",
         Simge::Soru, Cevap::Evet});
-    Modalda()[EkranAdi::FormSalonTanim] = [this] {
+    EkrandaYap(EkranAdi::FormSalonTanim, [this] {
         const auto tanim = Prog().FormSalonTanim.Tut();
         EXPECT_FALSE(tanim->Command3.etkin);
         SalonSorusu(u"");
@@ -71,11 +80,11 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
         tanim->Command1_Click();
         EXPECT_TRUE(tanim->Command3.etkin);
         tanim->Command3_Click();
-    };
+    });
     IlkSalonuSor(Prog());
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Gül Salonu");
 
-    Modalda()[EkranAdi::FormMenuAyar] = [this] {
+    EkrandaYap(EkranAdi::FormMenuAyar, [this] {
         const auto menuler = Prog().FormMenuAyar.Tut();
         MenuYaz(u"klasik", u"çorba, et sote");
         menuler->Command1_Click();
@@ -86,7 +95,7 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
         menuler->Liste_Click();
         menuler->Liste_DblClick();
         menuler->Command3_Click();
-    };
+    });
     Prog().FormMenuAyar.GosterModal();
     kullanici.ProgramiKapat();
 
@@ -115,10 +124,10 @@ TEST_F(SalonVeMenu, Rename_of_a_hall_with_reservations_in_six_years_takes_four_o
     SalonlarAcikken([this](FormSalonTanim& tanim) {
         tanim.List1.secili = 0;
         tanim.List1_Click();
-        Modalda()[EkranAdi::FormSalonTanimAd] = [this] {
+        EkrandaYap(EkranAdi::FormSalonTanimAd, [this] {
             Prog().FormSalonTanimAd->Text1.metin = u"kır bahçesi";
             Prog().FormSalonTanimAd->Command1_Click();
-        };
+        });
         tanim.Command4_Click();
     });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Kır Bahçesi");
@@ -135,8 +144,7 @@ TEST_F(SalonVeMenu, Rename_of_a_hall_with_reservations_in_six_years_takes_four_o
     EXPECT_EQ(agac.Bayt(u"Bahçe/2014/Gider.dat"), "2014");
 
     // Under its old name the hall still has everything.
-    SalonSorusu(u"bahçe");
-    SalonlarAcikken([](FormSalonTanim& tanim) { tanim.Command1_Click(); });
+    SalonEkle(u"bahçe");
     kullanici.SalonSec(u"Bahçe");
     for (int yil = 2010; yil <= 2015; ++yil)
         EXPECT_EQ(Musteri(yil), u"Yıl " + SayiMetni(yil));
@@ -160,8 +168,7 @@ TEST_F(SalonVeMenu, Deleted_hall_comes_back_with_all_its_bytes) {
     });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Bahçe");
     EXPECT_EQ(Musteri(2012), u"");
-    SalonSorusu(u"GÜL");
-    SalonlarAcikken([](FormSalonTanim& tanim) { tanim.Command1_Click(); });
+    SalonEkle(u"GÜL");
     kullanici.SalonSec(u"Gül");
     EXPECT_NE(kullanici.Goz(20, 6, kGece).tag, u"");
     EXPECT_EQ(agac.Bayt(u"Gül/2012/20.06.2012 - Gece"), once);

@@ -67,22 +67,26 @@ class AramaTest : public KayitTest {
     /// The search is opened from the table; `is` is what the user does on it.
     void AramaAcikken(const Is& is) {
         Prog();
-        kullanici.ortam.modalda[EkranAdi::FormArama] = is;
+        EkranBekle(EkranAdi::FormArama, is);
         kullanici.Tablo().Arasss_Click();
-        kullanici.ortam.modalda.erase(EkranAdi::FormArama);
     }
-    /// The row is opened; `is` is what the user does on the record. Tells whether it was shown.
-    bool Detaylar(int sira, const Is& is) {
-        bool gorundu = false;
-        kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
-            gorundu = true;
-            is();
-            Prog().FormKayit.Bosalt();
-        };
+    /// The row is opened; `is` is what the user does on the record, which must be shown.
+    void Detaylar(int sira, const Is& is = {}) {
+        KayitBekle(is);
+        DetaylaraBas(sira);
+    }
+    /// The same on a row that nothing is shown of.
+    void DetaylaraBas(int sira) {
         Isaretle(sira);
         Arama().Command1_Click();
-        kullanici.ortam.modalda.erase(EkranAdi::FormKayit);
-        return gorundu;
+    }
+    /// A record is expected next; `is` is done on it, and then it is taken away.
+    void KayitBekle(const Is& is = {}) {
+        EkranBekle(EkranAdi::FormKayit, [this, is] {
+            if (is)
+                is();
+            Prog().FormKayit.Bosalt();
+        });
     }
 };
 

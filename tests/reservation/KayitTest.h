@@ -62,12 +62,12 @@ class KayitTest : public TabloTest {
         Yaz(15, u"16:00");
     }
     void OdemeAl(const Metin& tutar) {
-        kullanici.ortam.modalda[EkranAdi::FormOdemeAl] = [this, tutar] {
+        EkranBekle(EkranAdi::FormOdemeAl, [this, tutar] {
             const auto odeme = Prog().FormOdemeAl.Tut();
             odeme->Text1.metin = tutar;
             odeme->Text1_Change();
             odeme->Command1_Click();
-        };
+        });
         Kayit().Command8_Click();
     }
     void OdemeSec(int sira) {
@@ -77,6 +77,8 @@ class KayitTest : public TabloTest {
     void Kaydet() { Prog().FormKayit->Command1_Click(); }
     void Kapat() { Prog().FormKayit->Command2_Click(); }
 
+    /// The screen is expected next; `is` is what the user does on it.
+    void EkranBekle(EkranAdi ad, Is is) { kullanici.ortam.Bekle(BeklenenEkran{ad, std::move(is)}); }
     void KutuBekle(const Metin& metin, Cevap cevap = Cevap::Tamam, Simge simge = Simge::Bilgi,
                    const Metin& baslik = u"Velora") {
         kullanici.ortam.Bekle(BeklenenKutu{baslik, metin, simge, cevap});
@@ -106,15 +108,9 @@ class KayitTest : public TabloTest {
 
   private:
     void Ekranda(const Is& is, const Is& goster) {
-        bool gorundu = false;
-        kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
-            gorundu = true;
-            is();
-        };
+        EkranBekle(EkranAdi::FormKayit, is);
         goster();
-        kullanici.ortam.modalda.erase(EkranAdi::FormKayit);
         Prog().FormKayit.Bosalt();
-        EXPECT_TRUE(gorundu) << "the screen was never shown";
     }
 
     bool acik_ = false;

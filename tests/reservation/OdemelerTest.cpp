@@ -56,7 +56,7 @@ TEST_F(OdemelerTest, Name_and_price_come_before_the_first_payment) {
 TEST_F(OdemelerTest, The_dialogue_offers_today_and_a_note_and_waits_for_an_amount) {
     YeniKayit([&] {
         Doldur();
-        kullanici.ortam.modalda[EkranAdi::FormOdemeAl] = [&] {
+        EkranBekle(EkranAdi::FormOdemeAl, [this] {
             const auto odeme = Prog().FormOdemeAl.Tut();
             EXPECT_EQ(odeme->baslik, u"Ödeme Ekle");
             EXPECT_EQ(TarihMetni(odeme->DTPicker1.deger), u"15.06.2012");
@@ -71,7 +71,7 @@ TEST_F(OdemelerTest, The_dialogue_offers_today_and_a_note_and_waits_for_an_amoun
             odeme->Text1_Change();
             EXPECT_FALSE(odeme->Command1.etkin);
             odeme->Command2_Click();
-        };
+        });
         Kayit().Command8_Click();
         EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
         EXPECT_TRUE(Kayit().Liste.satirlar.empty());

@@ -144,15 +144,14 @@ TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     agac.KoyMetin(u"Salon B/2013/02.01.2013 - Gece-Detay", DetayMetni(false));
     Prog();
     Metin tarih;
-    kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
+    Tablo().Liste_DblClick(); // no row was clicked yet
+    Isaretle(0);
+    EkranBekle(EkranAdi::FormKayit, [&] {
         tarih = Kayit().Tarih;
         EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
         EXPECT_FALSE(Tablo().Command8.etkin);
         Kapat();
-    };
-    Tablo().Liste_DblClick();
-    EXPECT_EQ(tarih, u"") << "no row was clicked yet";
-    Isaretle(0);
+    });
     Tablo().Liste_DblClick();
     EXPECT_EQ(tarih, u"02.01.2013 - Gece");
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon B");
@@ -169,20 +168,20 @@ TEST_F(UyariTest, With_no_row_marked_nothing_opens) {
 TEST_F(UyariTest, A_save_lists_a_visible_panel_anew_and_leaves_a_hidden_one_alone) {
     RezervasyonKoy(u"16.06.2012 - Gece");
     Prog();
-    const auto ertele = [&] {
+    const auto ertele = [this](const Is& bekle) {
         KayitAc(
             [&] {
                 Kayit().Check18.Ata(1 - Kayit().Check18.deger);
+                bekle();
                 Kaydet();
             },
             u"16.06.2012 - Gece");
     };
-    KutuBekle(Metin(kYok));
-    ertele();
+    ertele([this] { KutuBekle(Metin(kYok)); });
     UyarilarBekle({});
     Tablo().Command2_Click();
     EXPECT_FALSE(Tablo().Picture1.gorunur);
-    ertele();
+    ertele([] {});
     UyarilarBekle({});
 }
 

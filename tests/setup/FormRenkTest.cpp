@@ -12,6 +12,10 @@ namespace velora::test {
 class FormRenkTest : public ::testing::Test {
   protected:
     FormRenk& Secici() { return *program.FormRenk.Tut(); }
+    /// The picker is expected next; `is` is done while it stands.
+    void SeciciAcikken(std::function<void()> is) {
+        ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, std::move(is)});
+    }
     /// A click on the chart where it has this colour.
     void Tikla(RenkDegeri renk) {
         Secici().Picture1_MouseDown(renk);
@@ -88,34 +92,31 @@ TEST_F(FormRenkTest, Move_picks_only_while_the_button_is_held) {
 }
 
 TEST_F(FormRenkTest, Colour_box_opens_the_picker_with_its_colour_and_its_slot) {
-    bool acildi = false;
-    ortam.modalda[EkranAdi::FormRenk] = [&] {
-        acildi = true;
+    SeciciAcikken([this] {
         EXPECT_EQ(Secici().picColorBox.zemin, 12632256);
         EXPECT_EQ(Secici().Tag, u"17");
         Tikla(123);
         Secici().Command1_Click();
-    };
+    });
     program.FormAyarlar->Renk_Click(17);
-    EXPECT_TRUE(acildi);
     EXPECT_EQ(program.FormAyarlar->Renk(17), 123);
     EXPECT_FALSE(program.FormRenk.Yuklu());
 }
 
 TEST_F(FormRenkTest, Ok_without_a_pick_gives_black_though_the_sample_shows_the_old_colour_as_is_meant) {
-    ortam.modalda[EkranAdi::FormRenk] = [&] {
+    SeciciAcikken([this] {
         EXPECT_EQ(Secici().picColorBox.zemin, 32768);
         Secici().Command1_Click();
-    };
+    });
     program.FormAyarlar->Renk_Click(0);
     EXPECT_EQ(program.FormAyarlar->Renk(0), 0);
 }
 
 TEST_F(FormRenkTest, Cancel_after_a_pick_leaves_the_colour) {
-    ortam.modalda[EkranAdi::FormRenk] = [&] {
+    SeciciAcikken([this] {
         Tikla(123);
         Secici().Command2_Click();
-    };
+    });
     program.FormAyarlar->Renk_Click(0);
     EXPECT_EQ(program.FormAyarlar->Renk(0), 32768);
     EXPECT_FALSE(program.FormRenk.Yuklu());

@@ -13,9 +13,7 @@ class FormSalonTanimAdTest : public SalonTest {
 TEST_F(FormSalonTanimAdTest, Opens_with_the_old_name_and_its_place_in_the_list) {
     kullanici.ProgramiAc();
     Isaretle(1);
-    bool acildi = false;
-    Ortam().modalda[EkranAdi::FormSalonTanimAd] = [&] {
-        acildi = true;
+    AdAcikken([this] {
         const auto ad = kullanici.Prog().FormSalonTanimAd.Tut();
         EXPECT_EQ(ad->baslik, u"Salon Düzenle");
         EXPECT_EQ(ad->Label1.baslik, u"Salon Adı");
@@ -25,19 +23,18 @@ TEST_F(FormSalonTanimAdTest, Opens_with_the_old_name_and_its_place_in_the_list) 
         EXPECT_EQ(ad->Text1.metin, u"Salon B");
         EXPECT_EQ(ad->Command1.baslik, u"Tamam");
         EXPECT_EQ(ad->Command2.baslik, u"İptal");
-    };
+    });
     Tanim().Command4_Click();
-    EXPECT_TRUE(acildi);
 }
 
 TEST_F(FormSalonTanimAdTest, Cancel_unloads_and_changes_nothing) {
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
     Isaretle(0);
-    Ortam().modalda[EkranAdi::FormSalonTanimAd] = [this] {
+    AdAcikken([this] {
         kullanici.Prog().FormSalonTanimAd->Text1.metin = u"Yeni";
         kullanici.Prog().FormSalonTanimAd->Command2_Click();
-    };
+    });
     Tanim().Command4_Click();
     EXPECT_FALSE(kullanici.Prog().FormSalonTanimAd.Yuklu());
     SalonlarBekle({u"Salon A", u"Salon B"});

@@ -65,10 +65,11 @@ TEST_F(FormSalonTanimTest, Close_publishes_the_table_of_a_published_firm_again) 
 TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing_written) {
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
-    for (const auto* cevap : {u"", u"", u"  "})
+    for (const auto* cevap : {u"", u"", u"  "}) {
         Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
-    Ortam().Bekle(kAdYok);
-    Ortam().Bekle(kAdYok);
+        if (Metin(cevap).empty())
+            Ortam().Bekle(kAdYok);
+    }
     Tanim().Command1_Click();
     SalonlarBekle({});
     EXPECT_EQ(agac.Resim(), once);
@@ -295,17 +296,14 @@ class IlkSalon : public SalonTest {
 TEST_F(IlkSalon, First_run_opens_a_list_that_closes_only_after_an_add_was_started) {
     kullanici.ProgramiAc();
     SoruBekle(Cevap::Evet);
-    bool acildi = false;
-    Ortam().modalda[EkranAdi::FormSalonTanim] = [&] {
-        acildi = true;
-        EXPECT_FALSE(Tanim().Command3.etkin);
-        SalonEkle(u"  ");
-        EXPECT_TRUE(Tanim().Command3.etkin);
-        SalonEkle(u"gül salonu");
-        Tanim().Command3_Click();
-    };
+    Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim, [this] {
+                                    EXPECT_FALSE(Tanim().Command3.etkin);
+                                    SalonEkle(u"  ");
+                                    EXPECT_TRUE(Tanim().Command3.etkin);
+                                    SalonEkle(u"gül salonu");
+                                    Tanim().Command3_Click();
+                                }});
     IlkSalonuSor(kullanici.Prog());
-    EXPECT_TRUE(acildi);
     EXPECT_EQ(Tablo().Salon.Metni(), u"Gül Salonu");
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
 }
@@ -317,8 +315,8 @@ TEST_F(IlkSalon, No_is_answered_by_a_critical_box_and_the_list_all_the_same) {
         u"Velora",
         u"Salon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!\nLütfen önce salon tanımı yapınız!",
         Simge::Kritik});
+    Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim});
     IlkSalonuSor(kullanici.Prog());
-    EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormSalonTanim);
     EXPECT_FALSE(Tanim().Command3.etkin);
 }
 

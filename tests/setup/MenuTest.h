@@ -27,8 +27,10 @@ class MenuTest : public ::testing::Test {
         Menuler().Liste.secili = sira;
         Menuler().Liste_Click();
     }
-    /// `is` is done while the dialogue of one menu stands.
-    void MenuAcikken(std::function<void()> is) { ortam.modalda[EkranAdi::FormMenuEkle] = std::move(is); }
+    /// The dialogue of one menu is expected next; `is` is done while it stands.
+    void MenuAcikken(std::function<void()> is) {
+        ortam.Bekle(BeklenenEkran{EkranAdi::FormMenuEkle, std::move(is)});
+    }
     void Yaz(const Metin& ad, const Metin& icerik) {
         Ekle().Text1.metin = ad;
         Ekle().Text1_Change();

@@ -23,7 +23,7 @@ class SalonTest : public ::testing::Test {
 
     /// The hall list is opened; `is` is done on it while it stands.
     void SalonlarAcikken(std::function<void()> is) {
-        Ortam().modalda[EkranAdi::FormSalonTanim] = std::move(is);
+        Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim, std::move(is)});
         kullanici.Prog().FormSalonTanim.GosterModal();
     }
     void SalonEkle(const Metin& cevap) {
@@ -43,13 +43,17 @@ class SalonTest : public ::testing::Test {
                          Simge::Soru, cevap});
         Tanim().Command2_Click();
     }
+    /// The dialogue of a hall's name is expected next; `is` is done while it stands.
+    void AdAcikken(std::function<void()> is) {
+        Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanimAd, std::move(is)});
+    }
     /// The marked hall gets this name.
     void AdDegistir(int sira, const Metin& yeni) {
         Isaretle(sira);
-        Ortam().modalda[EkranAdi::FormSalonTanimAd] = [this, yeni] {
+        AdAcikken([this, yeni] {
             kullanici.Prog().FormSalonTanimAd->Text1.metin = yeni;
             kullanici.Prog().FormSalonTanimAd->Command1_Click();
-        };
+        });
         Tanim().Command4_Click();
     }
     /// A reservation of the hall on 20 June 2012 in the evening.
