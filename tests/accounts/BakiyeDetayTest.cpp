@@ -13,11 +13,11 @@ class BakiyeDetay : public BakiyeTest {
     /// Opens the record of the marked row, which must be shown; `is` is what the user does on it.
     void Detaylar(Is is) {
         EkranBekle(EkranAdi::FormKayit, std::move(is));
-        Rapor().Command6_Click();
+        VELORA_BAS(Prog().FormBakiye, Command6);
     }
     /// The same, and the record is closed at once.
     void DetaylarVeKapat() {
-        Detaylar([this] { Kapat(); });
+        Detaylar([this] { KapataBas(); });
     }
 };
 
@@ -29,7 +29,7 @@ TEST_F(BakiyeDetay, The_button_waits_for_a_click_on_a_row) {
         Rapor().Liste_DblClick();
         SatirSec(0);
         EXPECT_TRUE(Rapor().Command6.etkin);
-        EkranBekle(EkranAdi::FormKayit, [this] { Kapat(); });
+        EkranBekle(EkranAdi::FormKayit, [this] { KapataBas(); });
         Rapor().Liste_DblClick();
     });
 }
@@ -44,7 +44,7 @@ TEST_F(BakiyeDetay, A_row_opens_its_record_as_an_existing_one_on_its_own_day) {
             EXPECT_EQ(Kayit().Tag, Yol(kGun));
             EXPECT_EQ(Kayit().Tarih, kGun);
             EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
-            Kapat();
+            KapataBas();
         });
         EXPECT_FALSE(Prog().FormKayit.Yuklu()) << "nothing is set on it afterwards";
     });
@@ -65,7 +65,7 @@ TEST_F(BakiyeDetay, Payments_shown_and_saved_are_those_of_the_rows_day_wherever_
         Detaylar([&] {
             EXPECT_EQ(Kayit().Kay[9].metin, u"700");
             OdemeAl(u"50");
-            Kaydet();
+            KaydeteBas();
         });
     });
     EXPECT_EQ(OdemeBaytlari(kGun), gunun + "\"15.06.2012\",\"50\",\"7 - Ali Veli\"\r\n");
@@ -78,7 +78,7 @@ TEST_F(BakiyeDetay, The_table_goes_to_the_hall_of_the_report_before_the_record_o
     agac.Koy(u"Salon B/2012/05.02.2012 - Gece-Odeme", "\"01.02.2012\",\"9\",\"x\"\r\n");
     RaporAc([&] {
         Aralik(u"01.01.2012", u"31.12.2012");
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();
         SatirSec(0);
         EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon A");
@@ -87,7 +87,7 @@ TEST_F(BakiyeDetay, The_table_goes_to_the_hall_of_the_report_before_the_record_o
             EXPECT_FALSE(kullanici.Goz(5, 2, kGece).tag.empty()) << "and shows it";
             EXPECT_EQ(Kayit().Kay[1].metin, u"B Müşterisi");
             EXPECT_EQ(Kayit().Kay[9].metin, u"9");
-            Kapat();
+            KapataBas();
         });
     });
 }
@@ -95,12 +95,12 @@ TEST_F(BakiyeDetay, The_table_goes_to_the_hall_of_the_report_before_the_record_o
 TEST_F(BakiyeDetay, A_hall_chosen_after_the_listing_is_the_one_the_table_goes_to_on_purpose) {
     RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"});
     YiliListele([&] {
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         SatirSec(0);
         Detaylar([&] {
             EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
             EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
-            Kapat();
+            KapataBas();
         });
     });
 }
@@ -121,7 +121,7 @@ TEST_F(BakiyeDetay, The_record_that_was_clicked_opens_though_the_list_is_made_an
     Metin acilan;
     RaporAc([&] {
         Aralik(u"01.01.2012", u"31.12.2012");
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();
         SatirSec(0);
         kullanici.ortam.olayda = [&](int) {
@@ -130,7 +130,7 @@ TEST_F(BakiyeDetay, The_record_that_was_clicked_opens_though_the_list_is_made_an
         };
         Detaylar([&] {
             acilan = Kayit().Kay[1].metin;
-            Kapat();
+            KapataBas();
         });
     });
     EXPECT_EQ(acilan, u"B Müşterisi");
@@ -141,7 +141,7 @@ TEST_F(BakiyeDetay, Without_a_marked_row_nothing_opens) {
     YiliListele([&] {
         for (const int sira : {-1, 1}) {
             SatirSec(sira);
-            Rapor().Command6_Click();
+            VELORA_BAS(Prog().FormBakiye, Command6);
         }
     });
 }
@@ -151,7 +151,7 @@ TEST_F(BakiyeDetay, A_record_whose_details_are_gone_meanwhile_does_not_open_and_
     YiliListele([&] {
         std::filesystem::remove(agac.Yol(u"Salon A/2012/" + Metin(kGun) + u"-Detay"));
         SatirSec(0);
-        Rapor().Command6_Click();
+        VELORA_BAS(Prog().FormBakiye, Command6);
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
 }

@@ -38,7 +38,7 @@ TEST_F(BakiyeEkrani, Opens_on_the_halls_of_the_table_all_types_and_this_month_wi
 TEST_F(BakiyeEkrani, A_save_before_it_was_ever_open_does_not_load_it_and_it_opens_on_the_hall_of_then) {
     YeniKayit([&] {
         Doldur();
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_TRUE(AnaVar());
     EXPECT_FALSE(Prog().FormBakiye.Yuklu());

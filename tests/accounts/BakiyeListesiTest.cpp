@@ -83,7 +83,7 @@ TEST_F(BakiyeListesi, The_hall_and_year_are_those_of_the_report_and_the_table) {
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni());
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
     YiliListele([&] {
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();
         EXPECT_EQ(Gunler(), Adlar{u"05.02.2012 - Gece"});
         EXPECT_EQ(Sutun(6), Adlar{u"Salon B"});
@@ -96,7 +96,7 @@ TEST_F(BakiyeListesi, A_hall_without_a_folder_for_the_year_has_nothing) {
     kullanici.YilSec(u"2013");
     ASSERT_FALSE(agac.KlasorVar(u"Salon B/2013"));
     RaporAc([&] {
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         BosKutuBekle();
         Rapor().ListeleGun();
         GenelBekle(u": 0 TL", u": 0 TL", u": 0 TL");

@@ -30,10 +30,10 @@ class BakiyeTest : public KayitTest {
     }
 
     void Aralik(MetinBakis ilk, MetinBakis son) {
-        Rapor().DTPicker1.deger = TarihCoz(ilk).value();
-        Rapor().DTPicker2.deger = TarihCoz(son).value();
+        TarihSec(Rapor().DTPicker1, TarihCoz(ilk).value());
+        TarihSec(Rapor().DTPicker2, TarihCoz(son).value());
     }
-    void TipSec(int sira) { Rapor().Combo1.Sec(sira); }
+    void TipSec(std::size_t sira) { ListedenSec(Rapor().Combo1, Rapor().Combo1.ogeler.at(sira)); }
     void BosKutuBekle() { KutuBekle(u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!"); }
 
     /// Puts a reservation of hall A, or another, whose two states are these texts.

@@ -1,6 +1,7 @@
 // Days at the table: a reservation is moved to another month and slot and back, and one is cancelled.
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "reservation/FormKayit.h"
@@ -28,7 +29,7 @@ class TabloGunu : public ::testing::Test {
     }
     void Tasi(const TabloGozu& kaynak, const TabloGozu& hedef) {
         ASSERT_TRUE(kullanici.SagTikla(kaynak));
-        kullanici.Tablo().TasimaModuAc_Click();
+        kullanici.KomutSec(Komut::TasimaModuAc);
         kullanici.ortam.Bekle(BeklenenKutu{u"Velora",
                                            u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?",
                                            Simge::Soru, Cevap::Evet});
@@ -68,7 +69,7 @@ TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_
                                             const auto kayit = kullanici.Prog().FormKayit.Tut();
                                             EXPECT_EQ(kayit->Tarih, u"03.11.2012 - Gece");
                                             EXPECT_EQ(kayit->Kay[14].metin, u"17");
-                                            kayit->Command2_Click();
+                                            VELORA_BAS(kullanici.Prog().FormKayit, Command2);
                                         }});
     kullanici.CiftTikla({3, 11, kGece});
 
@@ -79,11 +80,10 @@ TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_
 
 TEST_F(TabloGunu, A_cancellation_with_an_empty_reason_frees_the_day_and_logs_one_line) {
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
-    ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).etkin);
     kullanici.ortam.Bekle(BeklenenKutu{u"Velora", u"Seçili kaydı silmek istediğinizden emin misiniz?",
                                        Simge::Soru, Cevap::Evet});
     kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u""});
-    kullanici.Tablo().iptals_Click();
+    kullanici.KomutSec(Komut::iptals);
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
     EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
     kullanici.ProgramiKapat();

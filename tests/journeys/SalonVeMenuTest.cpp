@@ -1,6 +1,7 @@
 // The halls and menus of a firm: its first day, and the day a hall gets another name.
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "setup/FormMenuAyar.h"
@@ -26,25 +27,23 @@ class SalonVeMenu : public ::testing::Test {
     void SalonlarAcikken(const std::function<void(FormSalonTanim&)>& is) {
         EkrandaYap(EkranAdi::FormSalonTanim, [this, is] {
             is(*Prog().FormSalonTanim.Tut());
-            Prog().FormSalonTanim->Command3_Click();
+            VELORA_BAS(Prog().FormSalonTanim, Command3);
         });
-        Prog().FormSalonTanim.GosterModal();
+        kullanici.KomutSec(Komut::Salontanimss);
         EXPECT_FALSE(Prog().FormSalonTanim.Yuklu());
     }
     void SalonEkle(const Metin& ad) {
-        SalonlarAcikken([this, ad](FormSalonTanim& tanim) {
+        SalonlarAcikken([this, ad](FormSalonTanim&) {
             SalonSorusu(ad);
-            tanim.Command1_Click();
+            VELORA_BAS(Prog().FormSalonTanim, Command1);
         });
     }
     void MenuYaz(const Metin& ad, const Metin& icerik) {
         EkrandaYap(EkranAdi::FormMenuEkle, [this, ad, icerik] {
             const auto ekle = Prog().FormMenuEkle.Tut();
-            ekle->Text1.metin = ad;
-            ekle->Text1_Change();
-            ekle->Text2.metin = icerik;
-            ASSERT_TRUE(ekle->Command4.etkin);
-            ekle->Command4_Click();
+            AlanaYaz(ekle->Text1, ad, {.degisti = [&] { ekle->Text1_Change(); }});
+            SatirlaraYaz(ekle->Text2, icerik);
+            VELORA_BAS(Prog().FormMenuEkle, Command4);
         });
     }
     void RezervasyonKoy(const Metin& salon, int yil) {
@@ -77,9 +76,9 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
         kullanici.ortam.Bekle(BeklenenKutu{
             u"Hata", u"Salon adını girmediniz!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."});
         SalonSorusu(u"gül SALONU");
-        tanim->Command1_Click();
+        VELORA_BAS(Prog().FormSalonTanim, Command1);
         EXPECT_TRUE(tanim->Command3.etkin);
-        tanim->Command3_Click();
+        VELORA_BAS(Prog().FormSalonTanim, Command3);
     });
     IlkSalonuSor(Prog());
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Gül Salonu");
@@ -87,16 +86,15 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
     EkrandaYap(EkranAdi::FormMenuAyar, [this] {
         const auto menuler = Prog().FormMenuAyar.Tut();
         MenuYaz(u"klasik", u"çorba, et sote");
-        menuler->Command1_Click();
+        VELORA_BAS(Prog().FormMenuAyar, Command1);
         MenuYaz(u"altın", u"ıspanak\r\niçli köfte");
-        menuler->Command1_Click();
+        VELORA_BAS(Prog().FormMenuAyar, Command1);
         MenuYaz(u"klasik menü", u"çorba");
-        menuler->Liste.secili = 0;
-        menuler->Liste_Click();
+        SatiraTikla(menuler->Liste, 0, [&] { menuler->Liste_Click(); });
         menuler->Liste_DblClick();
-        menuler->Command3_Click();
+        VELORA_BAS(Prog().FormMenuAyar, Command3);
     });
-    Prog().FormMenuAyar.GosterModal();
+    kullanici.KomutSec(Komut::MenuAyars);
     kullanici.ProgramiKapat();
 
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"G\xFCl Salonu\"\r\n");
@@ -122,13 +120,12 @@ TEST_F(SalonVeMenu, Rename_of_a_hall_with_reservations_in_six_years_takes_four_o
     kullanici.YilSec(u"2012");
 
     SalonlarAcikken([this](FormSalonTanim& tanim) {
-        tanim.List1.secili = 0;
-        tanim.List1_Click();
+        SatiraTikla(tanim.List1, 0, [&] { tanim.List1_Click(); });
         EkrandaYap(EkranAdi::FormSalonTanimAd, [this] {
-            Prog().FormSalonTanimAd->Text1.metin = u"kır bahçesi";
-            Prog().FormSalonTanimAd->Command1_Click();
+            AlanaYaz(Prog().FormSalonTanimAd->Text1, u"kır bahçesi");
+            VELORA_BAS(Prog().FormSalonTanimAd, Command1);
         });
-        tanim.Command4_Click();
+        VELORA_BAS(Prog().FormSalonTanim, Command4);
     });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Kır Bahçesi");
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"K\xFDr Bah\xE7\x65si\"\r\n\"G\xFCl\"\r\n");
@@ -157,14 +154,13 @@ TEST_F(SalonVeMenu, Deleted_hall_comes_back_with_all_its_bytes) {
     kullanici.ProgramiAc();
     const std::string once = agac.Bayt(u"Gül/2012/20.06.2012 - Gece");
     SalonlarAcikken([this](FormSalonTanim& tanim) {
-        tanim.List1.secili = 0;
-        tanim.List1_Click();
+        SatiraTikla(tanim.List1, 0, [&] { tanim.List1_Click(); });
         kullanici.ortam.Bekle(
             BeklenenKutu{u"Velora",
                          u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\nSeçili "
                          u"salonu silmek istediğinize emin misiniz?",
                          Simge::Soru, Cevap::Evet});
-        tanim.Command2_Click();
+        VELORA_BAS(Prog().FormSalonTanim, Command2);
     });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Bahçe");
     EXPECT_EQ(Musteri(2012), u"");

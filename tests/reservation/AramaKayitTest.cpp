@@ -23,7 +23,7 @@ TEST_F(AramaKayit, Coming_to_the_front_marks_the_screen_open_and_takes_the_butto
         EXPECT_FALSE(Arama().Command1.etkin) << "the search came to the front again";
         Isaretle(0);
         EXPECT_TRUE(Arama().Command1.etkin);
-        Arama().Command2_Click();
+        VELORA_BAS(Prog().FormArama, Command2);
     });
     EXPECT_FALSE(Prog().FormArama.Yuklu());
 }
@@ -55,7 +55,7 @@ TEST_F(AramaKayit, A_double_click_opens_only_while_Detaylar_is_enabled) {
 TEST_F(AramaKayit, With_no_row_marked_Detaylar_does_nothing) {
     Ara(kAd, u"şükran");
     Arama().Liste_ItemClick();
-    Arama().Command1_Click();
+    VELORA_BAS(Prog().FormArama, Command1);
     EXPECT_FALSE(Prog().FormKayit.Yuklu());
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon A");
 }
@@ -76,12 +76,12 @@ TEST_F(AramaKayit, A_record_of_another_hall_switches_the_table_there_before_it_o
 TEST_F(AramaKayit, Events_run_before_the_record_comes_and_a_search_among_them_changes_nothing_of_it) {
     RezervasyonKoyYola(u"Salon A/2012/" + Metin(kGece20), {.ad = u"Ali"});
     Ara(kAd, u"ali");
-    Arama().Text[kAd].metin = u"yok";
+    AlanaYaz(Arama().Text[kAd], u"yok");
     BulunamadiBekle();
     kullanici.ortam.olayda = [&](int) {
         kullanici.ortam.olayda = nullptr;
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
-        Arama().Command3_Click();
+        VELORA_BAS(Prog().FormArama, Command3);
     };
     Detaylar(0, [&] {
         EXPECT_TRUE(Bulunanlar().empty());
@@ -93,7 +93,7 @@ TEST_F(AramaKayit, A_save_writes_the_payments_into_the_hall_of_the_record) {
     Ara(kAd, u"şükran");
     Detaylar(0, [&] {
         OdemeAl(u"250");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(agac.Bayt(u"Salon B/2012/20.06.2012 - Gece-Odeme"),
               "\"15.06.2012\",\"250\",\"7 - \xDE\xFCkran \xD6z\"\r\n");
@@ -131,7 +131,7 @@ TEST_F(AramaKayit, A_row_whose_file_is_not_there_leaves_no_ghost_to_the_next_new
         Ara(kAd, u"şükran");
         EXPECT_EQ(Arama().Liste.satirlar.at(2).sutun[0], u"07.07.2013 - Gece");
         DetaylaraBas(2);
-        Arama().Command2_Click();
+        VELORA_BAS(Prog().FormArama, Command2);
     });
     const std::string once = agac.Resim();
     EkranBekle(EkranAdi::FormKayit, [this] {
@@ -139,7 +139,7 @@ TEST_F(AramaKayit, A_row_whose_file_is_not_there_leaves_no_ghost_to_the_next_new
         EXPECT_EQ(Kayit().KayitAc, 0);
         EXPECT_EQ(Kayit().Tag, u"");
         Doldur();
-        Kaydet();
+        KaydeteBas();
     });
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
     kullanici.Tablo().newkay_Click();
@@ -157,21 +157,21 @@ TEST_F(AramaKayit, A_search_repeated_while_its_record_is_open_lists_what_stands_
         Ara(kAd, u"şükran");
         Detaylar(0, [&] {
             Koy(u"Salon A/2012/01.01.2012 - Gece", {.ad = u"Şükran Er"});
-            Arama().Command3_Click();
+            VELORA_BAS(Prog().FormArama, Command3);
         });
         EXPECT_EQ(Sutun(2), (Adlar{u"Şükran Er", u"Şükran Öz"}));
         EXPECT_EQ(Arama().Liste.secili, -1);
         std::filesystem::remove_all(agac.Yol(u"Salon A/2012"));
         std::filesystem::remove_all(agac.Yol(u"Salon B/2012"));
         BulunamadiBekle();
-        Arama().Command3_Click();
+        VELORA_BAS(Prog().FormArama, Command3);
     });
 }
 
 TEST_F(AramaKayit, Kapat_forgets_what_was_typed_and_found) {
     AramaAcikken([&] {
         Ara(kAd, u"şükran");
-        Arama().Command2_Click();
+        VELORA_BAS(Prog().FormArama, Command2);
     });
     EXPECT_EQ(Arama().Text[kAd].metin, u"");
     EXPECT_TRUE(Bulunanlar().empty());

@@ -39,9 +39,11 @@ class AramaTest : public KayitTest {
     void Ara(const std::map<Alan, Metin>& olcutler) {
         for (MetinKutusu& kutu : Arama().Text)
             kutu.metin.clear();
-        for (const auto& [alan, olcut] : olcutler)
-            Arama().Text[alan].metin = olcut;
-        Arama().Command3_Click();
+        for (const auto& [alan, olcut] : olcutler) {
+            AlanaYaz(Arama().Text[alan], olcut);
+            EXPECT_EQ(Arama().Text[alan].metin, olcut);
+        }
+        VELORA_BAS(Prog().FormArama, Command3);
     }
     void BulunamadiBekle() { KutuBekle(u"Hiç kayıt bulunamadı!"); }
     /// The same search, which must find nothing.
@@ -78,7 +80,7 @@ class AramaTest : public KayitTest {
     /// The same on a row that nothing is shown of.
     void DetaylaraBas(int sira) {
         Isaretle(sira);
-        Arama().Command1_Click();
+        VELORA_BAS(Prog().FormArama, Command1);
     }
     /// A record is expected next; `is` is done on it, and then it is taken away.
     void KayitBekle(const Is& is = {}) {

@@ -24,9 +24,9 @@ class NumaraTest : public KayitTest {
     bool Dene(const Metin& no, const Is& bekle) {
         YeniKayit([&] {
             Doldur();
-            Yaz(14, no);
+            Kayit().Kay[AnaNo::SozlesmeNo].metin = no; // also what no key writes there
             bekle();
-            Kaydet();
+            KaydeteBas();
         });
         const bool var = AnaVar();
         KayitSil();
@@ -47,10 +47,10 @@ TEST_F(NumaraTest, The_selected_hall_and_year_decide_and_not_those_of_the_record
     agac.KoyMetin(u"Salon B/2012/01.06.2012 - Gece", AnaMetni({.no = u"7"}));
     YeniKayit([&] {
         Doldur();
-        Yaz(14, u"7");
+        Gir(14, u"7");
         kullanici.SalonSec(u"Salon B");
         NumaraKutusuBekle();
-        Kaydet();
+        KaydeteBas();
     });
 }
 

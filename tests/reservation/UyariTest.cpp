@@ -150,7 +150,7 @@ TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
         tarih = Kayit().Tarih;
         EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
         EXPECT_FALSE(Tablo().Command8.etkin);
-        Kapat();
+        KapataBas();
     });
     Tablo().Liste_DblClick();
     EXPECT_EQ(tarih, u"02.01.2013 - Gece");
@@ -171,9 +171,9 @@ TEST_F(UyariTest, A_save_lists_a_visible_panel_anew_and_leaves_a_hidden_one_alon
     const auto ertele = [this](const Is& bekle) {
         KayitAc(
             [&] {
-                Kayit().Check18.Ata(1 - Kayit().Check18.deger);
+                Tikla(Kayit().Check18);
                 bekle();
-                Kaydet();
+                KaydeteBas();
             },
             u"16.06.2012 - Gece");
     };

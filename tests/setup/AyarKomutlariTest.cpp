@@ -1,6 +1,7 @@
 // What the user does with the settings: type, apply, save, reset, drop.
 #include <algorithm>
 
+#include "destek/Eylemler.h"
 #include "setup/FormAyarlar.h"
 #include "setup/RenkSatirlari.h"
 #include "table/HucreRenkleri.h"
@@ -93,14 +94,14 @@ TEST_F(AyarKomutlari, Save_writes_both_files_with_all_defaults_and_unloads) {
 TEST_F(AyarKomutlari, Every_field_is_saved_in_its_place) {
     for (int i = 0; i < kRenkSayisi; ++i)
         Ayarlar().renkler[static_cast<std::size_t>(i)] = 100 + i;
-    Ayarlar().UyariGun.metin = u"6";
-    Ayarlar().UyariGun2.metin = u"ş";
-    Ayarlar().Check1.Ata(1);
-    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
-    Ayarlar().Check5.Ata(0);
-    Ayarlar().Check7.Ata(1);
-    Ayarlar().Check3.Ata(0);
-    Ayarlar().Aylar[2].Ata(1);
+    AlanaYaz(Ayarlar().UyariGun, u"6");
+    AlanaYaz(Ayarlar().UyariGun2, u"ş");
+    Tikla(Ayarlar().Check1);
+    ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
+    Tikla(Ayarlar().Check5);
+    Tikla(Ayarlar().Check7);
+    Tikla(Ayarlar().Check3);
+    Tikla(Ayarlar().Aylar[2]);
     kullanici.ortam.Bekle(kSiraDegisti);
     Ayarlar().Command1_Click();
     EXPECT_EQ(agac.Bayt(u"Settings.dll"),
@@ -122,14 +123,14 @@ TEST_F(AyarKomutlari, First_warning_field_takes_digits_alone_and_the_second_anyt
         EXPECT_TRUE(Ayarlar().UyariGun.suzgec(tus));
     for (const char16_t tus : MetinBakis(u"a ,.-\r\""))
         EXPECT_FALSE(Ayarlar().UyariGun.suzgec(tus));
-    Ayarlar().UyariGun2.metin = u"on beş";
+    AlanaYaz(Ayarlar().UyariGun2, u"on beş");
     Ayarlar().Command1_Click();
     EXPECT_EQ(Ayarlar().UyariGun2.metin, u"on beş");
 }
 
 TEST_F(AyarKomutlari, Double_quote_in_the_second_warning_field_costs_all_settings_as_is_meant) {
     Ayarlar().renkler[0] = 77;
-    Ayarlar().UyariGun2.metin = u"1\"2";
+    AlanaYaz(Ayarlar().UyariGun2, u"1\"2");
     Ayarlar().Command1_Click();
     EXPECT_NE(agac.Bayt(u"Settings.dll").find("\"5\",\"1\"2\",0,1,"), std::string::npos);
     EXPECT_EQ(Ayarlar().Renk(0), 32768) << "the values behind it slid, so that all defaults stand";
@@ -137,7 +138,7 @@ TEST_F(AyarKomutlari, Double_quote_in_the_second_warning_field_costs_all_setting
 
 TEST_F(AyarKomutlari, Apply_paints_colours_and_months_and_writes_nothing) {
     Ayarlar().renkler[2] = 123;
-    Ayarlar().Aylar[7].Ata(0);
+    Tikla(Ayarlar().Aylar[7]);
     const std::string once = agac.Resim();
     Ayarlar().Command4_Click();
     EXPECT_EQ(BosGun().zemin, 123);
@@ -153,7 +154,7 @@ TEST_F(AyarKomutlari, Unapplied_colour_is_read_at_once_but_not_yet_painted) {
 }
 
 TEST_F(AyarKomutlari, Applying_twice_after_a_change_of_the_slot_order_tells_of_the_restart_twice) {
-    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
     kullanici.ortam.Bekle(kSiraDegisti);
     kullanici.ortam.Bekle(kSiraDegisti);
     Ayarlar().Command4_Click();
@@ -167,7 +168,7 @@ TEST_F(AyarKomutlari, Save_applies_with_message_and_scan_before_it_writes) {
     agac.Koy(u"Visible.dll", kTumAylar);
     kullanici.Prog().FormAyarlar.Bosalt();
     Ayarlar().renkler[2] = 123;
-    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
     kullanici.ortam.Bekle(kSiraDegisti);
     const std::string eski = agac.Bayt(u"Settings.dll");
     int bakilan = 0;
@@ -185,7 +186,7 @@ TEST_F(AyarKomutlari, Save_applies_with_message_and_scan_before_it_writes) {
 
 // The window stays pressable where the scan lets events run.
 TEST_F(AyarKomutlari, Cancel_pressed_within_the_scan_of_a_save_comes_too_late_and_leaves_nothing_dangling) {
-    Ayarlar().UyariGun.metin = u"3";
+    AlanaYaz(Ayarlar().UyariGun, u"3");
     kullanici.ortam.olayda = [this](int) {
         kullanici.ortam.olayda = nullptr;
         kullanici.Prog().FormAyarlar->Command2_Click();
@@ -200,7 +201,7 @@ TEST_F(AyarKomutlari, Failed_save_closes_as_if_all_were_well_and_the_next_readin
     Ayarlar().Command1_Click();
     kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Yaz; };
     Ayarlar().renkler[2] = 123;
-    Ayarlar().Aylar[7].Ata(0);
+    Tikla(Ayarlar().Aylar[7]);
     Ayarlar().Command1_Click();
     EXPECT_FALSE(Acik());
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
@@ -212,8 +213,8 @@ TEST_F(AyarKomutlari, Failed_save_closes_as_if_all_were_well_and_the_next_readin
 TEST_F(AyarKomutlari, Full_disk_keeps_the_old_settings_and_still_writes_the_months_that_fit) {
     Ayarlar().Command1_Click();
     kullanici.Prog().dosyalar.bosYer = 0;
-    Ayarlar().UyariGun.metin = u"5000000";
-    Ayarlar().Aylar[7].Ata(0);
+    AlanaYaz(Ayarlar().UyariGun, u"5000000");
+    Tikla(Ayarlar().Aylar[7]);
     Ayarlar().Command1_Click();
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
     EXPECT_EQ(agac.Bayt(u"Visible.dll"), "1,1,1,1,1,1,0,1,1,1,1,1,1\r\n");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/Kayitlar.h"
 #include "destek/SahteOrtam.h"
@@ -155,29 +156,29 @@ TEST_F(FormAyarlarTest, Loaded_day_on_top_order_is_no_change) {
     agac.Koy(u"Visible.dll", kHepsiAcik);
     EXPECT_TRUE(Ayarlar().GunduzUstte());
     EXPECT_EQ(Ayarlar().Check4.deger, 0);
-    Ayarlar().GunduzGece.Sec(u"Gece / Gündüz");
+    ListedenSec(Ayarlar().GunduzGece, u"Gece / Gündüz");
     EXPECT_EQ(Ayarlar().Check4.deger, 1);
 }
 
 TEST_F(FormAyarlarTest, Master_box_ticks_and_clears_all_months) {
-    Ayarlar().Check3.Ata(0);
+    Tikla(Ayarlar().Check3);
     for (int ay = 1; ay <= 12; ++ay)
         EXPECT_FALSE(Ayarlar().AyGorunur(ay));
-    Ayarlar().Check3.Ata(1);
+    Tikla(Ayarlar().Check3);
     for (int ay = 1; ay <= 12; ++ay)
         EXPECT_TRUE(Ayarlar().AyGorunur(ay));
 }
 
 TEST_F(FormAyarlarTest, No_numbers_at_all_disables_the_automatic_ones_and_keeps_their_value) {
-    Ayarlar().Check7.Ata(1);
+    Tikla(Ayarlar().Check7);
     EXPECT_FALSE(Ayarlar().Check2.etkin);
     EXPECT_EQ(Ayarlar().Check2.deger, 1);
-    Ayarlar().Check7.Ata(0);
+    Tikla(Ayarlar().Check7);
     EXPECT_TRUE(Ayarlar().Check2.etkin);
 }
 
 TEST_F(FormAyarlarTest, Unload_drops_edits_and_the_next_reading_loads_the_files_again) {
-    Ayarlar().Check6.Ata(0);
+    Tikla(Ayarlar().Check6);
     program.FormAyarlar.Bosalt();
     EXPECT_EQ(Ayarlar().Check6.deger, 1);
 }

@@ -50,7 +50,7 @@ TEST_F(FormMenuAyarTest,
     EXPECT_TRUE(Menuler().Command2.etkin);
     EXPECT_TRUE(Menuler().Command4.etkin);
     MenuAcikken({});
-    Menuler().Command4_Click();
+    VELORA_BAS(program.FormMenuAyar, Command4);
     EXPECT_FALSE(Menuler().Command2.etkin) << "the dialogue has closed";
     EXPECT_FALSE(Menuler().Command4.etkin);
 }
@@ -89,7 +89,7 @@ TEST_F(FormMenuAyarTest,
     MenuSil(0, Cevap::Evet);
     EXPECT_TRUE(agac.DosyaVar(u"Menuler.dat"));
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"), "");
-    Menuler().Command3_Click();
+    VELORA_BAS(program.FormMenuAyar, Command3);
     EXPECT_FALSE(program.FormMenuAyar.Yuklu());
     EXPECT_TRUE(Liste().empty());
 }

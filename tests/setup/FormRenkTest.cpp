@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "screen/Program.h"
@@ -96,7 +97,7 @@ TEST_F(FormRenkTest, Colour_box_opens_the_picker_with_its_colour_and_its_slot) {
         EXPECT_EQ(Secici().picColorBox.zemin, 12632256);
         EXPECT_EQ(Secici().Tag, u"17");
         Tikla(123);
-        Secici().Command1_Click();
+        VELORA_BAS(program.FormRenk, Command1);
     });
     program.FormAyarlar->Renk_Click(17);
     EXPECT_EQ(program.FormAyarlar->Renk(17), 123);
@@ -106,7 +107,7 @@ TEST_F(FormRenkTest, Colour_box_opens_the_picker_with_its_colour_and_its_slot) {
 TEST_F(FormRenkTest, Ok_without_a_pick_gives_black_though_the_sample_shows_the_old_colour_as_is_meant) {
     SeciciAcikken([this] {
         EXPECT_EQ(Secici().picColorBox.zemin, 32768);
-        Secici().Command1_Click();
+        VELORA_BAS(program.FormRenk, Command1);
     });
     program.FormAyarlar->Renk_Click(0);
     EXPECT_EQ(program.FormAyarlar->Renk(0), 0);
@@ -115,7 +116,7 @@ TEST_F(FormRenkTest, Ok_without_a_pick_gives_black_though_the_sample_shows_the_o
 TEST_F(FormRenkTest, Cancel_after_a_pick_leaves_the_colour) {
     SeciciAcikken([this] {
         Tikla(123);
-        Secici().Command2_Click();
+        VELORA_BAS(program.FormRenk, Command2);
     });
     program.FormAyarlar->Renk_Click(0);
     EXPECT_EQ(program.FormAyarlar->Renk(0), 32768);
@@ -124,14 +125,14 @@ TEST_F(FormRenkTest, Cancel_after_a_pick_leaves_the_colour) {
 
 TEST_F(FormRenkTest, Typed_components_are_taken_and_stay_within_a_byte) {
     Secici().Tag = u"3";
-    Secici().txtRed.metin = u"10";
-    Secici().txtGreen.metin = u"999999999999";
-    Secici().txtBlue.metin = u"-5";
-    Secici().Command1_Click();
+    AlanaYaz(Secici().txtRed, u"10");
+    AlanaYaz(Secici().txtGreen, u"999999999999");
+    AlanaYaz(Secici().txtBlue, u"-5");
+    VELORA_BAS(program.FormRenk, Command1);
     EXPECT_EQ(program.FormAyarlar->Renk(3), 0x00FF0A);
     Secici().Tag = u"3";
-    Secici().txtRed.metin = u"kırmızı";
-    Secici().Command1_Click();
+    AlanaYaz(Secici().txtRed, u"kırmızı");
+    VELORA_BAS(program.FormRenk, Command1);
     EXPECT_EQ(program.FormAyarlar->Renk(3), 0);
 }
 
@@ -140,7 +141,7 @@ TEST_F(FormRenkTest, Slot_that_is_not_there_changes_no_colour) {
     for (const auto* tag : {u"25", u"-1", u"99999999999999999999"}) {
         Secici().Tag = tag;
         Tikla(123);
-        Secici().Command1_Click();
+        VELORA_BAS(program.FormRenk, Command1);
         EXPECT_EQ(program.FormAyarlar->renkler, once);
     }
 }

@@ -24,7 +24,7 @@ TEST_F(FormSalonTanimAdTest, Opens_with_the_old_name_and_its_place_in_the_list) 
         EXPECT_EQ(ad->Command1.baslik, u"Tamam");
         EXPECT_EQ(ad->Command2.baslik, u"İptal");
     });
-    Tanim().Command4_Click();
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
 }
 
 TEST_F(FormSalonTanimAdTest, Cancel_unloads_and_changes_nothing) {
@@ -32,10 +32,10 @@ TEST_F(FormSalonTanimAdTest, Cancel_unloads_and_changes_nothing) {
     const std::string once = agac.Resim();
     Isaretle(0);
     AdAcikken([this] {
-        kullanici.Prog().FormSalonTanimAd->Text1.metin = u"Yeni";
-        kullanici.Prog().FormSalonTanimAd->Command2_Click();
+        AlanaYaz(kullanici.Prog().FormSalonTanimAd->Text1, u"Yeni");
+        VELORA_BAS(kullanici.Prog().FormSalonTanimAd, Command2);
     });
-    Tanim().Command4_Click();
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
     EXPECT_FALSE(kullanici.Prog().FormSalonTanimAd.Yuklu());
     SalonlarBekle({u"Salon A", u"Salon B"});
     EXPECT_EQ(agac.Resim(), once);
@@ -189,7 +189,9 @@ TEST_F(FormSalonTanimAdTest, Full_disk_leaves_the_old_files_whole_and_renames_th
 
 TEST_F(FormSalonTanimAdTest, Without_a_marked_hall_no_entry_is_replaced) {
     kullanici.ProgramiAc();
-    AdDegistir(-1, u"Yeni");
+    Isaretle(-1);
+    AdAcikken([this] { AdiGir(u"Yeni"); });
+    Tanim().Command4_Click(); // no user can press it
     SalonlarBekle({u"Salon A", u"Salon B"});
 }
 

@@ -40,7 +40,8 @@ TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_
             u"Hata",
             u"Hiç salon tanımınız yok!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."});
         Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", u" "});
-        Tanim().Command3_Click();
+        Tanim();
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
         EXPECT_TRUE(kullanici.Prog().FormSalonTanim.Yuklu()) << "the screen stays open";
         SalonlarBekle({});
     }
@@ -49,7 +50,7 @@ TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_
 TEST_F(FormSalonTanimTest, Close_unloads_with_a_hall_in_the_list) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
-    SalonlarAcikken([this] { Tanim().Command3_Click(); });
+    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
     EXPECT_EQ(Ortam().gizlenenler, std::vector<EkranAdi>{EkranAdi::FormSalonTanim});
 }
@@ -58,7 +59,7 @@ TEST_F(FormSalonTanimTest, Close_publishes_the_table_of_a_published_firm_again) 
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
-    SalonlarAcikken([this] { Tanim().Command3_Click(); });
+    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
     EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormWebteYayinla);
 }
 
@@ -70,7 +71,8 @@ TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing
         if (Metin(cevap).empty())
             Ortam().Bekle(kAdYok);
     }
-    Tanim().Command1_Click();
+    Tanim();
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
     SalonlarBekle({});
     EXPECT_EQ(agac.Resim(), once);
 }
@@ -301,7 +303,7 @@ TEST_F(IlkSalon, First_run_opens_a_list_that_closes_only_after_an_add_was_starte
                                     SalonEkle(u"  ");
                                     EXPECT_TRUE(Tanim().Command3.etkin);
                                     SalonEkle(u"gül salonu");
-                                    Tanim().Command3_Click();
+                                    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
                                 }});
     IlkSalonuSor(kullanici.Prog());
     EXPECT_EQ(Tablo().Salon.Metni(), u"Gül Salonu");

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "setup/FormSalonTanim.h"
@@ -27,8 +28,9 @@ class SalonTest : public ::testing::Test {
         kullanici.Prog().FormSalonTanim.GosterModal();
     }
     void SalonEkle(const Metin& cevap) {
+        Tanim(); // a test may work on the list without showing it
         Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
-        Tanim().Command1_Click();
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
     }
     void Isaretle(int sira) {
         Tanim().List1.secili = sira;
@@ -41,20 +43,21 @@ class SalonTest : public ::testing::Test {
                          u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\nSeçili "
                          u"salonu silmek istediğinize emin misiniz?",
                          Simge::Soru, cevap});
-        Tanim().Command2_Click();
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command2);
     }
     /// The dialogue of a hall's name is expected next; `is` is done while it stands.
     void AdAcikken(std::function<void()> is) {
         Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanimAd, std::move(is)});
     }
+    void AdiGir(const Metin& yeni) {
+        AlanaYaz(kullanici.Prog().FormSalonTanimAd->Text1, yeni);
+        VELORA_BAS(kullanici.Prog().FormSalonTanimAd, Command1);
+    }
     /// The marked hall gets this name.
     void AdDegistir(int sira, const Metin& yeni) {
         Isaretle(sira);
-        AdAcikken([this, yeni] {
-            kullanici.Prog().FormSalonTanimAd->Text1.metin = yeni;
-            kullanici.Prog().FormSalonTanimAd->Command1_Click();
-        });
-        Tanim().Command4_Click();
+        AdAcikken([this, yeni] { AdiGir(yeni); });
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
     }
     /// A reservation of the hall on 20 June 2012 in the evening.
     void RezervasyonKoy(const Metin& salon) const {

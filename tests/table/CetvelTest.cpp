@@ -46,7 +46,7 @@ TEST_F(Cetvel, Second_click_on_the_same_head_changes_nothing) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
     kullanici.GunBasligina(5);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur) << "the ruler opens only when a pick changes";
@@ -66,9 +66,9 @@ TEST_F(Cetvel, Frame_blinks_with_its_timer) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
 }
 

@@ -203,7 +203,7 @@ TEST_F(Hatirlatma, Reminder_of_today_shows_the_bell_and_blinks) {
     EXPECT_TRUE(kullanici.Tablo().Image3);
     EXPECT_EQ(kullanici.Tablo().OzelHatirlatTimer.aralik, 500);
     const bool resim = kullanici.Tablo().Image3a;
-    kullanici.Bekle(500);
+    kullanici.ZamanGecir(500);
     EXPECT_NE(kullanici.Tablo().Image3a, resim);
     std::filesystem::remove(agac.Yol(u"Salon A/2012/05.01.2012 - Gündüz"));
     kullanici.Tablo().Command1();
