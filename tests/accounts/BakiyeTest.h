@@ -17,7 +17,7 @@ class BakiyeTest : public KayitTest {
     void RaporAc(const Is& is) {
         Prog();
         EkranBekle(EkranAdi::FormBakiye, is);
-        kullanici.Tablo().BakiyeRaporss_Click();
+        kullanici.KomutSec(Komut::BakiyeRaporss);
         Prog().FormBakiye.Bosalt();
     }
     /// Opens the report on the whole of 2012, lists, and then does `is`.
@@ -61,12 +61,12 @@ class BakiyeTest : public KayitTest {
             metin += (metin.empty() ? u"" : u" / ") + etiket.baslik;
         return metin;
     }
-    void GenelBekle(MetinBakis toplam, MetinBakis alinan, MetinBakis kalan) {
+    void GenelOlmali(MetinBakis toplam, MetinBakis alinan, MetinBakis kalan) {
         EXPECT_EQ(Rapor().Toplam.baslik, toplam);
         EXPECT_EQ(Rapor().Alinan.baslik, alinan);
         EXPECT_EQ(Rapor().Kalan.baslik, kalan);
     }
-    void SayacBekle(MetinBakis kesin, MetinBakis on, MetinBakis hepsi) {
+    void SayacOlmali(MetinBakis kesin, MetinBakis on, MetinBakis hepsi) {
         EXPECT_EQ(Rapor().Label14.baslik, kesin);
         EXPECT_EQ(Rapor().Label18.baslik, on);
         EXPECT_EQ(Rapor().Label19.baslik, hepsi);

@@ -37,7 +37,7 @@ class TabloGunu : public ::testing::Test {
         EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 0);
     }
     /// The three files of `ad`, by the bytes that the first day's record has.
-    void UcDosyaBekle(const Metin& ad) {
+    void UcDosyaOlmali(const Metin& ad) {
         EXPECT_EQ(
             agac.Bayt(u"Şişli/2012/" + ad),
             "\"\xDE\xFCkran \xD6z\",\"Bolu\",\"Ay\xFE"
@@ -59,7 +59,7 @@ class TabloGunu : public ::testing::Test {
 TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_byte_differs) {
     const std::string once = agac.Resim();
     Tasi({20, 6, kGunduz}, {3, 11, kGece});
-    UcDosyaBekle(u"03.11.2012 - Gece");
+    UcDosyaOlmali(u"03.11.2012 - Gece");
     UcDosyaYok(u"20.06.2012 - Gündüz");
     const auto renk = [&](int n) { return kullanici.Prog().FormAyarlar->Renk(n); };
     EXPECT_EQ(kullanici.Goz(3, 11, kGece).zemin, renk(12));
@@ -88,7 +88,7 @@ TEST_F(TabloGunu, A_cancellation_with_an_empty_reason_frees_the_day_and_logs_one
     EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
     kullanici.ProgramiKapat();
     UcDosyaYok(u"21.06.2012 - Gece");
-    UcDosyaBekle(u"20.06.2012 - Gündüz");
+    UcDosyaOlmali(u"20.06.2012 - Gündüz");
     EXPECT_EQ(agac.Bayt(u"IptalSebep.txt"),
               "21.06.2012 - Gece - \xDEi\xFEli - Ali - 0212 - 0532 - admin - \r\n");
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"17\"\r\n");

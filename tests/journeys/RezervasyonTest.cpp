@@ -65,7 +65,7 @@ TEST_F(Rezervasyon, A_firms_first_reservation_is_on_disk_and_on_the_table_and_op
     EXPECT_EQ(OdemeBaytlari(), kIkiOdeme);
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"1\"\r\n");
     Prog();
-    RenkBekle(20, 6, kGunduz, 6, 7);
+    RenkOlmali(20, 6, kGunduz, 6, 7);
     KayitAc(kHaziran20, [&] {
         EXPECT_EQ(Kayit().Kay[AnaNo::GelinDamat].metin, u"Elif / Can");
         EXPECT_EQ(Kayit().TT[1].metin, u"üç katlı. beyaz");

@@ -38,7 +38,7 @@ class SalonVeMenu : public ::testing::Test {
             VELORA_BAS(Prog().FormSalonTanim, Command1);
         });
     }
-    void MenuYaz(const Metin& ad, const Metin& icerik) {
+    void MenuyuYaz(const Metin& ad, const Metin& icerik) {
         EkrandaYap(EkranAdi::FormMenuEkle, [this, ad, icerik] {
             const auto ekle = Prog().FormMenuEkle.Tut();
             AlanaYaz(ekle->Text1, ad, {.degisti = [&] { ekle->Text1_Change(); }});
@@ -85,11 +85,11 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
 
     EkrandaYap(EkranAdi::FormMenuAyar, [this] {
         const auto menuler = Prog().FormMenuAyar.Tut();
-        MenuYaz(u"klasik", u"çorba, et sote");
+        MenuyuYaz(u"klasik", u"çorba, et sote");
         VELORA_BAS(Prog().FormMenuAyar, Command1);
-        MenuYaz(u"altın", u"ıspanak\r\niçli köfte");
+        MenuyuYaz(u"altın", u"ıspanak\r\niçli köfte");
         VELORA_BAS(Prog().FormMenuAyar, Command1);
-        MenuYaz(u"klasik menü", u"çorba");
+        MenuyuYaz(u"klasik menü", u"çorba");
         SatiraTikla(menuler->Liste, 0, [&] { menuler->Liste_Click(); });
         menuler->Liste_DblClick();
         VELORA_BAS(Prog().FormMenuAyar, Command3);

@@ -70,7 +70,7 @@ TEST_F(AramaKayit, A_record_of_another_hall_switches_the_table_there_before_it_o
     Detaylar(0);
     EXPECT_GT(olaydan, 0) << "the table of the hall was shown, and events ran, before the record came";
     kullanici.ortam.olayda = nullptr;
-    RenkBekle(20, 6, kGece, 12, 13);
+    RenkOlmali(20, 6, kGece, 12, 13);
 }
 
 TEST_F(AramaKayit, Events_run_before_the_record_comes_and_a_search_among_them_changes_nothing_of_it) {
@@ -142,7 +142,7 @@ TEST_F(AramaKayit, A_row_whose_file_is_not_there_leaves_no_ghost_to_the_next_new
         KaydeteBas();
     });
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
-    kullanici.Tablo().newkay_Click();
+    kullanici.KomutSec(Komut::newkay);
     const Metin yeni = u"Salon B/2012/21.06.2012 - Gece";
     EXPECT_TRUE(agac.Bayt(yeni).starts_with("\"Ali Usta\""));
     for (const Metin& ad : {yeni, yeni + u"-Detay"})

@@ -70,7 +70,7 @@ class AramaTest : public KayitTest {
     void AramaAcikken(const Is& is) {
         Prog();
         EkranBekle(EkranAdi::FormArama, is);
-        kullanici.Tablo().Arasss_Click();
+        kullanici.KomutSec(Komut::Arasss);
     }
     /// The row is opened; `is` is what the user does on the record, which must be shown.
     void Detaylar(int sira, const Is& is = {}) {

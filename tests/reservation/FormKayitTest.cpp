@@ -6,7 +6,7 @@ namespace velora::test {
 /// Opening, fields and closing of the reservation screen.
 class FormKayitTest : public KayitTest {
   protected:
-    void NumaraBekle(MetinBakis no, bool acik) {
+    void NumaraOlmali(MetinBakis no, bool acik) {
         EXPECT_EQ(Kayit().Kay[14].metin, no);
         EXPECT_EQ(Kayit().Kay[14].kilitli, !acik);
         EXPECT_EQ(Kayit().Kay[14].beyazZemin, acik);
@@ -60,12 +60,12 @@ TEST_F(FormKayitTest, Opening_gets_the_page_of_the_contract_ready) {
 
 TEST_F(FormKayitTest, With_both_number_settings_off_the_number_is_offered_and_open) {
     NumaraAyari(false, false);
-    YeniKayit([&] { NumaraBekle(u"58", true); });
+    YeniKayit([&] { NumaraOlmali(u"58", true); });
 }
 
 TEST_F(FormKayitTest, With_automatic_numbers_the_number_is_offered_and_locked) {
     NumaraAyari(true, false);
-    YeniKayit([&] { NumaraBekle(u"58", false); });
+    YeniKayit([&] { NumaraOlmali(u"58", false); });
 }
 
 // White and open first, then grey, locked and empty: the second setting wins.
@@ -74,7 +74,7 @@ TEST_F(FormKayitTest,
     for (const bool otomatik : {false, true}) {
         NumaraAyari(otomatik, true);
         Prog().FormAyarlar.Bosalt();
-        YeniKayit([&] { NumaraBekle(u"", false); });
+        YeniKayit([&] { NumaraOlmali(u"", false); });
     }
 }
 
@@ -82,7 +82,7 @@ TEST_F(FormKayitTest, Without_the_counter_the_first_number_is_offered_and_the_me
     NumaraAyari(false, false);
     std::filesystem::remove(agac.Yol(u"Count.dat"));
     YeniKayit([&] {
-        NumaraBekle(u"1", true);
+        NumaraOlmali(u"1", true);
         EXPECT_EQ(Kayit().Combo1.ogeler, (std::vector<Metin>{u"Menü seçiniz...", u"Klasik"}));
         EXPECT_EQ(Kayit().Combo1.secili, 0);
     });
@@ -90,18 +90,18 @@ TEST_F(FormKayitTest, Without_the_counter_the_first_number_is_offered_and_the_me
 
 TEST_F(FormKayitTest, An_empty_counter_counts_as_missing_and_a_word_as_zero) {
     agac.Koy(u"Count.dat", "\r\n");
-    YeniKayit([&] { NumaraBekle(u"1", false); });
+    YeniKayit([&] { NumaraOlmali(u"1", false); });
     agac.Koy(u"Count.dat", "\"yok\"\r\n");
-    YeniKayit([&] { NumaraBekle(u"1", false); });
+    YeniKayit([&] { NumaraOlmali(u"1", false); });
     agac.Koy(u"Count.dat", "\"0099\"\r\n");
-    YeniKayit([&] { NumaraBekle(u"100", false); });
+    YeniKayit([&] { NumaraOlmali(u"100", false); });
 }
 
 // The jump comes before the counter is looked at, and the next save makes it lasting.
 TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_and_the_save_resets_the_counter) {
     std::filesystem::remove(agac.Yol(u"Menuler.dat"));
     YeniKayit([&] {
-        NumaraBekle(u"1", false);
+        NumaraOlmali(u"1", false);
         EXPECT_EQ(Kayit().Combo1.secili, -1);
         EXPECT_FALSE(Prog().FormPrint.Yuklu());
         Doldur();
@@ -115,7 +115,7 @@ TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_even_with_
     std::filesystem::remove(agac.Yol(u"Menuler.dat"));
     NumaraAyari(false, true);
     YeniKayit([&] {
-        NumaraBekle(u"1", true);
+        NumaraOlmali(u"1", true);
         Doldur();
         KaydeteBas();
     });
@@ -125,7 +125,7 @@ TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_even_with_
 TEST_F(FormKayitTest, A_menu_without_content_at_the_end_of_the_file_is_a_failed_load_too) {
     agac.Koy(u"Menuler.dat", "\"A\",\"a\"\r\n\"\",\"b\"\r\n\"C\"\r\n");
     YeniKayit([&] {
-        NumaraBekle(u"1", false);
+        NumaraOlmali(u"1", false);
         EXPECT_EQ(Kayit().Combo1.ogeler, (std::vector<Metin>{u"Menü seçiniz...", u"A"}));
         EXPECT_EQ(Kayit().Combo1.secili, -1);
     });
@@ -137,7 +137,7 @@ TEST_F(FormKayitTest, A_menu_without_a_name_is_left_out_and_a_name_of_blanks_is_
         EXPECT_EQ(Kayit().Combo1.ogeler, (std::vector<Metin>{u"Menü seçiniz...", u"  "}));
         ListedenSec(Kayit().Combo1, u"  ");
         EXPECT_EQ(Kayit().Label20.metin, u"c");
-        NumaraBekle(u"58", false);
+        NumaraOlmali(u"58", false);
     });
 }
 

@@ -202,7 +202,7 @@ TEST_F(KaydetmeTest, After_the_save_the_table_shows_the_day_and_the_screen_is_go
             KaydeteBas();
         },
         u"15.06.2012 - Gece");
-    RenkBekle(15, 6, kGece, 12, 13);
+    RenkOlmali(15, 6, kGece, 12, 13);
     EXPECT_EQ(kullanici.Goz(15, 6, kGece).tag, u"|11:00|Düğün|Gece|5000|0|5000|Ali Usta|58|1");
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 300) << "one of today's slots is taken";
     EXPECT_FALSE(Prog().FormKayit.Yuklu());

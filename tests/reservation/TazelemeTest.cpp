@@ -20,7 +20,7 @@ class TazelemeTest : public KayitTest {
         Prog().FormBakiye->ListeleGun();
         AlanaYaz(Prog().FormArama->Text[1], u"veli");
         Prog().FormArama.Goster();
-        Prog().FormArama->Command3_Click();
+        VELORA_BAS(Prog().FormArama, Command3);
         EXPECT_EQ(Prog().FormBakiye->Liste.satirlar.size(), 1U);
         EXPECT_EQ(Prog().FormArama->Liste.satirlar.size(), 1U);
         EXPECT_TRUE(kullanici.Tablo().Picture1.gorunur);
@@ -70,7 +70,7 @@ TEST_F(TazelemeTest, A_save_refreshes_report_search_and_warnings_then_scans_look
 TEST_F(TazelemeTest, A_search_whose_only_match_was_renamed_says_once_that_it_found_nothing) {
     AlanaYaz(Prog().FormArama->Text[1], u"veli");
     Prog().FormArama.Goster();
-    kullanici.Tablo().Command2_Click();
+    VELORA_BAS(Prog().FormTablo, Command2);
     KayitAc([&] {
         Gir(1, u"Can Yılmaz");
         KutuBekle(u"Hiç kayıt bulunamadı!");

@@ -25,7 +25,7 @@ class FormAyarlarTest : public ::testing::Test {
   protected:
     FormAyarlar& Ayarlar() { return *program.FormAyarlar.Tut(); }
 
-    void VarsayilanBekle() {
+    void VarsayilanOlmali() {
         for (int i = 0; i < kRenkSayisi; ++i)
             EXPECT_EQ(Ayarlar().Renk(i), kVarsayilan[static_cast<std::size_t>(i)]) << i;
         EXPECT_EQ(Ayarlar().UyariGun.metin, u"5");
@@ -49,7 +49,7 @@ class FormAyarlarTest : public ::testing::Test {
 };
 
 TEST_F(FormAyarlarTest, With_neither_file_all_defaults_stand_and_no_file_is_made) {
-    VarsayilanBekle();
+    VarsayilanOlmali();
     EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
     EXPECT_FALSE(agac.DosyaVar(u"Visible.dll"));
 }
@@ -78,12 +78,12 @@ TEST_F(FormAyarlarTest, Both_files_are_read_field_by_field) {
 
 TEST_F(FormAyarlarTest, Missing_visible_drops_the_colours_of_a_good_settings_file_too_on_purpose) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Missing_settings_drops_a_good_visible_file_too) {
     agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0,0\r\n");
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Thirty_two_values_give_all_defaults_on_purpose) {
@@ -91,13 +91,13 @@ TEST_F(FormAyarlarTest, Thirty_two_values_give_all_defaults_on_purpose) {
     kisa.erase(kisa.rfind(u','));
     agac.KoyMetin(u"Settings.dll", kisa);
     agac.Koy(u"Visible.dll", kHepsiAcik);
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Twelve_month_values_give_all_defaults) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
     agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0\r\n");
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 // The first two boxes go through the numeric reader, the others through a plain conversion: the difference is
@@ -118,7 +118,7 @@ TEST_F(FormAyarlarTest, Word_in_any_other_number_gives_all_defaults) {
                       AyarMetni(alan, u"\"abc\"").replace(0, alan == 1 ? 0 : 5, alan == 1 ? u"" : u"77"));
         agac.Koy(u"Visible.dll", kHepsiAcik);
         program.FormAyarlar.Bosalt();
-        VarsayilanBekle();
+        VarsayilanOlmali();
     }
 }
 
@@ -189,13 +189,13 @@ TEST_F(FormAyarlarTest, Negative_and_huge_colours_are_kept_or_refused_as_whole_n
     EXPECT_EQ(Ayarlar().Renk(4), -2147483643);
     program.FormAyarlar.Bosalt();
     agac.KoyMetin(u"Settings.dll", AyarMetni(5, u"99999999999"));
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Garbage_gives_all_defaults) {
     agac.Koy(u"Settings.dll", std::string(200'000, '"'));
     agac.Koy(u"Visible.dll", std::string(200'000, '\xFF'));
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 } // namespace velora::test

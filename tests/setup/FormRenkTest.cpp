@@ -22,7 +22,7 @@ class FormRenkTest : public ::testing::Test {
         Secici().Picture1_MouseDown(renk);
         Secici().Picture1_MouseUp();
     }
-    void MetinlerBekle(const std::array<MetinBakis, 6>& beklenen) {
+    void MetinlerOlmali(const std::array<MetinBakis, 6>& beklenen) {
         EXPECT_EQ(Secici().txtRed.metin, beklenen[0]);
         EXPECT_EQ(Secici().txtGreen.metin, beklenen[1]);
         EXPECT_EQ(Secici().txtBlue.metin, beklenen[2]);
@@ -45,24 +45,24 @@ TEST_F(FormRenkTest, Captions_stand_as_the_user_reads_them_and_all_texts_begin_a
     EXPECT_EQ(Secici().hexBaslik, u"Hex Value");
     EXPECT_EQ(Secici().Command1.baslik, u"Tamam");
     EXPECT_EQ(Secici().Command2.baslik, u"İptal");
-    MetinlerBekle({u"0", u"0", u"0", u"0", u"0", u"0"});
+    MetinlerOlmali({u"0", u"0", u"0", u"0", u"0", u"0"});
 }
 
 TEST_F(FormRenkTest, Pick_shows_the_colour_in_all_its_forms) {
     Tikla(6086641); // 5C DF F1 from the high byte down
     EXPECT_EQ(Secici().picColorBox.zemin, 6086641);
-    MetinlerBekle({u"241", u"223", u"92", u"#F1DF5C", u"&H5CDFF1&", u"5CDFF1"});
+    MetinlerOlmali({u"241", u"223", u"92", u"#F1DF5C", u"&H5CDFF1&", u"5CDFF1"});
 }
 
 TEST_F(FormRenkTest, Hex_value_is_unpadded_and_the_other_two_are_padded) {
     Tikla(0x00000A);
-    MetinlerBekle({u"10", u"0", u"0", u"#0A0000", u"&H00000A&", u"A"});
+    MetinlerOlmali({u"10", u"0", u"0", u"#0A0000", u"&H00000A&", u"A"});
     Tikla(0x008000);
-    MetinlerBekle({u"0", u"128", u"0", u"#008000", u"&H008000&", u"8000"});
+    MetinlerOlmali({u"0", u"128", u"0", u"#008000", u"&H008000&", u"8000"});
     Tikla(0);
-    MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
+    MetinlerOlmali({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
     Tikla(0xFFFFFF);
-    MetinlerBekle({u"255", u"255", u"255", u"#FFFFFF", u"&HFFFFFF&", u"FFFFFF"});
+    MetinlerOlmali({u"255", u"255", u"255", u"#FFFFFF", u"&HFFFFFF&", u"FFFFFF"});
 }
 
 TEST_F(FormRenkTest, Every_component_is_split_right) {
@@ -78,7 +78,7 @@ TEST_F(FormRenkTest, Place_outside_the_chart_is_black) {
     Tikla(0xFFFFFF);
     Tikla(-1);
     EXPECT_EQ(Secici().picColorBox.zemin, 0);
-    MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
+    MetinlerOlmali({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
 }
 
 TEST_F(FormRenkTest, Move_picks_only_while_the_button_is_held) {

@@ -28,7 +28,7 @@ TEST_F(FormSalonTanimTest, Captions_stand_as_the_user_reads_them) {
 TEST_F(FormSalonTanimTest, Blank_lines_and_blank_names_give_no_entry) {
     agac.Koy(u"Salon.dat", "\"B\"\r\n\r\n\"  \"\r\n\"\"\r\n\"A \"\r\n\r\n");
     kullanici.ProgramiAc();
-    SalonlarBekle({u"B", u"A "});
+    SalonlarOlmali({u"B", u"A "});
 }
 
 TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_refuses_and_starts_an_add) {
@@ -43,7 +43,7 @@ TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_
         Tanim();
         VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
         EXPECT_TRUE(kullanici.Prog().FormSalonTanim.Yuklu()) << "the screen stays open";
-        SalonlarBekle({});
+        SalonlarOlmali({});
     }
 }
 
@@ -73,7 +73,7 @@ TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing
     }
     Tanim();
     VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
-    SalonlarBekle({});
+    SalonlarOlmali({});
     EXPECT_EQ(agac.Resim(), once);
 }
 
@@ -82,14 +82,14 @@ TEST_F(FormSalonTanimTest, Tab_is_no_blank_and_makes_a_hall_without_a_folder) {
     kullanici.ProgramiAc();
     SalonEkle(u"\t");
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"\t\"\r\n");
-    SalonlarBekle({u"\t"});
+    SalonlarOlmali({u"\t"});
 }
 
 TEST_F(FormSalonTanimTest, Name_in_lower_case_is_listed_stored_and_used_as_a_folder_in_proper_case) {
     kullanici.ProgramiAc();
     SalonEkle(u"büyük salon");
     SalonEkle(u"IŞIK-iNCİ  izmir");
-    SalonlarBekle({u"Büyük Salon", u"Işık-inci  İzmir"});
+    SalonlarOlmali({u"Büyük Salon", u"Işık-inci  İzmir"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\xFCy\xFCk Salon\"\r\n\"I\xFE\xFDk-inci  \xDDzmir\"\r\n");
     for (int yil = 2012; yil <= 2022; ++yil) {
         EXPECT_TRUE(agac.KlasorVar(u"Büyük Salon/" + SayiMetni(yil))) << yil;
@@ -143,7 +143,7 @@ TEST_F(FormSalonTanimTest, Name_entered_twice_gives_two_entries_that_share_one_f
     SalonEkle(u"a");
     agac.Koy(u"A/2012/x", "kept");
     SalonEkle(u"a");
-    SalonlarBekle({u"A", u"A"});
+    SalonlarOlmali({u"A", u"A"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n\"A\"\r\n");
     EXPECT_EQ(agac.Bayt(u"A/2012/x"), "kept");
 }
@@ -167,7 +167,7 @@ TEST_F(FormSalonTanimTest, After_a_no_both_buttons_stay_disabled_though_a_row_is
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Hayir);
-    SalonlarBekle({u"A"});
+    SalonlarOlmali({u"A"});
     EXPECT_EQ(Tanim().List1.secili, 0);
     EXPECT_FALSE(Tanim().Command2.etkin);
     EXPECT_FALSE(Tanim().Command4.etkin);
@@ -178,7 +178,7 @@ TEST_F(FormSalonTanimTest, Deleting_the_selected_hall_selects_the_first_and_pain
     RezervasyonKoy(u"B");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Evet);
-    SalonlarBekle({u"B", u"C"});
+    SalonlarOlmali({u"B", u"C"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\"\r\n\"C\"\r\n");
     EXPECT_EQ(Tablo().Salon.Metni(), u"B");
     EXPECT_NE(RezervasyonTagi(), u"");
@@ -190,7 +190,7 @@ TEST_F(FormSalonTanimTest, Deleting_another_hall_selects_the_first_too) {
     kullanici.ProgramiAc();
     kullanici.SalonSec(u"C");
     SalonSil(1, Cevap::Evet);
-    SalonlarBekle({u"A", u"C"});
+    SalonlarOlmali({u"A", u"C"});
     EXPECT_EQ(Tablo().Salon.Metni(), u"A");
 }
 
@@ -199,7 +199,7 @@ TEST_F(FormSalonTanimTest, Deleting_the_only_hall_leaves_an_empty_selector_a_pai
     RezervasyonKoy(u"A");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Evet);
-    SalonlarBekle({});
+    SalonlarOlmali({});
     EXPECT_EQ(Tablo().Salon.secili, -1);
     EXPECT_EQ(Tablo().Salon.Metni(), u"");
     EXPECT_TRUE(agac.DosyaVar(u"Salon.dat"));
@@ -228,7 +228,7 @@ TEST_F(FormSalonTanimTest, Double_quote_in_a_name_is_written_raw_and_slides_the_
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A \"b\", C\"\r\n");
     kullanici.ProgramiKapat();
     kullanici.ProgramiAc();
-    SalonlarBekle({u"A ", u"b\"", u"C\""});
+    SalonlarOlmali({u"A ", u"b\"", u"C\""});
 }
 
 TEST_F(FormSalonTanimTest, Signs_that_a_folder_cannot_hold_enter_the_list_without_a_folder) {
@@ -249,7 +249,7 @@ TEST_F(FormSalonTanimTest, Signs_that_a_folder_cannot_hold_enter_the_list_withou
 TEST_F(FormSalonTanimTest, Name_outside_the_code_page_is_listed_as_the_file_holds_it) {
     kullanici.ProgramiAc();
     SalonEkle(u"salon \u0416\U0001F600");
-    SalonlarBekle({u"Salon ??"});
+    SalonlarOlmali({u"Salon ??"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"Salon ??\"\r\n");
 }
 
@@ -263,7 +263,7 @@ TEST_F(FormSalonTanimTest, Folders_that_cannot_be_made_are_no_hindrance) {
     kullanici.ProgramiAc();
     Boz(DosyaIsi::KlasorYap);
     SalonEkle(u"a");
-    SalonlarBekle({u"A"});
+    SalonlarOlmali({u"A"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
     EXPECT_FALSE(agac.KlasorVar(u"A"));
 }
@@ -273,7 +273,7 @@ TEST_F(FormSalonTanimTest, List_that_cannot_be_written_keeps_the_old_file_and_sa
     kullanici.ProgramiAc();
     Boz(DosyaIsi::Yaz);
     SalonEkle(u"b");
-    SalonlarBekle({u"A", u"B"});
+    SalonlarOlmali({u"A", u"B"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
     EXPECT_TRUE(agac.KlasorVar(u"B/2012")) << "the steps behind the failed one still run";
 }

@@ -67,7 +67,7 @@ class SalonTest : public ::testing::Test {
     /// What the table knows of it; empty when it shows none.
     const Metin& RezervasyonTagi() { return kullanici.Goz(20, 6, GunduzGece::Gece).tag; }
     /// Both lists hold these halls, in this order.
-    void SalonlarBekle(const Salonlar& beklenen) {
+    void SalonlarOlmali(const Salonlar& beklenen) {
         EXPECT_EQ(Tanim().List1.ogeler, beklenen);
         EXPECT_EQ(Tablo().Salon.ogeler, beklenen);
     }

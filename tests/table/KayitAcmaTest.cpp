@@ -17,7 +17,7 @@ class KayitAcma : public TabloTest {
     void YeniKayit(const TabloGozu& goz) {
         ASSERT_TRUE(kullanici.SagTikla(goz));
         ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
-        kullanici.Tablo().newkay_Click();
+        kullanici.KomutSec(Komut::newkay);
     }
 };
 
@@ -45,7 +45,7 @@ TEST_F(KayitAcma, Double_click_goes_by_the_file_so_a_past_reservation_opens_and_
     AyarKoy(28, u"1");
     RezervasyonKoy(u"05.01.2012 - Gündüz");
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 17, 18);
+    RenkOlmali(5, 1, kGunduz, 17, 18);
     kullanici.CiftTikla({6, 1, kGunduz});
     AcilincaBak([](const FormKayit& kayit) { EXPECT_EQ(kayit.Tarih, u"05.01.2012 - Gündüz"); });
     kullanici.CiftTikla({5, 1, kGunduz});
@@ -98,7 +98,7 @@ TEST_F(KayitAcma, New_reservation_takes_the_day_last_moved_over_and_not_the_pres
     AcilincaBak([](const FormKayit& kayit) { EXPECT_EQ(kayit.Tarih, u"06.07.2012 - Gece"); });
     kullanici.SagTikla({5, 7, kGunduz});
     kullanici.Uzerine({6, 7, kGece});
-    kullanici.Tablo().newkay_Click();
+    kullanici.KomutSec(Komut::newkay);
 }
 
 // The loading of the screen lets events run: a waiting movement of the mouse arrives there.
@@ -110,7 +110,7 @@ TEST_F(KayitAcma, Pointer_that_moves_on_while_the_screen_loads_leaves_a_new_rese
         EXPECT_EQ(kayit.Tarih, u"20.06.2012 - Gündüz");
         EXPECT_EQ(kayit.Kay[12].metin, u"11:00");
     });
-    kullanici.Tablo().newkay_Click();
+    kullanici.KomutSec(Komut::newkay);
 }
 
 TEST_F(KayitAcma, Pointer_that_moves_on_while_the_screen_loads_leaves_a_record_with_its_own_payments) {
@@ -133,7 +133,7 @@ TEST_F(KayitAcma, Hall_of_blanks_counts_as_none) {
     kullanici.ortam.Bekle(
         BeklenenKutu{u"Velora", u"Lütfen Önce Salon Tanımı yapınız!", Simge::Kritik, Cevap::Tamam});
     kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormSalonTanim});
-    kullanici.Tablo().newkay_Click();
+    kullanici.KomutSec(Komut::newkay);
     EXPECT_FALSE(kullanici.Prog().FormKayit.Yuklu());
 }
 
@@ -144,7 +144,7 @@ TEST_F(KayitAcma, Without_a_hall_the_list_of_halls_opens_in_its_place) {
     kullanici.ortam.Bekle(BeklenenKutu{
         .baslik = u"Velora", .metin = u"Lütfen Önce Salon Tanımı yapınız!", .simge = Simge::Kritik});
     kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormSalonTanim});
-    kullanici.Tablo().newkay_Click();
+    kullanici.KomutSec(Komut::newkay);
     EXPECT_FALSE(kullanici.Prog().FormKayit.Yuklu());
 }
 

@@ -72,7 +72,7 @@ TEST_F(TabloYukleme, Empty_hall_list_makes_no_year_folder_in_the_root) {
     EXPECT_FALSE(agac.KlasorVar(u"2012"));
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"");
     EXPECT_EQ(kullanici.Tablo().Salon.secili, -1);
-    RenkBekle(5, 1, kGunduz, 2, 3);
+    RenkOlmali(5, 1, kGunduz, 2, 3);
 }
 
 // Literal: with no hall the path of the year is a folder directly in the root.
