@@ -1,34 +1,16 @@
 #include "destek/SahteOrtam.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "storage/KodSayfasi.h"
 #include "storage/dosya/Utf8.h"
 
 namespace velora::test {
 
 namespace {
-
-/// The compiler's own text of the name: "... kAd = velora::EkranAdi::FormTablo]" or with more behind it.
-template <EkranAdi kAd>
-std::string EkranMetni() {
-    const std::string_view tam = __PRETTY_FUNCTION__;
-    const std::string_view basindan =
-        tam.substr(tam.find("EkranAdi::") + std::string_view("EkranAdi::").size());
-    return std::string(basindan.substr(0, basindan.find_first_of(";]")));
-}
-
-template <std::size_t... kSiralar>
-std::string EkranMetni(EkranAdi ad, std::index_sequence<kSiralar...>) {
-    static const std::array adlar{EkranMetni<static_cast<EkranAdi>(kSiralar)>()...};
-    return adlar.at(static_cast<std::size_t>(ad));
-}
-
-constexpr std::size_t kEnCokEkran = 64;
 
 std::string Tirnakli(MetinBakis metin) {
     std::string bayt = "\"";
@@ -45,7 +27,7 @@ std::string Tarif(const BeklenenGirdi& girdi) {
     return "the input box " + Tirnakli(girdi.metin);
 }
 std::string Tarif(const BeklenenEkran& ekran) {
-    return "the screen " + EkranMetni(ekran.ad, std::make_index_sequence<kEnCokEkran>());
+    return "the screen " + KodYaz(EkranBul(ekran.ad).ad);
 }
 
 } // namespace
