@@ -9,7 +9,7 @@
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
-#include "storage/KodSayfasi.h"
+#include "qt/Ceviri.h"
 
 namespace velora {
 
@@ -42,47 +42,14 @@ qsizetype MetindekiYer(const QString& metin, qsizetype gorunenAdet) {
     return yer;
 }
 
-bool SatirSonu(QChar harf) {
-    return harf == u'\n' || harf == u'\r' || harf == QChar::LineSeparator ||
-           harf == QChar::ParagraphSeparator;
-}
-
-QString KodSayfasinaUydur(const QString& gelen, bool cokSatirli) {
-    QString metin = gelen.normalized(QString::NormalizationForm_C);
-    metin.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    QString uygun;
-    for (qsizetype i = 0; i < metin.size(); ++i) {
-        const QChar harf = metin[i];
-        if (SatirSonu(harf))
-            uygun += cokSatirli ? u'\n' : u' ';
-        else if (!cokSatirli && harf.category() == QChar::Other_Control)
-            uygun += u' ';
-        else
-            uygun += KodVar(harf.unicode()) ? harf : QChar(u'?');
-        if (harf.isHighSurrogate() && i + 1 < metin.size() && metin[i + 1].isLowSurrogate())
-            ++i;
-    }
-    return uygun;
-}
-
-QString Gelen(const QString& gelen, const GirdiKurali& kural, qsizetype enCok) {
-    QString metin = KodSayfasinaUydur(gelen, kural.cokSatirli);
-    if (kural.izin)
-        metin.removeIf([&kural](QChar harf) { return !kural.izin(harf.unicode()); });
-    metin.replace(u'\n', QStringLiteral("\r\n"));
-    if (kural.enUzun > 0 && metin.size() > enCok) {
-        metin.truncate(std::max<qsizetype>(0, enCok));
-        if (metin.endsWith(u'\r')) // no half of a line break
-            metin.chop(1);
-    }
-    return metin;
+/// Letters and their marks as one character, where there is one. Which these are the toolkit knows.
+Metin Birlesik(const QString& metin) {
+    return MetinYap(metin.normalized(QString::NormalizationForm_C));
 }
 
 class TusSuzgeci : public QObject {
   public:
-    TusSuzgeci(QWidget& alan, HarfIzni izin) : QObject(&alan), izin_(std::move(izin)) {
-        alan.installEventFilter(this);
-    }
+    TusSuzgeci(QWidget& alan, HarfIzni izin) : QObject(&alan), izin_(izin) { alan.installEventFilter(this); }
 
     bool eventFilter(QObject* nesne, QEvent* olay) override {
         if (olay->type() == QEvent::KeyPress)
@@ -94,10 +61,7 @@ class TusSuzgeci : public QObject {
 
   private:
     [[nodiscard]] QString Suz(const QString& tuslanan) const {
-        QString metin = tuslanan.normalized(QString::NormalizationForm_C);
-        metin.removeIf(
-            [this](QChar harf) { return !KodVar(harf.unicode()) || (izin_ && !izin_(harf.unicode())); });
-        return metin;
+        return QMetin(TuslananMetin(Birlesik(tuslanan), izin_));
     }
 
     /// True when the key is not to reach the field as it is.
@@ -130,12 +94,9 @@ QString GirdiyiSuz(const QString& eski, const QString& gorunen, const GirdiKural
     const qsizetype bas = OrtakBas(onceki, gorunen);
     const qsizetype son = OrtakSon(onceki, gorunen, bas);
     const auto yer = [&](qsizetype adet) { return kural.cokSatirli ? MetindekiYer(eski, adet) : adet; };
-    QString ust = eski.left(yer(bas));
-    const QString alt = eski.mid(yer(onceki.size() - son));
-    ust += Gelen(gorunen.mid(bas, gorunen.size() - bas - son), kural, kural.enUzun - ust.size() - alt.size());
-    if (kural.cokSatirli && ust.endsWith(u'\r') && alt.startsWith(u'\n'))
-        ust += u'\n'; // two line breaks stay two
-    return ust + alt;
+    const Metin gelen = Birlesik(gorunen.mid(bas, gorunen.size() - bas - son));
+    return QMetin(GirdiyiKoy(MetinYap(eski.left(yer(bas))), gelen,
+                             MetinYap(eski.mid(yer(onceki.size() - son))), kural));
 }
 
 QString CokSatirGoster(QString metin) {
@@ -144,7 +105,7 @@ QString CokSatirGoster(QString metin) {
         .replace(QChar(QChar::Nbsp), QChar(u' '));
 }
 
-void TuslariSuz(QWidget& alan, const HarfIzni& izin) {
+void TuslariSuz(QWidget& alan, HarfIzni izin) {
     new TusSuzgeci(alan, izin);
 }
 

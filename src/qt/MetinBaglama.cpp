@@ -18,32 +18,16 @@ namespace velora {
 
 namespace {
 
-constexpr QChar kBosYer = u'_'; // stands in a mask where nothing is typed, on the screen and in the files
-
 /// The toolkit's form of a mask: "#" is a digit or nothing, and what is missing shows as "_".
 QString QMaske(const Metin& maske) {
     if (maske.empty())
         return {};
-    return QMetin(maske).replace(u'#', u'0') + u';' + kBosYer;
+    return QMetin(maske).replace(kMaskeRakami, u'0') + u';' + kBosYer;
 }
 
 /// What a field shows, empty places of its mask included: the toolkit's own text leaves them out.
 QString Gorunen(const QLineEdit& kutu) {
     return kutu.inputMask().isEmpty() ? kutu.text() : kutu.displayText();
-}
-
-/// Of all signs that the toolkit counts as digits only 0 to 9 may come into a mask.
-bool MaskeyeUygun(char16_t harf) {
-    return !QChar(harf).isNumber() || (harf >= u'0' && harf <= u'9');
-}
-
-/// What a masked field takes of what it shows now; `eski` is what it showed before. What is refused leaves
-/// its place empty.
-QString MaskeyiSuz(const QString& eski, QString yeni) {
-    for (qsizetype i = 0; i < yeni.size(); ++i)
-        if (!MaskeyeUygun(yeni[i].unicode()) && (i >= eski.size() || yeni[i] != eski[i]))
-            yeni[i] = kBosYer;
-    return yeni;
 }
 
 /// How a field stood when it last took the text of its model. The field may be unable to show a text as it
@@ -106,15 +90,14 @@ void Baglayici::OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyi
 
 void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler) {
     kutu.setInputMask(QMaske(model.maske));
-    TuslariSuz(kutu, model.maske.empty() ? HarfIzni() : MaskeyeUygun);
+    TuslariSuz(kutu, model.maske.empty() ? nullptr : MaskeTusu);
     OdagiIzle(kutu, model, isler.odakGitti);
     const auto son = std::make_shared<SonHal>();
     connect(&kutu, &QLineEdit::textEdited, this, [this, &kutu, &model, isler, son] {
         Calistir([&] {
-            model.metin = MetinYap(
-                kutu.inputMask().isEmpty()
-                    ? GirdiyiSuz(son->metin, kutu.text(), {.izin = model.suzgec, .enUzun = model.enUzun})
-                    : MaskeyiSuz(son->gorunen, Gorunen(kutu)));
+            model.metin = kutu.inputMask().isEmpty()
+                              ? MetinYap(GirdiyiSuz(son->metin, kutu.text(), KutununKurali(model, false)))
+                              : MaskeyiSuz(model.maske, MetinYap(son->gorunen), MetinYap(Gorunen(kutu)));
             if (isler.degisti)
                 isler.degisti();
         });
@@ -138,8 +121,7 @@ void Baglayici::Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri
         if (kutu.toPlainText() == son->gorunen)
             return;
         Calistir([&] {
-            const GirdiKurali kural{.izin = model.suzgec, .enUzun = model.enUzun, .cokSatirli = true};
-            model.metin = MetinYap(GirdiyiSuz(son->metin, kutu.toPlainText(), kural));
+            model.metin = MetinYap(GirdiyiSuz(son->metin, kutu.toPlainText(), KutununKurali(model, true)));
             if (isler.degisti)
                 isler.degisti();
         });

@@ -20,7 +20,7 @@ TEST_F(BaslangicTest, Without_a_menu_the_second_reservation_gets_the_second_numb
         YeniKayit(
             [&] {
                 Doldur();
-                Kaydet();
+                KaydeteBas();
             },
             gun);
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"2\"\r\n");
@@ -44,7 +44,7 @@ TEST_F(BaslangicTest, Without_a_login_the_price_of_an_existing_record_is_open) {
     ProgramiHazirla(Prog());
     KayitAc([&] {
         EXPECT_FALSE(Kayit().Kay[8].kilitli);
-        Kapat();
+        KapataBas();
     });
 }
 

@@ -10,48 +10,42 @@ class BakiyeDetay : public BakiyeTest {
     void OdemeKoy(MetinBakis gun, const std::string& bayt) {
         agac.Koy(u"Salon A/2012/" + Metin(gun) + u"-Odeme", bayt);
     }
-    /// What the user does on the record that a row opens.
-    void KayittaYap(Is is) {
-        kullanici.ortam.modalda[EkranAdi::FormKayit] = [this, is = std::move(is)] {
-            ++acilan_;
-            is();
-        };
+    /// Opens the record of the marked row, which must be shown; `is` is what the user does on it.
+    void Detaylar(Is is) {
+        EkranBekle(EkranAdi::FormKayit, std::move(is));
+        VELORA_BAS(Prog().FormBakiye, Command6);
     }
-    void Kapansin() {
-        KayittaYap([this] { Kapat(); });
+    /// The same, and the record is closed at once.
+    void DetaylarVeKapat() {
+        Detaylar([this] { KapataBas(); });
     }
-    int acilan_ = 0; // how often the record was shown
 };
 
 TEST_F(BakiyeDetay, The_button_waits_for_a_click_on_a_row) {
     RezervasyonKoy(Metin(kGun));
-    Kapansin();
     YiliListele([&] {
         EXPECT_FALSE(Rapor().Command6.etkin);
         Rapor().Liste.secili = 0;
         Rapor().Liste_DblClick();
-        EXPECT_EQ(acilan_, 0);
         SatirSec(0);
         EXPECT_TRUE(Rapor().Command6.etkin);
+        EkranBekle(EkranAdi::FormKayit, [this] { KapataBas(); });
         Rapor().Liste_DblClick();
-        EXPECT_EQ(acilan_, 1);
     });
 }
 
 TEST_F(BakiyeDetay, A_row_opens_its_record_as_an_existing_one_on_its_own_day) {
     RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"});
-    KayittaYap([&] {
-        EXPECT_EQ(Kayit().KayitAc, 1);
-        EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
-        EXPECT_EQ(Kayit().Tag, Yol(kGun));
-        EXPECT_EQ(Kayit().Tarih, kGun);
-        EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
-        Kapat();
-    });
     YiliListele([&] {
         SatirSec(0);
-        Rapor().Command6_Click();
-        EXPECT_EQ(acilan_, 1);
+        Detaylar([&] {
+            EXPECT_EQ(Kayit().KayitAc, 1);
+            EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
+            EXPECT_EQ(Kayit().Tag, Yol(kGun));
+            EXPECT_EQ(Kayit().Tarih, kGun);
+            EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
+            KapataBas();
+        });
         EXPECT_FALSE(Prog().FormKayit.Yuklu()) << "nothing is set on it afterwards";
     });
 }
@@ -66,16 +60,14 @@ TEST_F(BakiyeDetay, Payments_shown_and_saved_are_those_of_the_rows_day_wherever_
     Prog();
     kullanici.Uzerine({21, 6, kGece});
     ASSERT_EQ(kullanici.Tablo().SeciliTarih, kOtekiGun);
-    KayittaYap([&] {
-        EXPECT_EQ(Kayit().Kay[9].metin, u"700");
-        OdemeAl(u"50");
-        Kaydet();
-    });
     YiliListele([&] {
         SatirSec(0);
-        Rapor().Command6_Click();
+        Detaylar([&] {
+            EXPECT_EQ(Kayit().Kay[9].metin, u"700");
+            OdemeAl(u"50");
+            KaydeteBas();
+        });
     });
-    EXPECT_EQ(acilan_, 1);
     EXPECT_EQ(OdemeBaytlari(kGun), gunun + "\"15.06.2012\",\"50\",\"7 - Ali Veli\"\r\n");
     EXPECT_EQ(OdemeBaytlari(kOtekiGun), otekinin);
 }
@@ -84,46 +76,41 @@ TEST_F(BakiyeDetay, The_table_goes_to_the_hall_of_the_report_before_the_record_o
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni({.ad = u"B Müşterisi"}));
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
     agac.Koy(u"Salon B/2012/05.02.2012 - Gece-Odeme", "\"01.02.2012\",\"9\",\"x\"\r\n");
-    KayittaYap([&] {
-        EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
-        EXPECT_FALSE(kullanici.Goz(5, 2, kGece).tag.empty()) << "and shows it";
-        EXPECT_EQ(Kayit().Kay[1].metin, u"B Müşterisi");
-        EXPECT_EQ(Kayit().Kay[9].metin, u"9");
-        Kapat();
-    });
     RaporAc([&] {
         Aralik(u"01.01.2012", u"31.12.2012");
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();
         SatirSec(0);
         EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon A");
-        Rapor().Command6_Click();
+        Detaylar([&] {
+            EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
+            EXPECT_FALSE(kullanici.Goz(5, 2, kGece).tag.empty()) << "and shows it";
+            EXPECT_EQ(Kayit().Kay[1].metin, u"B Müşterisi");
+            EXPECT_EQ(Kayit().Kay[9].metin, u"9");
+            KapataBas();
+        });
     });
-    EXPECT_EQ(acilan_, 1);
 }
 
 TEST_F(BakiyeDetay, A_hall_chosen_after_the_listing_is_the_one_the_table_goes_to_on_purpose) {
     RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"});
-    KayittaYap([&] {
-        EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
-        EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
-        Kapat();
-    });
     YiliListele([&] {
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         SatirSec(0);
-        Rapor().Command6_Click();
+        Detaylar([&] {
+            EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
+            EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
+            KapataBas();
+        });
     });
-    EXPECT_EQ(acilan_, 1);
 }
 
 TEST_F(BakiyeDetay, The_table_that_is_in_that_hall_already_is_not_scanned_again) {
     RezervasyonKoy(Metin(kGun));
-    Kapansin();
     YiliListele([&] {
         kullanici.Goz(1, 1, kGece).tag = u"untouched";
         SatirSec(0);
-        Rapor().Command6_Click();
+        DetaylarVeKapat();
         EXPECT_EQ(kullanici.Goz(1, 1, kGece).tag, u"untouched");
     });
 }
@@ -132,44 +119,39 @@ TEST_F(BakiyeDetay, The_record_that_was_clicked_opens_though_the_list_is_made_an
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni({.ad = u"B Müşterisi"}));
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
     Metin acilan;
-    KayittaYap([&] {
-        acilan = Kayit().Kay[1].metin;
-        Kapat();
-    });
     RaporAc([&] {
         Aralik(u"01.01.2012", u"31.12.2012");
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();
         SatirSec(0);
         kullanici.ortam.olayda = [&](int) {
             kullanici.ortam.olayda = nullptr;
             Rapor().Liste.satirlar.clear();
         };
-        Rapor().Command6_Click();
+        Detaylar([&] {
+            acilan = Kayit().Kay[1].metin;
+            KapataBas();
+        });
     });
     EXPECT_EQ(acilan, u"B Müşterisi");
 }
 
 TEST_F(BakiyeDetay, Without_a_marked_row_nothing_opens) {
     RezervasyonKoy(Metin(kGun));
-    Kapansin();
     YiliListele([&] {
         for (const int sira : {-1, 1}) {
             SatirSec(sira);
-            Rapor().Command6_Click();
+            VELORA_BAS(Prog().FormBakiye, Command6);
         }
-        EXPECT_EQ(acilan_, 0);
     });
 }
 
 TEST_F(BakiyeDetay, A_record_whose_details_are_gone_meanwhile_does_not_open_and_leaves_no_trace) {
     RezervasyonKoy(Metin(kGun));
-    Kapansin();
     YiliListele([&] {
         std::filesystem::remove(agac.Yol(u"Salon A/2012/" + Metin(kGun) + u"-Detay"));
         SatirSec(0);
-        Rapor().Command6_Click();
-        EXPECT_EQ(acilan_, 0);
+        VELORA_BAS(Prog().FormBakiye, Command6);
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
 }
@@ -177,10 +159,9 @@ TEST_F(BakiyeDetay, A_record_whose_details_are_gone_meanwhile_does_not_open_and_
 // The row stays marked, but it has to be clicked again.
 TEST_F(BakiyeDetay, When_the_record_has_closed_the_button_is_off_though_a_row_is_marked_on_purpose) {
     RezervasyonKoy(Metin(kGun));
-    Kapansin();
     YiliListele([&] {
         SatirSec(0);
-        Rapor().Command6_Click();
+        DetaylarVeKapat();
         EXPECT_EQ(Rapor().Liste.secili, 0);
         EXPECT_FALSE(Rapor().Command6.etkin);
         EXPECT_EQ(Rapor().Liste.satirlar.size(), 1U);

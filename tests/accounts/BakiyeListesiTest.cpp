@@ -65,16 +65,16 @@ TEST_F(BakiyeListesi, Each_type_lists_its_own_and_a_record_in_neither_state_is_a
     DurumluKoy(u"04.06.2012 - Gece", u"1", u"1");
     YiliListele([&] {
         EXPECT_EQ(Sutun(5), (Adlar{u"Kesin", u"Ön", u"Kesin", u"Ön"}));
-        SayacBekle(u": 2", u": 2", u": 4");
+        SayacOlmali(u": 2", u": 2", u": 4");
         TipSec(1);
         Rapor().ListeleGun();
         EXPECT_EQ(Gunler(), (Adlar{u"02.06.2012 - Gece", u"04.06.2012 - Gece"}));
-        SayacBekle(u": 0", u": 2", u": 2");
+        SayacOlmali(u": 0", u": 2", u": 2");
         TipSec(2);
         Rapor().ListeleGun();
         EXPECT_EQ(Gunler(), (Adlar{u"01.06.2012 - Gece", u"04.06.2012 - Gece"}));
         EXPECT_EQ(Sutun(5), (Adlar{u"Kesin", u"Ön"})) << "in both states it reads as a preliminary one";
-        SayacBekle(u": 1", u": 1", u": 2");
+        SayacOlmali(u": 1", u": 1", u": 2");
     });
 }
 
@@ -83,7 +83,7 @@ TEST_F(BakiyeListesi, The_hall_and_year_are_those_of_the_report_and_the_table) {
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni());
     agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
     YiliListele([&] {
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();
         EXPECT_EQ(Gunler(), Adlar{u"05.02.2012 - Gece"});
         EXPECT_EQ(Sutun(6), Adlar{u"Salon B"});
@@ -96,10 +96,10 @@ TEST_F(BakiyeListesi, A_hall_without_a_folder_for_the_year_has_nothing) {
     kullanici.YilSec(u"2013");
     ASSERT_FALSE(agac.KlasorVar(u"Salon B/2013"));
     RaporAc([&] {
-        Rapor().Combo2.Sec(u"Salon B");
+        ListedenSec(Rapor().Combo2, u"Salon B");
         BosKutuBekle();
         Rapor().ListeleGun();
-        GenelBekle(u": 0 TL", u": 0 TL", u": 0 TL");
+        GenelOlmali(u": 0 TL", u": 0 TL", u": 0 TL");
     });
 }
 
@@ -141,7 +141,7 @@ TEST_F(BakiyeListesi, Files_that_are_too_short_keep_the_values_of_the_one_before
 class BakiyeDurmasi : public BakiyeTest {
   protected:
     /// Lists, then puts `ad` into the folder between two more reservations and lists again.
-    void DurmaBekle(const Is& koy) {
+    void DurmayiDene(const Is& koy) {
         RezervasyonKoy(u"10.06.2012 - Gece");
         YiliListele([&] {
             RezervasyonKoy(u"09.06.2012 - Gece");
@@ -150,31 +150,31 @@ class BakiyeDurmasi : public BakiyeTest {
             SatirSec(0);
             Rapor().ListeleGun(); // no box comes
             EXPECT_EQ(Gunler(), (Adlar{u"09.06.2012 - Gece", u"10.06.2012 - Gece"}));
-            GenelBekle(u": 5.000 TL", u": 1.000 TL", u": 4.000 TL");
-            SayacBekle(u": 1", u": 0", u": 1");
+            GenelOlmali(u": 5.000 TL", u": 1.000 TL", u": 4.000 TL");
+            SayacOlmali(u": 1", u": 0", u": 1");
             EXPECT_FALSE(Rapor().Command6.etkin);
         });
     }
 };
 
 TEST_F(BakiyeDurmasi, A_name_that_is_no_date_ends_the_scan_and_the_labels_keep_the_last_totals_on_purpose) {
-    DurmaBekle([&] { agac.Koy(u"Salon A/2012/20.yedek", "x"); });
+    DurmayiDene([&] { agac.Koy(u"Salon A/2012/20.yedek", "x"); });
 }
 
 TEST_F(BakiyeDurmasi, A_day_that_the_calendar_does_not_have_ends_the_scan_on_purpose) {
-    DurmaBekle([&] { agac.Koy(u"Salon A/2012/29.02.2013 - Gece", "x"); });
+    DurmayiDene([&] { agac.Koy(u"Salon A/2012/29.02.2013 - Gece", "x"); });
 }
 
 TEST_F(BakiyeDurmasi, A_date_by_its_places_but_without_its_dots_ends_the_scan_on_purpose) {
-    DurmaBekle([&] { agac.Koy(u"Salon A/2012/20.06x2012 - Gece", "x"); });
+    DurmayiDene([&] { agac.Koy(u"Salon A/2012/20.06x2012 - Gece", "x"); });
 }
 
 TEST_F(BakiyeDurmasi, Missing_details_end_the_scan_on_purpose) {
-    DurmaBekle([&] { agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece", AnaMetni()); });
+    DurmayiDene([&] { agac.KoyMetin(u"Salon A/2012/20.06.2012 - Gece", AnaMetni()); });
 }
 
 TEST_F(BakiyeDurmasi, A_main_file_that_can_not_be_opened_ends_the_scan_on_purpose) {
-    DurmaBekle([&] {
+    DurmayiDene([&] {
         RezervasyonKoy(u"20.06.2012 - Gece");
         Prog().dosyalar.ariza = [](DosyaIsi is, const Metin& yol) {
             return is == DosyaIsi::Oku && yol.ends_with(u"20.06.2012 - Gece");
@@ -188,7 +188,7 @@ TEST_F(BakiyeDurmasi, Missing_details_outside_the_range_cost_nothing) {
     RaporAc([&] {
         Rapor().ListeleGun();
         EXPECT_EQ(Gunler(), Adlar{u"20.06.2012 - Gece"});
-        SayacBekle(u": 1", u": 0", u": 1");
+        SayacOlmali(u": 1", u": 0", u": 1");
     });
 }
 

@@ -21,8 +21,8 @@ TEST_F(BakiyeToplami, Nothing_in_the_range_shows_zeros_and_a_box) {
         BosKutuBekle();
         Rapor().ListeleGun();
         EXPECT_EQ(TurToplamlari(), kBosTurler);
-        GenelBekle(u": 0 TL", u": 0 TL", u": 0 TL");
-        SayacBekle(u": 0", u": 0", u": 0");
+        GenelOlmali(u": 0 TL", u": 0 TL", u": 0 TL");
+        SayacOlmali(u": 0", u": 0", u": 0");
     });
 }
 
@@ -51,7 +51,7 @@ TEST_F(BakiyeToplami, A_kind_in_other_letters_or_with_blanks_counts_as_another_o
 TEST_F(BakiyeToplami, Price_taken_and_left_are_added_up_from_the_stored_texts) {
     Koy(u"Düğün", u"5000", u"1500", u"3500");
     Koy(u"Nişan", u"2000", u"3000", u"-1000");
-    YiliListele([&] { GenelBekle(u": 7.000 TL", u": 4.500 TL", u": 2.500 TL"); });
+    YiliListele([&] { GenelOlmali(u": 7.000 TL", u": 4.500 TL", u": 2.500 TL"); });
 }
 
 TEST_F(BakiyeToplami, What_is_left_may_be_below_zero) {
@@ -95,8 +95,8 @@ TEST_F(BakiyeToplami, A_report_of_preliminary_ones_counts_no_firm_one) {
     YiliListele([&] {
         TipSec(1);
         Rapor().ListeleGun();
-        SayacBekle(u": 0", u": 1", u": 1");
-        GenelBekle(u": 5.000 TL", u": 1.000 TL", u": 4.000 TL");
+        SayacOlmali(u": 0", u": 1", u": 1");
+        GenelOlmali(u": 5.000 TL", u": 1.000 TL", u": 4.000 TL");
     });
 }
 

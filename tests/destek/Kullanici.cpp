@@ -3,8 +3,10 @@
 #include <array>
 
 #include "access/Splash.h"
+#include "destek/Eylemler.h"
 #include "maintenance/FormResmiTatil.h"
 #include "setup/FormAyarlar.h"
+#include "storage/KodSayfasi.h"
 #include "table/Yerlesim.h"
 
 namespace velora::test {
@@ -27,11 +29,18 @@ FormTablo& Kullanici::Tablo() {
     return *program_->FormTablo.Tut();
 }
 
+void Kullanici::KomutSec(Komut komut) {
+    const KomutTanimi& tanim = Komutlar()[static_cast<std::size_t>(komut)];
+    const auto tablo = program_->FormTablo.Tut();
+    if (Basilabilir(tablo->Girdi(komut), KodYaz(tanim.ad)))
+        (*tablo.*tanim.isle)();
+}
+
 void Kullanici::SalonSec(MetinBakis salon) {
-    Tablo().Salon.Sec(salon);
+    ListedenSec(Tablo().Salon, salon);
 }
 void Kullanici::YilSec(MetinBakis yil) {
-    Tablo().Sene.Sec(yil);
+    ListedenSec(Tablo().Sene, yil);
 }
 void Kullanici::GunBasligina(int gun) {
     Tablo().ALabel_Click(gun);
@@ -75,7 +84,7 @@ void Kullanici::Boyutla(int genislik, int yukseklik) {
     Tablo().Resize(TabloIcGenisligi(genislik * kTwipPikseli), TabloIcYuksekligi(yukseklik * kTwipPikseli));
 }
 
-void Kullanici::Bekle(int milisaniye) {
+void Kullanici::ZamanGecir(int milisaniye) {
     constexpr int kAdim = 100;
     FormTablo& tablo = Tablo();
     const std::array<Zamanlayici*, 5> hepsi{&tablo.CetvelTimer, &tablo.GunTimer, &tablo.OzelHatirlatTimer,

@@ -27,6 +27,8 @@ class Kullanici {
     /// Ends it and throws away all that was in memory.
     void ProgramiKapat();
 
+    /// Picks an entry, which must be on, from the menu bar or from the menu of a cell.
+    void KomutSec(Komut komut);
     void SalonSec(MetinBakis salon);
     void YilSec(MetinBakis yil);
     void GunBasligina(int gun);
@@ -45,7 +47,7 @@ class Kullanici {
     /// The window takes another size, in logical pixels.
     void Boyutla(int genislik, int yukseklik);
     /// Time goes by: each timer ticks as often as it is due in so many milliseconds.
-    void Bekle(int milisaniye);
+    void ZamanGecir(int milisaniye);
 
     FormTablo& Tablo();
     Hucre& Goz(int gun, int ay, velora::GunduzGece dilim) { return Tablo().Gozu(ay, dilim, gun); }

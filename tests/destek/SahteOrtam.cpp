@@ -1,14 +1,43 @@
 #include "destek/SahteOrtam.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <gtest/gtest.h>
 
+#include "storage/KodSayfasi.h"
+#include "storage/dosya/Utf8.h"
+
 namespace velora::test {
+
+namespace {
+
+std::string Tirnakli(MetinBakis metin) {
+    std::string bayt = "\"";
+    if (!Utf8Ekle(metin, bayt))
+        return ::testing::PrintToString(Metin(metin));
+    return bayt + '"';
+}
+
+// What was expected, and what came, in the words of a failure.
+std::string Tarif(const BeklenenKutu& kutu) {
+    return "the box " + Tirnakli(kutu.metin);
+}
+std::string Tarif(const BeklenenGirdi& girdi) {
+    return "the input box " + Tirnakli(girdi.metin);
+}
+std::string Tarif(const BeklenenEkran& ekran) {
+    return "the screen " + KodYaz(EkranBul(ekran.ad).ad);
+}
+
+} // namespace
 
 SahteOrtam::SahteOrtam(Gun bugun) : simdi(std::chrono::local_days(bugun) + std::chrono::hours(10)) {}
 
 SahteOrtam::~SahteOrtam() {
-    EXPECT_TRUE(kutular_.empty()) << "an expected message box never came";
-    EXPECT_TRUE(girdiler_.empty()) << "an expected input box never came";
+    for (const Beklenen& beklenen : beklenenler_)
+        ADD_FAILURE() << std::visit([](const auto& biri) { return Tarif(biri); }, beklenen)
+                      << " was expected and never came";
 }
 
 Ortam SahteOrtam::Ver() {
@@ -22,10 +51,7 @@ Ortam SahteOrtam::Ver() {
         gorununce();
     };
     ortam.goster.modal = [this](EkranAdi ad, const std::function<void()>& gorununce) {
-        acilanlar.push_back(ad);
-        gorununce();
-        if (const auto senaryo = modalda.find(ad); senaryo != modalda.end())
-            senaryo->second();
+        ModalGoster(ad, gorununce);
     };
     ortam.goster.gizle = [this](EkranAdi ad) { gizlenenler.push_back(ad); };
     ortam.zaman.simdi = [this] { return simdi; };
@@ -41,33 +67,62 @@ Ortam SahteOrtam::Ver() {
     return ortam;
 }
 
-Cevap SahteOrtam::MesajSor(const MesajKutusu& kutu) {
-    const Cevap yedek = kutu.dugmeler == KutuDugmeleri::EvetHayir ? Cevap::Hayir : Cevap::Tamam;
-    if (kutular_.empty()) {
-        ADD_FAILURE() << "unexpected box: " << ::testing::PrintToString(kutu.metin);
-        return yedek;
+void SahteOrtam::SirayaKoy(Beklenen beklenen) {
+    beklenenler_.insert(beklenenler_.end() - static_cast<std::ptrdiff_t>(disaridakiler_),
+                        std::move(beklenen));
+}
+
+template <class Tur>
+std::optional<Tur> SahteOrtam::SiradanAl(const std::string& gelen) {
+    if (beklenenler_.empty()) {
+        ADD_FAILURE() << "nothing was expected, but " << gelen << " came";
+        return std::nullopt;
     }
-    const BeklenenKutu beklenen = kutular_.front();
-    kutular_.pop_front();
-    EXPECT_EQ(kutu.metin, beklenen.metin);
-    EXPECT_EQ(kutu.baslik, beklenen.baslik);
-    EXPECT_EQ(kutu.simge, beklenen.simge);
-    EXPECT_EQ(kutu.dugmeler == KutuDugmeleri::Tamam, beklenen.cevap == Cevap::Tamam)
+    const Beklenen beklenen = std::move(beklenenler_.front());
+    beklenenler_.pop_front();
+    disaridakiler_ = std::min(disaridakiler_, beklenenler_.size());
+    if (const Tur* uygun = std::get_if<Tur>(&beklenen))
+        return *uygun;
+    ADD_FAILURE() << std::visit([](const auto& biri) { return Tarif(biri); }, beklenen)
+                  << " was expected, but " << gelen << " came";
+    return std::nullopt;
+}
+
+Cevap SahteOrtam::MesajSor(const MesajKutusu& kutu) {
+    const auto beklenen = SiradanAl<BeklenenKutu>("the box " + Tirnakli(kutu.metin));
+    if (!beklenen)
+        return kutu.dugmeler == KutuDugmeleri::EvetHayir ? Cevap::Hayir : Cevap::Tamam;
+    EXPECT_EQ(kutu.metin, beklenen->metin);
+    EXPECT_EQ(kutu.baslik, beklenen->baslik);
+    EXPECT_EQ(kutu.simge, beklenen->simge);
+    EXPECT_EQ(kutu.dugmeler == KutuDugmeleri::Tamam, beklenen->cevap == Cevap::Tamam)
         << "the box has other buttons than the answer needs";
-    return beklenen.cevap;
+    return beklenen->cevap;
 }
 
 Metin SahteOrtam::GirdiSor(const GirdiKutusu& kutu) {
-    if (girdiler_.empty()) {
-        ADD_FAILURE() << "unexpected input box: " << ::testing::PrintToString(kutu.metin);
-        // A blank, no empty text: an asker that takes no empty answer must not ask for ever.
+    const auto beklenen = SiradanAl<BeklenenGirdi>("the input box " + Tirnakli(kutu.metin));
+    // A blank, no empty text: an asker that takes no empty answer must not ask for ever.
+    if (!beklenen)
         return u" ";
-    }
-    const BeklenenGirdi beklenen = girdiler_.front();
-    girdiler_.pop_front();
-    EXPECT_EQ(kutu.metin, beklenen.metin);
-    EXPECT_EQ(kutu.baslik, beklenen.baslik);
-    return beklenen.cevap;
+    EXPECT_EQ(kutu.metin, beklenen->metin);
+    EXPECT_EQ(kutu.baslik, beklenen->baslik);
+    EXPECT_EQ(kutu.baslangic, beklenen->baslangic) << "the text that the box offers";
+    return beklenen->cevap;
+}
+
+void SahteOrtam::ModalGoster(EkranAdi ad, const std::function<void()>& gorununce) {
+    acilanlar.push_back(ad);
+    const std::string gelen = Tarif(BeklenenEkran{.ad = ad});
+    const auto beklenen = SiradanAl<BeklenenEkran>(gelen);
+    if (beklenen && beklenen->ad != ad)
+        ADD_FAILURE() << Tarif(*beklenen) << " was expected, but " << gelen << " came";
+    gorununce();
+    if (!beklenen || beklenen->ad != ad || !beklenen->is)
+        return;
+    const std::size_t once = std::exchange(disaridakiler_, beklenenler_.size());
+    beklenen->is();
+    disaridakiler_ = std::min(once, beklenenler_.size());
 }
 
 } // namespace velora::test

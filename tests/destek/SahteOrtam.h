@@ -3,7 +3,9 @@
 #include <chrono>
 #include <deque>
 #include <functional>
-#include <map>
+#include <optional>
+#include <string>
+#include <variant>
 #include <vector>
 
 #include "screen/Ortam.h"
@@ -23,10 +25,21 @@ struct BeklenenGirdi {
     Metin baslik;
     Metin metin;
     Metin cevap;
+    Metin baslangic = {}; ///< the text that the box offers
 };
 
-/// The outside world of a test. Boxes are a script: each one that comes must be the next expected one, letter
-/// by letter; an unexpected, a differently worded and an unread one fail the test. Must outlive its program.
+/// A screen that the program is expected to show next over the others, and what the user does on it. With
+/// nothing to do it closes at once.
+struct BeklenenEkran {
+    EkranAdi ad;
+    std::function<void()> is = {};
+};
+
+/// The outside world of a test. All that the program asks and shows over its screens is one script, in its
+/// order across kinds: whatever comes must be the next expected one, letter by letter; an unexpected, a
+/// different and an unread one fail the test. Must outlive its program.
+///
+/// What is done on an expected screen may expect more: that comes next, before what was expected until then.
 class SahteOrtam {
   public:
     explicit SahteOrtam(Gun bugun);
@@ -37,11 +50,10 @@ class SahteOrtam {
     /// The functions for the program.
     Ortam Ver();
 
-    void Bekle(BeklenenKutu kutu) { kutular_.push_back(std::move(kutu)); }
-    void Bekle(BeklenenGirdi girdi) { girdiler_.push_back(std::move(girdi)); }
+    void Bekle(BeklenenKutu kutu) { SirayaKoy(std::move(kutu)); }
+    void Bekle(BeklenenGirdi girdi) { SirayaKoy(std::move(girdi)); }
+    void Bekle(BeklenenEkran ekran) { SirayaKoy(std::move(ekran)); }
 
-    /// What happens while a screen is shown modally. Without one it closes at once.
-    std::map<EkranAdi, std::function<void()>> modalda;
     /// Runs when a screen is shown beside the others.
     std::function<void(EkranAdi)> acilinca;
     /// Runs where the program lets pending events run; `sira` counts those points from 1.
@@ -49,18 +61,25 @@ class SahteOrtam {
 
     std::chrono::local_seconds simdi;
     int olaySayisi = 0;
-    bool bitti = false; ///< the program was told to end
-    std::vector<EkranAdi> acilanlar;
+    bool bitti = false;              ///< the program was told to end
+    std::vector<EkranAdi> acilanlar; ///< shown, beside the others or over them
     std::vector<EkranAdi> gizlenenler;
     std::vector<std::filesystem::path> acilanDosyalar; ///< given to the user's own programs
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
 
   private:
+    using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran>;
+
+    void SirayaKoy(Beklenen beklenen);
+    /// Takes the next expected one. None when nothing was expected, or another kind: that fails the test.
+    template <class Tur>
+    std::optional<Tur> SiradanAl(const std::string& gelen);
     Cevap MesajSor(const MesajKutusu& kutu);
     Metin GirdiSor(const GirdiKutusu& kutu);
+    void ModalGoster(EkranAdi ad, const std::function<void()>& gorununce);
 
-    std::deque<BeklenenKutu> kutular_;
-    std::deque<BeklenenGirdi> girdiler_;
+    std::deque<Beklenen> beklenenler_;
+    std::size_t disaridakiler_ = 0; ///< expected before the work of the shown screen began, and still to come
 };
 
 } // namespace velora::test

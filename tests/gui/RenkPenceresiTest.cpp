@@ -21,14 +21,14 @@ QColor CizelgeRengi(const QWidget& pencere, QPoint yer) {
     return Parcasi<QWidget>(pencere, "Picture1").grab().toImage().pixelColor(yer);
 }
 
-QString AlanMetni(const QWidget& pencere, const char* ad) {
+QString RenkAlani(const QWidget& pencere, const char* ad) {
     return Parcasi<QLineEdit>(pencere, ad).text();
 }
 
 /// The colour that the component fields say.
 QColor Yazan(const QWidget& pencere) {
-    return {AlanMetni(pencere, "txtRed").toInt(), AlanMetni(pencere, "txtGreen").toInt(),
-            AlanMetni(pencere, "txtBlue").toInt()};
+    return {RenkAlani(pencere, "txtRed").toInt(), RenkAlani(pencere, "txtGreen").toInt(),
+            RenkAlani(pencere, "txtBlue").toInt()};
 }
 
 QColor Ornek(const QWidget& pencere) {
@@ -64,7 +64,7 @@ class RenkPenceresiTest : public QObject {
             QCOMPARE(pencere.windowTitle(), QStringLiteral("Renk Seçiniz"));
             QCOMPARE(Ornek(pencere), QColor(241, 223, 92));
             for (const char* ad : {"txtRed", "txtGreen", "txtBlue", "txtWeb", "txtHex", "txtTers"})
-                QCOMPARE(AlanMetni(pencere, ad), QStringLiteral("0"));
+                QCOMPARE(RenkAlani(pencere, ad), QStringLiteral("0"));
         });
     }
 
@@ -97,10 +97,10 @@ class RenkPenceresiTest : public QObject {
             const QColor renk = CizelgeRengi(pencere, yer);
             QVERIFY(renk.red() > 0 && renk.green() > renk.red() && renk.blue() == 0);
             QTest::mouseClick(&cizelge, Qt::LeftButton, {}, yer);
-            QCOMPARE(AlanMetni(pencere, "txtWeb"), renk.name().toUpper());
+            QCOMPARE(RenkAlani(pencere, "txtWeb"), renk.name().toUpper());
             // Blue leads and is nought here: the plain form has no digits for it.
             const int deger = renk.green() * 256 + renk.red();
-            QCOMPARE(AlanMetni(pencere, "txtHex"), QString::number(deger, 16).toUpper());
+            QCOMPARE(RenkAlani(pencere, "txtHex"), QString::number(deger, 16).toUpper());
         });
     }
 
@@ -117,9 +117,9 @@ class RenkPenceresiTest : public QObject {
                 QVERIFY(Yazan(pencere) != QColor(Qt::black));
                 QTest::mouseMove(&cizelge, yer);
                 QCOMPARE(Yazan(pencere), QColor(Qt::black));
-                QCOMPARE(AlanMetni(pencere, "txtWeb"), QStringLiteral("#000000"));
-                QCOMPARE(AlanMetni(pencere, "txtHex"), QStringLiteral("0"));
-                QCOMPARE(AlanMetni(pencere, "txtTers"), QStringLiteral("&H000000&"));
+                QCOMPARE(RenkAlani(pencere, "txtWeb"), QStringLiteral("#000000"));
+                QCOMPARE(RenkAlani(pencere, "txtHex"), QStringLiteral("0"));
+                QCOMPARE(RenkAlani(pencere, "txtTers"), QStringLiteral("&H000000&"));
             }
             QTest::mouseRelease(&cizelge, Qt::LeftButton, {}, {-3, 90});
         });

@@ -1,6 +1,7 @@
 // An evening over the settings: colours are tried out, dropped, tried again and kept.
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "setup/FormAyarlar.h"
@@ -24,18 +25,18 @@ class Ayarlama : public ::testing::Test {
     FormAyarlar& Ayarlar() { return *kullanici.Prog().FormAyarlar.Tut(); }
     /// Opens the settings; `is` is done on them while they stand.
     void AyarlarAcikken(std::function<void()> is) {
-        kullanici.ortam.modalda[EkranAdi::FormAyarlar] = std::move(is);
-        kullanici.Prog().FormAyarlar.GosterModal();
+        kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormAyarlar, std::move(is)});
+        kullanici.KomutSec(Komut::Progrset);
     }
     /// Clicks a colour box, drags over the chart to this colour and presses "Tamam".
     void RenkSec(int no, RenkDegeri renk) {
-        kullanici.ortam.modalda[EkranAdi::FormRenk] = [this, renk] {
-            const auto secici = kullanici.Prog().FormRenk.Tut();
-            secici->Picture1_MouseDown(0x123456);
-            secici->Picture1_MouseMove(renk);
-            secici->Picture1_MouseUp();
-            secici->Command1_Click();
-        };
+        kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, [this, renk] {
+                                                const auto secici = kullanici.Prog().FormRenk.Tut();
+                                                secici->Picture1_MouseDown(0x123456);
+                                                secici->Picture1_MouseMove(renk);
+                                                secici->Picture1_MouseUp();
+                                                VELORA_BAS(kullanici.Prog().FormRenk, Command1);
+                                            }});
         Ayarlar().Renk_Click(no);
     }
     void SiraMesajiBekle() {
@@ -51,13 +52,13 @@ TEST_F(Ayarlama, Tried_and_dropped_settings_leave_no_trace_but_the_paint_of_the_
     const std::string once = agac.Resim();
     AyarlarAcikken([this] {
         RenkSec(12, 0x332211);
-        Ayarlar().Check3.Ata(0);
-        Ayarlar().Aylar[6].Ata(1);
+        Tikla(Ayarlar().Check3);
+        Tikla(Ayarlar().Aylar[6]);
         EXPECT_EQ(kullanici.Goz(20, 6, kGece).zemin, 192) << "picked, not yet applied";
-        Ayarlar().Command4_Click();
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command4);
         EXPECT_EQ(kullanici.Goz(20, 6, kGece).zemin, 0x332211);
         EXPECT_FALSE(kullanici.Goz(1, 7, kGece).gorunur);
-        Ayarlar().Command2_Click();
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command2);
     });
     EXPECT_EQ(kullanici.Goz(20, 6, kGece).zemin, 0x332211);
     EXPECT_FALSE(kullanici.Goz(1, 7, kGece).gorunur);
@@ -71,12 +72,12 @@ TEST_F(Ayarlama, Saved_settings_come_back_at_the_next_start_with_the_new_slot_or
     const double ilkUst = kullanici.Tablo().satirlar[Satir(6, kGunduz)].ust;
     AyarlarAcikken([this] {
         RenkSec(2, 0x00FF7F);
-        Ayarlar().UyariGun.metin = u"3";
-        Ayarlar().Check1.Ata(1);
-        Ayarlar().Aylar[2].Ata(0);
+        AlanaYaz(Ayarlar().UyariGun, u"x3");
+        Tikla(Ayarlar().Check1);
+        Tikla(Ayarlar().Aylar[2]);
         SiraMesajiBekle();
-        Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
-        Ayarlar().Command1_Click();
+        ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     });
     EXPECT_FALSE(kullanici.Prog().FormRenk.Yuklu());
     EXPECT_EQ(
@@ -100,15 +101,15 @@ TEST_F(Ayarlama, Saved_settings_come_back_at_the_next_start_with_the_new_slot_or
 TEST_F(Ayarlama, Defaults_are_saved_over_own_settings) {
     AyarlarAcikken([this] {
         RenkSec(0, 1);
-        Ayarlar().Command1_Click();
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     });
     ASSERT_EQ(agac.Bayt(u"Settings.dll").substr(0, 2), "1,");
     AyarlarAcikken([this] {
         EXPECT_EQ(Ayarlar().Renk(0), 1);
         SiraMesajiBekle(); // of the defaults
         SiraMesajiBekle(); // of the save, which applies once more
-        Ayarlar().Command3_Click();
-        Ayarlar().Command1_Click();
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command3);
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     });
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), KodYaz(AyarMetni()));
     EXPECT_EQ(kullanici.Tablo().AyZemin[1].zemin, 32768);

@@ -1,6 +1,7 @@
 // Days at the table: a reservation is moved to another month and slot and back, and one is cancelled.
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "reservation/FormKayit.h"
@@ -28,7 +29,7 @@ class TabloGunu : public ::testing::Test {
     }
     void Tasi(const TabloGozu& kaynak, const TabloGozu& hedef) {
         ASSERT_TRUE(kullanici.SagTikla(kaynak));
-        kullanici.Tablo().TasimaModuAc_Click();
+        kullanici.KomutSec(Komut::TasimaModuAc);
         kullanici.ortam.Bekle(BeklenenKutu{u"Velora",
                                            u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?",
                                            Simge::Soru, Cevap::Evet});
@@ -36,7 +37,7 @@ class TabloGunu : public ::testing::Test {
         EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 0);
     }
     /// The three files of `ad`, by the bytes that the first day's record has.
-    void UcDosyaBekle(const Metin& ad) {
+    void UcDosyaOlmali(const Metin& ad) {
         EXPECT_EQ(
             agac.Bayt(u"Şişli/2012/" + ad),
             "\"\xDE\xFCkran \xD6z\",\"Bolu\",\"Ay\xFE"
@@ -58,22 +59,19 @@ class TabloGunu : public ::testing::Test {
 TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_byte_differs) {
     const std::string once = agac.Resim();
     Tasi({20, 6, kGunduz}, {3, 11, kGece});
-    UcDosyaBekle(u"03.11.2012 - Gece");
+    UcDosyaOlmali(u"03.11.2012 - Gece");
     UcDosyaYok(u"20.06.2012 - Gündüz");
     const auto renk = [&](int n) { return kullanici.Prog().FormAyarlar->Renk(n); };
     EXPECT_EQ(kullanici.Goz(3, 11, kGece).zemin, renk(12));
     EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).zemin, renk(2));
 
-    Metin baslik;
-    Metin no;
-    kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
-        baslik = kullanici.Prog().FormKayit->Tarih;
-        no = kullanici.Prog().FormKayit->Kay[14].metin;
-        kullanici.Prog().FormKayit->Command2_Click();
-    };
+    kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormKayit, [&] {
+                                            const auto kayit = kullanici.Prog().FormKayit.Tut();
+                                            EXPECT_EQ(kayit->Tarih, u"03.11.2012 - Gece");
+                                            EXPECT_EQ(kayit->Kay[14].metin, u"17");
+                                            VELORA_BAS(kullanici.Prog().FormKayit, Command2);
+                                        }});
     kullanici.CiftTikla({3, 11, kGece});
-    EXPECT_EQ(baslik, u"03.11.2012 - Gece");
-    EXPECT_EQ(no, u"17");
 
     Tasi({3, 11, kGece}, {20, 6, kGunduz});
     kullanici.ProgramiKapat();
@@ -82,16 +80,15 @@ TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_
 
 TEST_F(TabloGunu, A_cancellation_with_an_empty_reason_frees_the_day_and_logs_one_line) {
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
-    ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).etkin);
     kullanici.ortam.Bekle(BeklenenKutu{u"Velora", u"Seçili kaydı silmek istediğinizden emin misiniz?",
                                        Simge::Soru, Cevap::Evet});
     kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u""});
-    kullanici.Tablo().iptals_Click();
+    kullanici.KomutSec(Komut::iptals);
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
     EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
     kullanici.ProgramiKapat();
     UcDosyaYok(u"21.06.2012 - Gece");
-    UcDosyaBekle(u"20.06.2012 - Gündüz");
+    UcDosyaOlmali(u"20.06.2012 - Gündüz");
     EXPECT_EQ(agac.Bayt(u"IptalSebep.txt"),
               "21.06.2012 - Gece - \xDEi\xFEli - Ali - 0212 - 0532 - admin - \r\n");
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"17\"\r\n");

@@ -1,4 +1,5 @@
 // The first day of a new firm, from the empty folder to a changed reservation.
+#include "destek/Eylemler.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "setup/FormMenuAyar.h"
@@ -15,7 +16,7 @@ class IlkGun : public ::testing::Test {
 
     Program& Prog() { return kullanici.Prog(); }
     FormKayit& Kayit() { return *Prog().FormKayit.Tut(); }
-    void EkrandaYap(EkranAdi ekran, Is is) { kullanici.ortam.modalda[ekran] = std::move(is); }
+    void EkrandaYap(EkranAdi ekran, Is is) { kullanici.ortam.Bekle(BeklenenEkran{ekran, std::move(is)}); }
 
     void SalonuTanimla() {
         kullanici.ortam.Bekle(BeklenenKutu{
@@ -24,52 +25,51 @@ class IlkGun : public ::testing::Test {
         EkrandaYap(EkranAdi::FormSalonTanim, [this] {
             kullanici.ortam.Bekle(
                 BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", u"gül SALONU"});
-            Prog().FormSalonTanim->Command1_Click();
-            Prog().FormSalonTanim->Command3_Click();
+            VELORA_BAS(Prog().FormSalonTanim, Command1);
+            VELORA_BAS(Prog().FormSalonTanim, Command3);
         });
         IlkSalonuSor(Prog());
     }
     void MenuyuTanimla() {
-        EkrandaYap(EkranAdi::FormMenuEkle, [this] {
-            const auto ekle = Prog().FormMenuEkle.Tut();
-            ekle->Text1.metin = u"klasik";
-            ekle->Text1_Change();
-            ekle->Text2.metin = u"çorba, et sote";
-            ekle->Command4_Click();
-        });
         EkrandaYap(EkranAdi::FormMenuAyar, [this] {
-            Prog().FormMenuAyar->Command1_Click();
-            Prog().FormMenuAyar->Command3_Click();
+            EkrandaYap(EkranAdi::FormMenuEkle, [this] {
+                const auto ekle = Prog().FormMenuEkle.Tut();
+                AlanaYaz(ekle->Text1, u"klasik", {.degisti = [&] { ekle->Text1_Change(); }});
+                SatirlaraYaz(ekle->Text2, u"çorba, et sote");
+                VELORA_BAS(Prog().FormMenuEkle, Command4);
+            });
+            VELORA_BAS(Prog().FormMenuAyar, Command1);
+            VELORA_BAS(Prog().FormMenuAyar, Command3);
         });
-        kullanici.Tablo().MenuAyars_Click();
+        kullanici.KomutSec(Komut::MenuAyars);
     }
     void OdemeAl(const Metin& tutar) {
         EkrandaYap(EkranAdi::FormOdemeAl, [this, tutar] {
-            Prog().FormOdemeAl->Text1.metin = tutar;
-            Prog().FormOdemeAl->Text1_Change();
-            Prog().FormOdemeAl->Command1_Click();
+            const auto odeme = Prog().FormOdemeAl.Tut();
+            AlanaYaz(odeme->Text1, tutar, {.degisti = [&] { odeme->Text1_Change(); }});
+            VELORA_BAS(Prog().FormOdemeAl, Command1);
         });
-        Kayit().Command8_Click();
+        VELORA_BAS(Prog().FormKayit, Command8);
     }
     void RezervasyonuGir() {
         EkrandaYap(EkranAdi::FormKayit, [this] {
             EXPECT_EQ(Kayit().Tarih, u"20.06.2012 - Gece");
-            Kayit().Kay[1].metin = u"ali veli";
-            Kayit().Kay[4].metin = u"Düğün";
-            Kayit().Kay[8].metin = u"5000";
-            Kayit().Kay8_LostFocus();
-            Kayit().Kay[15].metin = u"23:30";
-            Kayit().Combo1.Sec(u"Klasik");
-            Kayit().Check[5].Ata(1);
-            Kayit().TT[5].metin = u"200 kişilik";
-            Kayit().Check[17].Ata(1);
+            AlanaYaz(Kayit().Kay[AnaNo::AdiSoyadi], u"ali veli");
+            AlanaYaz(Kayit().Kay[AnaNo::Niteligi], u"Düğün");
+            AlanaYaz(Kayit().Kay[AnaNo::ToplamUcret], u"5.000 TL",
+                     {.odakGitti = [this] { Kayit().Kay8_LostFocus(); }});
+            AlanaYaz(Kayit().Kay[AnaNo::BitisSaati], u"2330");
+            ListedenSec(Kayit().Combo1, u"Klasik");
+            Tikla(Kayit().Check[5]);
+            AlanaYaz(Kayit().TT[5], u"200 kişilik");
+            Tikla(Kayit().Check[17]);
+            VELORA_BAS(Prog().FormKayit, Command4);
             OdemeAl(u"1000");
             OdemeAl(u"0500");
-            Kayit().Command1_Click();
+            VELORA_BAS(Prog().FormKayit, Command1);
         });
         EXPECT_TRUE(kullanici.SagTikla(kGun));
-        EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
-        kullanici.Tablo().newkay_Click();
+        kullanici.KomutSec(Komut::newkay);
     }
     /// The reservation is opened on its cell, its first payment is taken away, and it is saved.
     void IlkOdemeyiSil(const BeklenenKutu& kutu) {
@@ -77,11 +77,11 @@ class IlkGun : public ::testing::Test {
             EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
             EXPECT_EQ(Kayit().Label20.metin, u"Çorba, Et Sote");
             EXPECT_EQ(Kayit().Kayam10.baslik, u"3.500");
-            Kayit().Liste.secili = 0;
-            Kayit().Liste_ItemClick();
+            VELORA_BAS(Prog().FormKayit, Command4);
+            SatiraTikla(Kayit().Liste, 0, [this] { Kayit().Liste_ItemClick(); });
             kullanici.ortam.Bekle(kutu);
-            Kayit().Command7_Click();
-            Kayit().Command1_Click();
+            VELORA_BAS(Prog().FormKayit, Command7);
+            VELORA_BAS(Prog().FormKayit, Command1);
         });
         kullanici.CiftTikla(kGun);
         EXPECT_FALSE(Prog().FormKayit.Yuklu());

@@ -9,24 +9,42 @@ class Rezervasyon : public KayitTest {
         // As a firm that has just defined its hall and its menu: no number was ever given out.
         std::filesystem::remove(agac.Yol(u"Count.dat"));
     }
+    static constexpr TabloGozu kHaziran20{20, 6, kGunduz};
+    static constexpr TabloGozu kHaziran21{21, 6, kGece};
+
+    /// A free cell gets a reservation by its menu; `is` is what the user does on the screen.
+    void YeniKayit(const TabloGozu& goz, const Is& is) {
+        Prog();
+        EkranBekle(EkranAdi::FormKayit, is);
+        EXPECT_TRUE(kullanici.SagTikla(goz));
+        kullanici.KomutSec(Komut::newkay);
+        EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    }
+    /// The reservation of a cell is opened by a double click.
+    void KayitAc(const TabloGozu& goz, const Is& is) {
+        Prog();
+        EkranBekle(EkranAdi::FormKayit, is);
+        kullanici.CiftTikla(goz);
+        EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    }
     /// A reservation with two services, a menu and two payments, saved.
     void IlkKayit() {
-        YeniKayit([&] {
+        YeniKayit(kHaziran20, [this] {
             Doldur();
-            Yaz(3, u"elif / can");
-            Kayit().Check[1].Ata(1);
-            Kayit().TT[1].metin = u"üç katlı, beyaz";
-            Kayit().Check[13].Ata(1);
-            Kayit().Combo1.Sec(1);
+            Gir(AnaNo::GelinDamat, u"elif / can");
+            Tikla(Kayit().Check[1]);
+            AlanaYaz(Kayit().TT[1], u"üç katlı, beyaz");
+            Tikla(Kayit().Check[13]);
+            ListedenSec(Kayit().Combo1, u"Klasik");
             OdemeAl(u"1000");
             OdemeAl(u"0500");
-            Kaydet();
+            KaydeteBas();
         });
         ProgramiKapat();
     }
     void IlkOdemeyiSil() {
-        OdemeSec(0);
-        Kayit().Command7_Click();
+        SatiraTikla(Kayit().Liste, 0, [this] { Kayit().Liste_ItemClick(); });
+        VELORA_BAS(Prog().FormKayit, Command7);
     }
     const std::string kIkiOdeme = "\"15.06.2012\",\"1000\",\"1 - ali usta\"\r\n"
                                   "\"15.06.2012\",\"500\",\"1 - ali usta\"\r\n";
@@ -47,26 +65,32 @@ TEST_F(Rezervasyon, A_firms_first_reservation_is_on_disk_and_on_the_table_and_op
     EXPECT_EQ(OdemeBaytlari(), kIkiOdeme);
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"1\"\r\n");
     Prog();
-    RenkBekle(20, 6, kGunduz, 6, 7);
-    KayitAc([&] {
-        EXPECT_EQ(Kayit().Kay[3].metin, u"Elif / Can");
+    RenkOlmali(20, 6, kGunduz, 6, 7);
+    KayitAc(kHaziran20, [&] {
+        EXPECT_EQ(Kayit().Kay[AnaNo::GelinDamat].metin, u"Elif / Can");
         EXPECT_EQ(Kayit().TT[1].metin, u"üç katlı. beyaz");
         EXPECT_EQ(Kayit().Label20.metin, u"Çorba, Tatlı");
         EXPECT_EQ(Kayit().Kayam9.baslik, u"1.500");
         EXPECT_EQ(Kayit().Kayam10.baslik, u"3.500");
-        Kapat();
+        KapataBas();
     });
-    YeniKayit([&] { EXPECT_EQ(Kayit().Kay[14].metin, u"2"); }, u"21.06.2012 - Gece");
+    YeniKayit(kHaziran21, [&] {
+        EXPECT_EQ(Kayit().Kay[AnaNo::SozlesmeNo].metin, u"2");
+        KutuBekle(u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                  u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
+                  Cevap::Evet, Simge::Uyari, u"Uyarı");
+        KapataBas();
+    });
 }
 
 TEST_F(Rezervasyon, A_user_without_the_right_to_amounts_can_not_take_a_payment_away) {
     IlkKayit();
     const std::string ana = AnaBaytlari();
-    KayitAc([&] {
-        EXPECT_TRUE(Kayit().Kay[8].kilitli);
+    KayitAc(kHaziran20, [&] {
+        EXPECT_TRUE(Kayit().Kay[AnaNo::ToplamUcret].kilitli);
         KutuBekle(u"Alınan ödemeleri silmeye yetkiniz yok!");
         IlkOdemeyiSil();
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(OdemeBaytlari(), kIkiOdeme);
     EXPECT_EQ(AnaBaytlari(), ana);
@@ -76,11 +100,11 @@ TEST_F(Rezervasyon, A_user_with_the_right_takes_a_payment_away_and_the_files_fol
     IlkKayit();
     Prog();
     kullanici.Tablo().TutarDegistir = 1;
-    KayitAc([&] {
+    KayitAc(kHaziran20, [&] {
         SilmeSorusuBekle(Cevap::Evet);
         IlkOdemeyiSil();
         EXPECT_EQ(OdemeBaytlari(), kIkiOdeme) << "the file follows only the save";
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(OdemeBaytlari(), "\"15.06.2012\",\"500\",\"1 - ali usta\"\r\n");
     EXPECT_NE(AnaBaytlari().find("\"5000\",\"500\",\"4500\""), std::string::npos);
@@ -91,24 +115,22 @@ TEST_F(Rezervasyon, A_user_with_the_right_takes_a_payment_away_and_the_files_fol
 TEST_F(Rezervasyon, A_contract_number_is_refused_on_purpose_because_of_a_fifth_payment_of_that_amount) {
     IlkKayit();
     AyarKoy(29, u"0");
-    KayitAc([&] {
+    KayitAc(kHaziran20, [&] {
         for (const char16_t* tutar : {u"10", u"20", u"1500"})
             OdemeAl(tutar);
-        Kaydet();
+        KaydeteBas();
     });
-    YeniKayit(
-        [&] {
-            Doldur();
-            Yaz(14, u"1500");
-            const std::string once = agac.Resim();
-            NumaraKutusuBekle();
-            Kaydet();
-            EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay14");
-            EXPECT_EQ(agac.Resim(), once);
-            Yaz(14, u"1501");
-            Kaydet();
-        },
-        u"21.06.2012 - Gece");
+    YeniKayit(kHaziran21, [&] {
+        Doldur();
+        Gir(AnaNo::SozlesmeNo, u"1500");
+        const std::string once = agac.Resim();
+        NumaraKutusuBekle();
+        KaydeteBas();
+        EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay14");
+        EXPECT_EQ(agac.Resim(), once);
+        Gir(AnaNo::SozlesmeNo, u"1501");
+        KaydeteBas();
+    });
     EXPECT_TRUE(AnaVar(u"21.06.2012 - Gece"));
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"1501\"\r\n");
 }

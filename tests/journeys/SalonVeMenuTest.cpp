@@ -1,6 +1,7 @@
 // The halls and menus of a firm: its first day, and the day a hall gets another name.
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "setup/FormMenuAyar.h"
@@ -15,28 +16,35 @@ class SalonVeMenu : public ::testing::Test {
     static constexpr auto kGece = velora::GunduzGece::Gece;
 
     Program& Prog() { return kullanici.Prog(); }
-    std::map<EkranAdi, std::function<void()>>& Modalda() { return kullanici.ortam.modalda; }
+    /// The screen is expected next; `is` is what the user does on it.
+    void EkrandaYap(EkranAdi ekran, std::function<void()> is) {
+        kullanici.ortam.Bekle(BeklenenEkran{ekran, std::move(is)});
+    }
     void SalonSorusu(const Metin& cevap) {
         kullanici.ortam.Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
     }
     /// Opens the halls, does `is` and closes them.
     void SalonlarAcikken(const std::function<void(FormSalonTanim&)>& is) {
-        Modalda()[EkranAdi::FormSalonTanim] = [this, is] {
+        EkrandaYap(EkranAdi::FormSalonTanim, [this, is] {
             is(*Prog().FormSalonTanim.Tut());
-            Prog().FormSalonTanim->Command3_Click();
-        };
-        Prog().FormSalonTanim.GosterModal();
+            VELORA_BAS(Prog().FormSalonTanim, Command3);
+        });
+        kullanici.KomutSec(Komut::Salontanimss);
         EXPECT_FALSE(Prog().FormSalonTanim.Yuklu());
     }
-    void MenuYaz(const Metin& ad, const Metin& icerik) {
-        Modalda()[EkranAdi::FormMenuEkle] = [this, ad, icerik] {
+    void SalonEkle(const Metin& ad) {
+        SalonlarAcikken([this, ad](FormSalonTanim&) {
+            SalonSorusu(ad);
+            VELORA_BAS(Prog().FormSalonTanim, Command1);
+        });
+    }
+    void MenuyuYaz(const Metin& ad, const Metin& icerik) {
+        EkrandaYap(EkranAdi::FormMenuEkle, [this, ad, icerik] {
             const auto ekle = Prog().FormMenuEkle.Tut();
-            ekle->Text1.metin = ad;
-            ekle->Text1_Change();
-            ekle->Text2.metin = icerik;
-            ASSERT_TRUE(ekle->Command4.etkin);
-            ekle->Command4_Click();
-        };
+            AlanaYaz(ekle->Text1, ad, {.degisti = [&] { ekle->Text1_Change(); }});
+            SatirlaraYaz(ekle->Text2, icerik);
+            VELORA_BAS(Prog().FormMenuEkle, Command4);
+        });
     }
     void RezervasyonKoy(const Metin& salon, int yil) {
         const Metin yol = salon + u"/" + SayiMetni(yil) + u"/20.06." + SayiMetni(yil) + u" - Gece";
@@ -61,33 +69,32 @@ TEST_F(SalonVeMenu, First_day_of_a_new_firm_ends_with_its_hall_and_its_menus_on_
     kullanici.ortam.Bekle(BeklenenKutu{
         u"Salon Tanımı", u"Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister misiniz?",
         Simge::Soru, Cevap::Evet});
-    Modalda()[EkranAdi::FormSalonTanim] = [this] {
+    EkrandaYap(EkranAdi::FormSalonTanim, [this] {
         const auto tanim = Prog().FormSalonTanim.Tut();
         EXPECT_FALSE(tanim->Command3.etkin);
         SalonSorusu(u"");
         kullanici.ortam.Bekle(BeklenenKutu{
             u"Hata", u"Salon adını girmediniz!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."});
         SalonSorusu(u"gül SALONU");
-        tanim->Command1_Click();
+        VELORA_BAS(Prog().FormSalonTanim, Command1);
         EXPECT_TRUE(tanim->Command3.etkin);
-        tanim->Command3_Click();
-    };
+        VELORA_BAS(Prog().FormSalonTanim, Command3);
+    });
     IlkSalonuSor(Prog());
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Gül Salonu");
 
-    Modalda()[EkranAdi::FormMenuAyar] = [this] {
+    EkrandaYap(EkranAdi::FormMenuAyar, [this] {
         const auto menuler = Prog().FormMenuAyar.Tut();
-        MenuYaz(u"klasik", u"çorba, et sote");
-        menuler->Command1_Click();
-        MenuYaz(u"altın", u"ıspanak\r\niçli köfte");
-        menuler->Command1_Click();
-        MenuYaz(u"klasik menü", u"çorba");
-        menuler->Liste.secili = 0;
-        menuler->Liste_Click();
+        MenuyuYaz(u"klasik", u"çorba, et sote");
+        VELORA_BAS(Prog().FormMenuAyar, Command1);
+        MenuyuYaz(u"altın", u"ıspanak\r\niçli köfte");
+        VELORA_BAS(Prog().FormMenuAyar, Command1);
+        MenuyuYaz(u"klasik menü", u"çorba");
+        SatiraTikla(menuler->Liste, 0, [&] { menuler->Liste_Click(); });
         menuler->Liste_DblClick();
-        menuler->Command3_Click();
-    };
-    Prog().FormMenuAyar.GosterModal();
+        VELORA_BAS(Prog().FormMenuAyar, Command3);
+    });
+    kullanici.KomutSec(Komut::MenuAyars);
     kullanici.ProgramiKapat();
 
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"G\xFCl Salonu\"\r\n");
@@ -113,13 +120,12 @@ TEST_F(SalonVeMenu, Rename_of_a_hall_with_reservations_in_six_years_takes_four_o
     kullanici.YilSec(u"2012");
 
     SalonlarAcikken([this](FormSalonTanim& tanim) {
-        tanim.List1.secili = 0;
-        tanim.List1_Click();
-        Modalda()[EkranAdi::FormSalonTanimAd] = [this] {
-            Prog().FormSalonTanimAd->Text1.metin = u"kır bahçesi";
-            Prog().FormSalonTanimAd->Command1_Click();
-        };
-        tanim.Command4_Click();
+        SatiraTikla(tanim.List1, 0, [&] { tanim.List1_Click(); });
+        EkrandaYap(EkranAdi::FormSalonTanimAd, [this] {
+            AlanaYaz(Prog().FormSalonTanimAd->Text1, u"kır bahçesi");
+            VELORA_BAS(Prog().FormSalonTanimAd, Command1);
+        });
+        VELORA_BAS(Prog().FormSalonTanim, Command4);
     });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Kır Bahçesi");
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"K\xFDr Bah\xE7\x65si\"\r\n\"G\xFCl\"\r\n");
@@ -135,8 +141,7 @@ TEST_F(SalonVeMenu, Rename_of_a_hall_with_reservations_in_six_years_takes_four_o
     EXPECT_EQ(agac.Bayt(u"Bahçe/2014/Gider.dat"), "2014");
 
     // Under its old name the hall still has everything.
-    SalonSorusu(u"bahçe");
-    SalonlarAcikken([](FormSalonTanim& tanim) { tanim.Command1_Click(); });
+    SalonEkle(u"bahçe");
     kullanici.SalonSec(u"Bahçe");
     for (int yil = 2010; yil <= 2015; ++yil)
         EXPECT_EQ(Musteri(yil), u"Yıl " + SayiMetni(yil));
@@ -149,19 +154,17 @@ TEST_F(SalonVeMenu, Deleted_hall_comes_back_with_all_its_bytes) {
     kullanici.ProgramiAc();
     const std::string once = agac.Bayt(u"Gül/2012/20.06.2012 - Gece");
     SalonlarAcikken([this](FormSalonTanim& tanim) {
-        tanim.List1.secili = 0;
-        tanim.List1_Click();
+        SatiraTikla(tanim.List1, 0, [&] { tanim.List1_Click(); });
         kullanici.ortam.Bekle(
             BeklenenKutu{u"Velora",
                          u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\nSeçili "
                          u"salonu silmek istediğinize emin misiniz?",
                          Simge::Soru, Cevap::Evet});
-        tanim.Command2_Click();
+        VELORA_BAS(Prog().FormSalonTanim, Command2);
     });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Bahçe");
     EXPECT_EQ(Musteri(2012), u"");
-    SalonSorusu(u"GÜL");
-    SalonlarAcikken([](FormSalonTanim& tanim) { tanim.Command1_Click(); });
+    SalonEkle(u"GÜL");
     kullanici.SalonSec(u"Gül");
     EXPECT_NE(kullanici.Goz(20, 6, kGece).tag, u"");
     EXPECT_EQ(agac.Bayt(u"Gül/2012/20.06.2012 - Gece"), once);

@@ -82,7 +82,7 @@ TEST_P(AramaKarsilastirma, Fast_search_lists_what_the_plain_search_lists) {
             ReferansAra(Prog(), tablo.Salon.ogeler, tablo.Sene.ogeler, tablo.Sene.Metni(), olcutler);
         if (beklenen.empty())
             BulunamadiBekle();
-        Arama().Command3_Click();
+        VELORA_BAS(Prog().FormArama, Command3);
         const auto& bulunan = Arama().Liste.satirlar;
         ASSERT_EQ(bulunan.size(), beklenen.size()) << ::testing::PrintToString(olcutler);
         for (std::size_t i = 0; i < beklenen.size(); ++i) {

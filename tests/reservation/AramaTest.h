@@ -39,9 +39,11 @@ class AramaTest : public KayitTest {
     void Ara(const std::map<Alan, Metin>& olcutler) {
         for (MetinKutusu& kutu : Arama().Text)
             kutu.metin.clear();
-        for (const auto& [alan, olcut] : olcutler)
-            Arama().Text[alan].metin = olcut;
-        Arama().Command3_Click();
+        for (const auto& [alan, olcut] : olcutler) {
+            AlanaYaz(Arama().Text[alan], olcut);
+            EXPECT_EQ(Arama().Text[alan].metin, olcut);
+        }
+        VELORA_BAS(Prog().FormArama, Command3);
     }
     void BulunamadiBekle() { KutuBekle(u"Hiç kayıt bulunamadı!"); }
     /// The same search, which must find nothing.
@@ -67,22 +69,26 @@ class AramaTest : public KayitTest {
     /// The search is opened from the table; `is` is what the user does on it.
     void AramaAcikken(const Is& is) {
         Prog();
-        kullanici.ortam.modalda[EkranAdi::FormArama] = is;
-        kullanici.Tablo().Arasss_Click();
-        kullanici.ortam.modalda.erase(EkranAdi::FormArama);
+        EkranBekle(EkranAdi::FormArama, is);
+        kullanici.KomutSec(Komut::Arasss);
     }
-    /// The row is opened; `is` is what the user does on the record. Tells whether it was shown.
-    bool Detaylar(int sira, const Is& is) {
-        bool gorundu = false;
-        kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
-            gorundu = true;
-            is();
-            Prog().FormKayit.Bosalt();
-        };
+    /// The row is opened; `is` is what the user does on the record, which must be shown.
+    void Detaylar(int sira, const Is& is = {}) {
+        KayitBekle(is);
+        DetaylaraBas(sira);
+    }
+    /// The same on a row that nothing is shown of.
+    void DetaylaraBas(int sira) {
         Isaretle(sira);
-        Arama().Command1_Click();
-        kullanici.ortam.modalda.erase(EkranAdi::FormKayit);
-        return gorundu;
+        VELORA_BAS(Prog().FormArama, Command1);
+    }
+    /// A record is expected next; `is` is done on it, and then it is taken away.
+    void KayitBekle(const Is& is = {}) {
+        EkranBekle(EkranAdi::FormKayit, [this, is] {
+            if (is)
+                is();
+            Prog().FormKayit.Bosalt();
+        });
     }
 };
 

@@ -6,7 +6,7 @@ namespace velora::test {
 /// Opening, fields and closing of the reservation screen.
 class FormKayitTest : public KayitTest {
   protected:
-    void NumaraBekle(MetinBakis no, bool acik) {
+    void NumaraOlmali(MetinBakis no, bool acik) {
         EXPECT_EQ(Kayit().Kay[14].metin, no);
         EXPECT_EQ(Kayit().Kay[14].kilitli, !acik);
         EXPECT_EQ(Kayit().Kay[14].beyazZemin, acik);
@@ -60,12 +60,12 @@ TEST_F(FormKayitTest, Opening_gets_the_page_of_the_contract_ready) {
 
 TEST_F(FormKayitTest, With_both_number_settings_off_the_number_is_offered_and_open) {
     NumaraAyari(false, false);
-    YeniKayit([&] { NumaraBekle(u"58", true); });
+    YeniKayit([&] { NumaraOlmali(u"58", true); });
 }
 
 TEST_F(FormKayitTest, With_automatic_numbers_the_number_is_offered_and_locked) {
     NumaraAyari(true, false);
-    YeniKayit([&] { NumaraBekle(u"58", false); });
+    YeniKayit([&] { NumaraOlmali(u"58", false); });
 }
 
 // White and open first, then grey, locked and empty: the second setting wins.
@@ -74,7 +74,7 @@ TEST_F(FormKayitTest,
     for (const bool otomatik : {false, true}) {
         NumaraAyari(otomatik, true);
         Prog().FormAyarlar.Bosalt();
-        YeniKayit([&] { NumaraBekle(u"", false); });
+        YeniKayit([&] { NumaraOlmali(u"", false); });
     }
 }
 
@@ -82,7 +82,7 @@ TEST_F(FormKayitTest, Without_the_counter_the_first_number_is_offered_and_the_me
     NumaraAyari(false, false);
     std::filesystem::remove(agac.Yol(u"Count.dat"));
     YeniKayit([&] {
-        NumaraBekle(u"1", true);
+        NumaraOlmali(u"1", true);
         EXPECT_EQ(Kayit().Combo1.ogeler, (std::vector<Metin>{u"Menü seçiniz...", u"Klasik"}));
         EXPECT_EQ(Kayit().Combo1.secili, 0);
     });
@@ -90,22 +90,22 @@ TEST_F(FormKayitTest, Without_the_counter_the_first_number_is_offered_and_the_me
 
 TEST_F(FormKayitTest, An_empty_counter_counts_as_missing_and_a_word_as_zero) {
     agac.Koy(u"Count.dat", "\r\n");
-    YeniKayit([&] { NumaraBekle(u"1", false); });
+    YeniKayit([&] { NumaraOlmali(u"1", false); });
     agac.Koy(u"Count.dat", "\"yok\"\r\n");
-    YeniKayit([&] { NumaraBekle(u"1", false); });
+    YeniKayit([&] { NumaraOlmali(u"1", false); });
     agac.Koy(u"Count.dat", "\"0099\"\r\n");
-    YeniKayit([&] { NumaraBekle(u"100", false); });
+    YeniKayit([&] { NumaraOlmali(u"100", false); });
 }
 
 // The jump comes before the counter is looked at, and the next save makes it lasting.
 TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_and_the_save_resets_the_counter) {
     std::filesystem::remove(agac.Yol(u"Menuler.dat"));
     YeniKayit([&] {
-        NumaraBekle(u"1", false);
+        NumaraOlmali(u"1", false);
         EXPECT_EQ(Kayit().Combo1.secili, -1);
         EXPECT_FALSE(Prog().FormPrint.Yuklu());
         Doldur();
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"1\"\r\n");
     EXPECT_TRUE(DetayBaytlari().ends_with("\"1\",\"0\"\r\n\"\"\r\n\"\"\r\n")) << "no menu was chosen";
@@ -115,9 +115,9 @@ TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_even_with_
     std::filesystem::remove(agac.Yol(u"Menuler.dat"));
     NumaraAyari(false, true);
     YeniKayit([&] {
-        NumaraBekle(u"1", true);
+        NumaraOlmali(u"1", true);
         Doldur();
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"57\"\r\n");
 }
@@ -125,7 +125,7 @@ TEST_F(FormKayitTest, Missing_menus_offer_the_first_number_on_purpose_even_with_
 TEST_F(FormKayitTest, A_menu_without_content_at_the_end_of_the_file_is_a_failed_load_too) {
     agac.Koy(u"Menuler.dat", "\"A\",\"a\"\r\n\"\",\"b\"\r\n\"C\"\r\n");
     YeniKayit([&] {
-        NumaraBekle(u"1", false);
+        NumaraOlmali(u"1", false);
         EXPECT_EQ(Kayit().Combo1.ogeler, (std::vector<Metin>{u"Menü seçiniz...", u"A"}));
         EXPECT_EQ(Kayit().Combo1.secili, -1);
     });
@@ -135,17 +135,17 @@ TEST_F(FormKayitTest, A_menu_without_a_name_is_left_out_and_a_name_of_blanks_is_
     agac.Koy(u"Menuler.dat", "\"\",\"b\"\r\n\"  \",\"c\"\r\n\r\n");
     YeniKayit([&] {
         EXPECT_EQ(Kayit().Combo1.ogeler, (std::vector<Metin>{u"Menü seçiniz...", u"  "}));
-        Kayit().Combo1.Sec(1);
+        ListedenSec(Kayit().Combo1, u"  ");
         EXPECT_EQ(Kayit().Label20.metin, u"c");
-        NumaraBekle(u"58", false);
+        NumaraOlmali(u"58", false);
     });
 }
 
 TEST_F(FormKayitTest, A_chosen_menu_shows_its_text_and_the_first_entry_empties_it) {
     YeniKayit([&] {
-        Kayit().Combo1.Sec(u"Klasik");
+        ListedenSec(Kayit().Combo1, u"Klasik");
         EXPECT_EQ(Kayit().Label20.metin, u"Çorba, Tatlı");
-        Kayit().Combo1.Sec(0);
+        ListedenSec(Kayit().Combo1, kMenuSeciniz);
         EXPECT_EQ(Kayit().Label20.metin, u"");
     });
 }
@@ -155,14 +155,14 @@ TEST_F(FormKayitTest, Each_service_opens_its_own_note_and_switched_off_and_on_ag
         for (int no = 1; no <= kHizmetSayisi; ++no) {
             MetinKutusu& not_ = Kayit().TT[no];
             EXPECT_FALSE(not_.etkin || not_.beyazZemin) << no;
-            Kayit().Check[no].Ata(1);
+            Tikla(Kayit().Check[no]);
             Kayit().Check_MouseUp(no);
             EXPECT_TRUE(not_.etkin && not_.beyazZemin) << no;
             EXPECT_EQ(kullanici.ortam.odaklar.back(), u"TT" + SayiMetni(no));
-            not_.metin = u"not";
-            Kayit().Check[no].Ata(0);
+            AlanaYaz(not_, u"not");
+            Tikla(Kayit().Check[no]);
             Kayit().Check_MouseUp(no);
-            Kayit().Check[no].Ata(1);
+            Tikla(Kayit().Check[no]);
             EXPECT_EQ(not_.metin, u"");
         }
         const auto& odaklar = kullanici.ortam.odaklar;
@@ -174,12 +174,12 @@ TEST_F(FormKayitTest, Each_service_opens_its_own_note_and_switched_off_and_on_ag
 
 TEST_F(FormKayitTest, The_reminder_opens_its_date_and_unticking_it_keeps_the_date) {
     YeniKayit([&] {
-        Kayit().Check19.Ata(1);
+        Tikla(Kayit().Check19);
         Kayit().Check19_MouseUp();
         EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay18");
         EXPECT_TRUE(Kayit().Kay[18].etkin && Kayit().Kay[18].beyazZemin);
-        Yaz(18, u"01.06.2012");
-        Kayit().Check19.Ata(0);
+        Gir(18, u"01.06.2012");
+        Tikla(Kayit().Check19);
         EXPECT_FALSE(Kayit().Kay[18].etkin || Kayit().Kay[18].beyazZemin);
         EXPECT_EQ(Kayit().Kay[18].metin, u"01.06.2012");
     });
@@ -187,9 +187,9 @@ TEST_F(FormKayitTest, The_reminder_opens_its_date_and_unticking_it_keeps_the_dat
 
 TEST_F(FormKayitTest, Firm_and_pre_reservation_exclude_each_other) {
     YeniKayit([&] {
-        Kayit().Option2.Ata(1);
+        Isaretle(Kayit().Option2);
         EXPECT_EQ(Kayit().Option1.deger, 0);
-        Kayit().Option1.Ata(1);
+        Isaretle(Kayit().Option1);
         EXPECT_EQ(Kayit().Option2.deger, 0);
     });
 }
@@ -203,7 +203,7 @@ TEST_F(FormKayitTest, Hours_then_minutes_of_the_start_are_mended_in_order_so_tha
                                                                                  {u"2_:__", u"2_:__"},
                                                                                  {u"__:75", u"__:00"},
                                                                                  {u"__:__", u"__:__"}}) {
-            Yaz(12, yazilan);
+            Gir(12, yazilan);
             EXPECT_EQ(Kayit().Kay[12].metin, kalan);
         }
     });
@@ -212,8 +212,8 @@ TEST_F(FormKayitTest, Hours_then_minutes_of_the_start_are_mended_in_order_so_tha
 TEST_F(FormKayitTest, The_end_takes_any_digits_on_purpose) {
     YeniKayit([&] {
         Doldur();
-        Yaz(15, u"99:99");
-        Kaydet();
+        Gir(15, u"99:99");
+        KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"99:99\""), std::string::npos);
 }
@@ -248,7 +248,7 @@ TEST_F(FormKayitTest, Fields_know_their_masks_lengths_filters_and_which_are_sele
 TEST_F(FormKayitTest, The_button_of_payments_turns_to_their_page) {
     YeniKayit([&] {
         EXPECT_EQ(Kayit().SSTab1, 1);
-        Kayit().Command4_Click();
+        VELORA_BAS(Prog().FormKayit, Command4);
         EXPECT_EQ(Kayit().SSTab1, 2);
     });
 }
@@ -260,11 +260,11 @@ TEST_F(FormKayitTest, An_unsaved_new_record_closes_only_after_a_yes) {
         const std::string once = agac.Resim();
         Doldur();
         KutuBekle(soru, Cevap::Hayir, Simge::Uyari, u"Uyarı");
-        Kapat();
+        KapataBas();
         ASSERT_TRUE(Prog().FormKayit.Yuklu());
         EXPECT_EQ(Kayit().Kay[8].metin, u"5000");
         KutuBekle(soru, Cevap::Evet, Simge::Uyari, u"Uyarı");
-        Kapat();
+        KapataBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
         EXPECT_EQ(agac.Resim(), once);
     });
@@ -277,9 +277,9 @@ TEST_F(FormKayitTest, An_existing_record_closes_without_a_question_and_drops_all
     const std::string once = agac.Resim();
     KayitAc([&] {
         EXPECT_EQ(Kayit().Command2.ipucu, u"Değişiklikleri Kaydetmeden Kapat");
-        Yaz(1, u"Başka");
+        Gir(1, u"Başka");
         OdemeAl(u"100");
-        Kapat();
+        KapataBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
     EXPECT_EQ(agac.Resim(), once);
@@ -288,7 +288,7 @@ TEST_F(FormKayitTest, An_existing_record_closes_without_a_question_and_drops_all
 TEST_F(FormKayitTest, Closing_a_saved_record_asks_nothing) {
     YeniKayit([&] {
         Kayit().Basildi = 1;
-        Kapat();
+        KapataBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
 }
@@ -297,7 +297,7 @@ TEST_F(FormKayitTest, Every_opening_starts_from_the_design) {
     RezervasyonKoy(Metin(kGun));
     KayitAc([&] {
         Kayit().SSTab1 = 3;
-        Kapat();
+        KapataBas();
     });
     YeniKayit(
         [&] {

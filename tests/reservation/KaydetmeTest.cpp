@@ -18,7 +18,7 @@ class KaydetmeTest : public KayitTest {};
 TEST_F(KaydetmeTest, A_plain_new_record_writes_these_bytes_and_no_file_of_payments) {
     YeniKayit([&] {
         Doldur();
-        Kaydet();
+        KaydeteBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
     EXPECT_EQ(
@@ -34,20 +34,20 @@ TEST_F(KaydetmeTest, A_plain_new_record_writes_these_bytes_and_no_file_of_paymen
 TEST_F(KaydetmeTest, A_record_with_everything_in_it_writes_these_bytes) {
     YeniKayit([&] {
         Doldur();
-        Yaz(2, u"ıĞDIR");
-        Yaz(3, u"elif / can");
-        Yaz(7, u"gül sokak\r\nno 5, ankara");
-        Yaz(11, u"dikkat, \"acil\"");
-        Kayit().Check18.Ata(0);
-        Kayit().Check19.Ata(1);
-        Yaz(18, u"01.06.2012");
-        Kayit().Option2.Ata(1);
-        Kayit().Check[3].Ata(1);
-        Kayit().TT[3].metin = u"iki \"şişe\", soğuk";
-        Kayit().Aciklamalar.metin = u"a,b\r\n\"c\"";
-        Kayit().Combo1.Sec(1);
+        Gir(2, u"ıĞDIR");
+        Gir(3, u"elif / can");
+        Gir(7, u"gül sokak\r\nno 5, ankara");
+        Gir(11, u"dikkat, \"acil\"");
+        Tikla(Kayit().Check18);
+        Tikla(Kayit().Check19);
+        Gir(18, u"01.06.2012");
+        Isaretle(Kayit().Option2);
+        Tikla(Kayit().Check[3]);
+        AlanaYaz(Kayit().TT[3], u"iki \"şişe\", soğuk");
+        SatirlaraYaz(Kayit().Aciklamalar, u"a,b\r\n\"c\"");
+        ListedenSec(Kayit().Combo1, u"Klasik");
         OdemeAl(u"0100");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(AnaBaytlari(),
               "\"Ali Usta\",\"I\xF0"
@@ -81,15 +81,15 @@ TEST_F(KaydetmeTest, The_six_questions_come_in_their_order_one_after_the_other) 
         Kayit().Kay[12].metin = u" __:__ ";
         Kayit().Kay[13].metin = u"__.__.____";
         Kayit().Kay[1].metin = u"  ";
-        Kayit().Check19.Ata(1);
+        Tikla(Kayit().Check19);
         for (const auto& [no, mesaj, dogru] : sorular) {
             KutuBekle(mesaj);
-            Kaydet();
+            KaydeteBas();
             EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay" + SayiMetni(no));
             EXPECT_EQ(agac.Resim(), once);
             Kayit().Kay[no].metin = dogru;
         }
-        Kaydet();
+        KaydeteBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
     EXPECT_EQ(AnaBaytlari(),
@@ -100,10 +100,10 @@ TEST_F(KaydetmeTest, The_six_questions_come_in_their_order_one_after_the_other) 
 TEST_F(KaydetmeTest, The_date_of_a_reminder_that_is_off_is_not_asked_for_and_stays_in_the_file) {
     YeniKayit([&] {
         Doldur();
-        Kayit().Check19.Ata(1);
-        Yaz(18, u"01.06.2012");
-        Kayit().Check19.Ata(0);
-        Kaydet();
+        Tikla(Kayit().Check19);
+        Gir(18, u"01.06.2012");
+        Tikla(Kayit().Check19);
+        KaydeteBas();
     });
     EXPECT_TRUE(AnaBaytlari().ends_with("\"01.06.2012\",1,0\r\n"));
 }
@@ -113,10 +113,10 @@ TEST_F(KaydetmeTest, A_refused_number_leaves_the_names_in_proper_case_on_purpose
     YeniKayit([&] {
         const std::string once = agac.Resim();
         Doldur();
-        Yaz(1, u"ali veli");
-        Yaz(11, u"a,b");
+        Gir(1, u"ali veli");
+        Gir(11, u"a,b");
         NumaraKutusuBekle();
-        Kaydet();
+        KaydeteBas();
         EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
         EXPECT_EQ(Kayit().Kay[11].metin, u"a,b") << "cleaning comes later";
         EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay14");
@@ -128,8 +128,8 @@ TEST_F(KaydetmeTest, A_refused_number_leaves_the_names_in_proper_case_on_purpose
 TEST_F(KaydetmeTest, A_typed_price_reaches_the_rest_before_the_save) {
     YeniKayit([&] {
         Doldur();
-        Yaz(8, u"1500");
-        Kaydet();
+        Gir(8, u"1500");
+        KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"1500\",\"0\",\"1500\""), std::string::npos);
 }
@@ -138,13 +138,13 @@ TEST_F(KaydetmeTest, A_missing_year_folder_is_made_but_never_the_halls_folder) {
     YeniKayit([&] {
         Doldur();
         std::filesystem::remove_all(agac.Yol(u"Salon A/2012"));
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_TRUE(AnaVar());
     YeniKayit([&] {
         Doldur();
         std::filesystem::remove_all(agac.Yol(u"Salon A"));
-        Kaydet();
+        KaydeteBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu()) << "the screen closes all the same";
     });
     EXPECT_FALSE(agac.KlasorVar(u"Salon A"));
@@ -155,12 +155,14 @@ TEST_F(KaydetmeTest,
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     RezervasyonKoy(Metin(kGun), {.no = u"7"});
     RezervasyonKoy(u"01.06.2012 - Gece", {.no = u"7"});
+    Prog();
+    kullanici.Tablo().TutarDegistir = 1;
     KayitAc([&] {
         kullanici.SalonSec(u"Salon B");
         Kayit().Tag += u"  ";
-        Yaz(8, u"6000");
+        Gir(8, u"6000");
         OdemeAl(u"5");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"5000\""), std::string::npos) << "the main path is not trimmed";
     EXPECT_TRUE(agac.DosyaVar(u"Salon B/2012/20.06.2012 - Gündüz-Odeme"));
@@ -173,8 +175,8 @@ TEST_F(KaydetmeTest, An_existing_record_keeps_its_number_though_another_has_it_t
     RezervasyonKoy(Metin(kGun), {.no = u"7"});
     RezervasyonKoy(u"01.06.2012 - Gece", {.no = u"7"});
     KayitAc([&] {
-        Yaz(5, u"0312, 1");
-        Kaydet();
+        Gir(5, u"0312, 1");
+        KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"0312. 1\""), std::string::npos);
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"57\"\r\n");
@@ -185,9 +187,9 @@ TEST_F(KaydetmeTest, A_blank_path_of_an_existing_record_sends_only_its_details_t
     KayitAc([&] {
         const std::string once = AnaBaytlari();
         Kayit().Tag = u" ";
-        Kayit().Aciklamalar.metin = u"yeni";
-        Yaz(1, u"Başka");
-        Kaydet();
+        SatirlaraYaz(Kayit().Aciklamalar, u"yeni");
+        Gir(1, u"Başka");
+        KaydeteBas();
         EXPECT_EQ(AnaBaytlari(), once);
     });
     EXPECT_NE(DetayBaytlari().find("\"yeni\""), std::string::npos);
@@ -197,10 +199,10 @@ TEST_F(KaydetmeTest, After_the_save_the_table_shows_the_day_and_the_screen_is_go
     YeniKayit(
         [&] {
             Doldur();
-            Kaydet();
+            KaydeteBas();
         },
         u"15.06.2012 - Gece");
-    RenkBekle(15, 6, kGece, 12, 13);
+    RenkOlmali(15, 6, kGece, 12, 13);
     EXPECT_EQ(kullanici.Goz(15, 6, kGece).tag, u"|11:00|Düğün|Gece|5000|0|5000|Ali Usta|58|1");
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 300) << "one of today's slots is taken";
     EXPECT_FALSE(Prog().FormKayit.Yuklu());
@@ -215,7 +217,7 @@ TEST_F(KaydetmeTest, A_visible_panel_of_warnings_is_listed_again_before_the_tabl
                 Doldur();
                 kullanici.Tablo().Picture1.gorunur = panel;
                 const int once = kullanici.ortam.olaySayisi;
-                Kaydet();
+                KaydeteBas();
                 tur = kullanici.ortam.olaySayisi - once;
             },
             gun);
@@ -245,7 +247,7 @@ TEST_F(KaydetmeTest, Pending_events_run_between_the_writes_and_the_hall_is_read_
             EXPECT_FALSE(agac.DosyaVar(u"Salon A/2012/" + Metin(kGun) + u"-Detay"));
             kullanici.SalonSec(u"Salon B");
         };
-        Kaydet();
+        KaydeteBas();
         kullanici.ortam.olayda = {};
     });
     EXPECT_TRUE(agac.DosyaVar(u"Salon B/2012/20.06.2012 - Gündüz-Detay"));
@@ -261,7 +263,7 @@ TEST_F(KaydetmeTest, A_screen_taken_away_in_the_middle_of_its_save_is_saved_to_t
             if (sira == ilk + 1)
                 Prog().FormKayit.Bosalt();
         };
-        Kaydet();
+        KaydeteBas();
         kullanici.ortam.olayda = {};
     });
     EXPECT_TRUE(AnaVar());

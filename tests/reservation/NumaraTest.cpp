@@ -5,31 +5,36 @@
 
 namespace velora::test {
 
-/// Which contract numbers are alinan.
+/// Which contract numbers are taken.
 class NumaraTest : public KayitTest {
   protected:
     NumaraTest() {
         agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
         AyarKoy(29, u"0");
     }
-    /// Tries to save a new record under this number. True when it was alinan in.
+    /// Tries to save a new record under this number. True when it was taken in.
     bool Kabul(const Metin& no) {
+        return Dene(no, [] {});
+    }
+    bool Red(const Metin& no) {
+        return !Dene(no, [this] { NumaraKutusuBekle(); });
+    }
+
+  private:
+    bool Dene(const Metin& no, const Is& bekle) {
         YeniKayit([&] {
             Doldur();
-            Yaz(14, no);
-            Kaydet();
+            Kayit().Kay[AnaNo::SozlesmeNo].metin = no; // also what no key writes there
+            bekle();
+            KaydeteBas();
         });
         const bool var = AnaVar();
         KayitSil();
         return var;
     }
-    bool Red(const Metin& no) {
-        NumaraKutusuBekle();
-        return !Kabul(no);
-    }
 };
 
-TEST_F(NumaraTest, A_number_of_another_hall_or_another_year_is_free_and_one_of_this_folder_is_alinan) {
+TEST_F(NumaraTest, A_number_of_another_hall_or_another_year_is_free_and_one_of_this_folder_is_taken) {
     agac.KoyMetin(u"Salon B/2012/01.06.2012 - Gece", AnaMetni({.no = u"7"}));
     agac.KoyMetin(u"Salon A/2013/01.06.2013 - Gece", AnaMetni({.no = u"8"}));
     RezervasyonKoy(u"02.06.2012 - Gece", {.no = u"9"});
@@ -42,10 +47,10 @@ TEST_F(NumaraTest, The_selected_hall_and_year_decide_and_not_those_of_the_record
     agac.KoyMetin(u"Salon B/2012/01.06.2012 - Gece", AnaMetni({.no = u"7"}));
     YeniKayit([&] {
         Doldur();
-        Yaz(14, u"7");
+        Gir(14, u"7");
         kullanici.SalonSec(u"Salon B");
         NumaraKutusuBekle();
-        Kaydet();
+        KaydeteBas();
     });
 }
 

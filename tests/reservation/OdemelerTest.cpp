@@ -15,11 +15,11 @@ class OdemelerTest : public KayitTest {
         KayitAc([&] {
             OdemeSec(0);
             SilmeSorusuBekle(Cevap::Evet);
-            Kayit().Command7_Click();
+            VELORA_BAS(Prog().FormKayit, Command7);
             sonra();
         });
     }
-    void ToplamBekle(MetinBakis alinan, MetinBakis kalan, MetinBakis alinanGoz, MetinBakis kalanGoz) {
+    void ToplamOlmali(MetinBakis alinan, MetinBakis kalan, MetinBakis alinanGoz, MetinBakis kalanGoz) {
         EXPECT_EQ(Kayit().Kay[9].metin, alinan);
         EXPECT_EQ(Kayit().Kay[10].metin, kalan);
         EXPECT_EQ(Kayit().Kayam9.baslik, alinanGoz);
@@ -29,24 +29,24 @@ class OdemelerTest : public KayitTest {
 
 TEST_F(OdemelerTest, Without_payments_the_sum_is_zero_and_shows_nothing) {
     YeniKayit([&] {
-        ToplamBekle(u"0", u"0", u"", u"");
-        Yaz(8, u"5000");
-        ToplamBekle(u"0", u"5000", u"", u"5.000");
+        ToplamOlmali(u"0", u"0", u"", u"");
+        Gir(8, u"5000");
+        ToplamOlmali(u"0", u"5000", u"", u"5.000");
     });
 }
 
 TEST_F(OdemelerTest, Name_and_price_come_before_the_first_payment) {
     YeniKayit([&] {
-        Kayit().Command4_Click();
-        Yaz(1, u"  ");
+        VELORA_BAS(Prog().FormKayit, Command4);
+        Gir(1, u"  ");
         KutuBekle(u"Lütfen önce adı soyadı giriniz!");
-        Kayit().Command8_Click();
+        VELORA_BAS(Prog().FormKayit, Command8);
         EXPECT_EQ(Kayit().SSTab1, 1);
         EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay1");
-        Kayit().Command4_Click();
-        Yaz(1, u"Ali");
+        VELORA_BAS(Prog().FormKayit, Command4);
+        Gir(1, u"Ali");
         KutuBekle(u"Lütfen önce toplam ücreti giriniz!");
-        Kayit().Command8_Click();
+        VELORA_BAS(Prog().FormKayit, Command8);
         EXPECT_EQ(Kayit().SSTab1, 1);
         EXPECT_EQ(kullanici.ortam.odaklar.back(), u"Kay8");
         EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
@@ -56,7 +56,7 @@ TEST_F(OdemelerTest, Name_and_price_come_before_the_first_payment) {
 TEST_F(OdemelerTest, The_dialogue_offers_today_and_a_note_and_waits_for_an_amount) {
     YeniKayit([&] {
         Doldur();
-        kullanici.ortam.modalda[EkranAdi::FormOdemeAl] = [&] {
+        EkranBekle(EkranAdi::FormOdemeAl, [this] {
             const auto odeme = Prog().FormOdemeAl.Tut();
             EXPECT_EQ(odeme->baslik, u"Ödeme Ekle");
             EXPECT_EQ(TarihMetni(odeme->DTPicker1.deger), u"15.06.2012");
@@ -64,15 +64,16 @@ TEST_F(OdemelerTest, The_dialogue_offers_today_and_a_note_and_waits_for_an_amoun
             EXPECT_FALSE(odeme->Command1.etkin);
             EXPECT_EQ(odeme->Text1.enUzun, 6);
             EXPECT_FALSE(odeme->Text1.suzgec(u'a'));
-            odeme->Text1.metin = u"5";
-            odeme->Text1_Change();
+            AlanaYaz(odeme->Text1, u"5", {.degisti = [&] { odeme->Text1_Change(); }});
             EXPECT_TRUE(odeme->Command1.etkin);
-            odeme->Text1.metin = u" ";
+            AlanaYaz(odeme->Text1, u"", {.degisti = [&] { odeme->Text1_Change(); }});
+            EXPECT_FALSE(odeme->Command1.etkin);
+            odeme->Text1.metin = u" "; // no key writes it here
             odeme->Text1_Change();
             EXPECT_FALSE(odeme->Command1.etkin);
-            odeme->Command2_Click();
-        };
-        Kayit().Command8_Click();
+            VELORA_BAS(Prog().FormOdemeAl, Command2);
+        });
+        VELORA_BAS(Prog().FormKayit, Command8);
         EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
         EXPECT_TRUE(Kayit().Liste.satirlar.empty());
     });
@@ -96,7 +97,7 @@ TEST_F(OdemelerTest, Leading_zeros_go_and_an_amount_of_zero_adds_nothing) {
         EXPECT_EQ(Kayit().Liste.satirlar[0].sutun,
                   (std::vector<Metin>{u"15.06.2012", u"7", u"58 - ali usta"}));
         EXPECT_FALSE(Prog().FormOdemeAl.Yuklu());
-        ToplamBekle(u"7", u"4993", u"7", u"4.993");
+        ToplamOlmali(u"7", u"4993", u"7", u"4.993");
     });
 }
 
@@ -120,9 +121,9 @@ TEST_F(OdemelerTest, A_price_below_the_sum_shows_a_negative_rest_and_nothing_ref
     YeniKayit([&] {
         Doldur();
         OdemeAl(u"3000");
-        Yaz(8, u"1000");
-        ToplamBekle(u"3000", u"-2000", u"3.000", u"-2.000");
-        Kaydet();
+        Gir(8, u"1000");
+        ToplamOlmali(u"3000", u"-2000", u"3.000", u"-2.000");
+        KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"1000\",\"3000\",\"-2000\""), std::string::npos);
 }
@@ -134,7 +135,7 @@ TEST_F(OdemelerTest, A_sum_typed_by_hand_moves_the_rest_only_until_the_next_tota
         Kayit().Kay9_LostFocus();
         EXPECT_EQ(Kayit().Kay[10].metin, u"4900");
         Kayit().Command12();
-        ToplamBekle(u"0", u"5000", u"", u"5.000");
+        ToplamOlmali(u"0", u"5000", u"", u"5.000");
     });
 }
 
@@ -145,13 +146,14 @@ TEST_F(OdemelerTest, A_payment_goes_only_after_a_yes_and_the_buttons_go_off_eith
             OdemeAl(tutar);
         OdemeSec(1);
         SilmeSorusuBekle(Cevap::Hayir);
-        Kayit().Command7_Click();
+        VELORA_BAS(Prog().FormKayit, Command7);
         EXPECT_EQ(Kayit().Liste.satirlar.size(), 3U);
         EXPECT_FALSE(Kayit().Command7.etkin || Kayit().Command9.etkin);
+        OdemeSec(1);
         SilmeSorusuBekle(Cevap::Evet);
-        Kayit().Command7_Click();
+        VELORA_BAS(Prog().FormKayit, Command7);
         EXPECT_EQ(Kayit().Liste.satirlar.size(), 2U);
-        ToplamBekle(u"400", u"4600", u"400", u"4.600");
+        ToplamOlmali(u"400", u"4600", u"400", u"4.600");
     });
 }
 
@@ -161,10 +163,10 @@ TEST_F(OdemelerTest, Without_the_right_an_existing_record_takes_payments_and_giv
     KayitAc([&] {
         OdemeSec(0);
         KutuBekle(u"Alınan ödemeleri silmeye yetkiniz yok!");
-        Kayit().Command7_Click();
+        VELORA_BAS(Prog().FormKayit, Command7);
         EXPECT_FALSE(Kayit().Command7.etkin);
         OdemeAl(u"50");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(OdemeBaytlari(), "\"01.01.2012\",\"1000\",\"x\"\r\n\"15.06.2012\",\"50\",\"7 - Ali Veli\"\r\n");
 }
@@ -175,7 +177,7 @@ TEST_F(OdemelerTest, A_new_record_lets_anyone_delete) {
         OdemeAl(u"50");
         OdemeSec(0);
         SilmeSorusuBekle(Cevap::Evet);
-        Kayit().Command7_Click();
+        VELORA_BAS(Prog().FormKayit, Command7);
         EXPECT_TRUE(Kayit().Liste.satirlar.empty());
     });
 }
@@ -183,13 +185,13 @@ TEST_F(OdemelerTest, A_new_record_lets_anyone_delete) {
 TEST_F(OdemelerTest, Deleted_payments_come_back_when_the_record_is_closed_unsaved) {
     TekOdemeyiSil([&] {
         EXPECT_EQ(Kayit().Kay[9].metin, u"0");
-        Kapat();
+        KapataBas();
     });
     KayitAc([&] { EXPECT_EQ(Kayit().Kay[9].metin, u"1000"); });
 }
 
 TEST_F(OdemelerTest, Saving_the_last_payment_away_removes_the_file) {
-    TekOdemeyiSil([&] { Kaydet(); });
+    TekOdemeyiSil([&] { KaydeteBas(); });
     EXPECT_FALSE(OdemeVar());
     KayitAc([&] {
         EXPECT_TRUE(Kayit().Liste.satirlar.empty());
@@ -202,9 +204,10 @@ TEST_F(OdemelerTest, A_delete_without_a_marked_row_removes_nothing_and_totals_al
         Doldur();
         OdemeAl(u"50");
         Kayit().Kay[9].metin = u"?";
-        OdemeSec(-1);
+        Kayit().Liste.secili = -1; // a click beside the rows
+        Kayit().Liste_ItemClick();
         SilmeSorusuBekle(Cevap::Evet);
-        Kayit().Command7_Click();
+        VELORA_BAS(Prog().FormKayit, Command7);
         EXPECT_EQ(Kayit().Liste.satirlar.size(), 1U);
         EXPECT_EQ(Kayit().Kay[9].metin, u"50");
     });
@@ -214,9 +217,9 @@ TEST_F(OdemelerTest, A_delete_without_a_marked_row_removes_nothing_and_totals_al
 TEST_F(OdemelerTest, Quotes_in_the_default_note_are_written_raw_on_purpose_and_slide_the_list_when_read) {
     YeniKayit([&] {
         Doldur();
-        Yaz(1, u"Ali \"Usta\"");
+        Gir(1, u"Ali \"Usta\"");
         OdemeAl(u"100");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_EQ(OdemeBaytlari(), "\"15.06.2012\",\"100\",\"58 - Ali \"Usta\"\"\r\n");
     EXPECT_TRUE(AnaBaytlari().starts_with("\"Ali usta\"")) << "the word began with the quote";
@@ -232,8 +235,8 @@ TEST_F(OdemelerTest, A_thousand_payments_are_added_up_and_written) {
         Doldur();
         for (int i = 0; i < 1000; ++i)
             OdemeAl(u"2");
-        ToplamBekle(u"2000", u"3000", u"2.000", u"3.000");
-        Kaydet();
+        ToplamOlmali(u"2000", u"3000", u"2.000", u"3.000");
+        KaydeteBas();
     });
     const std::string bayt = OdemeBaytlari();
     EXPECT_EQ(std::count(bayt.begin(), bayt.end(), '\n'), 1000);

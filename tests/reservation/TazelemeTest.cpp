@@ -15,12 +15,12 @@ class TazelemeTest : public KayitTest {
     TazelemeTest() { RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"}, true); }
 
     void EkranlariAc() {
-        Prog().FormBakiye->Combo1.Sec(u"Ön Rezervasyonlar");
+        ListedenSec(Prog().FormBakiye->Combo1, u"Ön Rezervasyonlar");
         Prog().FormBakiye.Goster();
         Prog().FormBakiye->ListeleGun();
-        Prog().FormArama->Text[1].metin = u"veli";
+        AlanaYaz(Prog().FormArama->Text[1], u"veli");
         Prog().FormArama.Goster();
-        Prog().FormArama->Command3_Click();
+        VELORA_BAS(Prog().FormArama, Command3);
         EXPECT_EQ(Prog().FormBakiye->Liste.satirlar.size(), 1U);
         EXPECT_EQ(Prog().FormArama->Liste.satirlar.size(), 1U);
         EXPECT_TRUE(kullanici.Tablo().Picture1.gorunur);
@@ -48,16 +48,15 @@ TEST_F(TazelemeTest, A_save_refreshes_report_search_and_warnings_then_scans_look
     Prog().Splash->Check1 = Prog().Splash->Check2 = 1;
     std::vector<std::string> gunluk;
     KayitAc([&] {
-        Yaz(1, u"Can Yılmaz");
-        Kayit().Option1.Ata(1);
-        Kayit().Option2.Ata(0);
-        Kayit().Check18.Ata(0);
+        Gir(1, u"Can Yılmaz");
+        Isaretle(Kayit().Option1);
+        Tikla(Kayit().Check18);
         // Each box tells of a list that was made anew: in this order, and once.
         KutuBekle(u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");
         KutuBekle(u"Hiç kayıt bulunamadı!");
         KutuBekle(u"Hatırlatmalarda yaklaşan rezervasyon yok.");
         Kaydedilenler(gunluk);
-        Kaydet();
+        KaydeteBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
     kullanici.ortam.olayda = {};
@@ -69,13 +68,13 @@ TEST_F(TazelemeTest, A_save_refreshes_report_search_and_warnings_then_scans_look
 }
 
 TEST_F(TazelemeTest, A_search_whose_only_match_was_renamed_says_once_that_it_found_nothing) {
-    Prog().FormArama->Text[1].metin = u"veli";
+    AlanaYaz(Prog().FormArama->Text[1], u"veli");
     Prog().FormArama.Goster();
-    kullanici.Tablo().Command2_Click();
+    VELORA_BAS(Prog().FormTablo, Command2);
     KayitAc([&] {
-        Yaz(1, u"Can Yılmaz");
+        Gir(1, u"Can Yılmaz");
         KutuBekle(u"Hiç kayıt bulunamadı!");
-        Kaydet();
+        KaydeteBas();
     });
     EXPECT_TRUE(Prog().FormArama->Liste.satirlar.empty());
 }
@@ -83,8 +82,8 @@ TEST_F(TazelemeTest, A_search_whose_only_match_was_renamed_says_once_that_it_fou
 TEST_F(TazelemeTest, Lists_that_still_find_the_record_show_it_as_it_was_saved_and_say_nothing) {
     EkranlariAc();
     KayitAc([&] {
-        Yaz(1, u"Ayşe Veli");
-        Kaydet();
+        Gir(1, u"Ayşe Veli");
+        KaydeteBas();
     });
     EXPECT_EQ(Prog().FormBakiye->Liste.satirlar.at(0).sutun[1], u"Ayşe Veli");
     EXPECT_EQ(Prog().FormArama->Liste.satirlar.at(0).sutun[2], u"Ayşe Veli");
@@ -95,7 +94,7 @@ TEST_F(TazelemeTest, A_save_loads_neither_report_nor_search) {
     YeniKayit(
         [&] {
             Doldur();
-            Kaydet();
+            KaydeteBas();
         },
         u"21.06.2012 - Gece");
     EXPECT_FALSE(Prog().FormBakiye.Yuklu());

@@ -16,10 +16,9 @@ class UyariTest : public KayitTest {
             adlar.push_back(satir.sutun[0] + u" " + satir.sutun[6]);
         return adlar;
     }
-    void UyarilarBekle(const std::vector<Metin>& beklenen) { EXPECT_EQ(Uyarilar(), beklenen); }
+    void UyarilarOlmali(const std::vector<Metin>& beklenen) { EXPECT_EQ(Uyarilar(), beklenen); }
     void Isaretle(int sira) {
-        Tablo().Liste.secili = sira;
-        Tablo().Liste_Click();
+        SatiraTikla(Tablo().Liste, sira, [this] { Tablo().Liste_Click(); });
     }
 };
 
@@ -28,7 +27,7 @@ TEST_F(UyariTest, A_firm_reservation_is_near_from_tomorrow_to_the_set_day_and_ne
                                 u"20.06.2012 - Gece", u"21.06.2012 - Gece"})
         RezervasyonKoy(Metin(ad));
     Prog();
-    UyarilarBekle({u"16.06.2012 - Gece Kesin", u"20.06.2012 - Gece Kesin"});
+    UyarilarOlmali({u"16.06.2012 - Gece Kesin", u"20.06.2012 - Gece Kesin"});
     EXPECT_TRUE(Tablo().Picture1.gorunur);
 }
 
@@ -37,7 +36,7 @@ TEST_F(UyariTest, A_pre_reservation_is_near_by_its_own_number_of_days_and_green)
     RezervasyonKoy(u"22.06.2012 - Gündüz", {}, true);
     RezervasyonKoy(u"26.06.2012 - Gündüz", {}, true);
     Prog();
-    UyarilarBekle({u"22.06.2012 - Gündüz Ön"});
+    UyarilarOlmali({u"22.06.2012 - Gündüz Ön"});
     EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 49152);
     EXPECT_EQ(Tablo().Liste.satirlar[0].tag, Yol(u"22.06.2012 - Gündüz"));
 }
@@ -60,7 +59,7 @@ TEST_F(UyariTest, A_row_tells_day_hall_customer_couple_telephones_and_kind) {
 TEST_F(UyariTest, A_record_that_is_not_to_be_reminded_of_is_left_out) {
     RezervasyonKoy(u"16.06.2012 - Gece", {.check18 = 0});
     Prog();
-    UyarilarBekle({});
+    UyarilarOlmali({});
     EXPECT_FALSE(Tablo().Picture1.gorunur) << "nothing to show at the start, and no message";
 }
 
@@ -74,7 +73,7 @@ TEST_F(UyariTest, A_couple_of_just_0_keeps_a_firm_reservation_out_on_purpose_and
         agac.KoyMetin(u"Salon A/2012/" + ad + u"-Detay", DetayMetni(on));
     }
     Prog();
-    UyarilarBekle({u"16.06.2012 - Gündüz Ön"});
+    UyarilarOlmali({u"16.06.2012 - Gündüz Ön"});
 }
 
 TEST_F(UyariTest, Rows_come_hall_by_hall_year_by_year_and_by_name_and_not_by_date) {
@@ -88,14 +87,14 @@ TEST_F(UyariTest, Rows_come_hall_by_hall_year_by_year_and_by_name_and_not_by_dat
     koy(u"Salon A/2013/01.01.2013 - Gece");
     koy(u"Salon B/2013/02.01.2013 - Gece");
     Prog();
-    UyarilarBekle({u"02.01.2013 - Gece Kesin", u"31.12.2012 - Gece Kesin", u"01.01.2013 - Gece Kesin"});
+    UyarilarOlmali({u"02.01.2013 - Gece Kesin", u"31.12.2012 - Gece Kesin", u"01.01.2013 - Gece Kesin"});
 }
 
 TEST_F(UyariTest, Days_that_are_no_number_count_as_0_and_warn_of_nothing) {
     AyarKoy(27, u"\"çok\"");
     RezervasyonKoy(u"16.06.2012 - Gece", {}, true);
     Prog();
-    UyarilarBekle({});
+    UyarilarOlmali({});
 }
 
 // What a file doesn't fill stays from the names before it.
@@ -104,7 +103,7 @@ TEST_F(UyariTest, Firm_reservations_may_be_warned_of_earlier_than_the_others) {
     RezervasyonKoy(u"04.07.2012 - Gece");
     RezervasyonKoy(u"04.07.2012 - Gündüz", {}, true);
     Prog();
-    UyarilarBekle({u"04.07.2012 - Gece Kesin"});
+    UyarilarOlmali({u"04.07.2012 - Gece Kesin"});
 }
 
 TEST_F(UyariTest, Events_run_between_the_scan_of_the_table_and_the_list) {
@@ -117,14 +116,14 @@ TEST_F(UyariTest, Events_run_between_the_scan_of_the_table_and_the_list) {
     };
     KutuBekle(Metin(kYok));
     Tablo().UyariGoster();
-    UyarilarBekle({});
+    UyarilarOlmali({});
 }
 
 TEST_F(UyariTest, A_record_without_details_is_what_the_one_before_it_was_on_purpose) {
     RezervasyonKoy(u"02.02.2012 - Gündüz", {}, true);
     agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece", AnaMetni());
     Prog();
-    UyarilarBekle({u"16.06.2012 - Gece Ön"});
+    UyarilarOlmali({u"16.06.2012 - Gece Ön"});
 }
 
 TEST_F(UyariTest, Asked_for_with_nothing_near_a_box_says_so_and_the_panel_stays_as_it_is) {
@@ -144,15 +143,14 @@ TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     agac.KoyMetin(u"Salon B/2013/02.01.2013 - Gece-Detay", DetayMetni(false));
     Prog();
     Metin tarih;
-    kullanici.ortam.modalda[EkranAdi::FormKayit] = [&] {
+    Tablo().Liste_DblClick(); // no row was clicked yet
+    Isaretle(0);
+    EkranBekle(EkranAdi::FormKayit, [&] {
         tarih = Kayit().Tarih;
         EXPECT_EQ(Kayit().baslik, u"Kayıt Düzenle");
         EXPECT_FALSE(Tablo().Command8.etkin);
-        Kapat();
-    };
-    Tablo().Liste_DblClick();
-    EXPECT_EQ(tarih, u"") << "no row was clicked yet";
-    Isaretle(0);
+        KapataBas();
+    });
     Tablo().Liste_DblClick();
     EXPECT_EQ(tarih, u"02.01.2013 - Gece");
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon B");
@@ -169,21 +167,21 @@ TEST_F(UyariTest, With_no_row_marked_nothing_opens) {
 TEST_F(UyariTest, A_save_lists_a_visible_panel_anew_and_leaves_a_hidden_one_alone) {
     RezervasyonKoy(u"16.06.2012 - Gece");
     Prog();
-    const auto ertele = [&] {
+    const auto ertele = [this](const Is& bekle) {
         KayitAc(
             [&] {
-                Kayit().Check18.Ata(1 - Kayit().Check18.deger);
-                Kaydet();
+                Tikla(Kayit().Check18);
+                bekle();
+                KaydeteBas();
             },
             u"16.06.2012 - Gece");
     };
-    KutuBekle(Metin(kYok));
-    ertele();
-    UyarilarBekle({});
-    Tablo().Command2_Click();
+    ertele([this] { KutuBekle(Metin(kYok)); });
+    UyarilarOlmali({});
+    VELORA_BAS(kullanici.Prog().FormTablo, Command2);
     EXPECT_FALSE(Tablo().Picture1.gorunur);
-    ertele();
-    UyarilarBekle({});
+    ertele([] {});
+    UyarilarOlmali({});
 }
 
 TEST_F(UyariTest, A_cancelled_reservation_keeps_its_row_until_the_panel_is_listed_anew_on_purpose) {
@@ -194,13 +192,13 @@ TEST_F(UyariTest, A_cancelled_reservation_keeps_its_row_until_the_panel_is_liste
     KutuBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", Cevap::Evet, Simge::Soru);
     kullanici.ortam.Bekle(
         BeklenenGirdi{.baslik = u"İptal Sebebi", .metin = u"İptal sebebini yazınız!", .cevap = u"x"});
-    Tablo().iptals_Click();
+    kullanici.KomutSec(Komut::iptals);
     EXPECT_FALSE(AnaVar(u"16.06.2012 - Gece"));
-    UyarilarBekle({u"16.06.2012 - Gece Kesin"});
+    UyarilarOlmali({u"16.06.2012 - Gece Kesin"});
     EXPECT_TRUE(Tablo().Picture1.gorunur);
     KutuBekle(Metin(kYok));
     Tablo().UyariGoster();
-    UyarilarBekle({});
+    UyarilarOlmali({});
 }
 
 } // namespace velora::test

@@ -93,6 +93,7 @@ TEST_F(PencereTest, Screen_unloaded_by_its_own_handler_lives_until_the_handler_r
 
 TEST_F(PencereTest, Screen_is_activated_when_shown_and_when_the_screen_over_it_closes) {
     alt.Goster();
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormAyarlar});
     ust.GosterModal();
     EXPECT_EQ(Gunluk(),
               (std::vector<std::string>{"alt yüklendi", "alt öne geldi", "üst öne geldi", "alt öne geldi"}));
@@ -109,10 +110,10 @@ TEST_F(PencereTest, Box_over_a_screen_activates_nothing) {
 
 TEST_F(PencereTest, Modal_screen_that_unloads_itself_leaves_the_one_below_on_top) {
     alt.Goster();
-    ortam.modalda[EkranAdi::FormAyarlar] = [this] {
-        ust.Bosalt();
-        EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormAyarlar));
-    };
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormAyarlar, [this] {
+                                  ust.Bosalt();
+                                  EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormAyarlar));
+                              }});
     ust.GosterModal();
     EXPECT_FALSE(ust.Yuklu());
     EXPECT_TRUE(program.yigin.Acik(EkranAdi::FormTablo));
@@ -120,7 +121,7 @@ TEST_F(PencereTest, Modal_screen_that_unloads_itself_leaves_the_one_below_on_top
 }
 
 TEST_F(PencereTest, Screen_unloaded_by_its_own_Activate_is_not_activated_again) {
-    ortam.modalda[EkranAdi::FormAyarlar] = [this] { alt.Bosalt(); };
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormAyarlar, [this] { alt.Bosalt(); }});
     alt.Goster();
     Gunluk().clear();
     ust.GosterModal();

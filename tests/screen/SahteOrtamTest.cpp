@@ -7,16 +7,51 @@
 namespace velora::test {
 
 namespace {
+
 constexpr Gun kGun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}};
+
+/// Shows a screen over the others, as a program does.
+void Goster(const Ortam& ortam, EkranAdi ad) {
+    ortam.goster.modal(ad, [] {});
+}
+
 } // namespace
 
 TEST(SahteOrtamTest, Unexpected_box_fails) {
     EXPECT_NONFATAL_FAILURE(
         {
             SahteOrtam ortam(kGun);
-            ortam.Ver().sor.mesaj({u"x"});
+            ortam.Ver().sor.mesaj({u"Şu"});
         },
-        "unexpected box");
+        "nothing was expected, but the box \"Şu\" came");
+}
+
+TEST(SahteOrtamTest, Unexpected_input_box_fails_and_is_answered_by_a_blank) {
+    Metin cevap;
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            cevap = ortam.Ver().sor.girdi({u"ad", u"Başlık", u""});
+        },
+        "nothing was expected, but the input box \"ad\" came");
+    EXPECT_EQ(cevap, u" ");
+}
+
+TEST(SahteOrtamTest, Unexpected_screen_over_the_others_fails_and_closes_at_once) {
+    int gorunme = 0;
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Ver().goster.modal(EkranAdi::FormPrint, [&] { ++gorunme; });
+        },
+        "nothing was expected, but the screen FormPrint came");
+    EXPECT_EQ(gorunme, 1);
+}
+
+TEST(SahteOrtamTest, Screen_beside_the_others_needs_no_entry) {
+    SahteOrtam ortam(kGun);
+    ortam.Ver().goster.ac(EkranAdi::FormTablo, [] {});
+    EXPECT_EQ(ortam.acilanlar, std::vector<EkranAdi>{EkranAdi::FormTablo});
 }
 
 TEST(SahteOrtamTest, Box_that_never_came_fails) {
@@ -25,7 +60,27 @@ TEST(SahteOrtamTest, Box_that_never_came_fails) {
             SahteOrtam ortam(kGun);
             ortam.Bekle(BeklenenKutu{u"Velora", u"x"});
         },
-        "never came");
+        "the box \"x\" was expected and never came");
+}
+
+TEST(SahteOrtamTest, Screen_that_never_came_fails) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenEkran{EkranAdi::FormWebteYayinla});
+        },
+        "the screen FormWebteYayinla was expected and never came");
+}
+
+TEST(SahteOrtamTest, Each_entry_that_never_came_is_told) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk});
+            ortam.Bekle(BeklenenGirdi{u"Başlık", u"y", u"z"});
+            Goster(ortam.Ver(), EkranAdi::FormRenk);
+        },
+        "the input box \"y\" was expected and never came");
 }
 
 TEST(SahteOrtamTest, Differently_worded_box_fails) {
@@ -35,7 +90,7 @@ TEST(SahteOrtamTest, Differently_worded_box_fails) {
             ortam.Bekle(BeklenenKutu{u"Velora", u"x"});
             ortam.Ver().sor.mesaj({u"y"});
         },
-        "beklenen.metin");
+        "beklenen->metin");
 }
 
 TEST(SahteOrtamTest, Question_answered_like_a_message_fails) {
@@ -50,8 +105,102 @@ TEST(SahteOrtamTest, Question_answered_like_a_message_fails) {
 
 TEST(SahteOrtamTest, Input_box_gives_its_scripted_answer) {
     SahteOrtam ortam(kGun);
-    ortam.Bekle(BeklenenGirdi{u"Başlık", u"Soru", u"cevap"});
-    EXPECT_EQ(ortam.Ver().sor.girdi({u"Soru", u"Başlık", u""}), u"cevap");
+    ortam.Bekle(BeklenenGirdi{u"Başlık", u"Soru", u"cevap", u"eski"});
+    EXPECT_EQ(ortam.Ver().sor.girdi({u"Soru", u"Başlık", u"eski"}), u"cevap");
+}
+
+TEST(SahteOrtamTest, Input_box_that_offers_another_text_fails) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenGirdi{u"Başlık", u"Soru", u"cevap", u"eski"});
+            ortam.Ver().sor.girdi({u"Soru", u"Başlık", u""});
+        },
+        "the text that the box offers");
+}
+
+TEST(SahteOrtamTest, Screen_that_comes_before_the_box_expected_first_fails) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenKutu{u"Velora", u"önce"});
+            Goster(ortam.Ver(), EkranAdi::FormRenk);
+        },
+        "the box \"önce\" was expected, but the screen FormRenk came");
+}
+
+TEST(SahteOrtamTest, Input_box_that_comes_before_the_screen_expected_first_fails) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk});
+            ortam.Ver().sor.girdi({u"ad", u"Başlık", u""});
+        },
+        "the screen FormRenk was expected, but the input box \"ad\" came");
+}
+
+TEST(SahteOrtamTest, Box_that_comes_before_the_input_box_expected_first_fails_and_a_question_is_a_no) {
+    Cevap cevap = Cevap::Tamam;
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenGirdi{u"Başlık", u"ad", u"cevap"});
+            cevap = ortam.Ver().sor.mesaj({u"x", u"Velora", Simge::Soru, KutuDugmeleri::EvetHayir});
+        },
+        "the input box \"ad\" was expected, but the box \"x\" came");
+    EXPECT_EQ(cevap, Cevap::Hayir);
+}
+
+TEST(SahteOrtamTest, Another_screen_than_the_expected_one_fails_and_gets_none_of_its_work) {
+    int yapilan = 0;
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, [&] { ++yapilan; }});
+            Goster(ortam.Ver(), EkranAdi::FormBakiye);
+        },
+        "the screen FormRenk was expected, but the screen FormBakiye came");
+    EXPECT_EQ(yapilan, 0);
+}
+
+TEST(SahteOrtamTest, Work_on_a_screen_begins_when_it_stands_and_uses_up_the_same_script) {
+    SahteOrtam ortam(kGun);
+    const Ortam dis = ortam.Ver();
+    std::vector<int> sira;
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, [&] {
+                                  sira.push_back(2);
+                                  dis.sor.mesaj({u"içeride"});
+                                  Goster(dis, EkranAdi::FormBakiye);
+                              }});
+    ortam.Bekle(BeklenenKutu{u"Velora", u"içeride"});
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormBakiye, [&] { sira.push_back(3); }});
+    ortam.Bekle(BeklenenKutu{u"Velora", u"sonra"});
+    dis.goster.modal(EkranAdi::FormRenk, [&] { sira.push_back(1); });
+    dis.sor.mesaj({u"sonra"});
+    EXPECT_EQ(sira, (std::vector<int>{1, 2, 3}));
+}
+
+TEST(SahteOrtamTest, What_is_expected_on_a_screen_comes_before_what_was_expected_behind_it) {
+    SahteOrtam ortam(kGun);
+    const Ortam dis = ortam.Ver();
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, [&] {
+                                  ortam.Bekle(BeklenenEkran{EkranAdi::FormBakiye, [&] {
+                                                                ortam.Bekle(BeklenenKutu{u"Velora", u"1"});
+                                                                dis.sor.mesaj({u"1"});
+                                                            }});
+                                  ortam.Bekle(BeklenenKutu{u"Velora", u"2"});
+                                  Goster(dis, EkranAdi::FormBakiye);
+                                  dis.sor.mesaj({u"2"});
+                                  dis.sor.mesaj({u"3"});
+                                  ortam.Bekle(BeklenenKutu{u"Velora", u"4"});
+                                  dis.sor.mesaj({u"4"});
+                              }});
+    ortam.Bekle(BeklenenKutu{u"Velora", u"3"});
+    ortam.Bekle(BeklenenKutu{u"Velora", u"5"});
+    Goster(dis, EkranAdi::FormRenk);
+    ortam.Bekle(BeklenenKutu{u"Velora", u"6"});
+    dis.sor.mesaj({u"5"});
+    dis.sor.mesaj({u"6"});
 }
 
 } // namespace velora::test

@@ -1,6 +1,7 @@
 // What the user does with the settings: type, apply, save, reset, drop.
 #include <algorithm>
 
+#include "destek/Eylemler.h"
 #include "setup/FormAyarlar.h"
 #include "setup/RenkSatirlari.h"
 #include "table/HucreRenkleri.h"
@@ -72,14 +73,14 @@ TEST_F(AyarKomutlari, Save_applies_first_then_writes_the_settings_and_then_the_m
             isler.push_back(yol.substr(yol.rfind(u'\\') + 1));
         return false;
     };
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(isler, (std::vector<Metin>{u"2012", u"Settings.dll", u"Visible.dll"}));
 }
 
 TEST_F(AyarKomutlari, Save_writes_both_files_with_all_defaults_and_unloads) {
     Ayarlar();
     EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
     EXPECT_EQ(agac.Bayt(u"Visible.dll"), kTumAylar);
     EXPECT_FALSE(Acik());
@@ -89,16 +90,16 @@ TEST_F(AyarKomutlari, Save_writes_both_files_with_all_defaults_and_unloads) {
 TEST_F(AyarKomutlari, Every_field_is_saved_in_its_place) {
     for (int i = 0; i < kRenkSayisi; ++i)
         Ayarlar().renkler[static_cast<std::size_t>(i)] = 100 + i;
-    Ayarlar().UyariGun.metin = u"6";
-    Ayarlar().UyariGun2.metin = u"ş";
-    Ayarlar().Check1.Ata(1);
-    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
-    Ayarlar().Check5.Ata(0);
-    Ayarlar().Check7.Ata(1);
-    Ayarlar().Check3.Ata(0);
-    Ayarlar().Aylar[2].Ata(1);
+    AlanaYaz(Ayarlar().UyariGun, u"6");
+    AlanaYaz(Ayarlar().UyariGun2, u"ş");
+    Tikla(Ayarlar().Check1);
+    ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
+    Tikla(Ayarlar().Check5);
+    Tikla(Ayarlar().Check7);
+    Tikla(Ayarlar().Check3);
+    Tikla(Ayarlar().Aylar[2]);
     kullanici.ortam.Bekle(kSiraDegisti);
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(agac.Bayt(u"Settings.dll"),
               "100,101,102,103,104,105,106,107,108,109,110,111,112,113,114,115,116,117,118,119,120,121,122,"
               "123,124,\"6\",\"\xFE\",1,1,\"G\xFCnd\xFCz / Gece\",0,1,1\r\n");
@@ -107,7 +108,7 @@ TEST_F(AyarKomutlari, Every_field_is_saved_in_its_place) {
 
 TEST_F(AyarKomutlari, Emptied_warning_days_are_an_empty_quoted_text) {
     Ayarlar().UyariGun.metin.clear();
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(agac.Bayt(u"Settings.dll"),
               kVarsayilanRenkler + "\"\",\"10\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n");
     EXPECT_EQ(Ayarlar().UyariGun.metin, u"");
@@ -118,24 +119,24 @@ TEST_F(AyarKomutlari, First_warning_field_takes_digits_alone_and_the_second_anyt
         EXPECT_TRUE(Ayarlar().UyariGun.suzgec(tus));
     for (const char16_t tus : MetinBakis(u"a ,.-\r\""))
         EXPECT_FALSE(Ayarlar().UyariGun.suzgec(tus));
-    Ayarlar().UyariGun2.metin = u"on beş";
-    Ayarlar().Command1_Click();
+    AlanaYaz(Ayarlar().UyariGun2, u"on beş");
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(Ayarlar().UyariGun2.metin, u"on beş");
 }
 
 TEST_F(AyarKomutlari, Double_quote_in_the_second_warning_field_costs_all_settings_as_is_meant) {
     Ayarlar().renkler[0] = 77;
-    Ayarlar().UyariGun2.metin = u"1\"2";
-    Ayarlar().Command1_Click();
+    AlanaYaz(Ayarlar().UyariGun2, u"1\"2");
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_NE(agac.Bayt(u"Settings.dll").find("\"5\",\"1\"2\",0,1,"), std::string::npos);
     EXPECT_EQ(Ayarlar().Renk(0), 32768) << "the values behind it slid, so that all defaults stand";
 }
 
 TEST_F(AyarKomutlari, Apply_paints_colours_and_months_and_writes_nothing) {
     Ayarlar().renkler[2] = 123;
-    Ayarlar().Aylar[7].Ata(0);
+    Tikla(Ayarlar().Aylar[7]);
     const std::string once = agac.Resim();
-    Ayarlar().Command4_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command4);
     EXPECT_EQ(BosGun().zemin, 123);
     EXPECT_FALSE(kullanici.Goz(1, 7, kGunduz).gorunur);
     EXPECT_TRUE(Acik());
@@ -149,11 +150,11 @@ TEST_F(AyarKomutlari, Unapplied_colour_is_read_at_once_but_not_yet_painted) {
 }
 
 TEST_F(AyarKomutlari, Applying_twice_after_a_change_of_the_slot_order_tells_of_the_restart_twice) {
-    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
     kullanici.ortam.Bekle(kSiraDegisti);
     kullanici.ortam.Bekle(kSiraDegisti);
-    Ayarlar().Command4_Click();
-    Ayarlar().Command4_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command4);
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command4);
     EXPECT_EQ(Ayarlar().Check4.deger, 1);
 }
 
@@ -163,7 +164,7 @@ TEST_F(AyarKomutlari, Save_applies_with_message_and_scan_before_it_writes) {
     agac.Koy(u"Visible.dll", kTumAylar);
     kullanici.Prog().FormAyarlar.Bosalt();
     Ayarlar().renkler[2] = 123;
-    Ayarlar().GunduzGece.Sec(u"Gündüz / Gece");
+    ListedenSec(Ayarlar().GunduzGece, u"Gündüz / Gece");
     kullanici.ortam.Bekle(kSiraDegisti);
     const std::string eski = agac.Bayt(u"Settings.dll");
     int bakilan = 0;
@@ -172,7 +173,7 @@ TEST_F(AyarKomutlari, Save_applies_with_message_and_scan_before_it_writes) {
         EXPECT_EQ(agac.Bayt(u"Settings.dll"), eski);
         EXPECT_TRUE(Acik());
     };
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     kullanici.ortam.olayda = nullptr;
     EXPECT_GT(bakilan, 0);
     EXPECT_EQ(BosGun().zemin, 123);
@@ -181,23 +182,23 @@ TEST_F(AyarKomutlari, Save_applies_with_message_and_scan_before_it_writes) {
 
 // The window stays pressable where the scan lets events run.
 TEST_F(AyarKomutlari, Cancel_pressed_within_the_scan_of_a_save_comes_too_late_and_leaves_nothing_dangling) {
-    Ayarlar().UyariGun.metin = u"3";
+    AlanaYaz(Ayarlar().UyariGun, u"3");
     kullanici.ortam.olayda = [this](int) {
         kullanici.ortam.olayda = nullptr;
-        kullanici.Prog().FormAyarlar->Command2_Click();
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command2);
     };
-    kullanici.Prog().FormAyarlar->Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(agac.Bayt(u"Settings.dll"),
               kVarsayilanRenkler + "\"3\",\"10\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n");
     EXPECT_FALSE(Acik());
 }
 
 TEST_F(AyarKomutlari, Failed_save_closes_as_if_all_were_well_and_the_next_reading_brings_the_old_values) {
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Yaz; };
     Ayarlar().renkler[2] = 123;
-    Ayarlar().Aylar[7].Ata(0);
-    Ayarlar().Command1_Click();
+    Tikla(Ayarlar().Aylar[7]);
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_FALSE(Acik());
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
     EXPECT_EQ(Ayarlar().Renk(2), 8454143);
@@ -206,11 +207,11 @@ TEST_F(AyarKomutlari, Failed_save_closes_as_if_all_were_well_and_the_next_readin
 }
 
 TEST_F(AyarKomutlari, Full_disk_keeps_the_old_settings_and_still_writes_the_months_that_fit) {
-    Ayarlar().Command1_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     kullanici.Prog().dosyalar.bosYer = 0;
-    Ayarlar().UyariGun.metin = u"5000000";
-    Ayarlar().Aylar[7].Ata(0);
-    Ayarlar().Command1_Click();
+    AlanaYaz(Ayarlar().UyariGun, u"5000000");
+    Tikla(Ayarlar().Aylar[7]);
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
     EXPECT_EQ(agac.Bayt(u"Visible.dll"), "1,1,1,1,1,1,0,1,1,1,1,1,1\r\n");
 }
@@ -219,7 +220,7 @@ TEST_F(AyarKomutlari, Defaults_count_as_a_change_of_the_slot_order_always_as_is_
     EXPECT_EQ(Ayarlar().GunduzGece.Metni(), u"Gece / Gündüz");
     kullanici.ortam.Bekle(kSiraDegisti);
     Ayarlar().renkler[2] = 123;
-    Ayarlar().Command3_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command3);
     EXPECT_EQ(Ayarlar().Check4.deger, 1);
     EXPECT_EQ(Ayarlar().Renk(2), 8454143);
     EXPECT_EQ(BosGun().zemin, 8454143);
@@ -231,10 +232,11 @@ TEST_F(AyarKomutlari, Defaults_dropped_by_cancel_leave_the_files_untouched) {
     agac.Koy(u"Visible.dll", "1,1,1,1,1,1,1,1,1,1,1,0,1\r\n");
     kullanici.Prog().FormAyarlar.Bosalt();
     const std::string once = agac.Resim();
+    Ayarlar();
     kullanici.ortam.Bekle(kSiraDegisti);
-    Ayarlar().Command3_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command3);
     EXPECT_TRUE(kullanici.Goz(1, 12, kGunduz).gorunur);
-    Ayarlar().Command2_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command2);
     EXPECT_FALSE(Acik());
     EXPECT_EQ(agac.Resim(), once);
     EXPECT_EQ(Ayarlar().Renk(0), 77);
@@ -243,8 +245,8 @@ TEST_F(AyarKomutlari, Defaults_dropped_by_cancel_leave_the_files_untouched) {
 
 TEST_F(AyarKomutlari, Applied_and_dropped_colours_stay_on_the_table_until_the_next_scan_as_is_meant) {
     Ayarlar().renkler[2] = 123;
-    Ayarlar().Command4_Click();
-    Ayarlar().Command2_Click();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command4);
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command2);
     EXPECT_EQ(BosGun().zemin, 123);
     for (int i = 0; i < kRenkSayisi; ++i)
         EXPECT_NE(BosGun().zemin, Ayarlar().Renk(i)) << "the cell's colour is no live colour any more";

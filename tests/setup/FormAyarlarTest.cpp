@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/Kayitlar.h"
 #include "destek/SahteOrtam.h"
@@ -24,7 +25,7 @@ class FormAyarlarTest : public ::testing::Test {
   protected:
     FormAyarlar& Ayarlar() { return *program.FormAyarlar.Tut(); }
 
-    void VarsayilanBekle() {
+    void VarsayilanOlmali() {
         for (int i = 0; i < kRenkSayisi; ++i)
             EXPECT_EQ(Ayarlar().Renk(i), kVarsayilan[static_cast<std::size_t>(i)]) << i;
         EXPECT_EQ(Ayarlar().UyariGun.metin, u"5");
@@ -48,7 +49,7 @@ class FormAyarlarTest : public ::testing::Test {
 };
 
 TEST_F(FormAyarlarTest, With_neither_file_all_defaults_stand_and_no_file_is_made) {
-    VarsayilanBekle();
+    VarsayilanOlmali();
     EXPECT_FALSE(agac.DosyaVar(u"Settings.dll"));
     EXPECT_FALSE(agac.DosyaVar(u"Visible.dll"));
 }
@@ -77,12 +78,12 @@ TEST_F(FormAyarlarTest, Both_files_are_read_field_by_field) {
 
 TEST_F(FormAyarlarTest, Missing_visible_drops_the_colours_of_a_good_settings_file_too_on_purpose) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Missing_settings_drops_a_good_visible_file_too) {
     agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0,0\r\n");
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Thirty_two_values_give_all_defaults_on_purpose) {
@@ -90,13 +91,13 @@ TEST_F(FormAyarlarTest, Thirty_two_values_give_all_defaults_on_purpose) {
     kisa.erase(kisa.rfind(u','));
     agac.KoyMetin(u"Settings.dll", kisa);
     agac.Koy(u"Visible.dll", kHepsiAcik);
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Twelve_month_values_give_all_defaults) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
     agac.Koy(u"Visible.dll", "0,0,0,0,0,0,0,0,0,0,0,0\r\n");
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 // The first two boxes go through the numeric reader, the others through a plain conversion: the difference is
@@ -117,7 +118,7 @@ TEST_F(FormAyarlarTest, Word_in_any_other_number_gives_all_defaults) {
                       AyarMetni(alan, u"\"abc\"").replace(0, alan == 1 ? 0 : 5, alan == 1 ? u"" : u"77"));
         agac.Koy(u"Visible.dll", kHepsiAcik);
         program.FormAyarlar.Bosalt();
-        VarsayilanBekle();
+        VarsayilanOlmali();
     }
 }
 
@@ -155,29 +156,29 @@ TEST_F(FormAyarlarTest, Loaded_day_on_top_order_is_no_change) {
     agac.Koy(u"Visible.dll", kHepsiAcik);
     EXPECT_TRUE(Ayarlar().GunduzUstte());
     EXPECT_EQ(Ayarlar().Check4.deger, 0);
-    Ayarlar().GunduzGece.Sec(u"Gece / Gündüz");
+    ListedenSec(Ayarlar().GunduzGece, u"Gece / Gündüz");
     EXPECT_EQ(Ayarlar().Check4.deger, 1);
 }
 
 TEST_F(FormAyarlarTest, Master_box_ticks_and_clears_all_months) {
-    Ayarlar().Check3.Ata(0);
+    Tikla(Ayarlar().Check3);
     for (int ay = 1; ay <= 12; ++ay)
         EXPECT_FALSE(Ayarlar().AyGorunur(ay));
-    Ayarlar().Check3.Ata(1);
+    Tikla(Ayarlar().Check3);
     for (int ay = 1; ay <= 12; ++ay)
         EXPECT_TRUE(Ayarlar().AyGorunur(ay));
 }
 
 TEST_F(FormAyarlarTest, No_numbers_at_all_disables_the_automatic_ones_and_keeps_their_value) {
-    Ayarlar().Check7.Ata(1);
+    Tikla(Ayarlar().Check7);
     EXPECT_FALSE(Ayarlar().Check2.etkin);
     EXPECT_EQ(Ayarlar().Check2.deger, 1);
-    Ayarlar().Check7.Ata(0);
+    Tikla(Ayarlar().Check7);
     EXPECT_TRUE(Ayarlar().Check2.etkin);
 }
 
 TEST_F(FormAyarlarTest, Unload_drops_edits_and_the_next_reading_loads_the_files_again) {
-    Ayarlar().Check6.Ata(0);
+    Tikla(Ayarlar().Check6);
     program.FormAyarlar.Bosalt();
     EXPECT_EQ(Ayarlar().Check6.deger, 1);
 }
@@ -188,13 +189,13 @@ TEST_F(FormAyarlarTest, Negative_and_huge_colours_are_kept_or_refused_as_whole_n
     EXPECT_EQ(Ayarlar().Renk(4), -2147483643);
     program.FormAyarlar.Bosalt();
     agac.KoyMetin(u"Settings.dll", AyarMetni(5, u"99999999999"));
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 TEST_F(FormAyarlarTest, Garbage_gives_all_defaults) {
     agac.Koy(u"Settings.dll", std::string(200'000, '"'));
     agac.Koy(u"Visible.dll", std::string(200'000, '\xFF'));
-    VarsayilanBekle();
+    VarsayilanOlmali();
 }
 
 } // namespace velora::test

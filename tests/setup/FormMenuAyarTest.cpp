@@ -49,7 +49,8 @@ TEST_F(FormMenuAyarTest,
     Isaretle(0);
     EXPECT_TRUE(Menuler().Command2.etkin);
     EXPECT_TRUE(Menuler().Command4.etkin);
-    Menuler().Command4_Click();
+    MenuAcikken({});
+    VELORA_BAS(program.FormMenuAyar, Command4);
     EXPECT_FALSE(Menuler().Command2.etkin) << "the dialogue has closed";
     EXPECT_FALSE(Menuler().Command4.etkin);
 }
@@ -59,10 +60,9 @@ TEST_F(FormMenuAyarTest, Double_click_edits_only_while_the_button_is_enabled) {
     program.FormMenuAyar.Goster();
     Menuler().Liste.secili = 0;
     Menuler().Liste_DblClick();
-    EXPECT_EQ(ortam.acilanlar, std::vector<EkranAdi>{EkranAdi::FormMenuAyar});
     Isaretle(0);
+    MenuAcikken({});
     Menuler().Liste_DblClick();
-    EXPECT_EQ(ortam.acilanlar.back(), EkranAdi::FormMenuEkle);
 }
 
 TEST_F(FormMenuAyarTest, Deleted_menu_is_gone_from_list_and_file) {
@@ -89,7 +89,7 @@ TEST_F(FormMenuAyarTest,
     MenuSil(0, Cevap::Evet);
     EXPECT_TRUE(agac.DosyaVar(u"Menuler.dat"));
     EXPECT_EQ(agac.Bayt(u"Menuler.dat"), "");
-    Menuler().Command3_Click();
+    VELORA_BAS(program.FormMenuAyar, Command3);
     EXPECT_FALSE(program.FormMenuAyar.Yuklu());
     EXPECT_TRUE(Liste().empty());
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "screen/Program.h"
@@ -12,12 +13,16 @@ namespace velora::test {
 class FormRenkTest : public ::testing::Test {
   protected:
     FormRenk& Secici() { return *program.FormRenk.Tut(); }
+    /// The picker is expected next; `is` is done while it stands.
+    void SeciciAcikken(std::function<void()> is) {
+        ortam.Bekle(BeklenenEkran{EkranAdi::FormRenk, std::move(is)});
+    }
     /// A click on the chart where it has this colour.
     void Tikla(RenkDegeri renk) {
         Secici().Picture1_MouseDown(renk);
         Secici().Picture1_MouseUp();
     }
-    void MetinlerBekle(const std::array<MetinBakis, 6>& beklenen) {
+    void MetinlerOlmali(const std::array<MetinBakis, 6>& beklenen) {
         EXPECT_EQ(Secici().txtRed.metin, beklenen[0]);
         EXPECT_EQ(Secici().txtGreen.metin, beklenen[1]);
         EXPECT_EQ(Secici().txtBlue.metin, beklenen[2]);
@@ -35,24 +40,24 @@ TEST_F(FormRenkTest, Captions_stand_as_the_user_reads_them_and_all_texts_begin_a
     EXPECT_EQ(Secici().baslik, u"Renk Seçiniz");
     EXPECT_EQ(Secici().Command1.baslik, u"Tamam");
     EXPECT_EQ(Secici().Command2.baslik, u"İptal");
-    MetinlerBekle({u"0", u"0", u"0", u"0", u"0", u"0"});
+    MetinlerOlmali({u"0", u"0", u"0", u"0", u"0", u"0"});
 }
 
 TEST_F(FormRenkTest, Pick_shows_the_colour_in_all_its_forms) {
     Tikla(6086641); // 5C DF F1 from the high byte down
     EXPECT_EQ(Secici().picColorBox.zemin, 6086641);
-    MetinlerBekle({u"241", u"223", u"92", u"#F1DF5C", u"&H5CDFF1&", u"5CDFF1"});
+    MetinlerOlmali({u"241", u"223", u"92", u"#F1DF5C", u"&H5CDFF1&", u"5CDFF1"});
 }
 
 TEST_F(FormRenkTest, Hex_value_is_unpadded_and_the_other_two_are_padded) {
     Tikla(0x00000A);
-    MetinlerBekle({u"10", u"0", u"0", u"#0A0000", u"&H00000A&", u"A"});
+    MetinlerOlmali({u"10", u"0", u"0", u"#0A0000", u"&H00000A&", u"A"});
     Tikla(0x008000);
-    MetinlerBekle({u"0", u"128", u"0", u"#008000", u"&H008000&", u"8000"});
+    MetinlerOlmali({u"0", u"128", u"0", u"#008000", u"&H008000&", u"8000"});
     Tikla(0);
-    MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
+    MetinlerOlmali({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
     Tikla(0xFFFFFF);
-    MetinlerBekle({u"255", u"255", u"255", u"#FFFFFF", u"&HFFFFFF&", u"FFFFFF"});
+    MetinlerOlmali({u"255", u"255", u"255", u"#FFFFFF", u"&HFFFFFF&", u"FFFFFF"});
 }
 
 TEST_F(FormRenkTest, Every_component_is_split_right) {
@@ -68,7 +73,7 @@ TEST_F(FormRenkTest, Place_outside_the_chart_is_black) {
     Tikla(0xFFFFFF);
     Tikla(-1);
     EXPECT_EQ(Secici().picColorBox.zemin, 0);
-    MetinlerBekle({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
+    MetinlerOlmali({u"0", u"0", u"0", u"#000000", u"&H000000&", u"0"});
 }
 
 TEST_F(FormRenkTest, Move_picks_only_while_the_button_is_held) {
@@ -83,34 +88,31 @@ TEST_F(FormRenkTest, Move_picks_only_while_the_button_is_held) {
 }
 
 TEST_F(FormRenkTest, Colour_box_opens_the_picker_with_its_colour_and_its_slot) {
-    bool acildi = false;
-    ortam.modalda[EkranAdi::FormRenk] = [&] {
-        acildi = true;
+    SeciciAcikken([this] {
         EXPECT_EQ(Secici().picColorBox.zemin, 12632256);
         EXPECT_EQ(Secici().Tag, u"17");
         Tikla(123);
-        Secici().Command1_Click();
-    };
+        VELORA_BAS(program.FormRenk, Command1);
+    });
     program.FormAyarlar->Renk_Click(17);
-    EXPECT_TRUE(acildi);
     EXPECT_EQ(program.FormAyarlar->Renk(17), 123);
     EXPECT_FALSE(program.FormRenk.Yuklu());
 }
 
 TEST_F(FormRenkTest, Ok_without_a_pick_gives_black_though_the_sample_shows_the_old_colour_as_is_meant) {
-    ortam.modalda[EkranAdi::FormRenk] = [&] {
+    SeciciAcikken([this] {
         EXPECT_EQ(Secici().picColorBox.zemin, 32768);
-        Secici().Command1_Click();
-    };
+        VELORA_BAS(program.FormRenk, Command1);
+    });
     program.FormAyarlar->Renk_Click(0);
     EXPECT_EQ(program.FormAyarlar->Renk(0), 0);
 }
 
 TEST_F(FormRenkTest, Cancel_after_a_pick_leaves_the_colour) {
-    ortam.modalda[EkranAdi::FormRenk] = [&] {
+    SeciciAcikken([this] {
         Tikla(123);
-        Secici().Command2_Click();
-    };
+        VELORA_BAS(program.FormRenk, Command2);
+    });
     program.FormAyarlar->Renk_Click(0);
     EXPECT_EQ(program.FormAyarlar->Renk(0), 32768);
     EXPECT_FALSE(program.FormRenk.Yuklu());
@@ -118,14 +120,14 @@ TEST_F(FormRenkTest, Cancel_after_a_pick_leaves_the_colour) {
 
 TEST_F(FormRenkTest, Typed_components_are_taken_and_stay_within_a_byte) {
     Secici().Tag = u"3";
-    Secici().txtRed.metin = u"10";
-    Secici().txtGreen.metin = u"999999999999";
-    Secici().txtBlue.metin = u"-5";
-    Secici().Command1_Click();
+    AlanaYaz(Secici().txtRed, u"10");
+    AlanaYaz(Secici().txtGreen, u"999999999999");
+    AlanaYaz(Secici().txtBlue, u"-5");
+    VELORA_BAS(program.FormRenk, Command1);
     EXPECT_EQ(program.FormAyarlar->Renk(3), 0x00FF0A);
     Secici().Tag = u"3";
-    Secici().txtRed.metin = u"kırmızı";
-    Secici().Command1_Click();
+    AlanaYaz(Secici().txtRed, u"kırmızı");
+    VELORA_BAS(program.FormRenk, Command1);
     EXPECT_EQ(program.FormAyarlar->Renk(3), 0);
 }
 
@@ -134,7 +136,7 @@ TEST_F(FormRenkTest, Slot_that_is_not_there_changes_no_colour) {
     for (const auto* tag : {u"25", u"-1", u"99999999999999999999"}) {
         Secici().Tag = tag;
         Tikla(123);
-        Secici().Command1_Click();
+        VELORA_BAS(program.FormRenk, Command1);
         EXPECT_EQ(program.FormAyarlar->renkler, once);
     }
 }

@@ -13,9 +13,7 @@ class FormSalonTanimAdTest : public SalonTest {
 TEST_F(FormSalonTanimAdTest, Opens_with_the_old_name_and_its_place_in_the_list) {
     kullanici.ProgramiAc();
     Isaretle(1);
-    bool acildi = false;
-    Ortam().modalda[EkranAdi::FormSalonTanimAd] = [&] {
-        acildi = true;
+    AdAcikken([this] {
         const auto ad = kullanici.Prog().FormSalonTanimAd.Tut();
         EXPECT_EQ(ad->baslik, u"Salon Düzenle");
         EXPECT_EQ(ad->Label1.baslik, u"Salon Adı");
@@ -25,29 +23,28 @@ TEST_F(FormSalonTanimAdTest, Opens_with_the_old_name_and_its_place_in_the_list) 
         EXPECT_EQ(ad->Text1.metin, u"Salon B");
         EXPECT_EQ(ad->Command1.baslik, u"Tamam");
         EXPECT_EQ(ad->Command2.baslik, u"İptal");
-    };
-    Tanim().Command4_Click();
-    EXPECT_TRUE(acildi);
+    });
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
 }
 
 TEST_F(FormSalonTanimAdTest, Cancel_unloads_and_changes_nothing) {
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
     Isaretle(0);
-    Ortam().modalda[EkranAdi::FormSalonTanimAd] = [this] {
-        kullanici.Prog().FormSalonTanimAd->Text1.metin = u"Yeni";
-        kullanici.Prog().FormSalonTanimAd->Command2_Click();
-    };
-    Tanim().Command4_Click();
+    AdAcikken([this] {
+        AlanaYaz(kullanici.Prog().FormSalonTanimAd->Text1, u"Yeni");
+        VELORA_BAS(kullanici.Prog().FormSalonTanimAd, Command2);
+    });
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
     EXPECT_FALSE(kullanici.Prog().FormSalonTanimAd.Yuklu());
-    SalonlarBekle({u"Salon A", u"Salon B"});
+    SalonlarOlmali({u"Salon A", u"Salon B"});
     EXPECT_EQ(agac.Resim(), once);
 }
 
 TEST_F(FormSalonTanimAdTest, Both_lists_and_the_file_take_the_new_name_in_proper_case) {
     kullanici.ProgramiAc();
     AdDegistir(1, u"ılıca inci");
-    SalonlarBekle({u"Salon A", u"Ilıca İnci"});
+    SalonlarOlmali({u"Salon A", u"Ilıca İnci"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"Salon A\"\r\n\"Il\xFD\x63\x61 \xDDnci\"\r\n");
     EXPECT_FALSE(kullanici.Prog().FormSalonTanimAd.Yuklu());
     EXPECT_FALSE(Tanim().Command4.etkin);
@@ -105,7 +102,7 @@ TEST_F(FormSalonTanimAdTest, Unchanged_name_overwrites_the_second_year_ahead_wit
     EXPECT_EQ(agac.Bayt(u"Salon A/2014/Gider.dat"), "of 2015");
     EXPECT_EQ(agac.Bayt(u"Salon A/2014/x"), "only 2014");
     EXPECT_EQ(agac.Bayt(u"Salon A/2015/Gider.dat"), "of 2015");
-    SalonlarBekle({u"Salon A", u"Salon B"});
+    SalonlarOlmali({u"Salon A", u"Salon B"});
 }
 
 TEST_F(FormSalonTanimAdTest, No_file_is_copied_onto_itself) {
@@ -128,7 +125,7 @@ TEST_F(FormSalonTanimAdTest, Name_of_another_hall_overwrites_its_reservations_of
     agac.Koy(u"Salon B/2012/06.01.2012 - Gece", "of B alone");
     kullanici.ProgramiAc();
     AdDegistir(0, u"salon b");
-    SalonlarBekle({u"Salon B", u"Salon B"});
+    SalonlarOlmali({u"Salon B", u"Salon B"});
     EXPECT_EQ(agac.Bayt(u"Salon B/2012/05.01.2012 - Gece"), "of A");
     EXPECT_EQ(agac.Bayt(u"Salon B/2012/06.01.2012 - Gece"), "of B alone");
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/05.01.2012 - Gece"), "of A");
@@ -138,14 +135,14 @@ TEST_F(FormSalonTanimAdTest, Empty_name_makes_year_folders_in_the_program_folder
     agac.Koy(u"Salon A/2012/x", "f");
     kullanici.ProgramiAc();
     AdDegistir(0, u"");
-    SalonlarBekle({u"", u"Salon B"});
+    SalonlarOlmali({u"", u"Salon B"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"\"\r\n\"Salon B\"\r\n");
     for (int yil = 2011; yil <= 2015; ++yil)
         EXPECT_TRUE(agac.KlasorVar(SayiMetni(yil))) << yil;
     EXPECT_EQ(agac.Bayt(u"2012/x"), "f");
     kullanici.ProgramiKapat();
     kullanici.ProgramiAc();
-    SalonlarBekle({u"Salon B"});
+    SalonlarOlmali({u"Salon B"});
 }
 
 TEST_F(FormSalonTanimAdTest, Folders_of_the_old_name_are_made_when_they_are_missing) {
@@ -161,7 +158,7 @@ TEST_F(FormSalonTanimAdTest, Path_out_of_the_program_folder_is_listed_and_copies
     agac.Koy(u"Salon A/2012/x", "f");
     kullanici.ProgramiAc();
     AdDegistir(0, u"..\\velora disi");
-    SalonlarBekle({u"..\\velora Disi", u"Salon B"});
+    SalonlarOlmali({u"..\\velora Disi", u"Salon B"});
     EXPECT_FALSE(std::filesystem::exists(agac.Kok().parent_path() / "velora Disi"));
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/x"), "f");
 }
@@ -176,7 +173,7 @@ TEST_F(FormSalonTanimAdTest, Failed_copy_is_passed_over_and_the_others_are_made)
     AdDegistir(0, u"Yeni");
     EXPECT_FALSE(agac.DosyaVar(u"Yeni/2012/x"));
     EXPECT_EQ(agac.Bayt(u"Yeni/2012/y"), "f");
-    SalonlarBekle({u"Yeni", u"Salon B"});
+    SalonlarOlmali({u"Yeni", u"Salon B"});
 }
 
 TEST_F(FormSalonTanimAdTest, Full_disk_leaves_the_old_files_whole_and_renames_the_hall_in_memory_alone) {
@@ -192,8 +189,10 @@ TEST_F(FormSalonTanimAdTest, Full_disk_leaves_the_old_files_whole_and_renames_th
 
 TEST_F(FormSalonTanimAdTest, Without_a_marked_hall_no_entry_is_replaced) {
     kullanici.ProgramiAc();
-    AdDegistir(-1, u"Yeni");
-    SalonlarBekle({u"Salon A", u"Salon B"});
+    Isaretle(-1);
+    AdAcikken([this] { AdiGir(u"Yeni"); });
+    Tanim().Command4_Click(); // no user can press it
+    SalonlarOlmali({u"Salon A", u"Salon B"});
 }
 
 } // namespace velora::test

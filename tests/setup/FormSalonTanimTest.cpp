@@ -28,7 +28,7 @@ TEST_F(FormSalonTanimTest, Captions_stand_as_the_user_reads_them) {
 TEST_F(FormSalonTanimTest, Blank_lines_and_blank_names_give_no_entry) {
     agac.Koy(u"Salon.dat", "\"B\"\r\n\r\n\"  \"\r\n\"\"\r\n\"A \"\r\n\r\n");
     kullanici.ProgramiAc();
-    SalonlarBekle({u"B", u"A "});
+    SalonlarOlmali({u"B", u"A "});
 }
 
 TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_refuses_and_starts_an_add) {
@@ -40,16 +40,17 @@ TEST_F(FormSalonTanimTest, Absent_and_empty_files_give_an_empty_list_that_close_
             u"Hata",
             u"Hiç salon tanımınız yok!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."});
         Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", u" "});
-        Tanim().Command3_Click();
+        Tanim();
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
         EXPECT_TRUE(kullanici.Prog().FormSalonTanim.Yuklu()) << "the screen stays open";
-        SalonlarBekle({});
+        SalonlarOlmali({});
     }
 }
 
 TEST_F(FormSalonTanimTest, Close_unloads_with_a_hall_in_the_list) {
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
-    SalonlarAcikken([this] { Tanim().Command3_Click(); });
+    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
     EXPECT_EQ(Ortam().gizlenenler, std::vector<EkranAdi>{EkranAdi::FormSalonTanim});
 }
@@ -58,19 +59,21 @@ TEST_F(FormSalonTanimTest, Close_publishes_the_table_of_a_published_firm_again) 
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
-    SalonlarAcikken([this] { Tanim().Command3_Click(); });
+    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
     EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormWebteYayinla);
 }
 
 TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing_written) {
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
-    for (const auto* cevap : {u"", u"", u"  "})
+    for (const auto* cevap : {u"", u"", u"  "}) {
         Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
-    Ortam().Bekle(kAdYok);
-    Ortam().Bekle(kAdYok);
-    Tanim().Command1_Click();
-    SalonlarBekle({});
+        if (Metin(cevap).empty())
+            Ortam().Bekle(kAdYok);
+    }
+    Tanim();
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
+    SalonlarOlmali({});
     EXPECT_EQ(agac.Resim(), once);
 }
 
@@ -79,14 +82,14 @@ TEST_F(FormSalonTanimTest, Tab_is_no_blank_and_makes_a_hall_without_a_folder) {
     kullanici.ProgramiAc();
     SalonEkle(u"\t");
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"\t\"\r\n");
-    SalonlarBekle({u"\t"});
+    SalonlarOlmali({u"\t"});
 }
 
 TEST_F(FormSalonTanimTest, Name_in_lower_case_is_listed_stored_and_used_as_a_folder_in_proper_case) {
     kullanici.ProgramiAc();
     SalonEkle(u"büyük salon");
     SalonEkle(u"IŞIK-iNCİ  izmir");
-    SalonlarBekle({u"Büyük Salon", u"Işık-inci  İzmir"});
+    SalonlarOlmali({u"Büyük Salon", u"Işık-inci  İzmir"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\xFCy\xFCk Salon\"\r\n\"I\xFE\xFDk-inci  \xDDzmir\"\r\n");
     for (int yil = 2012; yil <= 2022; ++yil) {
         EXPECT_TRUE(agac.KlasorVar(u"Büyük Salon/" + SayiMetni(yil))) << yil;
@@ -140,7 +143,7 @@ TEST_F(FormSalonTanimTest, Name_entered_twice_gives_two_entries_that_share_one_f
     SalonEkle(u"a");
     agac.Koy(u"A/2012/x", "kept");
     SalonEkle(u"a");
-    SalonlarBekle({u"A", u"A"});
+    SalonlarOlmali({u"A", u"A"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n\"A\"\r\n");
     EXPECT_EQ(agac.Bayt(u"A/2012/x"), "kept");
 }
@@ -164,7 +167,7 @@ TEST_F(FormSalonTanimTest, After_a_no_both_buttons_stay_disabled_though_a_row_is
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Hayir);
-    SalonlarBekle({u"A"});
+    SalonlarOlmali({u"A"});
     EXPECT_EQ(Tanim().List1.secili, 0);
     EXPECT_FALSE(Tanim().Command2.etkin);
     EXPECT_FALSE(Tanim().Command4.etkin);
@@ -175,7 +178,7 @@ TEST_F(FormSalonTanimTest, Deleting_the_selected_hall_selects_the_first_and_pain
     RezervasyonKoy(u"B");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Evet);
-    SalonlarBekle({u"B", u"C"});
+    SalonlarOlmali({u"B", u"C"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"B\"\r\n\"C\"\r\n");
     EXPECT_EQ(Tablo().Salon.Metni(), u"B");
     EXPECT_NE(RezervasyonTagi(), u"");
@@ -187,7 +190,7 @@ TEST_F(FormSalonTanimTest, Deleting_another_hall_selects_the_first_too) {
     kullanici.ProgramiAc();
     kullanici.SalonSec(u"C");
     SalonSil(1, Cevap::Evet);
-    SalonlarBekle({u"A", u"C"});
+    SalonlarOlmali({u"A", u"C"});
     EXPECT_EQ(Tablo().Salon.Metni(), u"A");
 }
 
@@ -196,7 +199,7 @@ TEST_F(FormSalonTanimTest, Deleting_the_only_hall_leaves_an_empty_selector_a_pai
     RezervasyonKoy(u"A");
     kullanici.ProgramiAc();
     SalonSil(0, Cevap::Evet);
-    SalonlarBekle({});
+    SalonlarOlmali({});
     EXPECT_EQ(Tablo().Salon.secili, -1);
     EXPECT_EQ(Tablo().Salon.Metni(), u"");
     EXPECT_TRUE(agac.DosyaVar(u"Salon.dat"));
@@ -225,7 +228,7 @@ TEST_F(FormSalonTanimTest, Double_quote_in_a_name_is_written_raw_and_slides_the_
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A \"b\", C\"\r\n");
     kullanici.ProgramiKapat();
     kullanici.ProgramiAc();
-    SalonlarBekle({u"A ", u"b\"", u"C\""});
+    SalonlarOlmali({u"A ", u"b\"", u"C\""});
 }
 
 TEST_F(FormSalonTanimTest, Signs_that_a_folder_cannot_hold_enter_the_list_without_a_folder) {
@@ -246,7 +249,7 @@ TEST_F(FormSalonTanimTest, Signs_that_a_folder_cannot_hold_enter_the_list_withou
 TEST_F(FormSalonTanimTest, Name_outside_the_code_page_is_listed_as_the_file_holds_it) {
     kullanici.ProgramiAc();
     SalonEkle(u"salon \u0416\U0001F600");
-    SalonlarBekle({u"Salon ??"});
+    SalonlarOlmali({u"Salon ??"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"Salon ??\"\r\n");
 }
 
@@ -260,7 +263,7 @@ TEST_F(FormSalonTanimTest, Folders_that_cannot_be_made_are_no_hindrance) {
     kullanici.ProgramiAc();
     Boz(DosyaIsi::KlasorYap);
     SalonEkle(u"a");
-    SalonlarBekle({u"A"});
+    SalonlarOlmali({u"A"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
     EXPECT_FALSE(agac.KlasorVar(u"A"));
 }
@@ -270,7 +273,7 @@ TEST_F(FormSalonTanimTest, List_that_cannot_be_written_keeps_the_old_file_and_sa
     kullanici.ProgramiAc();
     Boz(DosyaIsi::Yaz);
     SalonEkle(u"b");
-    SalonlarBekle({u"A", u"B"});
+    SalonlarOlmali({u"A", u"B"});
     EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"A\"\r\n");
     EXPECT_TRUE(agac.KlasorVar(u"B/2012")) << "the steps behind the failed one still run";
 }
@@ -295,17 +298,14 @@ class IlkSalon : public SalonTest {
 TEST_F(IlkSalon, First_run_opens_a_list_that_closes_only_after_an_add_was_started) {
     kullanici.ProgramiAc();
     SoruBekle(Cevap::Evet);
-    bool acildi = false;
-    Ortam().modalda[EkranAdi::FormSalonTanim] = [&] {
-        acildi = true;
-        EXPECT_FALSE(Tanim().Command3.etkin);
-        SalonEkle(u"  ");
-        EXPECT_TRUE(Tanim().Command3.etkin);
-        SalonEkle(u"gül salonu");
-        Tanim().Command3_Click();
-    };
+    Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim, [this] {
+                                    EXPECT_FALSE(Tanim().Command3.etkin);
+                                    SalonEkle(u"  ");
+                                    EXPECT_TRUE(Tanim().Command3.etkin);
+                                    SalonEkle(u"gül salonu");
+                                    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
+                                }});
     IlkSalonuSor(kullanici.Prog());
-    EXPECT_TRUE(acildi);
     EXPECT_EQ(Tablo().Salon.Metni(), u"Gül Salonu");
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
 }
@@ -317,8 +317,8 @@ TEST_F(IlkSalon, No_is_answered_by_a_critical_box_and_the_list_all_the_same) {
         u"Velora",
         u"Salon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!\nLütfen önce salon tanımı yapınız!",
         Simge::Kritik});
+    Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim});
     IlkSalonuSor(kullanici.Prog());
-    EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormSalonTanim);
     EXPECT_FALSE(Tanim().Command3.etkin);
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "screen/Program.h"
@@ -27,25 +28,27 @@ class MenuTest : public ::testing::Test {
         Menuler().Liste.secili = sira;
         Menuler().Liste_Click();
     }
-    /// `is` is done while the dialogue of one menu stands.
-    void MenuAcikken(std::function<void()> is) { ortam.modalda[EkranAdi::FormMenuEkle] = std::move(is); }
-    void Yaz(const Metin& ad, const Metin& icerik) {
-        Ekle().Text1.metin = ad;
-        Ekle().Text1_Change();
-        Ekle().Text2.metin = icerik;
+    /// The dialogue of one menu is expected next; `is` is done while it stands.
+    void MenuAcikken(std::function<void()> is) {
+        ortam.Bekle(BeklenenEkran{EkranAdi::FormMenuEkle, std::move(is)});
+    }
+    void MenuyuGir(const Metin& ad, const Metin& icerik) {
+        AlanaYaz(Ekle().Text1, ad, {.degisti = [this] { Ekle().Text1_Change(); }});
+        SatirlaraYaz(Ekle().Text2, icerik);
     }
     void MenuEkle(const Metin& ad, const Metin& icerik) {
         MenuAcikken([this, ad, icerik] {
-            Yaz(ad, icerik);
-            Ekle().Command4_Click();
+            MenuyuGir(ad, icerik);
+            VELORA_BAS(program.FormMenuEkle, Command4);
         });
-        Menuler().Command1_Click();
+        Menuler(); // a test may work on the list without showing it
+        VELORA_BAS(program.FormMenuAyar, Command1);
     }
     void MenuSil(int sira, Cevap cevap) {
         Isaretle(sira);
         ortam.Bekle(BeklenenKutu{u"Velora", u"Seçili menüyü silmek istediğinizden emin misiniz?", Simge::Soru,
                                  cevap});
-        Menuler().Command2_Click();
+        VELORA_BAS(program.FormMenuAyar, Command2);
     }
 
     GeciciAgac agac;

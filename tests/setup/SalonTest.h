@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Eylemler.h"
 #include "destek/Kayitlar.h"
 #include "destek/Kullanici.h"
 #include "setup/FormSalonTanim.h"
@@ -23,12 +24,13 @@ class SalonTest : public ::testing::Test {
 
     /// The hall list is opened; `is` is done on it while it stands.
     void SalonlarAcikken(std::function<void()> is) {
-        Ortam().modalda[EkranAdi::FormSalonTanim] = std::move(is);
+        Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim, std::move(is)});
         kullanici.Prog().FormSalonTanim.GosterModal();
     }
     void SalonEkle(const Metin& cevap) {
+        Tanim(); // a test may work on the list without showing it
         Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", cevap});
-        Tanim().Command1_Click();
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
     }
     void Isaretle(int sira) {
         Tanim().List1.secili = sira;
@@ -41,16 +43,21 @@ class SalonTest : public ::testing::Test {
                          u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\nSeçili "
                          u"salonu silmek istediğinize emin misiniz?",
                          Simge::Soru, cevap});
-        Tanim().Command2_Click();
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command2);
+    }
+    /// The dialogue of a hall's name is expected next; `is` is done while it stands.
+    void AdAcikken(std::function<void()> is) {
+        Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanimAd, std::move(is)});
+    }
+    void AdiGir(const Metin& yeni) {
+        AlanaYaz(kullanici.Prog().FormSalonTanimAd->Text1, yeni);
+        VELORA_BAS(kullanici.Prog().FormSalonTanimAd, Command1);
     }
     /// The marked hall gets this name.
     void AdDegistir(int sira, const Metin& yeni) {
         Isaretle(sira);
-        Ortam().modalda[EkranAdi::FormSalonTanimAd] = [this, yeni] {
-            kullanici.Prog().FormSalonTanimAd->Text1.metin = yeni;
-            kullanici.Prog().FormSalonTanimAd->Command1_Click();
-        };
-        Tanim().Command4_Click();
+        AdAcikken([this, yeni] { AdiGir(yeni); });
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
     }
     /// A reservation of the hall on 20 June 2012 in the evening.
     void RezervasyonKoy(const Metin& salon) const {
@@ -60,7 +67,7 @@ class SalonTest : public ::testing::Test {
     /// What the table knows of it; empty when it shows none.
     const Metin& RezervasyonTagi() { return kullanici.Goz(20, 6, GunduzGece::Gece).tag; }
     /// Both lists hold these halls, in this order.
-    void SalonlarBekle(const Salonlar& beklenen) {
+    void SalonlarOlmali(const Salonlar& beklenen) {
         EXPECT_EQ(Tanim().List1.ogeler, beklenen);
         EXPECT_EQ(Tablo().Salon.ogeler, beklenen);
     }

@@ -4,7 +4,7 @@ namespace velora::test {
 
 class Cetvel : public TabloTest {
   protected:
-    void IsaretBekle(int gun, int ay) {
+    void IsaretOlmali(int gun, int ay) {
         for (int i = 1; i <= kGunSayisi; ++i)
             EXPECT_EQ(kullanici.Tablo().Gunler[i].zemin, i == gun ? 33023 : 32768) << i;
         for (int i = 1; i <= kAySayisi; ++i)
@@ -15,7 +15,7 @@ class Cetvel : public TabloTest {
 TEST_F(Cetvel, One_pick_marks_its_head_and_shows_no_frame) {
     kullanici.ProgramiAc();
     kullanici.GunBasligina(5);
-    IsaretBekle(5, 0);
+    IsaretOlmali(5, 0);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
     EXPECT_EQ(kullanici.Tablo().CetvelTimer.aralik, 0);
 }
@@ -25,7 +25,7 @@ TEST_F(Cetvel, Second_pick_starts_the_frame_at_the_crossing) {
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
     const FormTablo& tablo = kullanici.Tablo();
-    IsaretBekle(5, 3);
+    IsaretOlmali(5, 3);
     EXPECT_TRUE(tablo.HizliSecim.gorunur);
     EXPECT_EQ(tablo.CetvelTimer.aralik, 300);
     const Yer hucre = tablo.HucreYeri(OcakGunduz, 1);
@@ -46,11 +46,11 @@ TEST_F(Cetvel, Second_click_on_the_same_head_changes_nothing) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
     kullanici.GunBasligina(5);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur) << "the ruler opens only when a pick changes";
-    IsaretBekle(5, 3);
+    IsaretOlmali(5, 3);
 }
 
 TEST_F(Cetvel, Click_on_another_head_moves_mark_and_frame) {
@@ -58,7 +58,7 @@ TEST_F(Cetvel, Click_on_another_head_moves_mark_and_frame) {
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
     kullanici.GunBasligina(9);
-    IsaretBekle(9, 3);
+    IsaretOlmali(9, 3);
     EXPECT_EQ(kullanici.Tablo().HizliSecim.yer.sol, kullanici.Tablo().ALabel[9].yer.sol + 20);
 }
 
@@ -66,9 +66,9 @@ TEST_F(Cetvel, Frame_blinks_with_its_timer) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
 }
 
@@ -88,7 +88,7 @@ TEST_P(CetvelSonu, Clears_marks_picks_and_frame) {
     kullanici.AyBasligina(3);
     kullanici.GunBasligina(5);
     GetParam()(kullanici);
-    IsaretBekle(0, 0);
+    IsaretOlmali(0, 0);
     EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
     EXPECT_EQ(kullanici.Tablo().HizliAy, 0);
     EXPECT_EQ(kullanici.Tablo().HizliGun, 0);

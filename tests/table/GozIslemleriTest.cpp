@@ -6,7 +6,7 @@ namespace velora::test {
 class GozIslemleri : public TabloTest {
   protected:
     /// Which of the two entries a right press on the cell offers.
-    void MenuBekle(const TabloGozu& goz, bool yeni) {
+    void MenuOlmali(const TabloGozu& goz, bool yeni) {
         EXPECT_TRUE(kullanici.SagTikla(goz));
         EXPECT_EQ(kullanici.Tablo().Girdi(Komut::newkay).etkin, yeni) << goz.gun << '.' << goz.ay;
         EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptals).etkin, !yeni) << goz.gun << '.' << goz.ay;
@@ -80,9 +80,9 @@ TEST_F(GozIslemleri, Value_of_the_details_box_that_is_neither_on_nor_off_shows_n
 TEST_F(GozIslemleri, Right_press_on_a_weekday_or_a_weekend_offers_a_new_reservation_and_no_cancellation) {
     kullanici.ProgramiAc();
     for (const auto dilim : {kGunduz, kGece}) {
-        MenuBekle({18, 6, dilim}, true);
-        MenuBekle({16, 6, dilim}, true); // Saturday
-        MenuBekle({17, 6, dilim}, true); // Sunday
+        MenuOlmali({18, 6, dilim}, true);
+        MenuOlmali({16, 6, dilim}, true); // Saturday
+        MenuOlmali({17, 6, dilim}, true); // Sunday
     }
 }
 
@@ -90,9 +90,9 @@ TEST_F(GozIslemleri, Right_press_on_a_holiday_offers_a_new_reservation_until_it_
     agac.KoyMetin(u"Tatiller.dll", u"\"29.10.2000\",\"Cumhuriyet Bayramı\",\"Evet\",\"Genel\"\r\n");
     RezervasyonKoy(u"29.10.2012 - Gece");
     kullanici.ProgramiAc();
-    MenuBekle({29, 10, kGunduz}, true);
-    MenuBekle({29, 10, kGece}, false);
-    RenkBekle(29, 10, kGece, 12, 13);
+    MenuOlmali({29, 10, kGunduz}, true);
+    MenuOlmali({29, 10, kGece}, false);
+    RenkOlmali(29, 10, kGece, 12, 13);
 }
 
 TEST_F(GozIslemleri, Right_press_on_a_firm_or_a_pre_reservation_offers_its_cancellation) {
@@ -102,17 +102,17 @@ TEST_F(GozIslemleri, Right_press_on_a_firm_or_a_pre_reservation_offers_its_cance
     kullanici.ProgramiAc();
     for (const int gun : {20, 21})
         for (const auto dilim : {kGunduz, kGece})
-            MenuBekle({gun, 6, dilim}, false);
+            MenuOlmali({gun, 6, dilim}, false);
 }
 
 TEST_F(GozIslemleri, Past_days_offer_only_the_cancellation_even_a_free_past_day) {
     AyarKoy(28, u"1");
     RezervasyonKoy(u"10.06.2012 - Gündüz");
     kullanici.ProgramiAc();
-    MenuBekle({10, 6, kGunduz}, false);
-    MenuBekle({11, 6, kGunduz}, false);
-    MenuBekle({3, 2, kGece}, false);
-    MenuBekle({15, 6, kGunduz}, true);
+    MenuOlmali({10, 6, kGunduz}, false);
+    MenuOlmali({11, 6, kGunduz}, false);
+    MenuOlmali({3, 2, kGece}, false);
+    MenuOlmali({15, 6, kGunduz}, true);
 }
 
 TEST_F(GozIslemleri, Taken_day_in_the_colour_of_a_free_day_counts_as_free_on_purpose) {
@@ -120,15 +120,15 @@ TEST_F(GozIslemleri, Taken_day_in_the_colour_of_a_free_day_counts_as_free_on_pur
     kullanici.ProgramiAc();
     kullanici.Prog().FormAyarlar->renkler[6] = kullanici.Prog().FormAyarlar->Renk(2);
     kullanici.Tablo().Command1();
-    MenuBekle({20, 6, kGunduz}, true);
+    MenuOlmali({20, 6, kGunduz}, true);
     // The other row has its own colours.
-    MenuBekle({20, 6, kGece}, true);
+    MenuOlmali({20, 6, kGece}, true);
 }
 
 TEST_F(GozIslemleri, Free_colour_of_the_other_row_is_no_free_colour_on_purpose) {
     kullanici.ProgramiAc();
     kullanici.Goz(20, 6, kGece).zemin = kullanici.Prog().FormAyarlar->Renk(2);
-    MenuBekle({20, 6, kGece}, false);
+    MenuOlmali({20, 6, kGece}, false);
 }
 
 TEST_F(GozIslemleri,
@@ -136,11 +136,11 @@ TEST_F(GozIslemleri,
     kullanici.ProgramiAc();
     kullanici.Prog().FormAyarlar->renkler[2] = 0x123456;
     kullanici.Tablo().Command1();
-    MenuBekle({20, 6, kGunduz}, true);
+    MenuOlmali({20, 6, kGunduz}, true);
     kullanici.Prog().FormAyarlar.Bosalt();
-    MenuBekle({20, 6, kGunduz}, false);
+    MenuOlmali({20, 6, kGunduz}, false);
     kullanici.Tablo().Command1();
-    MenuBekle({20, 6, kGunduz}, true);
+    MenuOlmali({20, 6, kGunduz}, true);
 }
 
 TEST_F(GozIslemleri, Any_button_decides_on_the_entries_and_only_the_right_one_opens_the_menu) {

@@ -20,7 +20,7 @@ class Iptal : public TabloTest {
         ASSERT_TRUE(kullanici.SagTikla(goz));
         ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).etkin);
         SebepBekle(sebep);
-        kullanici.Tablo().iptals_Click();
+        kullanici.KomutSec(Komut::iptals);
     }
 };
 
@@ -36,7 +36,7 @@ TEST_F(Iptal, Removes_the_three_files_and_logs_one_line_with_the_reason) {
     EXPECT_EQ(agac.Bayt(u"IptalSebep.txt"), "20.06.2012 - G\xFCnd\xFCz - Salon A - Ali Veli - 0212 - 0532 - "
                                             "admin - Vazge\xE7ti, \"\xFEimdilik\"\r\n");
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "7\r\n");
-    RenkBekle(20, 6, kGunduz, 2, 3);
+    RenkOlmali(20, 6, kGunduz, 2, 3);
 }
 
 TEST_F(Iptal, Cancel_in_the_reason_box_still_cancels_and_the_line_ends_in_the_separator_on_purpose) {
@@ -55,7 +55,7 @@ TEST_F(Iptal, No_to_the_question_changes_nothing) {
     const std::string once = agac.Resim();
     kullanici.SagTikla({20, 6, kGunduz});
     SoruBekle(Cevap::Hayir);
-    kullanici.Tablo().iptals_Click();
+    kullanici.KomutSec(Komut::iptals);
     EXPECT_EQ(agac.Resim(), once);
 }
 
@@ -116,7 +116,7 @@ TEST_F(Iptal, Line_stays_when_the_record_cannot_be_deleted) {
     IptalEt({20, 6, kGunduz}, u"x");
     EXPECT_TRUE(agac.DosyaVar(u"Salon A/2012/20.06.2012 - Gündüz"));
     EXPECT_TRUE(agac.DosyaVar(u"IptalSebep.txt"));
-    RenkBekle(20, 6, kGunduz, 6, 7);
+    RenkOlmali(20, 6, kGunduz, 6, 7);
 }
 
 TEST_F(Iptal, Log_that_cannot_be_written_does_not_keep_the_record) {
@@ -148,7 +148,7 @@ TEST_F(Iptal, The_log_is_opened_in_the_users_own_program_there_or_not) {
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptalsebepss).baslik, u"İptal Sebepleri");
     ASSERT_FALSE(agac.DosyaVar(u"IptalSebep.txt"));
-    kullanici.Tablo().iptalsebepss_Click();
+    kullanici.KomutSec(Komut::iptalsebepss);
     EXPECT_EQ(kullanici.ortam.acilanDosyalar, std::vector{agac.Kok() / "IptalSebep.txt"});
     EXPECT_FALSE(agac.DosyaVar(u"IptalSebep.txt")) << "looking makes no file";
 }

@@ -76,13 +76,12 @@ TEST_F(KomutTablosu, A_button_of_the_tool_bar_takes_the_ruler_away_before_its_co
     kullanici.AyBasligina(9);
     ASSERT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
     const auto ara = Komutlar()[static_cast<std::size_t>(Komut::Arasss)];
-    kullanici.ortam.modalda[EkranAdi::FormArama] = [this] {
-        EXPECT_EQ(kullanici.Tablo().HizliGun, 0);
-        EXPECT_EQ(kullanici.Tablo().HizliAy, 0);
-        EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
-    };
+    kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormArama, [this] {
+                                            EXPECT_EQ(kullanici.Tablo().HizliGun, 0);
+                                            EXPECT_EQ(kullanici.Tablo().HizliAy, 0);
+                                            EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
+                                        }});
     kullanici.Tablo().AracaTikla(ara);
-    EXPECT_EQ(kullanici.ortam.acilanlar.back(), EkranAdi::FormArama);
 }
 
 } // namespace velora::test

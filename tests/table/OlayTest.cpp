@@ -55,7 +55,7 @@ TEST_F(Olay, Settings_and_holidays_unloaded_in_the_middle_of_a_scan_leave_nothin
     kullanici.Tablo().CetvelSil();
     kullanici.Boyutla(1000, 500);
     kullanici.ortam.olayda = nullptr;
-    RenkBekle(5, 1, kGunduz, 6, 7);
+    RenkOlmali(5, 1, kGunduz, 6, 7);
     EXPECT_EQ(kullanici.Goz(6, 1, kGunduz).ipucu, u"Bayram");
 }
 

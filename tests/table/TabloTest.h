@@ -32,7 +32,7 @@ class TabloTest : public ::testing::Test {
         agac.KoyMetin(u"Visible.dll", aylar);
     }
     /// The back and fore colour of a cell are these two slots of the colour list.
-    void RenkBekle(int gun, int ay, velora::GunduzGece dilim, int zemin, int yazi) {
+    void RenkOlmali(int gun, int ay, velora::GunduzGece dilim, int zemin, int yazi) {
         const auto ayarlar = kullanici.Prog().FormAyarlar.Tut();
         EXPECT_EQ(kullanici.Goz(gun, ay, dilim).zemin, ayarlar->Renk(zemin)) << gun << '.' << ay;
         EXPECT_EQ(kullanici.Goz(gun, ay, dilim).yazi, ayarlar->Renk(yazi)) << gun << '.' << ay;

@@ -53,7 +53,7 @@ TEST_F(TabloYukleme, Years_go_from_ten_before_to_ten_after_the_current_one) {
 TEST_F(TabloYukleme, Year_outside_the_list_cant_be_selected) {
     kullanici.ProgramiAc();
     const int onceki = kullanici.ortam.olaySayisi;
-    kullanici.YilSec(u"2030");
+    kullanici.Tablo().Sene.Sec(MetinBakis(u"2030"));
     EXPECT_EQ(kullanici.Tablo().Sene.Metni(), u"2012");
     EXPECT_EQ(kullanici.ortam.olaySayisi, onceki) << "nothing ran";
 }
@@ -72,7 +72,7 @@ TEST_F(TabloYukleme, Empty_hall_list_makes_no_year_folder_in_the_root) {
     EXPECT_FALSE(agac.KlasorVar(u"2012"));
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"");
     EXPECT_EQ(kullanici.Tablo().Salon.secili, -1);
-    RenkBekle(5, 1, kGunduz, 2, 3);
+    RenkOlmali(5, 1, kGunduz, 2, 3);
 }
 
 // Literal: with no hall the path of the year is a folder directly in the root.

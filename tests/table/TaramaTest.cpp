@@ -6,8 +6,8 @@ class Tarama : public TabloTest {};
 
 TEST_F(Tarama, Free_weekday_shows_the_free_colours_of_its_slot) {
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 2, 3); // a Thursday
-    RenkBekle(5, 1, kGece, 4, 5);
+    RenkOlmali(5, 1, kGunduz, 2, 3); // a Thursday
+    RenkOlmali(5, 1, kGece, 4, 5);
     EXPECT_EQ(kullanici.Goz(5, 1, kGunduz).tag, u"");
     EXPECT_EQ(kullanici.Goz(5, 1, kGunduz).baslik, u"Per");
 }
@@ -15,10 +15,10 @@ TEST_F(Tarama, Free_weekday_shows_the_free_colours_of_its_slot) {
 TEST_F(Tarama, Saturday_and_Sunday_show_the_weekend_colours) {
     kullanici.ProgramiAc();
     for (const int gun : {7, 8}) {
-        RenkBekle(gun, 1, kGunduz, 8, 9);
-        RenkBekle(gun, 1, kGece, 10, 11);
+        RenkOlmali(gun, 1, kGunduz, 8, 9);
+        RenkOlmali(gun, 1, kGece, 10, 11);
     }
-    RenkBekle(9, 1, kGunduz, 2, 3);
+    RenkOlmali(9, 1, kGunduz, 2, 3);
 }
 
 TEST_F(Tarama, Firm_and_pre_reservation_show_their_colours_in_both_slots) {
@@ -27,10 +27,10 @@ TEST_F(Tarama, Firm_and_pre_reservation_show_their_colours_in_both_slots) {
     RezervasyonKoy(u"06.01.2012 - Gündüz", {}, true);
     RezervasyonKoy(u"06.01.2012 - Gece");
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 6, 7);
-    RenkBekle(5, 1, kGece, 21, 22);
-    RenkBekle(6, 1, kGunduz, 19, 20);
-    RenkBekle(6, 1, kGece, 12, 13);
+    RenkOlmali(5, 1, kGunduz, 6, 7);
+    RenkOlmali(5, 1, kGece, 21, 22);
+    RenkOlmali(6, 1, kGunduz, 19, 20);
+    RenkOlmali(6, 1, kGece, 12, 13);
 }
 
 TEST_F(Tarama, Tag_holds_ten_parts_in_order) {
@@ -47,16 +47,16 @@ TEST_F(Tarama, Bar_in_a_customers_name_stays_in_the_tag_unescaped_on_purpose) {
     RezervasyonKoy(u"05.01.2012 - Gündüz", {.ad = u"Ali|Veli"});
     kullanici.ProgramiAc();
     EXPECT_EQ(kullanici.Goz(5, 1, kGunduz).tag, u"|11:00|Düğün|Gündüz|5000|1000|4000|Ali|Veli|7|1");
-    RenkBekle(5, 1, kGunduz, 6, 7);
+    RenkOlmali(5, 1, kGunduz, 6, 7);
 }
 
 TEST_F(Tarama, Reservation_on_a_Saturday_hides_the_weekend_until_its_files_are_gone) {
     RezervasyonKoy(u"07.01.2012 - Gündüz");
     kullanici.ProgramiAc();
-    RenkBekle(7, 1, kGunduz, 6, 7);
+    RenkOlmali(7, 1, kGunduz, 6, 7);
     std::filesystem::remove(agac.Yol(u"Salon A/2012/07.01.2012 - Gündüz"));
     kullanici.Tablo().Command1();
-    RenkBekle(7, 1, kGunduz, 8, 9);
+    RenkOlmali(7, 1, kGunduz, 8, 9);
     EXPECT_EQ(kullanici.Goz(7, 1, kGunduz).tag, u"");
 }
 
@@ -65,10 +65,10 @@ TEST_F(Tarama, Main_file_without_details_keeps_the_state_of_the_slot_before_it_o
     RezervasyonKoy(u"05.01.2012 - Gece", {}, true);
     agac.KoyMetin(u"Salon A/2012/06.01.2012 - Gündüz", AnaMetni());
     kullanici.ProgramiAc();
-    RenkBekle(6, 1, kGunduz, 19, 20);
+    RenkOlmali(6, 1, kGunduz, 19, 20);
     std::filesystem::remove(agac.Yol(u"Salon A/2012/05.01.2012 - Gece"));
     kullanici.Tablo().Command1();
-    RenkBekle(6, 1, kGunduz, 6, 7); // the first slot of a scan counts as firm
+    RenkOlmali(6, 1, kGunduz, 6, 7); // the first slot of a scan counts as firm
 }
 
 TEST_F(Tarama, Short_main_file_keeps_the_values_of_the_slot_before_it_in_the_tag_on_purpose) {
@@ -82,7 +82,7 @@ TEST_F(Tarama, Empty_main_file_takes_the_slot_and_keeps_everything_on_purpose) {
     RezervasyonKoy(u"05.01.2012 - Gündüz", {}, true);
     agac.Koy(u"Salon A/2012/31.12.2012 - Gece", "");
     kullanici.ProgramiAc();
-    RenkBekle(31, 12, kGece, 21, 22);
+    RenkOlmali(31, 12, kGece, 21, 22);
     EXPECT_EQ(kullanici.Goz(31, 12, kGece).tag, u"|11:00|Düğün|Gece|5000|1000|4000|Ali Veli|7|1");
 }
 
@@ -91,7 +91,7 @@ TEST_F(Tarama, Kept_over_state_follows_month_day_and_slot_not_the_listing_on_pur
     RezervasyonKoy(u"01.02.2012 - Gündüz", {}, true);
     agac.KoyMetin(u"Salon A/2012/02.01.2012 - Gündüz", AnaMetni());
     kullanici.ProgramiAc();
-    RenkBekle(2, 1, kGunduz, 6, 7);
+    RenkOlmali(2, 1, kGunduz, 6, 7);
 }
 
 TEST_F(Tarama, Nothing_is_kept_from_one_scan_to_the_next) {
@@ -100,7 +100,7 @@ TEST_F(Tarama, Nothing_is_kept_from_one_scan_to_the_next) {
     std::filesystem::remove(agac.Yol(u"Salon A/2012/05.01.2012 - Gündüz-Detay"));
     agac.Koy(u"Salon A/2012/05.01.2012 - Gündüz", "");
     kullanici.Tablo().Command1();
-    RenkBekle(5, 1, kGunduz, 6, 7);
+    RenkOlmali(5, 1, kGunduz, 6, 7);
     EXPECT_EQ(kullanici.Goz(5, 1, kGunduz).tag, u"|||Gündüz||||||");
 }
 
@@ -109,7 +109,7 @@ TEST_F(Tarama, Details_without_a_main_file_leave_the_day_free_on_purpose) {
     agac.KoyMetin(u"Salon A/2012/05.01.2012 - Gündüz-Odeme", u"\"01.01.2012\",\"5\",\"x\"\r\n");
     agac.KoyMetin(u"Salon A/2012/Gider.dat", u"\"x\",5\r\n");
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 2, 3);
+    RenkOlmali(5, 1, kGunduz, 2, 3);
     EXPECT_EQ(kullanici.Goz(5, 1, kGunduz).tag, u"");
 }
 
@@ -119,7 +119,7 @@ TEST_F(Tarama, State_value_may_stand_quoted_or_bare) {
     detay.replace(detay.find(u"\"0\",\"1\""), 7, u"0,1");
     agac.KoyMetin(u"Salon A/2012/05.01.2012 - Gündüz-Detay", detay);
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 19, 20);
+    RenkOlmali(5, 1, kGunduz, 19, 20);
 }
 
 TEST_F(Tarama, Folder_in_the_place_of_a_file_is_no_reservation) {
@@ -128,8 +128,8 @@ TEST_F(Tarama, Folder_in_the_place_of_a_file_is_no_reservation) {
     std::filesystem::remove(agac.Yol(u"Salon A/2012/06.01.2012 - Gündüz-Detay"));
     agac.KlasorKoy(u"Salon A/2012/06.01.2012 - Gündüz-Detay");
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 2, 3);
-    RenkBekle(6, 1, kGunduz, 6, 7);
+    RenkOlmali(5, 1, kGunduz, 2, 3);
+    RenkOlmali(6, 1, kGunduz, 6, 7);
 }
 
 TEST_F(Tarama, File_that_cant_be_read_takes_its_slot_with_the_values_before_it_on_purpose) {
@@ -140,7 +140,7 @@ TEST_F(Tarama, File_that_cant_be_read_takes_its_slot_with_the_values_before_it_o
         return is == DosyaIsi::Oku && yol.find(u"06.01.2012") != Metin::npos;
     };
     kullanici.Tablo().Command1();
-    RenkBekle(6, 1, kGunduz, 19, 20);
+    RenkOlmali(6, 1, kGunduz, 19, 20);
     EXPECT_EQ(kullanici.Goz(6, 1, kGunduz).tag, u"|11:00|Düğün|Gündüz|5000|1000|4000|Ali Veli|7|1");
 }
 
@@ -154,7 +154,7 @@ TEST_F(Tarama, Garbage_and_huge_files_are_lived_through) {
     agac.Koy(u"Salon A/2012/x", std::string(3, '\0'));
     RezervasyonKoy(u"06.01.2012 - Gündüz");
     kullanici.ProgramiAc();
-    RenkBekle(6, 1, kGunduz, 6, 7);
+    RenkOlmali(6, 1, kGunduz, 6, 7);
     EXPECT_EQ(kullanici.Goz(6, 1, kGunduz).tag, u"|11:00|Düğün|Gündüz|5000|1000|4000|Ali Veli|7|1");
 }
 
@@ -162,7 +162,7 @@ TEST_F(Tarama, Day_that_the_month_doesnt_have_is_coloured_but_hidden_on_purpose)
     RezervasyonKoy(u"31.06.2012 - Gündüz");
     kullanici.ProgramiAc();
     EXPECT_FALSE(kullanici.Goz(31, 6, kGunduz).gorunur);
-    RenkBekle(31, 6, kGunduz, 6, 7);
+    RenkOlmali(31, 6, kGunduz, 6, 7);
 }
 
 // A hidden month is scanned all the same: publishing reads its tags.
@@ -172,7 +172,7 @@ TEST_F(Tarama, Month_that_is_off_is_scanned_though_nothing_shows_on_purpose) {
     kullanici.ProgramiAc();
     EXPECT_FALSE(kullanici.Goz(5, 5, kGece).gorunur);
     EXPECT_EQ(kullanici.Goz(5, 5, kGece).tag, u"|11:00|Düğün|Gece|5000|1000|4000|Ali Veli|7|1");
-    RenkBekle(5, 5, kGece, 12, 13);
+    RenkOlmali(5, 5, kGece, 12, 13);
 }
 
 TEST_F(Tarama, Year_folder_with_only_expenses_shows_a_free_table) {
@@ -186,7 +186,7 @@ TEST_F(Tarama, Year_folder_with_only_expenses_shows_a_free_table) {
 TEST_F(Tarama, File_of_another_year_in_the_folder_is_not_looked_for) {
     agac.KoyMetin(u"Salon A/2012/05.01.2013 - Gündüz", AnaMetni());
     kullanici.ProgramiAc();
-    RenkBekle(5, 1, kGunduz, 2, 3);
+    RenkOlmali(5, 1, kGunduz, 2, 3);
 }
 
 TEST_F(Tarama, Customers_name_stands_in_the_tag_only) {
@@ -203,7 +203,7 @@ TEST_F(Hatirlatma, Reminder_of_today_shows_the_bell_and_blinks) {
     EXPECT_TRUE(kullanici.Tablo().Image3);
     EXPECT_EQ(kullanici.Tablo().OzelHatirlatTimer.aralik, 500);
     const bool resim = kullanici.Tablo().Image3a;
-    kullanici.Bekle(500);
+    kullanici.ZamanGecir(500);
     EXPECT_NE(kullanici.Tablo().Image3a, resim);
     std::filesystem::remove(agac.Yol(u"Salon A/2012/05.01.2012 - Gündüz"));
     kullanici.Tablo().Command1();

@@ -15,7 +15,7 @@ class TasimaModu : public TabloTest {
         agac.Koy(u"Salon A/2012/" + ad + u"-Detay", iz + " detay");
         agac.Koy(u"Salon A/2012/" + ad + u"-Odeme", iz + " odeme");
     }
-    void UcDosyaBekle(const Metin& ad, const std::string& iz) {
+    void UcDosyaOlmali(const Metin& ad, const std::string& iz) {
         EXPECT_EQ(agac.Bayt(u"Salon A/2012/" + ad), "\"" + iz + "\",\"Bolu\"\r\n");
         EXPECT_EQ(agac.Bayt(u"Salon A/2012/" + ad + u"-Detay"), iz + " detay");
         EXPECT_EQ(agac.Bayt(u"Salon A/2012/" + ad + u"-Odeme"), iz + " odeme");
@@ -36,7 +36,7 @@ class TasimaModu : public TabloTest {
                 sayi += hucre.otomatikSurukleme ? 1 : 0;
         return sayi;
     }
-    void ModKapaliBekle() {
+    void ModKapaliOlmali() {
         EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 0);
         EXPECT_EQ(Suruklenebilen(), 0);
     }
@@ -49,7 +49,7 @@ TEST_F(TasimaModu, Makes_taken_cells_of_both_kinds_and_slots_draggable_and_no_fr
     RezervasyonKoy(u"23.06.2012 - Gece", {}, true);
     kullanici.ProgramiAc();
     EXPECT_EQ(Suruklenebilen(), 0);
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 1);
     EXPECT_EQ(Suruklenebilen(), 4);
     EXPECT_TRUE(kullanici.Goz(21, 6, kGunduz).otomatikSurukleme);
@@ -62,7 +62,7 @@ TEST_F(TasimaModu, Past_reservation_is_not_draggable) {
     AyarKoy(28, u"1");
     RezervasyonKoy(u"10.06.2012 - Gündüz");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     EXPECT_EQ(Suruklenebilen(), 0);
 }
 
@@ -71,7 +71,7 @@ TEST_F(TasimaModu, Opening_hides_the_hover_label_and_it_stays_hidden_while_the_m
     kullanici.ProgramiAc();
     kullanici.Uzerine({20, 6, kGunduz});
     EXPECT_TRUE(kullanici.Tablo().Ekran.gorunur);
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     EXPECT_FALSE(kullanici.Tablo().Ekran.gorunur);
     kullanici.Uzerine({21, 6, kGunduz});
     EXPECT_FALSE(kullanici.Tablo().Ekran.gorunur);
@@ -81,7 +81,7 @@ TEST_F(TasimaModu, Opening_hides_the_hover_label_and_it_stays_hidden_while_the_m
 TEST_F(TasimaModu, No_menu_opens_on_a_draggable_cell) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     EXPECT_FALSE(kullanici.SagTikla({20, 6, kGunduz}));
     EXPECT_TRUE(kullanici.SagTikla({21, 6, kGunduz}));
 }
@@ -89,11 +89,11 @@ TEST_F(TasimaModu, No_menu_opens_on_a_draggable_cell) {
 TEST_F(TasimaModu, Drop_on_itself_is_refused_and_closes_the_mode) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     RetBekle();
     EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, {20, 6, kGunduz}));
-    UcDosyaBekle(u"20.06.2012 - Gündüz", "A");
-    ModKapaliBekle();
+    UcDosyaOlmali(u"20.06.2012 - Gündüz", "A");
+    ModKapaliOlmali();
 }
 
 TEST_F(TasimaModu, Drop_on_a_taken_cell_is_refused_and_both_reservations_stay) {
@@ -101,11 +101,11 @@ TEST_F(TasimaModu, Drop_on_a_taken_cell_is_refused_and_both_reservations_stay) {
     UcDosyaKoy(u"21.06.2012 - Gece", "B");
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     RetBekle();
     kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGece});
     EXPECT_EQ(agac.Resim(), once);
-    ModKapaliBekle();
+    ModKapaliOlmali();
     EXPECT_FALSE(kullanici.Surukle({20, 6, kGunduz}, {22, 6, kGece})) << "one drop for each mode";
 }
 
@@ -113,24 +113,24 @@ TEST_F(TasimaModu, No_to_the_question_leaves_all_files_and_closes_the_mode) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     const std::string once = agac.Resim();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Hayir);
     kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGunduz});
     EXPECT_EQ(agac.Resim(), once);
-    ModKapaliBekle();
+    ModKapaliOlmali();
 }
 
 TEST_F(TasimaModu, Drop_on_the_evening_row_of_the_same_day_makes_it_an_evening_reservation) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({20, 6, kGunduz}, {20, 6, kGece});
-    UcDosyaBekle(u"20.06.2012 - Gece", "A");
+    UcDosyaOlmali(u"20.06.2012 - Gece", "A");
     DosyaYok(u"20.06.2012 - Gündüz");
-    RenkBekle(20, 6, kGunduz, 2, 3);
-    RenkBekle(20, 6, kGece, 12, 13);
-    ModKapaliBekle();
+    RenkOlmali(20, 6, kGunduz, 2, 3);
+    RenkOlmali(20, 6, kGece, 12, 13);
+    ModKapaliOlmali();
 }
 
 TEST_F(TasimaModu, Todays_frame_is_tested_again_after_a_move) {
@@ -138,11 +138,11 @@ TEST_F(TasimaModu, Todays_frame_is_tested_again_after_a_move) {
     kullanici.ProgramiAc();
     kullanici.Tablo().Command6();
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 300);
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({15, 6, kGunduz}, {3, 9, kGunduz});
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 0);
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({3, 9, kGunduz}, {15, 6, kGece});
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 300);
@@ -152,7 +152,7 @@ TEST_F(TasimaModu, Reservation_without_payments_moves_without_them_in_silence) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     std::filesystem::remove(agac.Yol(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({20, 6, kGunduz}, {1, 7, kGunduz});
     EXPECT_TRUE(agac.DosyaVar(u"Salon A/2012/01.07.2012 - Gündüz-Detay"));
@@ -165,7 +165,7 @@ TEST_F(TasimaModu, Old_payments_at_the_target_stay_and_belong_to_the_moved_reser
     std::filesystem::remove(agac.Yol(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));
     agac.Koy(u"Salon A/2012/01.07.2012 - Gündüz-Odeme", "eski odeme");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({20, 6, kGunduz}, {1, 7, kGunduz});
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/01.07.2012 - Gündüz-Odeme"), "eski odeme");
@@ -176,24 +176,24 @@ TEST_F(TasimaModu, Drop_on_a_past_reservation_overwrites_it_without_a_refusal_on
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     UcDosyaKoy(u"10.06.2012 - Gündüz", "B");
     kullanici.ProgramiAc();
-    RenkBekle(10, 6, kGunduz, 17, 18);
-    kullanici.Tablo().TasimaModuAc_Click();
+    RenkOlmali(10, 6, kGunduz, 17, 18);
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({20, 6, kGunduz}, {10, 6, kGunduz});
-    UcDosyaBekle(u"10.06.2012 - Gündüz", "A");
+    UcDosyaOlmali(u"10.06.2012 - Gündüz", "A");
     DosyaYok(u"20.06.2012 - Gündüz");
 }
 
 TEST_F(TasimaModu, Cell_painted_past_since_the_mode_opened_and_dropped_on_itself_keeps_its_reservation) {
     UcDosyaKoy(u"10.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     kullanici.Prog().FormAyarlar->Check1.Ata(1);
     kullanici.Tablo().Command1();
     SoruBekle(Cevap::Evet);
     EXPECT_TRUE(kullanici.Surukle({10, 6, kGunduz}, {10, 6, kGunduz}));
-    UcDosyaBekle(u"10.06.2012 - Gündüz", "A");
-    ModKapaliBekle();
+    UcDosyaOlmali(u"10.06.2012 - Gündüz", "A");
+    ModKapaliOlmali();
 }
 
 TEST_F(TasimaModu, Dropped_colour_leaves_taken_cells_open_to_a_drop_until_the_next_scan_on_purpose) {
@@ -203,10 +203,10 @@ TEST_F(TasimaModu, Dropped_colour_leaves_taken_cells_open_to_a_drop_until_the_ne
     kullanici.Prog().FormAyarlar->renkler[12] = 0x123456;
     kullanici.Tablo().Command1();
     kullanici.Prog().FormAyarlar.Bosalt();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     SoruBekle(Cevap::Evet);
     kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGece});
-    UcDosyaBekle(u"21.06.2012 - Gece", "A");
+    UcDosyaOlmali(u"21.06.2012 - Gece", "A");
 }
 
 TEST_F(TasimaModu,
@@ -218,21 +218,21 @@ TEST_F(TasimaModu,
                                                            [this] { kullanici.YilSec(u"2013"); }};
     for (const auto& degistir : degisiklikler) {
         kullanici.SalonSec(u"Salon A");
-        kullanici.Tablo().TasimaModuAc_Click();
+        kullanici.KomutSec(Komut::TasimaModuAc);
         degistir();
         EXPECT_EQ(kullanici.Tablo().tasimamoducheck, 1);
         const std::string once = agac.Resim();
         SoruBekle(Cevap::Evet);
         EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, {21, 6, kGunduz}));
         EXPECT_EQ(agac.Resim(), once);
-        ModKapaliBekle();
+        ModKapaliOlmali();
     }
 }
 
 TEST_F(TasimaModu, Scan_leaves_the_drag_flags_alone) {
     RezervasyonKoy(u"20.06.2012 - Gündüz");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     kullanici.Tablo().Command1();
     EXPECT_EQ(Suruklenebilen(), 1);
 }
@@ -240,7 +240,7 @@ TEST_F(TasimaModu, Scan_leaves_the_drag_flags_alone) {
 TEST_F(TasimaModu, Failed_copy_does_not_keep_the_source_from_being_deleted_on_purpose) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin& yol) {
         return is == DosyaIsi::Kopyala && yol.ends_with(u"-Detay");
     };
@@ -255,7 +255,7 @@ TEST_F(TasimaModu, Failed_copy_does_not_keep_the_source_from_being_deleted_on_pu
 TEST_F(TasimaModu, Copies_come_before_deletes_and_each_goes_main_file_details_payments) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
-    kullanici.Tablo().TasimaModuAc_Click();
+    kullanici.KomutSec(Komut::TasimaModuAc);
     std::vector<std::pair<DosyaIsi, Metin>> isler;
     kullanici.Prog().dosyalar.ariza = [&](DosyaIsi is, const Metin& yol) {
         if (is == DosyaIsi::Kopyala || is == DosyaIsi::Sil)

@@ -11,7 +11,7 @@ TEST_F(Tatil, Yearly_row_marks_its_day_in_every_year) {
     for (const MetinBakis yil : {u"2012", u"2005", u"2020"}) {
         kullanici.YilSec(yil);
         for (const auto dilim : {kGunduz, kGece}) {
-            RenkBekle(23, 4, dilim, 23, 24);
+            RenkOlmali(23, 4, dilim, 23, 24);
             EXPECT_EQ(kullanici.Goz(23, 4, dilim).ipucu, u"Ulusal Egemenlik");
         }
     }
@@ -20,9 +20,9 @@ TEST_F(Tatil, Yearly_row_marks_its_day_in_every_year) {
 TEST_F(Tatil, Row_that_is_not_yearly_marks_its_own_year_only) {
     agac.KoyMetin(u"Tatiller.dll", u"\"30.08.2012\",\"Zafer\",\"Hayır\",\"Genel\"\r\n");
     kullanici.ProgramiAc();
-    RenkBekle(30, 8, kGunduz, 23, 24);
+    RenkOlmali(30, 8, kGunduz, 23, 24);
     kullanici.YilSec(u"2013");
-    RenkBekle(30, 8, kGunduz, 2, 3);
+    RenkOlmali(30, 8, kGunduz, 2, 3);
     EXPECT_EQ(kullanici.Goz(30, 8, kGunduz).ipucu, u"");
 }
 
@@ -45,8 +45,8 @@ TEST_F(Tatil, Reservation_on_a_holiday_shows_its_colours_and_the_holidays_name) 
     agac.KoyMetin(u"Tatiller.dll", u"\"23.04.2010\",\"Ulusal Egemenlik\",\"Evet\",\"Genel\"\r\n");
     RezervasyonKoy(u"23.04.2012 - Gece");
     kullanici.ProgramiAc();
-    RenkBekle(23, 4, kGece, 12, 13);
-    RenkBekle(23, 4, kGunduz, 23, 24);
+    RenkOlmali(23, 4, kGece, 12, 13);
+    RenkOlmali(23, 4, kGunduz, 23, 24);
     EXPECT_EQ(kullanici.Goz(23, 4, kGece).ipucu, u"Ulusal Egemenlik");
 }
 
@@ -56,7 +56,7 @@ TEST_F(Tatil, Switched_off_leaves_old_tool_tips_standing_without_colours_on_purp
     kullanici.ProgramiAc();
     kullanici.Prog().FormAyarlar->Check5.deger = 0;
     kullanici.Tablo().Command1();
-    RenkBekle(23, 4, kGunduz, 2, 3);
+    RenkOlmali(23, 4, kGunduz, 2, 3);
     EXPECT_EQ(kullanici.Goz(23, 4, kGunduz).ipucu, u"Ulusal Egemenlik");
 }
 
@@ -64,7 +64,7 @@ TEST_F(Tatil, Stored_two_is_not_off_on_purpose) {
     agac.KoyMetin(u"Tatiller.dll", u"\"23.04.2010\",\"Ulusal Egemenlik\",\"Evet\",\"Genel\"\r\n");
     AyarKoy(31, u"2");
     kullanici.ProgramiAc();
-    RenkBekle(23, 4, kGunduz, 23, 24);
+    RenkOlmali(23, 4, kGunduz, 23, 24);
 }
 
 TEST_F(Tatil, Odd_dates_and_words_mark_nothing) {

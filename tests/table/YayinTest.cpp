@@ -20,7 +20,7 @@ class Yayin : public TabloTest {
     /// Opens move mode and drops the reservation of 20 June on another cell.
     void Tasi(const TabloGozu& hedef) {
         kullanici.Uzerine({20, 6, kGunduz});
-        kullanici.Tablo().TasimaModuAc_Click();
+        kullanici.KomutSec(Komut::TasimaModuAc);
         kullanici.Surukle({20, 6, kGunduz}, hedef);
     }
     void SoruBekle(const Metin& metin, Cevap cevap) {
@@ -34,7 +34,7 @@ class Yayin : public TabloTest {
         SoruBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", cevap);
         if (cevap == Cevap::Evet)
             kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u"x"});
-        kullanici.Tablo().iptals_Click();
+        kullanici.KomutSec(Komut::iptals);
     }
 };
 

@@ -28,9 +28,9 @@ TEST_F(TabloZamanlayici, Slow_clock_starts_the_check_at_its_fourth_tick_and_then
 
 TEST_F(TabloZamanlayici, First_check_comes_after_about_two_hundred_seconds) {
     kullanici.ProgramiAc();
-    kullanici.Bekle(199'000);
+    kullanici.ZamanGecir(199'000);
     EXPECT_EQ(kullanici.Tablo().Dklabel, 3);
-    kullanici.Bekle(1'500);
+    kullanici.ZamanGecir(1'500);
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
 }
 
@@ -47,9 +47,9 @@ TEST_F(TabloZamanlayici, Frame_blinks_when_one_slot_of_today_is_taken_and_is_ste
         kullanici.ProgramiAc();
         kullanici.Tablo().Command6();
         EXPECT_EQ(GunAraligi(), 300);
-        kullanici.Bekle(300);
+        kullanici.ZamanGecir(300);
         EXPECT_FALSE(BuGunGorunur());
-        kullanici.Bekle(300);
+        kullanici.ZamanGecir(300);
         EXPECT_TRUE(BuGunGorunur());
         std::filesystem::remove(agac.Yol(u"Salon A/2012/" + Metin(ad)));
         kullanici.Tablo().Command6();
@@ -84,12 +84,12 @@ TEST_F(TabloZamanlayici, Running_timer_shows_nothing_in_another_year_and_brings_
     kullanici.ProgramiAc();
     kullanici.Tablo().Command6();
     kullanici.YilSec(u"2013");
-    kullanici.Bekle(900);
+    kullanici.ZamanGecir(900);
     EXPECT_FALSE(BuGunGorunur());
     kullanici.YilSec(u"2012");
     kullanici.ImleciBosaGotur();
     EXPECT_FALSE(BuGunGorunur()) << "the pointer leaves a running timer alone";
-    kullanici.Bekle(300);
+    kullanici.ZamanGecir(300);
     EXPECT_TRUE(BuGunGorunur());
 }
 

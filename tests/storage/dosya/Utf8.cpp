@@ -13,7 +13,7 @@ Metin Coz(std::string_view bayt) {
     return metin;
 }
 
-std::string Yaz(MetinBakis metin) {
+std::string Baytlari(MetinBakis metin) {
     std::string bayt;
     EXPECT_TRUE(Utf8Ekle(metin, bayt));
     return bayt;
@@ -33,15 +33,15 @@ TEST(Utf8, Names_of_all_lengths_are_read_and_written) {
     EXPECT_EQ(Coz("05.01.2012 - G\xC3\xBCnd\xC3\xBCz"), u"05.01.2012 - Gündüz");
     EXPECT_EQ(Coz("\xE2\x82\xAC \xF0\x9F\x98\x80"), u"€ \U0001F600");
     EXPECT_EQ(Coz(""), u"");
-    EXPECT_EQ(Yaz(u"G\u00FCnd\u00FCz"), "G\xC3\xBCnd\xC3\xBCz");
-    EXPECT_EQ(Yaz(u"€ \U0001F600"), "\xE2\x82\xAC \xF0\x9F\x98\x80");
-    EXPECT_EQ(Yaz(u"\u007F\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
+    EXPECT_EQ(Baytlari(u"G\u00FCnd\u00FCz"), "G\xC3\xBCnd\xC3\xBCz");
+    EXPECT_EQ(Baytlari(u"€ \U0001F600"), "\xE2\x82\xAC \xF0\x9F\x98\x80");
+    EXPECT_EQ(Baytlari(u"\u007F\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
               "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
 }
 
 TEST(Utf8, A_name_in_the_old_code_page_survives_as_lone_surrogates) {
     EXPECT_EQ(Coz("G\xFCnd\xFCz"), Yedek({'G', 0xFC, 'n', 'd', 0xFC, 'z'}));
-    EXPECT_EQ(Yaz(Coz("G\xFCnd\xFCz")), "G\xFCnd\xFCz");
+    EXPECT_EQ(Baytlari(Coz("G\xFCnd\xFCz")), "G\xFCnd\xFCz");
 }
 
 TEST(Utf8, Overlong_surrogate_and_too_high_forms_count_as_single_bytes) {
@@ -68,7 +68,7 @@ TEST(Utf8, Random_bytes_come_back_as_they_were) {
         std::string ad;
         for (int i = uzunluk(rastgele); i > 0; --i)
             ad += static_cast<char>(tur % 2 == 0 ? bayt(rastgele) : ust(rastgele));
-        ASSERT_EQ(Yaz(Coz(ad)), ad);
+        ASSERT_EQ(Baytlari(Coz(ad)), ad);
     }
 }
 
