@@ -20,21 +20,8 @@ enum Tip { Tumu, OnRezervasyonlar, KesinRezervasyonlar };
 
 constexpr std::size_t kGunAdiUzunlugu = 19; // of the longer one, with "Gündüz"
 
-// The values of the main file that the report shows, by their numbers.
-constexpr int kAd = 1;
-constexpr int kNitelik = 4;
-constexpr int kUcret = 8;
-constexpr int kAlinan = 9;
-constexpr int kKalan = 10;
-constexpr int kOnAciklama = 11;
-constexpr int kDavetli = 17;
-
-// Of the details: the two states.
-constexpr int kKesinIsareti = 36;
-constexpr int kOnIsareti = 37;
-
 bool OnMu(const DetayDegerler& detay) {
-    return detay.No(kOnIsareti) == u"1";
+    return detay.No(DetayNo::OnRezervasyon) == u"1";
 }
 
 /// By the exact text: "DÜĞÜN" is another kind.
@@ -76,8 +63,8 @@ void FormBakiye::Load() {
 
 void FormBakiye::Activate() {
     Command6.etkin = false;
-    Command4();
-    Command5();
+    Command4(); // the first day within the year
+    Command5(); // the last day too
     acikmi = 1;
 }
 
@@ -133,9 +120,9 @@ bool FormBakiye::Tara(Toplamlar& toplamlar) {
         if (!Istenen(detay))
             continue;
         SatirEkle(ad, yol, ana, detay);
-        toplamlar[TurSirasi(ana.No(kNitelik))] += TutarDegeri(ana.No(kUcret));
+        toplamlar[TurSirasi(ana.No(AnaNo::Niteligi))] += TutarDegeri(ana.No(AnaNo::ToplamUcret));
         std::size_t sira = kBakiyeTurleri.size();
-        for (const int no : {kUcret, kAlinan, kKalan})
+        for (const int no : {AnaNo::ToplamUcret, AnaNo::AlinanOdeme, AnaNo::KalanOdeme})
             toplamlar[sira++] += TutarDegeri(ana.No(no));
     }
     return true;
@@ -146,16 +133,17 @@ bool FormBakiye::Istenen(const DetayDegerler& detay) const {
     if (Combo1.secili == OnRezervasyonlar)
         return OnMu(detay);
     if (Combo1.secili == KesinRezervasyonlar)
-        return detay.No(kKesinIsareti) == u"1";
+        return detay.No(DetayNo::KesinRezervasyon) == u"1";
     return true;
 }
 
 void FormBakiye::SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana,
                            const DetayDegerler& detay) {
     Liste.satirlar.push_back(
-        {.sutun = {Metin(Parca(ad, 1, kGunAdiUzunlugu)), ana.No(kAd), ana.No(kUcret), ana.No(kAlinan),
-                   ana.No(kKalan), Metin(OnMu(detay) ? kOn : kKesin), Combo2.Metni(), ana.No(kNitelik),
-                   ana.No(kDavetli), ana.No(kOnAciklama)},
+        {.sutun = {Metin(Parca(ad, 1, kGunAdiUzunlugu)), ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::ToplamUcret),
+                   ana.No(AnaNo::AlinanOdeme), ana.No(AnaNo::KalanOdeme), Metin(OnMu(detay) ? kOn : kKesin),
+                   Combo2.Metni(), ana.No(AnaNo::Niteligi), ana.No(AnaNo::DavetliSayisi),
+                   ana.No(AnaNo::OnAciklama)},
          .tag = yol});
 }
 

@@ -3,12 +3,14 @@
 #include <array>
 #include <vector>
 
+#include "storage/RezervasyonDosyalari.h"
 #include "storage/dosya/Dosyalar.h"
 
 namespace velora {
 
 /// The values of a record that a search looks at, by their number in the file.
-inline constexpr std::array<int, 5> kAramaNumaralari{1, 3, 5, 6, 14};
+inline constexpr std::array<int, 5> kAramaNumaralari{AnaNo::AdiSoyadi, AnaNo::GelinDamat, AnaNo::Telefon,
+                                                     AnaNo::Cep, AnaNo::SozlesmeNo};
 
 /// These values, in this order, as the variables of a search hold them.
 using AramaDegerleri = std::array<Metin, kAramaNumaralari.size()>;

@@ -26,24 +26,26 @@ void Ac(MetinKutusu& kutu, bool acik) {
 FormKayit::FormKayit(Program& program) : program_(program) {
     for (const MetinBakis nitelik : kNitelikler)
         Kay4Listesi.emplace_back(nitelik);
-    Kay[4].metin = kNitelikSeciniz;
-    for (const int no : {12, 15}) {
+    Kay[AnaNo::Niteligi].metin = kNitelikSeciniz;
+    for (const int no : {AnaNo::BaslamaSaati, AnaNo::BitisSaati}) {
         Kay[no].maske = kSaatMaskesi;
         Kay[no].metin = kBosSaat;
     }
-    for (const int no : {13, 18}) {
+    for (const int no : {AnaNo::SozlesmeTarihi, AnaNo::HatirlatmaTarihi}) {
         Kay[no].maske = kTarihMaskesi;
         Kay[no].metin = kBosTarih;
     }
-    for (const int no : {1, 2, 3, 5, 6, 8, 12, 13, 15, 16, 17})
+    for (const int no : {AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Telefon, AnaNo::Cep,
+                         AnaNo::ToplamUcret, AnaNo::BaslamaSaati, AnaNo::SozlesmeTarihi, AnaNo::BitisSaati,
+                         AnaNo::KimlikNo, AnaNo::DavetliSayisi})
         Kay[no].odaktaSecilir = true;
-    for (const int no : {8, 9, 10, 14})
+    for (const int no : {AnaNo::ToplamUcret, AnaNo::AlinanOdeme, AnaNo::KalanOdeme, AnaNo::SozlesmeNo})
         Kay[no].suzgec = YalnizRakam;
-    Kay[8].enUzun = 6;
-    Kay[16].enUzun = 11;
-    Kay[9].kilitli = Kay[10].kilitli = true;
+    Kay[AnaNo::ToplamUcret].enUzun = 6;
+    Kay[AnaNo::KimlikNo].enUzun = 11;
+    Kay[AnaNo::AlinanOdeme].kilitli = Kay[AnaNo::KalanOdeme].kilitli = true;
     SozlesmeNoAc(false);
-    Ac(Kay[18], false);
+    Ac(Kay[AnaNo::HatirlatmaTarihi], false);
     Option1.deger = Check18.deger = 1;
     Option1.tiklandi = [this] { Option2.Ata(Option1.deger == 1 ? 0 : Option2.deger); };
     Option2.tiklandi = [this] { Option1.Ata(Option2.deger == 1 ? 0 : Option1.deger); };
@@ -62,7 +64,7 @@ FormKayit::FormKayit(Program& program) : program_(program) {
 void FormKayit::Load() {
     program_.FormTablo->CetvelSil();
     if (KayitAc == 0)
-        Kay[13].metin = TarihMetni(program_.Bugun());
+        Kay[AnaNo::SozlesmeTarihi].metin = TarihMetni(program_.Bugun());
     if (MenuleriOku()) {
         if (KayitAc == 0)
             Combo1.Sec(0);
@@ -72,7 +74,7 @@ void FormKayit::Load() {
         }
     }
     // One way out for whatever failed: the counter too, when only the menus are missing.
-    Kay[14].metin = u"1";
+    Kay[AnaNo::SozlesmeNo].metin = u"1";
     if (program_.FormAyarlar->Check2.deger == 0)
         SozlesmeNoAc(true);
 }
@@ -103,33 +105,33 @@ bool FormKayit::SozlesmeNoOner() {
         SozlesmeNoAc(true);
     if (ayarlar->Check7.deger == 1) {
         SozlesmeNoAc(false);
-        Kay[14].metin.clear();
+        Kay[AnaNo::SozlesmeNo].metin.clear();
         return true;
     }
     const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Count.dat"));
     Metin sonNo;
     if (!bayt || !DegerOkuyucu(*bayt).Oku(sonNo))
         return false;
-    Kay[14].metin = DuzMetin(SayisalDeger(sonNo) + 1);
+    Kay[AnaNo::SozlesmeNo].metin = DuzMetin(SayisalDeger(sonNo) + 1);
     return true;
 }
 
 void FormKayit::SozlesmeNoAc(bool acik) {
-    Kay[14].kilitli = !acik;
-    Kay[14].beyazZemin = acik;
+    Kay[AnaNo::SozlesmeNo].kilitli = !acik;
+    Kay[AnaNo::SozlesmeNo].beyazZemin = acik;
 }
 
 void FormKayit::Activate() {
     if (KayitAc == 1) {
         SozlesmeNoAc(false);
-        Kay[8].kilitli = program_.FormTablo->TutarDegistir == 0;
+        Kay[AnaNo::ToplamUcret].kilitli = program_.FormTablo->TutarDegistir == 0;
         baslik = u"Kayıt Düzenle";
         Command1.baslik = u"Kaydet";
         Command1.ipucu = u"Değişiklikleri Kaydet";
         Command2.ipucu = u"Değişiklikleri Kaydetmeden Kapat";
     }
     Command9.etkin = Command7.etkin = false;
-    Command12();
+    Command12(); // the totals
 }
 
 void FormKayit::Command2_Click() {
@@ -155,7 +157,7 @@ void FormKayit::Check_MouseUp(int no) {
 }
 
 void FormKayit::Check19_Change() {
-    Ac(Kay[18], Check19.deger == 1);
+    Ac(Kay[AnaNo::HatirlatmaTarihi], Check19.deger == 1);
 }
 
 void FormKayit::Check19_MouseUp() {
@@ -169,17 +171,18 @@ void FormKayit::Combo1_Click() {
 }
 
 void FormKayit::Kay8_LostFocus() {
-    Command12();
+    Command12(); // the totals
 }
 
 void FormKayit::Kay9_LostFocus() {
-    Kay[10].metin = DuzMetin(SayisalDeger(Kay[8].metin) - SayisalDeger(Kay[9].metin));
+    Kay[AnaNo::KalanOdeme].metin =
+        DuzMetin(SayisalDeger(Kay[AnaNo::ToplamUcret].metin) - SayisalDeger(Kay[AnaNo::AlinanOdeme].metin));
 }
 
 void FormKayit::Kay12_LostFocus() {
     constexpr double kSonSaat = 23;
     constexpr double kSonDakika = 59;
-    Metin& saat = Kay[12].metin;
+    Metin& saat = Kay[AnaNo::BaslamaSaati].metin;
     const auto parca = [&saat](std::size_t ilk) { return Metin(Parca(saat, ilk, 2)); };
     // Both rules in turn, each on what the one before has left.
     if (SayisalDeger(parca(1)) > kSonSaat)

@@ -15,7 +15,7 @@ FormOdemeAl::FormOdemeAl(Program& program) : program_(program) {
 void FormOdemeAl::Load() {
     DTPicker1.deger = program_.Bugun();
     const auto kayit = program_.FormKayit.Tut();
-    Aciklama.metin = kayit->Kay[14].metin + u" - " + kayit->Kay[1].metin;
+    Aciklama.metin = kayit->Kay[AnaNo::SozlesmeNo].metin + u" - " + kayit->Kay[AnaNo::AdiSoyadi].metin;
 }
 
 void FormOdemeAl::Text1_Change() {

@@ -20,12 +20,12 @@ struct AlanKontrolu {
 
 /// In the order of the questions. Only a wholly empty mask is refused; a field that is off isn't asked.
 constexpr std::array<AlanKontrolu, 6> kKontroller{{
-    {12, kBosSaat, u"Lütfen başlama saatini giriniz!"},
-    {15, kBosSaat, u"Lütfen bitiş saatini giriniz!"},
-    {13, kBosTarih, u"Lütfen sözleşme tarihini giriniz!"},
-    {1, u"", u"Lütfen adı soyadı giriniz!"},
-    {4, kNitelikSeciniz, u"Lütfen niteliği seçiniz!"},
-    {18, kBosTarih, u"Lütfen bu tarihte hatırlatın tarihini giriniz!"},
+    {AnaNo::BaslamaSaati, kBosSaat, u"Lütfen başlama saatini giriniz!"},
+    {AnaNo::BitisSaati, kBosSaat, u"Lütfen bitiş saatini giriniz!"},
+    {AnaNo::SozlesmeTarihi, kBosTarih, u"Lütfen sözleşme tarihini giriniz!"},
+    {AnaNo::AdiSoyadi, u"", u"Lütfen adı soyadı giriniz!"},
+    {AnaNo::Niteligi, kNitelikSeciniz, u"Lütfen niteliği seçiniz!"},
+    {AnaNo::HatirlatmaTarihi, kBosTarih, u"Lütfen bu tarihte hatırlatın tarihini giriniz!"},
 }};
 
 /// What stands open shows the saved record: the lists with the messages they bring, then the table.
@@ -37,13 +37,9 @@ void AcikEkranlariTazele(Program& p) {
     const auto tablo = p.FormTablo.Tut();
     if (tablo->Picture1.gorunur)
         tablo->UyariGoster();
-    for (const auto adim : {&FormTablo::Command1, &FormTablo::Command6, &FormTablo::Command7}) {
-        p.OlaylariIsle();
-        (*tablo.*adim)();
-    }
+    tablo->DegisikligiGoster([&p] { p.OlaylariIsle(); });
 }
 
-constexpr int kNumaraSirasi = 14;
 constexpr std::size_t kEnCokOkunan = std::size_t{1} << 20;
 
 } // namespace
@@ -52,7 +48,7 @@ void FormKayit::Command1_Click() {
     Program& p = program_;
     if (!AlanlarTamam())
         return;
-    for (const int no : {1, 2, 3, 7})
+    for (const int no : {AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Adres})
         Kay[no].metin = BuyukBas(Kay[no].metin);
     if (!NumaraUygun())
         return;
@@ -95,10 +91,10 @@ void FormKayit::AlanaDon(int no, const Metin& mesaj) {
 
 bool FormKayit::NumaraUygun() {
     // Only a new number can be taken twice: that of an existing record is locked.
-    if (KayitAc != 0 || !NumaraVar(Kay[kNumaraSirasi].metin))
+    if (KayitAc != 0 || !NumaraVar(Kay[AnaNo::SozlesmeNo].metin))
         return true;
-    AlanaDon(kNumaraSirasi, u"Bu sözleşme numarası ile kayıtlı bir sözleşme var!\n"
-                            u"Lütfen farklı bir sözleşme numarası giriniz.");
+    AlanaDon(AnaNo::SozlesmeNo, u"Bu sözleşme numarası ile kayıtlı bir sözleşme var!\n"
+                                u"Lütfen farklı bir sözleşme numarası giriniz.");
     return false;
 }
 
@@ -113,7 +109,7 @@ bool FormKayit::NumaraVar(const Metin& no) const {
         program_.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()), kEnCokOkunan,
         [&](const Dosyalar::OkunanDosya& dosya) {
             DegerOkuyucu okuyucu(dosya.bayt);
-            if (okuyucu.Atla(kNumaraSirasi - 1) == kNumaraSirasi - 1 && okuyucu.Oku(okunan))
+            if (okuyucu.Atla(AnaNo::SozlesmeNo - 1) == AnaNo::SozlesmeNo - 1 && okuyucu.Oku(okunan))
                 var = var || (!Kirp(okunan).empty() && okunan == no);
         },
         [](MetinBakis ad) { return !ad.ends_with(u"Detay"); });
@@ -167,7 +163,7 @@ Metin FormKayit::GunYolu() const {
 
 void FormKayit::SayaciYaz() const {
     DegerYazici yazici;
-    yazici.Yaz(Kay[kNumaraSirasi].metin);
+    yazici.Yaz(Kay[AnaNo::SozlesmeNo].metin);
     program_.dosyalar.Yaz(program_.agac.KokYolu(u"Count.dat"), yazici.Bayt());
 }
 

@@ -24,23 +24,23 @@ void AnayiYerlestir(FormKayit& kayit, const AnaDegerler& ana) {
             for (const char16_t isaret : kutu.maske)
                 kutu.metin += isaret == u'#' ? u'_' : isaret;
     }
-    OnayAta(kayit.Check18, ana.No(kKaySayisi + 1));
-    OnayAta(kayit.Check19, ana.No(kKaySayisi + 2));
+    OnayAta(kayit.Check18, ana.No(AnaNo::YaklasincaHatirlat));
+    OnayAta(kayit.Check19, ana.No(AnaNo::BuTarihteHatirlat));
 }
 
 void DetayiYerlestir(FormKayit& kayit, const DetayDegerler& detay) {
     // All boxes before all notes: a box that changes empties its note.
     for (int no = 1; no <= kHizmetSayisi; ++no)
-        OnayAta(kayit.Check[no], detay.No(no));
+        OnayAta(kayit.Check[no], detay.No(DetayNo::IlkHizmet + no - 1));
     for (int no = 1; no <= kHizmetSayisi; ++no)
-        kayit.TT[no].metin = detay.No(kHizmetSayisi + no);
-    kayit.Aciklamalar.metin = detay.No(35);
+        kayit.TT[no].metin = detay.No(DetayNo::IlkHizmetNotu + no - 1);
+    kayit.Aciklamalar.metin = detay.No(DetayNo::Aciklamalar);
     // By its text, which runs no click: the record's own copy of the menu stands.
-    kayit.Combo1.MetinAta(detay.No(38));
-    kayit.Label20.metin = detay.No(39);
-    if (detay.No(36) == u"1")
+    kayit.Combo1.MetinAta(detay.No(DetayNo::MenuAdi));
+    kayit.Label20.metin = detay.No(DetayNo::MenuIcerigi);
+    if (detay.No(DetayNo::KesinRezervasyon) == u"1")
         kayit.Option1.Ata(1);
-    if (detay.No(37) == u"1")
+    if (detay.No(DetayNo::OnRezervasyon) == u"1")
         kayit.Option2.Ata(1);
 }
 
@@ -66,7 +66,7 @@ void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& 
     DetayOku(program.dosyalar, detayYolu, detay);
     DetayiYerlestir(*kayit, detay);
     kayit->Tag = yol;
-    kayit->Command10();
+    kayit->Command10(); // the payments
     program.FormKayit.GosterModal();
 }
 

@@ -15,8 +15,8 @@ struct Gerekli {
     const char16_t* mesaj;
 };
 constexpr std::array<Gerekli, 2> kGerekliler{{
-    {1, u"Lütfen önce adı soyadı giriniz!"},
-    {8, u"Lütfen önce toplam ücreti giriniz!"},
+    {AnaNo::AdiSoyadi, u"Lütfen önce adı soyadı giriniz!"},
+    {AnaNo::ToplamUcret, u"Lütfen önce toplam ücreti giriniz!"},
 }};
 
 } // namespace
@@ -39,7 +39,7 @@ void FormKayit::Liste_ItemClick() {
 void FormKayit::Command7_Click() {
     Command9.etkin = Command7.etkin = false;
     // One right covers both: who may not change the price may not delete what was paid.
-    if (Kay[8].kilitli) {
+    if (Kay[AnaNo::ToplamUcret].kilitli) {
         program_.ortam.sor.mesaj({u"Alınan ödemeleri silmeye yetkiniz yok!"});
         return;
     }
@@ -50,17 +50,17 @@ void FormKayit::Command7_Click() {
     if (Liste.secili >= 0 && Liste.secili < static_cast<int>(Liste.satirlar.size()))
         Liste.satirlar.erase(Liste.satirlar.begin() + Liste.secili);
     Liste.secili = -1;
-    Command12();
+    Command12(); // the totals
 }
 
 void FormKayit::Command12() {
     double toplam = 0;
     for (const ListeSatiri& satir : Liste.satirlar)
         toplam += SayisalDeger(satir.sutun[kTutarSutunu]);
-    Kay[9].metin = DuzMetin(toplam);
+    Kay[AnaNo::AlinanOdeme].metin = DuzMetin(toplam);
     Kay9_LostFocus();
-    Kayam9.baslik = GrupluMetin(SayisalDeger(Kay[9].metin));
-    Kayam10.baslik = GrupluMetin(SayisalDeger(Kay[10].metin));
+    Kayam9.baslik = GrupluMetin(SayisalDeger(Kay[AnaNo::AlinanOdeme].metin));
+    Kayam10.baslik = GrupluMetin(SayisalDeger(Kay[AnaNo::KalanOdeme].metin));
 }
 
 void FormKayit::Command10() {

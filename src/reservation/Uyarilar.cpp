@@ -16,8 +16,6 @@ namespace velora {
 
 namespace {
 
-constexpr int kCift = 3; // of the values of the main file
-constexpr int kYaklasinca = 19;
 constexpr std::size_t kYilYeri = 7; // of the day file name, counted from 1
 
 struct UyariTuru {
@@ -29,11 +27,15 @@ struct UyariTuru {
 };
 /// The question about the couple is asked of firm reservations alone, as is meant.
 constexpr std::array<UyariTuru, 2> kTurler{
-    {{u"Kesin", 36, &UyariSuresi::kesin, true, 0}, {u"Ön", 37, &UyariSuresi::on, false, kOnUyariRengi}}};
+    {{u"Kesin", DetayNo::KesinRezervasyon, &UyariSuresi::kesin, true, 0},
+     {u"Ön", DetayNo::OnRezervasyon, &UyariSuresi::on, false, kOnUyariRengi}}};
 
 ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const AnaDegerler& ana,
                      const UyariTuru& tur) {
-    return {{ad, salon, ana.No(1), ana.No(3), ana.No(5), ana.No(6), Metin(tur.ad)}, yol, tur.renk};
+    return {{ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
+             ana.No(AnaNo::Cep), Metin(tur.ad)},
+            yol,
+            tur.renk};
 }
 
 } // namespace
@@ -82,8 +84,9 @@ std::vector<ListeSatiri> UyariTaramasi::Satirlar(const Gun& bugun, const UyariSu
         });
         ilk = i + 1;
         for (const UyariTuru& tur : kTurler)
-            if (kalan <= sure.*tur.sure && detay.No(tur.isaret) == u"1" && ana.No(kYaklasinca) == u"1" &&
-                !(tur.sifirCiftsiz && ana.No(kCift) == u"0"))
+            if (kalan <= sure.*tur.sure && detay.No(tur.isaret) == u"1" &&
+                ana.No(AnaNo::YaklasincaHatirlat) == u"1" &&
+                !(tur.sifirCiftsiz && ana.No(AnaNo::GelinDamat) == u"0"))
                 satirlar.push_back(SatirYap(ad.metin, klasorler_[ad.klasor].salon, Yol(i), ana, tur));
     }
     return satirlar;

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "screen/Kontroller.h"
+#include "setup/RenkNo.h"
 
 namespace velora {
 
 struct Program;
 
-inline constexpr int kRenkSayisi = 25;
 inline constexpr MetinBakis kGunduzGeceSirasi = u"Gündüz / Gece";
 inline constexpr MetinBakis kGeceGunduzSirasi = u"Gece / Gündüz";
 
@@ -22,7 +22,7 @@ struct FormAyarlar {
     /// Reads both files. With either missing, short or holding what is no number, all defaults stand.
     void Load();
 
-    /// Colour `n`, 0 to 24.
+    /// Colour `n`, 0 to 24 (`RenkNo`).
     RenkDegeri Renk(int n) const { return renkler[static_cast<std::size_t>(n)]; }
     bool AyGorunur(int ay) const { return Aylar[ay].deger == 1; }
     /// True when the day slot stands on top in each month. Any text but "Gündüz / Gece" means the other

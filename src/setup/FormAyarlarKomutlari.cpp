@@ -20,8 +20,8 @@ void FormAyarlar::Command4_Click() {
     if (Check4.deger == 1)
         program_.ortam.sor.mesaj(
             {.metin = u"Yaptığınız yarı gün değişikliği programı yeniden başlattığınızda çalışacaktır!"});
-    program_.FormTablo->Command3();
-    program_.FormTablo->Command1();
+    program_.FormTablo->Command3(); // the layer under all others
+    program_.FormTablo->Command1(); // the scan
 }
 
 void FormAyarlar::Command1_Click() {

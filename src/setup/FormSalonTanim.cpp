@@ -108,7 +108,7 @@ void FormSalonTanim::Command3_Click() {
         return;
     }
     p.FormSalonTanim.Bosalt();
-    p.FormTablo->Command7();
+    p.FormTablo->Command7(); // publishes
 }
 
 void FormSalonTanim::Kaydet_Click() {

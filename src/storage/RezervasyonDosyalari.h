@@ -10,9 +10,51 @@
 
 namespace velora {
 
-inline constexpr int kAnaDegerSayisi = 20;
-inline constexpr int kDetayDegerSayisi = 39;
+/// The values of the main file, by their numbers: 1 to 18 are the fields `Kay1` to `Kay18`.
+struct AnaNo {
+    enum No : int {
+        AdiSoyadi = 1,
+        Yoresi,
+        GelinDamat,
+        Niteligi,
+        Telefon,
+        Cep,
+        Adres,
+        ToplamUcret,
+        AlinanOdeme,
+        KalanOdeme,
+        OnAciklama,
+        BaslamaSaati,
+        SozlesmeTarihi,
+        SozlesmeNo,
+        BitisSaati,
+        KimlikNo,
+        DavetliSayisi,
+        HatirlatmaTarihi,
+        YaklasincaHatirlat, ///< `Check18`
+        BuTarihteHatirlat   ///< `Check19`
+    };
+};
+
 inline constexpr int kHizmetSayisi = 17;
+
+/// The values of the details file, by their numbers. The services and their notes come first, in the order of
+/// the services.
+struct DetayNo {
+    enum No : int {
+        IlkHizmet = 1,                             ///< `Check1` to `Check17`
+        IlkHizmetNotu = IlkHizmet + kHizmetSayisi, ///< `TT1` to `TT17`
+        Aciklamalar = IlkHizmetNotu + kHizmetSayisi,
+        KesinRezervasyon, ///< `Option1`
+        OnRezervasyon,    ///< `Option2`
+        MenuAdi,          ///< `Combo1`
+        MenuIcerigi       ///< `Label20`
+    };
+};
+
+inline constexpr int kAnaDegerSayisi = AnaNo::BuTarihteHatirlat;
+inline constexpr int kDetayDegerSayisi = DetayNo::MenuIcerigi;
+static_assert(kAnaDegerSayisi == 20 && kDetayDegerSayisi == 39);
 
 /// The empty masks, as the screen holds and the files store them.
 inline constexpr MetinBakis kBosTarih = u"__.__.____";
@@ -23,12 +65,11 @@ inline constexpr MetinBakis kBosSaat = u"__:__";
 struct AnaDegerler {
     std::array<Metin, kAnaDegerSayisi> deger;
 
-    /// The value with this number, 1 to 20. Values 1-18 are `Kay1` ... `Kay18`, 19 `Check18`, 20 `Check19`.
+    /// The value with this number (`AnaNo`), 1 to 20.
     const Metin& No(int no) const { return deger[static_cast<std::size_t>(no - 1)]; }
 };
 
-/// The details file as a list of untyped values: 1-17 the services, 18-34 their notes, 35 `Aciklamalar`,
-/// 36 `Option1`, 37 `Option2`, 38 `Combo1`, 39 `Label20`.
+/// The details file as a list of untyped values, 1 to 39 (`DetayNo`).
 struct DetayDegerler {
     std::array<Metin, kDetayDegerSayisi> deger;
     const Metin& No(int no) const { return deger[static_cast<std::size_t>(no - 1)]; }

@@ -17,7 +17,7 @@ void BasliklariBoya(BirTabanli<Etiket, Adet>& basliklar, RenkDegeri renk) {
 
 template <std::size_t Adet>
 void FormTablo::BasligiSec(BirTabanli<Etiket, Adet>& basliklar, int no, int& hizli) {
-    BasliklariBoya(basliklar, program_.FormAyarlar->Renk(0));
+    BasliklariBoya(basliklar, program_.FormAyarlar->Renk(RenkNo::BaslikZemini));
     basliklar[no].zemin = kBaslikIsareti;
     if (hizli == no)
         return;
@@ -53,8 +53,8 @@ void FormTablo::CetvelTimer_Tick() {
 void FormTablo::CetvelSil() {
     CetvelTimer.aralik = 0;
     program_.OlaylariIsle();
-    BasliklariBoya(Gunler, program_.FormAyarlar->Renk(0));
-    BasliklariBoya(AyZemin, program_.FormAyarlar->Renk(0));
+    BasliklariBoya(Gunler, program_.FormAyarlar->Renk(RenkNo::BaslikZemini));
+    BasliklariBoya(AyZemin, program_.FormAyarlar->Renk(RenkNo::BaslikZemini));
     program_.OlaylariIsle();
     HizliSecim.gorunur = false;
     HizliAy = HizliGun = 0;

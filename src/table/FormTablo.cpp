@@ -24,6 +24,8 @@ constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that fi
 } // namespace
 
 FormTablo::FormTablo(Program& program) : program_(program) {
+    for (const KomutTanimi& komut : Komutlar())
+        Girdi(komut.komut).baslik = komut.baslik;
     for (int gun = 1; gun <= kGunSayisi; ++gun)
         ALabel[gun].baslik = SayiMetni(gun);
     for (int ay = 1; ay <= kAySayisi; ++ay)
@@ -48,7 +50,7 @@ void FormTablo::Load() {
     for (const Metin& salon : Salon.ogeler)
         program_.agac.KlasorHazirla(salon, Sene.Metni());
     Salon.Sec(0);
-    Command1();
+    Command1(); // the scan
     OzelHatirlatmaBak();
     program_.OlaylariIsle();
     UyariGoster();
@@ -76,7 +78,7 @@ bool FormTablo::BuYil() const {
 void FormTablo::Salon_Click() {
     program_.ortam.odak.ver(EkranAdi::FormTablo, u"Picture4");
     CetvelSil();
-    Command1();
+    Command1(); // the scan
 }
 
 void FormTablo::Sene_Click() {
@@ -84,7 +86,7 @@ void FormTablo::Sene_Click() {
     CetvelSil();
     // Only the year folder: a hall folder that is gone stays gone until the next start.
     program_.dosyalar.KlasorYap(program_.agac.YilKlasoru(Salon.Metni(), Sene.Metni()));
-    Command1();
+    Command1(); // the scan
     if (!BuYil())
         BuGun.gorunur = false;
 }
@@ -102,8 +104,8 @@ void FormTablo::Activate() {
         Picture1.gorunur = false;
     {
         const auto ayarlar = program_.FormAyarlar.Tut();
-        Picture1.zemin = ayarlar->Renk(14);
-        UyariBaslik.yazi = ayarlar->Renk(15);
+        Picture1.zemin = ayarlar->Renk(RenkNo::UyariZemini);
+        UyariBaslik.yazi = ayarlar->Renk(RenkNo::UyariYazisi);
     }
     Check1 = 1;
     program_.OlaylariIsle();
@@ -121,6 +123,14 @@ void FormTablo::Command6() {
     GunTimer.aralik = dolu ? kYanipSonme : 0;
     program_.OlaylariIsle();
     BuGun.gorunur = true;
+}
+
+void FormTablo::DegisikligiGoster(const std::function<void()>& once) {
+    for (const auto adim : {&FormTablo::Command1, &FormTablo::Command6, &FormTablo::Command7}) {
+        if (once)
+            once();
+        (this->*adim)();
+    }
 }
 
 void FormTablo::GunTimer_Tick() {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "screen/Kontroller.h"
 #include "storage/VeriAgaci.h"
+#include "table/Komutlar.h"
 
 namespace velora {
 
@@ -123,12 +125,12 @@ struct FormTablo {
     /// The cell last moved over has been dragged here.
     void Hucre_DragDrop(SatirAdi satir, int gun);
 
-    // --- the entries of `Sagtus` ---
+    // --- the commands (Komutlar.h) ---
+    /// A button of the tool bar: the ruler goes, then the command runs.
+    void AracaTikla(const KomutTanimi& komut);
     void newkay_Click();
     void TasimaModuAc_Click();
     void iptals_Click();
-
-    // --- the entries of the menu bar ---
     void Arasss_Click();
     void BakiyeRaporss_Click();
     void iptalsebepss_Click(); ///< the log of cancellations, there or not, in the user's text viewer
@@ -151,6 +153,9 @@ struct FormTablo {
     void Command7(); ///< "Otomatik Yayin": publishes again what is published already, and else nothing
     /// Shows the screen that sends the table of the selected hall and year to the service. Offline: nothing.
     void Yayinla();
+    /// What follows a change of the reservations: the scan, today's frame, the publish. `once` runs before
+    /// each.
+    void DegisikligiGoster(const std::function<void()>& once = {});
     void GecmisGunler();
     void CetvelAc();
     void CetvelSil();
@@ -183,19 +188,10 @@ struct FormTablo {
     Metin SeciliTarih;       ///< day file name of the cell under the pointer
     Metin SeciliTarih2;      ///< the same, frozen at the last press
     int tasimamoducheck = 0; ///< 1 while move mode is open
-    // The context menu `Sagtus` of a cell, in this order with a line between them.
-    MenuGirdisi newkay{u"Yeni Organizasyon Oluştur"};
-    MenuGirdisi TasimaModuAc{u"Taşıma Modunu Aç"};
-    MenuGirdisi iptals{u"Kayıt İptali"};
-    // The menu "Dosya".
-    MenuGirdisi Arasss{u"Kayıt Ara"};
-    // The menu "Raporlar".
-    MenuGirdisi BakiyeRaporss{u"Rezervasyon Raporu"};
-    MenuGirdisi iptalsebepss{u"İptal Sebepleri"};
-    // The menu "Ayarlar", in this order.
-    MenuGirdisi Salontanimss{u"Salon Tanımları"};
-    MenuGirdisi MenuAyars{u"Menü Tanımları"};
-    MenuGirdisi Progrset{u"Genel Program Ayarları"};
+    /// The entries of the menu bar and of the context menu `Sagtus`, by their commands.
+    std::array<MenuGirdisi, kKomutSayisi> komutlar;
+    /// The buttons of the tool bar and the lines behind them, by their places.
+    BirTabanli<MenuGirdisi, kAracSayisi> Toolbar1;
     int TutarDegistir = 0; ///< 1: the user may change amounts
     int Check1 = 0;        ///< "Hatirlatma": 0 until the first Activate
     int Dklabel = 0;       ///< ticks of `Saatsay`
@@ -213,6 +209,7 @@ struct FormTablo {
     Zamanlayici Saatsay;
     Zamanlayici DuyuruKontrol;
 
+    MenuGirdisi& Girdi(Komut komut) { return komutlar[static_cast<std::size_t>(komut)]; }
     Hucre& Gozu(int ay, velora::GunduzGece dilim, int gun) { return Gozu(Satir(ay, dilim), gun); }
     Hucre& Gozu(SatirAdi satir, int gun) { return satirlar[static_cast<std::size_t>(satir)].gun[gun]; }
     const Hucre& Gozu(SatirAdi satir, int gun) const {

@@ -3,6 +3,7 @@
 #include "setup/FormAyarlar.h"
 #include "storage/Sayi.h"
 #include "table/FormTablo.h"
+#include "table/HucreRenkleri.h"
 
 namespace velora {
 
@@ -11,8 +12,8 @@ void FormTablo::GecmisBoya(int ay, int ilkGun, int sonGun) {
     for (const auto dilim : {velora::GunduzGece::Gunduz, velora::GunduzGece::Gece})
         for (int gun = ilkGun; gun <= sonGun; ++gun) {
             Hucre& hucre = Gozu(ay, dilim, gun);
-            hucre.zemin = ayarlar->Renk(17);
-            hucre.yazi = ayarlar->Renk(18);
+            hucre.zemin = ayarlar->Renk(kGecmisRengi.zemin);
+            hucre.yazi = ayarlar->Renk(kGecmisRengi.yazi);
         }
 }
 

@@ -53,8 +53,9 @@ void FormTablo::Hucre_MouseMove(SatirAdi satir, int gun) {
 }
 
 bool FormTablo::Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme) {
-    newkay.etkin = BosRenkte(satir, gun);
-    iptals.etkin = !newkay.etkin;
+    const bool bos = BosRenkte(satir, gun);
+    Girdi(Komut::newkay).etkin = bos;
+    Girdi(Komut::iptals).etkin = !bos;
     SeciliTarih2 = SeciliTarih;
     return sagDugme;
 }
@@ -79,8 +80,8 @@ void FormTablo::newkay_Click() {
     {
         const auto kayit = program_.FormKayit.Tut();
         kayit->Tarih = gun;
-        kayit->Kay[8].kilitli = false;
-        kayit->Kay[12].metin =
+        kayit->Kay[AnaNo::ToplamUcret].kilitli = false;
+        kayit->Kay[AnaNo::BaslamaSaati].metin =
             AnahtarDilimi(gun) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
     }
     program_.FormKayit.GosterModal();

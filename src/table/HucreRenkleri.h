@@ -2,11 +2,12 @@
 
 #include <array>
 
+#include "setup/RenkNo.h"
 #include "storage/VeriAgaci.h"
 
 namespace velora {
 
-/// Two slots of the colour list: back and fore of a cell.
+/// Two of the colours: back and fore of a cell.
 struct RenkCifti {
     int zemin;
     int yazi;
@@ -20,10 +21,19 @@ struct SatirRenkleri {
     RenkCifti on;        ///< pre-reservation
 };
 
-inline constexpr SatirRenkleri kGunduzRenkleri{{2, 3}, {8, 9}, {6, 7}, {19, 20}};
-inline constexpr SatirRenkleri kGeceRenkleri{{4, 5}, {10, 11}, {12, 13}, {21, 22}};
-inline constexpr RenkCifti kTatilRengi{23, 24};
-inline constexpr RenkCifti kGecmisRengi{17, 18};
+inline constexpr SatirRenkleri kGunduzRenkleri{
+    .bos = {RenkNo::GunduzZemini, RenkNo::GunduzYazisi},
+    .haftaSonu = {RenkNo::GunduzHaftaSonuZemini, RenkNo::GunduzHaftaSonuYazisi},
+    .kesin = {RenkNo::GunduzKesinZemini, RenkNo::GunduzKesinYazisi},
+    .on = {RenkNo::GunduzOnZemini, RenkNo::GunduzOnYazisi}};
+inline constexpr SatirRenkleri kGeceRenkleri{
+    .bos = {RenkNo::GeceZemini, RenkNo::GeceYazisi},
+    .haftaSonu = {RenkNo::GeceHaftaSonuZemini, RenkNo::GeceHaftaSonuYazisi},
+    .kesin = {RenkNo::GeceKesinZemini, RenkNo::GeceKesinYazisi},
+    .on = {RenkNo::GeceOnZemini, RenkNo::GeceOnYazisi}};
+inline constexpr RenkCifti kTatilRengi{RenkNo::TatilZemini, RenkNo::TatilYazisi};
+inline constexpr RenkCifti kGecmisRengi{RenkNo::GecmisZemini, RenkNo::GecmisYazisi};
+inline constexpr RenkCifti kBaslikRengi{RenkNo::BaslikZemini, RenkNo::BaslikYazisi};
 
 constexpr const SatirRenkleri& Renkler(GunduzGece dilim) {
     return dilim == GunduzGece::Gunduz ? kGunduzRenkleri : kGeceRenkleri;

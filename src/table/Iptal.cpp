@@ -32,15 +32,14 @@ void FormTablo::iptals_Click() {
         program_.dosyalar.Sil(yol + Metin(ek));
     program_.OlaylariIsle();
     program_.OlaylariIsle();
-    Command1();
-    Command6();
-    Command7();
+    DegisikligiGoster();
 }
 
 void FormTablo::IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep) {
     // The day is the one under the pointer now, the files are those of the day that was pressed.
     Metin satir = SeciliTarih;
-    for (const Metin& parca : {Salon.Metni(), kayit.No(1), kayit.No(5), kayit.No(6), UserNamem, sebep})
+    for (const Metin& parca : {Salon.Metni(), kayit.No(AnaNo::AdiSoyadi), kayit.No(AnaNo::Telefon),
+                               kayit.No(AnaNo::Cep), UserNamem, sebep})
         satir += u" - " + parca;
     program_.dosyalar.Ekle(program_.agac.KokYolu(kIptalDosyasi), KodYaz(satir + u"\r\n"));
 }

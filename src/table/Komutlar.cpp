@@ -1,4 +1,6 @@
-// The commands of the menu bar. Each shows another screen over the table.
+// The table of the commands, and those that only show another screen over the table.
+#include "table/Komutlar.h"
+
 #include "accounts/FormBakiye.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
@@ -8,6 +10,44 @@
 #include "table/FormTablo.h"
 
 namespace velora {
+
+namespace {
+
+using T = FormTablo;
+
+constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
+    {Komut::Arasss, u"Arasss", Menu::Kayitss, u"Kayıt Ara", &T::Arasss_Click, u"F2"},
+    {Komut::BakiyeRaporss, u"BakiyeRaporss", Menu::Raporsss, u"Rezervasyon Raporu", &T::BakiyeRaporss_Click,
+     u"F3"},
+    {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
+    {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::Salontanimss_Click},
+    {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::MenuAyars_Click},
+    {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::Progrset_Click, u"F7"},
+    {Komut::newkay, u"newkay", Menu::Sagtus, u"Yeni Organizasyon Oluştur", &T::newkay_Click},
+    {Komut::aline11, u"aline11", Menu::Sagtus, u"-"},
+    {Komut::TasimaModuAc, u"TasimaModuAc", Menu::Sagtus, u"Taşıma Modunu Aç", &T::TasimaModuAc_Click},
+    {Komut::aline12, u"aline12", Menu::Sagtus, u"-"},
+    {Komut::iptals, u"iptals", Menu::Sagtus, u"Kayıt İptali", &T::iptals_Click},
+}};
+
+constexpr bool SirasiDogru() {
+    for (std::size_t i = 0; i < kKomutSayisi; ++i)
+        if (kKomutlar[i].komut != static_cast<Komut>(i))
+            return false;
+    return true;
+}
+static_assert(SirasiDogru());
+
+} // namespace
+
+std::span<const KomutTanimi, kKomutSayisi> Komutlar() {
+    return kKomutlar;
+}
+
+void FormTablo::AracaTikla(const KomutTanimi& komut) {
+    CetvelSil();
+    (this->*komut.isle)();
+}
 
 void FormTablo::Arasss_Click() {
     program_.FormArama.GosterModal();

@@ -31,10 +31,11 @@ struct TaramaDegerleri {
 /// to scan.
 void TagYaz(const Metin& kullanici, GunduzGece dilim, const TaramaDegerleri& degerler, Metin& tag) {
     tag = kullanici;
-    for (const int no : {12, 4})
+    for (const int no : {AnaNo::BaslamaSaati, AnaNo::Niteligi})
         (tag += u'|') += degerler.No(no);
     tag += dilim == GunduzGece::Gunduz ? u"|Gündüz" : u"|Gece";
-    for (const int no : {8, 9, 10, 1, 14, 19})
+    for (const int no : {AnaNo::ToplamUcret, AnaNo::AlinanOdeme, AnaNo::KalanOdeme, AnaNo::AdiSoyadi,
+                         AnaNo::SozlesmeNo, AnaNo::YaklasincaHatirlat})
         (tag += u'|') += degerler.No(no);
 }
 
@@ -60,9 +61,9 @@ void FormTablo::Command1() {
     for (TabloSatiri& satir : satirlar)
         for (Hucre& hucre : satir.gun)
             hucre.tag.clear();
-    Command3();
-    Command4();
-    Command5();
+    Command3(); // free days and weekends
+    Command4(); // days that the months don't have
+    Command5(); // holidays
     program_.OlaylariIsle();
     // Hall and year are read only here: an event may just have changed them.
     const YilOkumasi okuma = KlasoruOku(program_, *this);

@@ -28,8 +28,8 @@ void FormTablo::Hucre_DragDrop(SatirAdi satir, int gun) {
     if (cevap != Cevap::Evet)
         return TasimaBitir();
     RezervasyonuTasi(SeciliTarih, GozAnahtari(satir, gun));
-    Command1();
-    Command6();
+    Command1(); // the scan
+    Command6(); // today's frame
     TasimaBitir();
 }
 
@@ -54,7 +54,7 @@ void FormTablo::TasimaBitir() {
         for (Hucre& hucre : satir.gun)
             hucre.otomatikSurukleme = false;
     tasimamoducheck = 0;
-    Command7();
+    Command7(); // publishes
 }
 
 } // namespace velora

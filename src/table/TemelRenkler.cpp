@@ -23,12 +23,12 @@ void Boya(Hucre& hucre, const FormAyarlar& ayarlar, const RenkCifti& renk) {
 void FormTablo::Command3() {
     const auto ayarlar = program_.FormAyarlar.Tut();
     for (int ay = 1; ay <= kAySayisi; ++ay) {
-        AyZemin[ay].zemin = ayarlar->Renk(0);
-        AyAdi[ay].yazi = ayarlar->Renk(1);
+        AyZemin[ay].zemin = ayarlar->Renk(kBaslikRengi.zemin);
+        AyAdi[ay].yazi = ayarlar->Renk(kBaslikRengi.yazi);
     }
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
-        Gunler[gun].zemin = ayarlar->Renk(0);
-        ALabel[gun].yazi = ayarlar->Renk(1);
+        Gunler[gun].zemin = ayarlar->Renk(kBaslikRengi.zemin);
+        ALabel[gun].yazi = ayarlar->Renk(kBaslikRengi.yazi);
     }
     const Metin yil = Sene.Metni();
     for (int ay = 1; ay <= kAySayisi; ++ay)

@@ -75,7 +75,7 @@ void FormTablo::Resize(double icGenislik, double icYukseklik) {
     SatirlariYerlestir();
     BasliklariYerlestir();
     AyBasliklariniGoster();
-    Command4();
+    Command4(); // days that the months don't have
     BuGunYerlestir();
     if (!yerlesti_ && BuYil())
         BuGun.gorunur = true;

@@ -11,10 +11,6 @@ namespace velora {
 
 namespace {
 
-constexpr int kHatirlatmaTarihi = 18;
-constexpr int kHatirlatmaIsareti = 20;
-constexpr int kOnRezervasyon = 37;
-
 struct AdYeri {
     int ay;
     int gun;
@@ -56,9 +52,9 @@ bool BirMi(std::string_view deger) {
 } // namespace
 
 void AnaParcasi::Uygula(HatirlatmaDegerleri& degerler) const {
-    if (adet >= kHatirlatmaTarihi)
+    if (adet >= AnaNo::HatirlatmaTarihi)
         degerler.bugun = hatirlatma.bugun;
-    if (adet >= kHatirlatmaIsareti)
+    if (adet >= AnaNo::BuTarihteHatirlat)
         degerler.isaretli = hatirlatma.isaretli;
 }
 
@@ -89,16 +85,16 @@ void YilOkumasi::Ekle(const Dosyalar::OkunanDosya& dosya) {
 
 AnaParcasi YilOkumasi::AnaOkumasi(DegerOkuyucu& okuyucu) const {
     AnaParcasi parca;
-    parca.adet = okuyucu.Atla(kHatirlatmaTarihi - 1);
+    parca.adet = okuyucu.Atla(AnaNo::HatirlatmaTarihi - 1);
     std::string_view deger;
-    for (int no = kHatirlatmaTarihi; no <= kAnaDegerSayisi && okuyucu.Oku(deger); ++no)
+    for (int no = AnaNo::HatirlatmaTarihi; no <= kAnaDegerSayisi && okuyucu.Oku(deger); ++no)
         DegerAl(no, deger, parca);
     return parca;
 }
 
 /// The details, from behind what was read of them as of a main record.
 void YilOkumasi::DetayEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim) {
-    constexpr int kArasi = kOnRezervasyon - kAnaDegerSayisi - 1;
+    constexpr int kArasi = DetayNo::OnRezervasyon - kAnaDegerSayisi - 1;
     std::string_view deger;
     dilim.onVar = okuyucu.Atla(kArasi) == kArasi && okuyucu.Oku(deger);
     dilim.on = dilim.onVar && BirMi(deger);
@@ -122,9 +118,9 @@ AnaParcasi YilOkumasi::AnaEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim) {
 
 void YilOkumasi::DegerAl(int no, std::string_view deger, AnaParcasi& parca) const {
     parca.adet = no;
-    if (no == kHatirlatmaTarihi)
+    if (no == AnaNo::HatirlatmaTarihi)
         parca.hatirlatma.bugun = deger == bugun_;
-    if (no == kHatirlatmaIsareti)
+    if (no == AnaNo::BuTarihteHatirlat)
         parca.hatirlatma.isaretli = BirMi(deger);
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "storage/RezervasyonDosyalari.h"
 #include "storage/VeriAgaci.h"
 #include "storage/YazimBicimi.h"
 #include "table/FormTablo.h"
@@ -13,7 +14,9 @@
 namespace velora {
 
 /// The values of a main record that the tag of a cell shows, by their number in the file.
-inline constexpr std::array<int, 8> kTagDegerleri{1, 4, 8, 9, 10, 12, 14, 19};
+inline constexpr std::array<int, 8> kTagDegerleri{
+    AnaNo::AdiSoyadi,  AnaNo::Niteligi,     AnaNo::ToplamUcret, AnaNo::AlinanOdeme,
+    AnaNo::KalanOdeme, AnaNo::BaslamaSaati, AnaNo::SozlesmeNo,  AnaNo::YaklasincaHatirlat};
 
 /// The two values of a main record that decide on a personal reminder, as a reader that keeps its variables
 /// from one file to the next sees them.

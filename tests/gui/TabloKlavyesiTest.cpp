@@ -147,7 +147,7 @@ class TabloKlavyesiTest : public QObject {
         auto& menu = firma.Bul<QMenu>("Sagtus");
         QTRY_VERIFY(menu.isVisible());
         QCOMPARE(firma.Model().SeciliTarih2, Metin(u"21.05.2026 - Gece"));
-        QVERIFY(firma.Model().iptals.etkin);
+        QVERIFY(firma.Model().Girdi(Komut::iptals).etkin);
         menu.close();
         QContextMenuEvent olay(QContextMenuEvent::Keyboard, {5, 5}, firma.Tablo().mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&firma.Tablo(), &olay);

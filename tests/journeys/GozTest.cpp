@@ -82,13 +82,13 @@ TEST_F(TabloGunu, A_reservation_moves_to_another_month_and_slot_and_back_and_no_
 
 TEST_F(TabloGunu, A_cancellation_with_an_empty_reason_frees_the_day_and_logs_one_line) {
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
-    ASSERT_TRUE(kullanici.Tablo().iptals.etkin);
+    ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).etkin);
     kullanici.ortam.Bekle(BeklenenKutu{u"Velora", u"Seçili kaydı silmek istediğinizden emin misiniz?",
                                        Simge::Soru, Cevap::Evet});
     kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u""});
     kullanici.Tablo().iptals_Click();
     ASSERT_TRUE(kullanici.SagTikla({21, 6, kGece}));
-    EXPECT_TRUE(kullanici.Tablo().newkay.etkin);
+    EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
     kullanici.ProgramiKapat();
     UcDosyaYok(u"21.06.2012 - Gece");
     UcDosyaBekle(u"20.06.2012 - Gündüz");

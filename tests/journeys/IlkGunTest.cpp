@@ -68,7 +68,7 @@ class IlkGun : public ::testing::Test {
             Kayit().Command1_Click();
         });
         EXPECT_TRUE(kullanici.SagTikla(kGun));
-        EXPECT_TRUE(kullanici.Tablo().newkay.etkin);
+        EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
         kullanici.Tablo().newkay_Click();
     }
     /// The reservation is opened on its cell, its first payment is taken away, and it is saved.

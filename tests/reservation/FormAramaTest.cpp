@@ -11,7 +11,7 @@ TEST_F(AramaTest, The_texts_of_the_screen) {
     EXPECT_EQ(arama.Command3.baslik, u"Ara");
     EXPECT_EQ(arama.Liste.basliklar,
               (Adlar{u"Tarih", u"Salon", u"Ad Soyad", u"Gelin Damat", u"Telefon", u"Cep"}));
-    EXPECT_EQ(kullanici.Tablo().Arasss.baslik, u"Kayıt Ara");
+    EXPECT_EQ(kullanici.Tablo().Girdi(Komut::Arasss).baslik, u"Kayıt Ara");
 }
 
 TEST_F(AramaTest, A_row_shows_the_file_its_hall_and_its_customer_and_keeps_the_path) {

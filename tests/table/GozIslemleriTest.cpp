@@ -8,9 +8,9 @@ class GozIslemleri : public TabloTest {
     /// Which of the two entries a right press on the cell offers.
     void MenuBekle(const TabloGozu& goz, bool yeni) {
         EXPECT_TRUE(kullanici.SagTikla(goz));
-        EXPECT_EQ(kullanici.Tablo().newkay.etkin, yeni) << goz.gun << '.' << goz.ay;
-        EXPECT_EQ(kullanici.Tablo().iptals.etkin, !yeni) << goz.gun << '.' << goz.ay;
-        EXPECT_TRUE(kullanici.Tablo().TasimaModuAc.etkin);
+        EXPECT_EQ(kullanici.Tablo().Girdi(Komut::newkay).etkin, yeni) << goz.gun << '.' << goz.ay;
+        EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptals).etkin, !yeni) << goz.gun << '.' << goz.ay;
+        EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::TasimaModuAc).etkin);
     }
 };
 
@@ -148,8 +148,8 @@ TEST_F(GozIslemleri, Any_button_decides_on_the_entries_and_only_the_right_one_op
     kullanici.ProgramiAc();
     kullanici.Uzerine({20, 6, kGunduz});
     EXPECT_FALSE(kullanici.Tablo().Hucre_MouseDown(HaziranGunduz, 20, false));
-    EXPECT_FALSE(kullanici.Tablo().newkay.etkin);
-    EXPECT_TRUE(kullanici.Tablo().iptals.etkin);
+    EXPECT_FALSE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
+    EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).etkin);
     EXPECT_TRUE(kullanici.Tablo().Hucre_MouseDown(HaziranGunduz, 20, true));
 }
 
@@ -163,9 +163,9 @@ TEST_F(GozIslemleri, Press_freezes_the_selected_day_and_moving_on_leaves_it_ther
 
 TEST_F(GozIslemleri, Menu_has_its_three_entries_under_their_captions) {
     kullanici.ProgramiAc();
-    EXPECT_EQ(kullanici.Tablo().newkay.baslik, u"Yeni Organizasyon Oluştur");
-    EXPECT_EQ(kullanici.Tablo().TasimaModuAc.baslik, u"Taşıma Modunu Aç");
-    EXPECT_EQ(kullanici.Tablo().iptals.baslik, u"Kayıt İptali");
+    EXPECT_EQ(kullanici.Tablo().Girdi(Komut::newkay).baslik, u"Yeni Organizasyon Oluştur");
+    EXPECT_EQ(kullanici.Tablo().Girdi(Komut::TasimaModuAc).baslik, u"Taşıma Modunu Aç");
+    EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptals).baslik, u"Kayıt İptali");
 }
 
 TEST_F(GozIslemleri, Click_on_a_cell_ends_the_ruler) {

@@ -18,7 +18,7 @@ class Iptal : public TabloTest {
     }
     void IptalEt(const TabloGozu& goz, const Metin& sebep) {
         ASSERT_TRUE(kullanici.SagTikla(goz));
-        ASSERT_TRUE(kullanici.Tablo().iptals.etkin);
+        ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).etkin);
         SebepBekle(sebep);
         kullanici.Tablo().iptals_Click();
     }
@@ -146,7 +146,7 @@ TEST_F(Iptal, Todays_frame_is_tested_again) {
 
 TEST_F(Iptal, The_log_is_opened_in_the_users_own_program_there_or_not) {
     kullanici.ProgramiAc();
-    EXPECT_EQ(kullanici.Tablo().iptalsebepss.baslik, u"İptal Sebepleri");
+    EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptalsebepss).baslik, u"İptal Sebepleri");
     ASSERT_FALSE(agac.DosyaVar(u"IptalSebep.txt"));
     kullanici.Tablo().iptalsebepss_Click();
     EXPECT_EQ(kullanici.ortam.acilanDosyalar, std::vector{agac.Kok() / "IptalSebep.txt"});

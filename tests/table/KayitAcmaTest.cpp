@@ -16,7 +16,7 @@ class KayitAcma : public TabloTest {
     }
     void YeniKayit(const TabloGozu& goz) {
         ASSERT_TRUE(kullanici.SagTikla(goz));
-        ASSERT_TRUE(kullanici.Tablo().newkay.etkin);
+        ASSERT_TRUE(kullanici.Tablo().Girdi(Komut::newkay).etkin);
         kullanici.Tablo().newkay_Click();
     }
 

@@ -55,7 +55,7 @@ TEST_F(TasimaModu, Makes_taken_cells_of_both_kinds_and_slots_draggable_and_no_fr
     EXPECT_TRUE(kullanici.Goz(21, 6, kGunduz).otomatikSurukleme);
     EXPECT_TRUE(kullanici.Goz(22, 6, kGece).otomatikSurukleme);
     EXPECT_FALSE(kullanici.Surukle({24, 6, kGece}, {25, 6, kGece})) << "a free cell starts no drag";
-    EXPECT_EQ(kullanici.Tablo().TasimaModuAc.baslik, u"Taşıma Modunu Aç");
+    EXPECT_EQ(kullanici.Tablo().Girdi(Komut::TasimaModuAc).baslik, u"Taşıma Modunu Aç");
 }
 
 TEST_F(TasimaModu, Past_reservation_is_not_draggable) {

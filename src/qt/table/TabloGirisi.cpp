@@ -14,6 +14,7 @@
 
 #include "qt/Baglayici.h"
 #include "qt/table/EkranEtiketi.h"
+#include "qt/table/KomutMenuleri.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloKlavyesi.h"
 #include "screen/Program.h"
@@ -42,7 +43,8 @@ TabloGirisi::TabloGirisi(Program& program, Baglayici& baglayici, TabloGorunumu& 
       etiket_(new EkranEtiketi(&gorunum)), menu_(new QMenu(&gorunum)) {
     const auto tablo = program.FormTablo.Tut();
     ekran_ = tablo;
-    MenuKur(*tablo);
+    menu_->setObjectName(QStringLiteral("Sagtus"));
+    MenuyuDoldur(*menu_, Menu::Sagtus, program, baglayici, Komutlar());
     gorunum.setAcceptDrops(true);
     gorunum.installEventFilter(this);
     baglayici.Izle([this, t = tablo.get()] {
@@ -50,20 +52,6 @@ TabloGirisi::TabloGirisi(Program& program, Baglayici& baglayici, TabloGorunumu& 
         etiket_->Goster(t->Ekran, goz, imlecYeri_);
         OdakTazele();
     });
-}
-
-void TabloGirisi::MenuKur(FormTablo& tablo) {
-    menu_->setObjectName(QStringLiteral("Sagtus"));
-    const auto ekle = [&](MenuGirdisi& model, const QString& ad, void (FormTablo::*tiklandi)()) {
-        QAction* girdi = menu_->addAction(QString());
-        girdi->setObjectName(ad);
-        baglayici_.Bagla(*girdi, model, [this, tiklandi] { ((*program_.FormTablo.Tut()).*tiklandi)(); });
-    };
-    ekle(tablo.newkay, QStringLiteral("newkay"), &FormTablo::newkay_Click);
-    menu_->addSeparator();
-    ekle(tablo.TasimaModuAc, QStringLiteral("TasimaModuAc"), &FormTablo::TasimaModuAc_Click);
-    menu_->addSeparator();
-    ekle(tablo.iptals, QStringLiteral("iptals"), &FormTablo::iptals_Click);
 }
 
 bool TabloGirisi::HoverKapali() const {

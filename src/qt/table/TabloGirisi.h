@@ -40,7 +40,6 @@ class TabloGirisi : public QObject {
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 
   private:
-    void MenuKur(FormTablo& tablo);
     bool HoverKapali() const;
     bool Suruklenir(const TabloIsabeti& isabet) const;
     QPoint GozOrtasi(const TabloIsabeti& goz) const;

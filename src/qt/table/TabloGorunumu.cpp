@@ -148,7 +148,7 @@ void TabloGorunumu::paintEvent(QPaintEvent* olay) {
         const QRect bolge =
             QRectF(kirli.x() * olcek, kirli.y() * olcek, kirli.width() * olcek, kirli.height() * olcek)
                 .toAlignedRect();
-        cizici_.Ciz(boyaci, *tablo, duzen_, bolge, program_.FormAyarlar->Renk(16));
+        cizici_.Ciz(boyaci, *tablo, duzen_, bolge, program_.FormAyarlar->Renk(RenkNo::BuGunCercevesi));
         if (const TabloIsabeti goz = giris_->OdakGozu(); goz.tur == TabloIsabeti::Tur::Hucre)
             TabloCizici::OdakIsareti(boyaci, duzen_, duzen_.Hucre(goz.satir, goz.gun));
     });

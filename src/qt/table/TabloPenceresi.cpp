@@ -1,12 +1,9 @@
 #include "qt/table/TabloPenceresi.h"
 
-#include <vector>
-
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
@@ -15,6 +12,7 @@
 #include "qt/Ceviri.h"
 #include "qt/Gorunum.h"
 #include "qt/Simgeler.h"
+#include "qt/table/KomutMenuleri.h"
 #include "qt/table/RenkAciklamasi.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/UyariPaneli.h"
@@ -29,34 +27,6 @@ constexpr int kSalonEni = 220;
 constexpr int kSeneEni = 96;
 constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
-
-struct Komut {
-    const char* ad;
-    MenuGirdisi FormTablo::*girdi;
-    void (FormTablo::*isle)();
-    QKeySequence tus;
-};
-
-struct Menu {
-    const char* ad;
-    const char16_t* yazi;
-    std::vector<Komut> komutlar;
-};
-
-/// The menu bar, from left to right and from top to bottom.
-std::vector<Menu> Menuler() {
-    using T = FormTablo;
-    return {{"Kayitss", u"&Dosya", {{"Arasss", &T::Arasss, &T::Arasss_Click, Qt::Key_F2}}},
-            {"Raporsss",
-             u"&Raporlar",
-             {{"BakiyeRaporss", &T::BakiyeRaporss, &T::BakiyeRaporss_Click, Qt::Key_F3},
-              {"iptalsebepss", &T::iptalsebepss, &T::iptalsebepss_Click, {}}}},
-            {"ayarsd",
-             u"&Ayarlar",
-             {{"Salontanimss", &T::Salontanimss, &T::Salontanimss_Click, {}},
-              {"MenuAyars", &T::MenuAyars, &T::MenuAyars_Click, {}},
-              {"Progrset", &T::Progrset, &T::Progrset_Click, Qt::Key_F7}}}};
-}
 
 /// A drop-down with its caption before it; `yazi` has the access key marked, `ad` is what it is called.
 QComboBox* EtiketliListe(QHBoxLayout& serit, const QString& yazi, const QString& ad,
@@ -97,28 +67,13 @@ TabloPenceresi::TabloPenceresi(Program& program)
     cerceve->addWidget(gorunum_);
     sutun->addLayout(cerceve, 1);
     setCentralWidget(orta);
-    MenuleriKur(*tablo);
+    MenuleriKur(*menuBar(), program, *baglayici_, Komutlar());
     DurumSeridiKur();
     ZamanlayicilariBagla(*tablo);
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
     setMinimumSize(1000, 560);
     resize(1280, 720);
     gorunum_->setFocus();
-}
-
-void TabloPenceresi::MenuleriKur(FormTablo& tablo) {
-    for (const Menu& menu : Menuler()) {
-        QMenu* parca = menuBar()->addMenu(QString::fromUtf16(menu.yazi));
-        parca->setObjectName(QString::fromLatin1(menu.ad));
-        for (const Komut& komut : menu.komutlar) {
-            auto* girdi = new QAction(parca);
-            parca->addAction(girdi);
-            girdi->setObjectName(QString::fromLatin1(komut.ad));
-            girdi->setShortcut(komut.tus);
-            baglayici_->Bagla(*girdi, tablo.*komut.girdi,
-                              [this, isle = komut.isle] { (*program_.FormTablo.Tut().*isle)(); });
-        }
-    }
 }
 
 QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {

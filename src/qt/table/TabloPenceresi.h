@@ -26,7 +26,6 @@ class TabloPenceresi : public QMainWindow {
   private:
     QWidget* UstSerit(FormTablo& tablo);
     QLabel* ZilKur(FormTablo& tablo);
-    void MenuleriKur(FormTablo& tablo);
     void DurumSeridiKur();
     void ZamanlayicilariBagla(FormTablo& tablo);
     void SaatiGoster();

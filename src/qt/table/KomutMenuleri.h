@@ -1,0 +1,29 @@
+#pragma once
+
+#include <span>
+
+#include "table/Komutlar.h"
+
+class QMenu;
+class QMenuBar;
+class QToolBar;
+
+namespace velora {
+
+class Baglayici;
+struct Program;
+
+/// The entries of a menu, in the order of the commands, bound to those of the main screen. Lines are entries
+/// too.
+void MenuyuDoldur(QMenu& parca, Menu menu, Program& program, Baglayici& baglayici,
+                  std::span<const KomutTanimi> komutlar);
+
+/// All menus of the menu bar. The first letter of a caption is its access key.
+void MenuleriKur(QMenuBar& serit, Program& program, Baglayici& baglayici,
+                 std::span<const KomutTanimi> komutlar);
+
+/// The buttons of the tool bar in the order of their places, each with its line behind it.
+void AraclariKur(QToolBar& serit, Program& program, Baglayici& baglayici,
+                 std::span<const KomutTanimi> komutlar);
+
+} // namespace velora
