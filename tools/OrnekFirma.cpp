@@ -76,7 +76,7 @@ class Yazar {
     void Yil(MetinBakis salon, int yil, const std::string& giderler) {
         const Metin yilMetni = SayiMetni(yil);
         agac_.KlasorHazirla(salon, yilMetni);
-        tamam_ = tamam_ && dosyalar_.Yaz(agac_.GunYolu(salon, yilMetni, u"Gider.dat"), giderler);
+        tamam_ = tamam_ && dosyalar_.Yaz(agac_.GunYolu(salon, yilMetni, kGiderDosyasi), giderler);
     }
 
     void Kayit(MetinBakis salon, const Rezervasyon& r) {
@@ -101,18 +101,18 @@ void KokDosyalari(Yazar& yazar, const Istek& istek, std::size_t sonNumara) {
     DegerYazici menuler;
     for (const Menu& menu : Menuler())
         menuler.Yaz(menu.ad, menu.icerik);
-    yazar.Kok(u"Menuler.dat", menuler.Bayt());
-    yazar.Kok(u"Tatiller.dll", TatilBayt(istek));
+    yazar.Kok(kMenuDosyasi, menuler.Bayt());
+    yazar.Kok(kTatilDosyasi, TatilBayt(istek));
     DegerYazici sayac;
     sayac.Yaz(SayiMetni(static_cast<long long>(sonNumara)));
-    yazar.Kok(u"Count.dat", sayac.Bayt());
+    yazar.Kok(kSayacDosyasi, sayac.Bayt());
 }
 
 void SalonDosyasi(Yazar& yazar, const std::vector<Metin>& salonlar) {
     DegerYazici salonListesi;
     for (const Metin& salon : salonlar)
         salonListesi.Yaz(salon);
-    yazar.Kok(u"Salon.dat", salonListesi.Bayt());
+    yazar.Kok(kSalonDosyasi, salonListesi.Bayt());
 }
 
 void Say(Sonuc& sonuc, const std::vector<Rezervasyon>& rezervasyonlar) {
@@ -150,7 +150,7 @@ Sonuc FirmaYap(const Dosyalar& dosyalar, const Istek& istek) {
     Sonuc sonuc;
     sonuc.salonlar = SalonAdlari(istek.salon);
     sonuc.yillar = Yillar(istek);
-    if (dosyalar.VarMi(VeriAgaci(dosyalar).KokYolu(u"Salon.dat"))) {
+    if (dosyalar.VarMi(VeriAgaci(dosyalar).KokYolu(kSalonDosyasi))) {
         sonuc.durum = Durum::AgacVar;
         return sonuc;
     }

@@ -6,7 +6,7 @@
 namespace velora {
 
 void ProgramiHazirla(Program& program) {
-    const Metin menuler = program.agac.KokYolu(u"Menuler.dat");
+    const Metin menuler = program.agac.KokYolu(kMenuDosyasi);
     if (!program.dosyalar.VarMi(menuler))
         program.dosyalar.Yaz(menuler, {});
     program.FormTablo->TutarDegistir = 1;

@@ -4,6 +4,7 @@
 
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "storage/Sayi.h"
 #include "table/FormTablo.h"
 
@@ -47,6 +48,7 @@ FormBakiye::FormBakiye(Program& program) : program_(program) {
     Liste.basliklar = {u"Tarih", u"Ad Soyad", u"Toplam",   u"Alınan",  u"Kalan",
                        u"Tipi",  u"Salon",    u"Niteliği", u"Davetli", u"Ön Açıklama"};
     Liste.sayiSutunlari = {2, 3, 4, 8};
+    Liste.secimDugmeleri.dugmeler = {&Command6};
     ToplamlariGoster({});
     Say();
 }
@@ -62,7 +64,7 @@ void FormBakiye::Load() {
 }
 
 void FormBakiye::Activate() {
-    Command6.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
     Command4(); // the first day within the year
     Command5(); // the last day too
     acikmi = 1;
@@ -86,16 +88,15 @@ void FormBakiye::Command5() {
 
 void FormBakiye::ListeleGun() {
     // No row of the new list has been clicked yet.
-    Command6.etkin = false;
-    Liste.satirlar.clear();
-    Liste.secili = -1;
+    Liste.secimDugmeleri.Ac(false);
+    Liste.Temizle();
     Toplamlar toplamlar{};
     if (!Tara(toplamlar))
         return;
     ToplamlariGoster(toplamlar);
     Say();
     if (Liste.satirlar.empty())
-        program_.ortam.sor.mesaj({u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!"});
+        Soyle(program_, u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");
 }
 
 /// False when it had to stop.
@@ -165,7 +166,7 @@ void FormBakiye::Say() {
 }
 
 void FormBakiye::Liste_Click() {
-    Command6.etkin = true;
+    Liste.secimDugmeleri.Ac(true);
 }
 
 void FormBakiye::Liste_DblClick() {

@@ -12,7 +12,7 @@ FormResmiTatil::FormResmiTatil(Program& program) : program_(program) {
 void FormResmiTatil::Load() {
     Liste.satirlar.clear();
     for (auto& sutunlar :
-         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(u"Tatiller.dll"), Liste.basliklar.size()))
+         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kTatilDosyasi), Liste.basliklar.size()))
         Liste.satirlar.push_back({std::move(sutunlar), {}, 0});
 }
 

@@ -4,6 +4,7 @@
 
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "storage/Desen.h"
 #include "storage/Harf.h"
 #include "table/FormTablo.h"
@@ -33,15 +34,16 @@ bool Uyar(Kural kural, MetinBakis deger, MetinBakis olcut) {
 
 FormArama::FormArama(Program& program) : program_(program) {
     Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin Damat", u"Telefon", u"Cep"};
+    Liste.secimDugmeleri.dugmeler = {&Command1};
 }
 
 void FormArama::Activate() {
-    Command1.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
     acikmi = 1;
 }
 
 void FormArama::Liste_ItemClick() {
-    Command1.etkin = true;
+    Liste.secimDugmeleri.Ac(true);
 }
 
 void FormArama::Liste_DblClick() {
@@ -60,14 +62,13 @@ void FormArama::Command2_Click() {
 
 void FormArama::Command3_Click() {
     if (Text[kSozlesmeNo].metin == u"0") {
-        program_.ortam.sor.mesaj({u"Lütfen geçerli bir sözleşme numarası giriniz!"});
+        Soyle(program_, u"Lütfen geçerli bir sözleşme numarası giriniz!");
         return;
     }
-    Liste.satirlar.clear();
-    Liste.secili = -1;
+    Liste.Temizle();
     Ara();
     if (Liste.satirlar.empty())
-        program_.ortam.sor.mesaj({u"Hiç kayıt bulunamadı!"});
+        Soyle(program_, u"Hiç kayıt bulunamadı!");
 }
 
 void FormArama::Ara() {

@@ -2,6 +2,7 @@
 
 #include "documents/FormPrint.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "screen/TusSuzgeci.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Sayi.h"
@@ -59,6 +60,7 @@ FormKayit::FormKayit(Program& program) : program_(program) {
     Combo1.tiklandi = [this] { Combo1_Click(); };
     Liste.basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
     Liste.sayiSutunlari = {1};
+    Liste.secimDugmeleri.dugmeler = {&Command7, &Command9};
 }
 
 void FormKayit::Load() {
@@ -82,7 +84,7 @@ void FormKayit::Load() {
 bool FormKayit::MenuleriOku() {
     Combo1.ogeler.emplace_back(kMenuSeciniz);
     ListCombo1.emplace_back();
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Menuler.dat"));
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kMenuDosyasi));
     if (!bayt)
         return false;
     DegerOkuyucu okuyucu(*bayt);
@@ -108,7 +110,7 @@ bool FormKayit::SozlesmeNoOner() {
         Kay[AnaNo::SozlesmeNo].metin.clear();
         return true;
     }
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(u"Count.dat"));
+    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kSayacDosyasi));
     Metin sonNo;
     if (!bayt || !DegerOkuyucu(*bayt).Oku(sonNo))
         return false;
@@ -130,16 +132,17 @@ void FormKayit::Activate() {
         Command1.ipucu = u"Değişiklikleri Kaydet";
         Command2.ipucu = u"Değişiklikleri Kaydetmeden Kapat";
     }
-    Command9.etkin = Command7.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
     Command12(); // the totals
 }
 
 void FormKayit::Command2_Click() {
     Program& p = program_;
     if (KayitAc == 0 && Basildi == 0 &&
-        p.ortam.sor.mesaj({u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
-                           u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
-                           u"Uyarı", Simge::Uyari, KutuDugmeleri::EvetHayir}) != Cevap::Evet)
+        !Sor(p,
+             u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+             u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
+             u"Uyarı", Simge::Uyari))
         return;
     p.FormKayit.Bosalt();
 }

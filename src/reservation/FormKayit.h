@@ -121,7 +121,6 @@ struct FormKayit {
     bool NumaraVar(const Metin& no) const;
     bool NumaraUygun();
     void AlanaDon(int no, const Metin& mesaj);
-    void AlanlariTemizle();
     void KlasoruVeKayitlariYaz();
     AnaKayit Ana() const;
     DetayKaydi Detay() const;

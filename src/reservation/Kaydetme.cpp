@@ -3,6 +3,7 @@
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Harf.h"
 #include "storage/YazimBicimi.h"
@@ -84,7 +85,7 @@ bool FormKayit::AlanlarTamam() {
 }
 
 void FormKayit::AlanaDon(int no, const Metin& mesaj) {
-    program_.ortam.sor.mesaj({mesaj});
+    Soyle(program_, mesaj);
     SSTab1 = kGenelSayfasi; // all fields that are asked for stand there
     program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay" + SayiMetni(no));
 }
@@ -164,7 +165,7 @@ Metin FormKayit::GunYolu() const {
 void FormKayit::SayaciYaz() const {
     DegerYazici yazici;
     yazici.Yaz(Kay[AnaNo::SozlesmeNo].metin);
-    program_.dosyalar.Yaz(program_.agac.KokYolu(u"Count.dat"), yazici.Bayt());
+    program_.dosyalar.Yaz(program_.agac.KokYolu(kSayacDosyasi), yazici.Bayt());
 }
 
 } // namespace velora

@@ -2,6 +2,7 @@
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "storage/Sayi.h"
 
 namespace velora {
@@ -24,32 +25,26 @@ constexpr std::array<Gerekli, 2> kGerekliler{{
 void FormKayit::Command8_Click() {
     for (const auto& [no, mesaj] : kGerekliler)
         if (Kirp(Kay[no].metin).empty()) {
-            program_.ortam.sor.mesaj({mesaj});
-            SSTab1 = kGenelSayfasi;
-            program_.ortam.odak.ver(EkranAdi::FormKayit, u"Kay" + SayiMetni(no));
+            AlanaDon(no, mesaj);
             return;
         }
     program_.FormOdemeAl.GosterModal();
 }
 
 void FormKayit::Liste_ItemClick() {
-    Command9.etkin = Command7.etkin = true;
+    Liste.secimDugmeleri.Ac(true);
 }
 
 void FormKayit::Command7_Click() {
-    Command9.etkin = Command7.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
     // One right covers both: who may not change the price may not delete what was paid.
     if (Kay[AnaNo::ToplamUcret].kilitli) {
-        program_.ortam.sor.mesaj({u"Alınan ödemeleri silmeye yetkiniz yok!"});
+        Soyle(program_, u"Alınan ödemeleri silmeye yetkiniz yok!");
         return;
     }
-    if (program_.ortam.sor.mesaj({.metin = u"Ödeme kaydını silmek istediğinizden emin misiniz?",
-                                  .simge = Simge::Soru,
-                                  .dugmeler = KutuDugmeleri::EvetHayir}) != Cevap::Evet)
+    if (!Sor(program_, u"Ödeme kaydını silmek istediğinizden emin misiniz?"))
         return;
-    if (Liste.secili >= 0 && Liste.secili < static_cast<int>(Liste.satirlar.size()))
-        Liste.satirlar.erase(Liste.satirlar.begin() + Liste.secili);
-    Liste.secili = -1;
+    Liste.SeciliyiSil();
     Command12(); // the totals
 }
 

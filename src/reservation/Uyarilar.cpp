@@ -4,19 +4,12 @@
 
 #include <algorithm>
 
-#include "reservation/KayitYukle.h"
-#include "screen/Program.h"
-#include "setup/FormAyarlar.h"
 #include "storage/RezervasyonDosyalari.h"
-#include "storage/Sayi.h"
 #include "storage/Tarih.h"
-#include "table/FormTablo.h"
 
 namespace velora {
 
 namespace {
-
-constexpr std::size_t kYilYeri = 7; // of the day file name, counted from 1
 
 struct UyariTuru {
     MetinBakis ad;
@@ -90,44 +83,6 @@ std::vector<ListeSatiri> UyariTaramasi::Satirlar(const Gun& bugun, const UyariSu
                 satirlar.push_back(SatirYap(ad.metin, klasorler_[ad.klasor].salon, Yol(i), ana, tur));
     }
     return satirlar;
-}
-
-void FormTablo::UyariGoster() {
-    Command1();
-    program_.OlaylariIsle();
-    UyariTaramasi tarama(program_.dosyalar);
-    for (const Metin& salon : Salon.ogeler)
-        for (const Metin& yil : Sene.ogeler)
-            tarama.KlasorEkle(salon, program_.agac.YilKlasoru(salon, yil));
-    {
-        const auto ayarlar = program_.FormAyarlar.Tut();
-        Liste.satirlar = tarama.Satirlar(program_.Bugun(), {SayisalDeger(ayarlar->UyariGun.metin),
-                                                            SayisalDeger(ayarlar->UyariGun2.metin)});
-    }
-    Liste.secili = -1;
-    if (!Liste.satirlar.empty())
-        Picture1.gorunur = true;
-    else if (Check1 == 1)
-        program_.ortam.sor.mesaj({u"Hatırlatmalarda yaklaşan rezervasyon yok."});
-}
-
-void FormTablo::Liste_Click() {
-    Command8.etkin = true;
-}
-
-void FormTablo::Liste_DblClick() {
-    if (Command8.etkin)
-        Command8_Click();
-}
-
-void FormTablo::Command8_Click() {
-    Command8.etkin = false;
-    if (const ListeSatiri* satir = Liste.Secili())
-        SatiriAc(program_, *satir, Metin(satir->sutun[1]), Metin(Parca(satir->sutun[0], kYilYeri, 4)));
-}
-
-void FormTablo::Command2_Click() {
-    Picture1.gorunur = false;
 }
 
 } // namespace velora

@@ -69,6 +69,17 @@ void ListeKutusu::Sil(int sira) {
     SiradanSil(ogeler, secili, sira);
 }
 
+void ListeGorunumu::Temizle() {
+    satirlar.clear();
+    secili = -1;
+}
+
+void ListeGorunumu::SeciliyiSil() {
+    if (Secili() != nullptr)
+        satirlar.erase(satirlar.begin() + secili);
+    secili = -1;
+}
+
 void Zamanlayici::Calis() {
     if (icinde_ || aralik == 0 || !tik)
         return;

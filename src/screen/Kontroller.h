@@ -143,10 +143,22 @@ struct AcilirListe {
     void Sil(int sira);
 };
 
+/// The buttons of a screen that work on what is marked in a list. The screen says when they can be pressed:
+/// on a mark that the user made, and no more after their work.
+struct SecimDugmeleri {
+    std::vector<Dugme*> dugmeler;
+
+    void Ac(bool acik) const {
+        for (Dugme* dugme : dugmeler)
+            dugme->etkin = acik;
+    }
+};
+
 /// A list on the screen, one entry of which can be marked.
 struct ListeKutusu {
     std::vector<Metin> ogeler;
     int secili = -1; ///< index of the marked entry, -1 for none
+    SecimDugmeleri secimDugmeleri{};
 
     /// The marked entry's text, empty for none.
     Metin Metni() const { return secili < 0 ? Metin() : ogeler[static_cast<std::size_t>(secili)]; }
@@ -165,12 +177,17 @@ struct ListeGorunumu {
     std::vector<ListeSatiri> satirlar;
     int secili = -1;                  ///< index of the marked row, -1 for none
     std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
+    SecimDugmeleri secimDugmeleri{};
 
     /// The marked row, null for none.
     const ListeSatiri* Secili() const {
         const auto sira = static_cast<std::size_t>(secili);
         return secili >= 0 && sira < satirlar.size() ? &satirlar[sira] : nullptr;
     }
+    /// Takes all rows out, and the mark.
+    void Temizle();
+    /// Takes the marked row out, if there is one. Nothing is marked then.
+    void SeciliyiSil();
 };
 
 /// A timer of a screen. It runs while `aralik` isn't 0. The outside calls `Calis` when it is due.

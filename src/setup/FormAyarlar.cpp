@@ -1,14 +1,10 @@
 #include "setup/FormAyarlar.h"
 
-#include <charconv>
 #include <limits>
-#include <optional>
 
 #include "screen/Program.h"
 #include "screen/TusSuzgeci.h"
-#include "storage/KodSayfasi.h"
 #include "storage/Sayi.h"
-#include "storage/YazimBicimi.h"
 
 namespace velora {
 
@@ -19,28 +15,6 @@ constexpr std::array<RenkDegeri, kRenkSayisi> kVarsayilanRenkler{
     0,        15461355, 0,        192,   16777215, 192,      16777215, 255,      12632256,
     16777215, 65280,    16777215, 49152, 16777215, 16761087, 0};
 
-// The fields behind the colours in `Settings.dll`.
-enum AyarSirasi {
-    kUyariGun = kRenkSayisi,
-    kUyariGun2,
-    kCheck1,
-    kCheck2,
-    kGunduzGece,
-    kCheck5,
-    kCheck6,
-    kCheck7
-};
-
-/// A whole number, nothing else: what is no number is an error for the whole load.
-std::optional<std::int32_t> TamSayi(MetinBakis metin) {
-    const std::string bayt = KodYaz(Kirp(metin));
-    std::int32_t sayi = 0;
-    const auto [son, hata] = std::from_chars(bayt.data(), bayt.data() + bayt.size(), sayi);
-    if (hata != std::errc() || son != bayt.data() + bayt.size())
-        return std::nullopt;
-    return sayi;
-}
-
 /// The numeric value as a check value: "abc" is 0, no error.
 int SayisalOnay(MetinBakis metin) {
     const double deger = SayisalDeger(metin);
@@ -48,17 +22,25 @@ int SayisalOnay(MetinBakis metin) {
     return deger > kEnCok || deger < -kEnCok ? 0 : static_cast<int>(deger);
 }
 
-/// Reads all values of a file. False when it can't be opened or holds fewer.
-template <std::size_t Adet>
-bool HepsiniOku(const Program& program, MetinBakis ad, std::array<Metin, Adet>& deger) {
-    const auto bayt = program.dosyalar.Oku(program.agac.KokYolu(ad));
-    if (!bayt)
-        return false;
-    DegerOkuyucu okuyucu(*bayt);
-    for (Metin& hedef : deger)
-        if (!okuyucu.Oku(hedef))
-            return false;
-    return true;
+/// A box that takes any whole number. It clicks when that is another one.
+Alan OnayAlani(OnayKutusu& kutu) {
+    return {.oku =
+                [&kutu](const Metin& deger) {
+                    const auto sayi = TamSayi(deger);
+                    kutu.Ata(sayi.value_or(kutu.deger));
+                    return sayi.has_value();
+                },
+            .yaz = [&kutu](DegerYazici& yazici) { yazici.Parca(kutu.deger); }};
+}
+
+/// A box that takes any text, by its numeric value.
+Alan GevsekOnayAlani(OnayKutusu& kutu) {
+    return {.oku =
+                [&kutu](const Metin& deger) {
+                    kutu.Ata(SayisalOnay(deger));
+                    return true;
+                },
+            .yaz = [&kutu](DegerYazici& yazici) { yazici.Parca(kutu.deger); }};
 }
 
 } // namespace
@@ -99,47 +81,40 @@ void FormAyarlar::Load() {
 }
 
 bool FormAyarlar::DosyalardanOku() {
-    std::array<Metin, 33> ayarlar;
-    std::array<Metin, 13> aylar;
-    return HepsiniOku(program_, u"Settings.dll", ayarlar) && AyarlariYerlestir(ayarlar) &&
-           HepsiniOku(program_, u"Visible.dll", aylar) && AylariYerlestir(aylar);
-}
-
-bool FormAyarlar::AyarlariYerlestir(const std::array<Metin, 33>& deger) {
-    for (std::size_t i = 0; i < renkler.size(); ++i) {
-        const auto renk = TamSayi(deger[i]);
-        if (!renk)
-            return false;
-        renkler[i] = *renk;
-    }
-    UyariGun.metin = deger[kUyariGun];
-    UyariGun2.metin = deger[kUyariGun2];
-    Check1.Ata(SayisalOnay(deger[kCheck1]));
-    Check2.Ata(SayisalOnay(deger[kCheck2]));
-    GunduzGece.MetinAta(deger[kGunduzGece]);
-    GunduzGece_Click();
-    for (auto [kutu, sira] : {std::pair{&Check5, kCheck5}, {&Check6, kCheck6}, {&Check7, kCheck7}}) {
-        const auto onay = TamSayi(deger[static_cast<std::size_t>(sira)]);
-        if (!onay)
-            return false;
-        kutu->Ata(*onay);
-    }
-    Check7_Click();
-    return true;
-}
-
-bool FormAyarlar::AylariYerlestir(const std::array<Metin, 13>& deger) {
-    const auto hepsi = TamSayi(deger.back());
-    if (!hepsi)
+    const VeriAgaci& agac = program_.agac;
+    if (!AlanlariOku(program_.dosyalar, agac.KokYolu(kAyarDosyasi), AyarAlanlari()))
         return false;
-    Check3.Ata(*hepsi);
-    for (int ay = 1; ay <= BirTabanli<OnayKutusu, 12>::kAdet; ++ay) {
-        const auto onay = TamSayi(deger[static_cast<std::size_t>(ay - 1)]);
-        if (!onay)
-            return false;
-        Aylar[ay].Ata(*onay);
-    }
-    return true;
+    GunduzGece_Click();
+    Check7_Click();
+    return AlanlariOku(program_.dosyalar, agac.KokYolu(kAyDosyasi), AyAlanlari());
+}
+
+std::vector<Alan> FormAyarlar::AyarAlanlari() {
+    std::vector<Alan> alanlar;
+    for (RenkDegeri& renk : renkler)
+        alanlar.push_back(SayiAlani(renk));
+    for (MetinKutusu* kutu : {&UyariGun, &UyariGun2})
+        alanlar.push_back(MetinAlani(kutu->metin));
+    for (OnayKutusu* kutu : {&Check1, &Check2})
+        alanlar.push_back(GevsekOnayAlani(*kutu));
+    alanlar.push_back({.oku =
+                           [this](const Metin& deger) {
+                               GunduzGece.MetinAta(deger);
+                               return true;
+                           },
+                       .yaz = [this](DegerYazici& yazici) { yazici.Parca(GunduzGece.Metni()); }});
+    for (OnayKutusu* kutu : {&Check5, &Check6, &Check7})
+        alanlar.push_back(OnayAlani(*kutu));
+    return alanlar;
+}
+
+std::vector<Alan> FormAyarlar::AyAlanlari() {
+    std::vector<Alan> alanlar;
+    for (OnayKutusu& ay : Aylar)
+        alanlar.push_back(OnayAlani(ay));
+    // By its value alone: its click would tick or clear the months that were just read.
+    alanlar.push_back(SayiAlani(Check3.deger));
+    return alanlar;
 }
 
 void FormAyarlar::Varsayilanlar() {

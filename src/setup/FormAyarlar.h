@@ -1,10 +1,11 @@
 #pragma once
 
 #include <array>
-#include <string>
+#include <vector>
 
 #include "screen/Kontroller.h"
 #include "setup/RenkNo.h"
+#include "storage/AlanDosyasi.h"
 
 namespace velora {
 
@@ -73,11 +74,10 @@ struct FormAyarlar {
 
   private:
     bool DosyalardanOku();
-    bool AyarlariYerlestir(const std::array<Metin, 33>& deger);
-    bool AylariYerlestir(const std::array<Metin, 13>& deger);
     void BasliklariKoy();
-    std::string AyarBaytlari() const;
-    std::string AyBaytlari() const;
+    /// The values of the two files, in their order. Whoever holds a table must not outlive the screen.
+    std::vector<Alan> AyarAlanlari();
+    std::vector<Alan> AyAlanlari();
 
     Program& program_;
 };

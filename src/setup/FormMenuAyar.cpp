@@ -1,16 +1,13 @@
 #include "setup/FormMenuAyar.h"
 
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormMenuEkle.h"
 #include "storage/ListeDosyasi.h"
 
 namespace velora {
 
-namespace {
-
-constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";
-
-} // namespace
+namespace {} // namespace
 
 FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
     Liste.basliklar = {u"Menü Adı", u"Menü İçeriği"};
@@ -19,6 +16,7 @@ FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
     Command3.baslik = u"Kapat";
     Command4.baslik = u"Düzenle";
     Kaydet.baslik = u"Kaydet";
+    Liste.secimDugmeleri.dugmeler = {&Command2, &Command4};
 }
 
 void FormMenuAyar::Load() {
@@ -28,12 +26,12 @@ void FormMenuAyar::Load() {
 }
 
 void FormMenuAyar::Activate() {
-    Command2.etkin = Command4.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
 }
 
 void FormMenuAyar::Liste_Click() {
     if (Liste.secili >= 0)
-        Command2.etkin = Command4.etkin = true;
+        Liste.secimDugmeleri.Ac(true);
 }
 
 void FormMenuAyar::Liste_DblClick() {
@@ -47,11 +45,12 @@ void FormMenuAyar::Command1_Click() {
 }
 
 void FormMenuAyar::Command4_Click() {
-    if (Liste.secili < 0)
+    const ListeSatiri* satir = Liste.Secili();
+    if (satir == nullptr)
         return;
     {
         const auto ekle = program_.FormMenuEkle.Tut();
-        const SutunMetinleri& sutun = Liste.satirlar[static_cast<std::size_t>(Liste.secili)].sutun;
+        const SutunMetinleri& sutun = satir->sutun;
         ekle->Text1.metin = sutun[0];
         ekle->Text1_Change();
         ekle->Text2.metin = sutun[1];
@@ -63,16 +62,10 @@ void FormMenuAyar::Command4_Click() {
 }
 
 void FormMenuAyar::Command2_Click() {
-    Command2.etkin = Command4.etkin = false;
-    const Cevap cevap =
-        program_.ortam.sor.mesaj({.metin = u"Seçili menüyü silmek istediğinizden emin misiniz?",
-                                  .simge = Simge::Soru,
-                                  .dugmeler = KutuDugmeleri::EvetHayir});
-    if (cevap == Cevap::Hayir)
+    Liste.secimDugmeleri.Ac(false);
+    if (!Sor(program_, u"Seçili menüyü silmek istediğinizden emin misiniz?"))
         return;
-    if (Liste.secili >= 0)
-        Liste.satirlar.erase(Liste.satirlar.begin() + Liste.secili);
-    Liste.secili = -1;
+    Liste.SeciliyiSil();
     Kaydet_Click();
 }
 
@@ -85,7 +78,7 @@ void FormMenuAyar::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
     SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar);
-    Command2.etkin = Command4.etkin = false;
+    Liste.secimDugmeleri.Ac(false);
 }
 
 } // namespace velora

@@ -1,6 +1,7 @@
 #include "setup/FormMenuEkle.h"
 
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormMenuAyar.h"
 #include "storage/Harf.h"
 #include "storage/Sayi.h"
@@ -21,7 +22,7 @@ void FormMenuEkle::Text1_Change() {
 void FormMenuEkle::Command4_Click() {
     Program& p = program_;
     if (Text2.metin.empty()) {
-        p.ortam.sor.mesaj({.metin = u"Lüften içerik giriniz!"});
+        Soyle(p, u"Lüften içerik giriniz!");
         p.ortam.odak.ver(EkranAdi::FormMenuEkle, u"Text2");
         return;
     }

@@ -1,6 +1,7 @@
 #include "setup/FormSalonTanim.h"
 
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormSalonTanimAd.h"
 #include "storage/Harf.h"
 #include "storage/KodSayfasi.h"
@@ -12,7 +13,6 @@ namespace velora {
 
 namespace {
 
-constexpr MetinBakis kSalonDosyasi = u"Salon.dat";
 constexpr MetinBakis kTanimsizOlmaz = u"Salon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!";
 constexpr int kSonrakiYillar = 10; // year folders that a new hall gets behind the selected year's
 
@@ -21,8 +21,8 @@ Metin Satirlar(MetinBakis bir, MetinBakis iki) {
 }
 
 /// A refusal of this screen: what is wrong, and why a hall is needed.
-MesajKutusu SalonGerek(MetinBakis neden) {
-    return {.metin = Satirlar(neden, kTanimsizOlmaz) + u'.', .baslik = u"Hata"};
+void SalonGerektiginiSoyle(const Program& program, MetinBakis neden) {
+    Soyle(program, Satirlar(neden, kTanimsizOlmaz) + u'.', u"Hata");
 }
 
 } // namespace
@@ -34,6 +34,7 @@ FormSalonTanim::FormSalonTanim(Program& program) : program_(program) {
     Command4.baslik = u"Düzenle";
     Kaydet.baslik = u"Kaydet";
     Label8.baslik = u"Salon Tanımları";
+    List1.secimDugmeleri.dugmeler = {&Command2, &Command4};
 }
 
 void FormSalonTanim::Load() {
@@ -42,11 +43,11 @@ void FormSalonTanim::Load() {
 }
 
 void FormSalonTanim::Activate() {
-    Command2.etkin = Command4.etkin = false;
+    List1.secimDugmeleri.Ac(false);
 }
 
 void FormSalonTanim::List1_Click() {
-    Command2.etkin = Command4.etkin = List1.secili >= 0;
+    List1.secimDugmeleri.Ac(List1.secili >= 0);
 }
 
 void FormSalonTanim::Command1_Click() {
@@ -55,7 +56,7 @@ void FormSalonTanim::Command1_Click() {
         .metin = u"Lütfen salon adını giriniz!", .baslik = u"Salon Tanımları", .baslangic = {}};
     Metin cevap = program_.ortam.sor.girdi(soru);
     while (cevap.empty()) {
-        program_.ortam.sor.mesaj(SalonGerek(u"Salon adını girmediniz!"));
+        SalonGerektiginiSoyle(program_, u"Salon adını girmediniz!");
         cevap = program_.ortam.sor.girdi(soru);
     }
     if (!Kirp(cevap).empty())
@@ -76,13 +77,9 @@ void FormSalonTanim::Ekle(const Metin& salon) {
 }
 
 void FormSalonTanim::Command2_Click() {
-    Command2.etkin = Command4.etkin = false;
-    const Cevap cevap = program_.ortam.sor.mesaj(
-        {.metin = u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\n"
-                  u"Seçili salonu silmek istediğinize emin misiniz?",
-         .simge = Simge::Soru,
-         .dugmeler = KutuDugmeleri::EvetHayir});
-    if (cevap == Cevap::Hayir)
+    List1.secimDugmeleri.Ac(false);
+    if (!Sor(program_, u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\n"
+                       u"Seçili salonu silmek istediğinize emin misiniz?"))
         return;
     const auto tablo = program_.FormTablo.Tut();
     tablo->Salon.Sil(List1.secili);
@@ -103,7 +100,7 @@ void FormSalonTanim::Command4_Click() {
 void FormSalonTanim::Command3_Click() {
     Program& p = program_;
     if (List1.ogeler.empty()) {
-        p.ortam.sor.mesaj(SalonGerek(u"Hiç salon tanımınız yok!"));
+        SalonGerektiginiSoyle(p, u"Hiç salon tanımınız yok!");
         Command1_Click();
         return;
     }
@@ -116,20 +113,16 @@ void FormSalonTanim::Kaydet_Click() {
     for (const Metin& salon : List1.ogeler)
         satirlar.push_back({salon});
     SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), satirlar);
-    Command2.etkin = Command4.etkin = false;
+    List1.secimDugmeleri.Ac(false);
 }
 
 void IlkSalonuSor(Program& program) {
     if (!program.FormTablo->Salon.Metni().empty())
         return;
-    const Cevap cevap = program.ortam.sor.mesaj(
-        {.metin = u"Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister misiniz?",
-         .baslik = u"Salon Tanımı",
-         .simge = Simge::Soru,
-         .dugmeler = KutuDugmeleri::EvetHayir});
-    if (cevap == Cevap::Hayir)
-        program.ortam.sor.mesaj({.metin = Satirlar(kTanimsizOlmaz, u"Lütfen önce salon tanımı yapınız!"),
-                                 .simge = Simge::Kritik});
+    if (!Sor(program, u"Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister misiniz?",
+             u"Salon Tanımı"))
+        Soyle(program, Satirlar(kTanimsizOlmaz, u"Lütfen önce salon tanımı yapınız!"), u"Velora",
+              Simge::Kritik);
     program.FormSalonTanim->Command3.etkin = false;
     program.FormSalonTanim.GosterModal();
 }

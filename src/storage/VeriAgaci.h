@@ -39,6 +39,17 @@ bool EslikDosyasi(MetinBakis ad);
 /// The pattern "0?.*;1?.*;2?.*;3?.*": a digit from 0 to 3, one further character, a dot, anything.
 bool GunDosyasiDeseni(MetinBakis ad);
 
+/// The files of the firm, directly in the program's folder.
+inline constexpr MetinBakis kSalonDosyasi = u"Salon.dat";      ///< halls
+inline constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";     ///< banquet menus
+inline constexpr MetinBakis kAyarDosyasi = u"Settings.dll";    ///< settings and colours
+inline constexpr MetinBakis kAyDosyasi = u"Visible.dll";       ///< which months are shown
+inline constexpr MetinBakis kTatilDosyasi = u"Tatiller.dll";   ///< holidays
+inline constexpr MetinBakis kSayacDosyasi = u"Count.dat";      ///< the last contract number
+inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt"; ///< log of cancellations
+/// In a year folder: the expenses of that hall and year.
+inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
+
 /// The paths of the data tree. Names are joined as they stand; nothing is escaped or cleaned.
 class VeriAgaci {
   public:

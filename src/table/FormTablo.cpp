@@ -32,6 +32,7 @@ FormTablo::FormTablo(Program& program) : program_(program) {
         AyAdi[ay].baslik = kAyAdlari[static_cast<std::size_t>(ay - 1)];
     UyariBaslik.baslik = u"YAKLAŞAN REZERVASYON UYARILARI";
     Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin / Damat", u"Telefon", u"Cep", u"Tipi"};
+    Liste.secimDugmeleri.dugmeler = {&Command8};
     Picture1.yer = kPanelYeri;
     Picture1.gorunur = Ekran.gorunur = false;
     Salon.tiklandi = [this] { Salon_Click(); };
@@ -59,7 +60,7 @@ void FormTablo::Load() {
 }
 
 void FormTablo::SalonlariYukle() {
-    for (auto& satir : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(u"Salon.dat"), 1))
+    for (auto& satir : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), 1))
         Salon.ogeler.push_back(std::move(satir.front()));
 }
 

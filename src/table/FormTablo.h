@@ -138,7 +138,7 @@ struct FormTablo {
     void MenuAyars_Click();
     void Progrset_Click();
 
-    // --- the panel of warnings (reservation/Uyarilar.cpp) ---
+    // --- the panel of warnings (UyariPaneli.cpp) ---
     void Liste_Click(); ///< a row is marked
     void Liste_DblClick();
     void Command8_Click(); ///< "Detaylar": opens the marked row's reservation

@@ -6,6 +6,7 @@
 #include "reservation/FormKayit.h"
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormAyarlar.h"
 #include "setup/FormSalonTanim.h"
 #include "storage/Tarih.h"
@@ -73,7 +74,7 @@ void FormTablo::newkay_Click() {
     // The day that was pressed: the loading of the screen lets events run, and the pointer may move on.
     const Metin gun = SeciliTarih;
     if (Kirp(Salon.Metni()).empty()) {
-        program_.ortam.sor.mesaj({.metin = u"Lütfen Önce Salon Tanımı yapınız!", .simge = Simge::Kritik});
+        Soyle(program_, u"Lütfen Önce Salon Tanımı yapınız!", u"Velora", Simge::Kritik);
         program_.FormSalonTanim.GosterModal();
         return;
     }

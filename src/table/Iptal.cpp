@@ -1,23 +1,16 @@
 // Cancelling a reservation: its three files go, and one line about it goes into a log.
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "storage/KodSayfasi.h"
 #include "storage/RezervasyonDosyalari.h"
 #include "table/FormTablo.h"
 
 namespace velora {
 
-namespace {
-
-constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt";
-
-} // namespace
+namespace {} // namespace
 
 void FormTablo::iptals_Click() {
-    const Cevap cevap =
-        program_.ortam.sor.mesaj({.metin = u"Seçili kaydı silmek istediğinizden emin misiniz?",
-                                  .simge = Simge::Soru,
-                                  .dugmeler = KutuDugmeleri::EvetHayir});
-    if (cevap != Cevap::Evet)
+    if (!Sor(program_, u"Seçili kaydı silmek istediğinizden emin misiniz?"))
         return;
     const Metin sebep = program_.ortam.sor.girdi(
         {.metin = u"İptal sebebini yazınız!", .baslik = u"İptal Sebebi", .baslangic = u""});

@@ -1,6 +1,7 @@
 // Move mode: taken cells can be dragged, and the first drop on a cell ends it. A reservation is its files, so
 // a move copies them to the names of the other day and deletes the old ones.
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "table/FormTablo.h"
 
 namespace velora {
@@ -16,16 +17,11 @@ void FormTablo::TasimaModuAc_Click() {
 
 void FormTablo::Hucre_DragDrop(SatirAdi satir, int gun) {
     if (DoluRenkte(satir, gun)) {
-        program_.ortam.sor.mesaj(
-            {.metin = u"Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!",
-             .baslik = u"Uyarı"});
+        Soyle(program_, u"Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!",
+              u"Uyarı");
         return TasimaBitir();
     }
-    const Cevap cevap =
-        program_.ortam.sor.mesaj({.metin = u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?",
-                                  .simge = Simge::Soru,
-                                  .dugmeler = KutuDugmeleri::EvetHayir});
-    if (cevap != Cevap::Evet)
+    if (!Sor(program_, u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?"))
         return TasimaBitir();
     RezervasyonuTasi(SeciliTarih, GozAnahtari(satir, gun));
     Command1(); // the scan

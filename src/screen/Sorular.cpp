@@ -1,0 +1,15 @@
+#include "screen/Sorular.h"
+
+#include "screen/Program.h"
+
+namespace velora {
+
+bool Sor(const Program& program, const Metin& metin, const Metin& baslik, Simge simge) {
+    return program.ortam.sor.mesaj({metin, baslik, simge, KutuDugmeleri::EvetHayir}) == Cevap::Evet;
+}
+
+void Soyle(const Program& program, const Metin& metin, const Metin& baslik, Simge simge) {
+    program.ortam.sor.mesaj({metin, baslik, simge, KutuDugmeleri::Tamam});
+}
+
+} // namespace velora

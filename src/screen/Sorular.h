@@ -1,0 +1,17 @@
+#pragma once
+
+#include "screen/Ortam.h"
+
+namespace velora {
+
+struct Program;
+
+/// Asks a question with yes and no, and waits. True for yes; closing the box is a no.
+bool Sor(const Program& program, const Metin& metin, const Metin& baslik = u"Velora",
+         Simge simge = Simge::Soru);
+
+/// Tells something, and waits until it has been read.
+void Soyle(const Program& program, const Metin& metin, const Metin& baslik = u"Velora",
+           Simge simge = Simge::Bilgi);
+
+} // namespace velora
