@@ -8,6 +8,7 @@
 #include "gui/Kullanim.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
+#include "reservation/FormKayit.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -38,9 +39,12 @@ void Sec(GuiFirma& firma, const char* ad) {
     QTRY_VERIFY(!menu.isVisible());
 }
 
-/// Counts what the screen is shown over the table.
-void AcilmalariSay(GuiFirma& firma, EkranAdi ad, int& sayi) {
-    firma.program.ortam.goster.modal = [&sayi, ad](EkranAdi acilan, const auto&) { sayi += acilan == ad; };
+/// In the record of a day, new or old.
+Is Kayitta(GuiFirma& firma, const QString& baslik, MetinBakis gun) {
+    return [=, &firma](QDialog& kayit) {
+        QCOMPARE(kayit.windowTitle(), baslik);
+        QCOMPARE(firma.program.FormKayit->Tarih, Metin(gun));
+    };
 }
 
 } // namespace
@@ -163,22 +167,23 @@ class TabloGirisiTest : public QObject {
         GuiFirma firma;
         firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
         firma.Ac();
-        int acilma = 0;
-        AcilmalariSay(firma, EkranAdi::FormKayit, acilma);
-        QTest::mouseDClick(&firma.Tablo(), Qt::LeftButton, {}, Goz(firma, EylulGunduz, 10));
-        QCOMPARE(acilma, 1);
-        QTest::mouseDClick(&firma.Tablo(), Qt::LeftButton, {}, Goz(firma, EylulGunduz, 11));
-        QCOMPARE(acilma, 1);
+        const auto ciftTikla = [&](int gun) {
+            QTest::mouseDClick(&firma.Tablo(), Qt::LeftButton, {}, Goz(firma, EylulGunduz, gun));
+        };
+        Pencerede([&] { ciftTikla(10); },
+                  {Kayitta(firma, QStringLiteral("Kayıt Düzenle"), u"10.09.2026 - Gündüz")});
+        Pencerede([&] { ciftTikla(11); }, {});
     }
 
     void an_entry_of_the_menu_begins_a_new_reservation_on_the_pressed_day() {
         GuiFirma firma;
         firma.Ac();
-        int acilma = 0;
-        AcilmalariSay(firma, EkranAdi::FormKayit, acilma);
         QTest::mousePress(&firma.Tablo(), Qt::RightButton, {}, Goz(firma, EylulGece, 11));
-        Sec(firma, "newkay");
-        QTRY_COMPARE(acilma, 1);
+        const auto sec = [&] {
+            Sec(firma, "newkay");
+            QTRY_VERIFY(firma.program.FormKayit.Yuklu()); // the entry's turn comes after the menu's
+        };
+        Pencerede(sec, {Kayitta(firma, QStringLiteral("Yeni Kayıt"), u"11.09.2026 - Gece")});
         QCOMPARE(firma.Model().SeciliTarih, Metin(u"11.09.2026 - Gece"));
     }
 
