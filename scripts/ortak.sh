@@ -5,6 +5,7 @@ PACKAGES=scripts/packages.txt
 LOGS=build/log
 CORE_FOLDERS="storage table reservation accounts documents setup access online maintenance screen"
 SOURCE_FOLDERS="src tests tools benchmarks"
+HOUSE_RULES="sizes core-purity arrows doors readmes"
 
 say() { printf '%s\n' "$*"; }
 complain() { printf '%s\n' "$*" >&2; }

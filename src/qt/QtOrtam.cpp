@@ -99,8 +99,10 @@ QWidget* QtOrtam::Hazirla(EkranAdi ekran) {
     if (QWidget* pencere = Pencere(ekran))
         return pencere;
     const auto uretici = ureticiler_.find(ekran);
-    if (uretici == ureticiler_.end())
+    if (uretici == ureticiler_.end()) {
+        qWarning("%s has no window to be shown in.", qPrintable(QMetin(EkranBul(ekran).ad)));
         return nullptr;
+    }
     auto& yeni = pencereler_[ekran];
     yeni.reset(uretici->second().release());
     return yeni.get();

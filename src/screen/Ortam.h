@@ -5,28 +5,10 @@
 #include <functional>
 #include <optional>
 
+#include "screen/EkranListesi.h"
 #include "storage/Metin.h"
 
 namespace velora {
-
-/// Every screen of the program. The outside world finds a screen's window by it.
-enum class EkranAdi {
-    Splash,
-    FormTablo,
-    FormAyarlar,
-    FormResmiTatil,
-    FormRenk,
-    FormSalonTanim,
-    FormSalonTanimAd,
-    FormMenuAyar,
-    FormMenuEkle,
-    FormKayit,
-    FormOdemeAl,
-    FormArama,
-    FormBakiye,
-    FormPrint,
-    FormWebteYayinla
-};
 
 enum class Simge { Bilgi, Soru, Uyari, Kritik };
 enum class KutuDugmeleri { Tamam, EvetHayir };

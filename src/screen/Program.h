@@ -8,22 +8,6 @@
 
 namespace velora {
 
-struct Splash;
-struct FormTablo;
-struct FormAyarlar;
-struct FormResmiTatil;
-struct FormRenk;
-struct FormSalonTanim;
-struct FormSalonTanimAd;
-struct FormMenuAyar;
-struct FormMenuEkle;
-struct FormKayit;
-struct FormOdemeAl;
-struct FormArama;
-struct FormBakiye;
-struct FormPrint;
-struct FormWebteYayinla;
-
 /// The whole program: its screens by their own names, the data tree and the outside world.
 struct Program {
     /// `kok` is the program's folder, in which the data tree stands.
@@ -36,26 +20,17 @@ struct Program {
     VeriAgaci agac;
     EkranYigini yigin;
 
-    Pencere<velora::Splash> Splash;
-    Pencere<velora::FormTablo> FormTablo;
-    Pencere<velora::FormAyarlar> FormAyarlar;
-    Pencere<velora::FormResmiTatil> FormResmiTatil;
-    Pencere<velora::FormRenk> FormRenk;
-    Pencere<velora::FormSalonTanim> FormSalonTanim;
-    Pencere<velora::FormSalonTanimAd> FormSalonTanimAd;
-    Pencere<velora::FormMenuAyar> FormMenuAyar;
-    Pencere<velora::FormMenuEkle> FormMenuEkle;
-    Pencere<velora::FormKayit> FormKayit;
-    Pencere<velora::FormOdemeAl> FormOdemeAl;
-    Pencere<velora::FormArama> FormArama;
-    Pencere<velora::FormBakiye> FormBakiye;
-    Pencere<velora::FormPrint> FormPrint;
-    Pencere<velora::FormWebteYayinla> FormWebteYayinla;
+    // Each screen by its own name.
+#define VELORA_TUT(ad, tur) Pencere<velora::ad> ad{*this, EkranAdi::ad};
+    VELORA_EKRANLAR(VELORA_TUT)
+#undef VELORA_TUT
 
     /// Today, by the clock of the outside world.
     Gun Bugun() const;
     /// Lets pending events run.
-    void OlaylariIsle() const { ortam.olaylar.isle(); }
+    void OlaylariIsle() const {
+        ortam.olaylar.isle();
+    }
 };
 
 template <class Ekran>

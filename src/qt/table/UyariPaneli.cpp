@@ -20,6 +20,12 @@ namespace velora {
 
 namespace {
 
+/// A caption with its access key marked, which must be one of its letters.
+QString TusIsaretli(const Metin& baslik, QChar tus) {
+    QString metin = QMetin(baslik);
+    return metin.insert(metin.indexOf(tus), u'&');
+}
+
 QPushButton* DugmeYap(QWidget& ust, Baglayici& baglayici, const char* ad, Dugme& model,
                       const Baglayici::Isleyici& tiklandi) {
     auto* dugme = new QPushButton(&ust);
@@ -53,8 +59,8 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
     detaylar_ = DugmeYap(*this, baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); });
     kapat_ = DugmeYap(*this, baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
     // Beside the keys of the window that the panel stands in.
-    detaylar_->setText(QStringLiteral("De&taylar"));
-    kapat_->setText(QStringLiteral("&Kapat"));
+    detaylar_->setText(TusIsaretli(tablo.Command8.baslik, u't'));
+    kapat_->setText(TusIsaretli(tablo.Command2.baslik, u'K'));
     sutun->addLayout(DugmeSeridi({detaylar_, kapat_}));
     hide();
     baglayici.Izle([this, &tablo, baslik] {

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "storage/Metin.h"
+
+/// Every screen of the program, once: its name, and whether it has a window. One without a window only holds
+/// what others read, or waits for its window to be built; showing it is told on the error stream.
+#define VELORA_EKRANLAR(X)                                                                                   \
+    X(Splash, Penceresiz)                                                                                    \
+    X(FormTablo, Pencereli)                                                                                  \
+    X(FormAyarlar, Pencereli)                                                                                \
+    X(FormResmiTatil, Penceresiz)                                                                            \
+    X(FormRenk, Pencereli)                                                                                   \
+    X(FormSalonTanim, Pencereli)                                                                             \
+    X(FormSalonTanimAd, Pencereli)                                                                           \
+    X(FormMenuAyar, Pencereli)                                                                               \
+    X(FormMenuEkle, Pencereli)                                                                               \
+    X(FormKayit, Pencereli)                                                                                  \
+    X(FormOdemeAl, Pencereli)                                                                                \
+    X(FormArama, Pencereli)                                                                                  \
+    X(FormBakiye, Pencereli)                                                                                 \
+    X(FormPrint, Penceresiz)                                                                                 \
+    X(FormWebteYayinla, Penceresiz)
+
+namespace velora {
+
+#define VELORA_BILDIR(ad, tur) struct ad;
+VELORA_EKRANLAR(VELORA_BILDIR)
+#undef VELORA_BILDIR
+
+/// The outside world finds a screen's window by it.
+enum class EkranAdi {
+#define VELORA_ADLANDIR(ad, tur) ad,
+    VELORA_EKRANLAR(VELORA_ADLANDIR)
+#undef VELORA_ADLANDIR
+};
+
+enum class EkranTuru { Pencereli, Penceresiz };
+
+struct EkranKaydi {
+    EkranAdi ekran;
+    MetinBakis ad;
+    EkranTuru tur;
+};
+
+/// The list as data, in the order of `EkranAdi`.
+inline constexpr EkranKaydi kEkranlar[]{
+#define VELORA_YAZ(ad, tur) {EkranAdi::ad, u## #ad, EkranTuru::tur},
+    VELORA_EKRANLAR(VELORA_YAZ)
+#undef VELORA_YAZ
+};
+
+constexpr const EkranKaydi& EkranBul(EkranAdi ekran) {
+    return kEkranlar[static_cast<int>(ekran)];
+}
+
+} // namespace velora
