@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <set>
 
 #include <QAbstractButton>
@@ -16,104 +15,20 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "accounts/FormBakiye.h"
+#include "gui/Diyaloglar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
-#include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
-#include "reservation/FormOdemeAl.h"
-#include "setup/FormMenuAyar.h"
 #include "setup/FormMenuEkle.h"
 #include "setup/FormRenk.h"
-#include "setup/FormSalonTanim.h"
-#include "setup/FormSalonTanimAd.h"
 
 using namespace velora;
 using namespace velora::test;
 
 namespace {
-
-/// Opens a screen's window as another screen does.
-template <auto Ekran>
-void Ac(Program& program) {
-    (program.*Ekran).GosterModal();
-}
-
-/// With a name, which lets its fields be reached.
-void AdliMenuEkleAc(Program& program) {
-    program.FormMenuEkle->Text1.metin = u"a";
-    program.FormMenuEkle->Text1_Change();
-    program.FormMenuEkle.GosterModal();
-}
-
-constexpr std::size_t kEnCokSayfa = 4;
-
-/// A window that stands over another, and its keys.
-struct Diyalog {
-    EkranAdi ekran;
-    void (*ac)(Program&);
-    const char* dolu;  // the button that Enter presses from a field
-    const char* iptal; // the one that cancels
-    // For each of its pages the controls that Tab walks, the one that has the focus at first in front.
-    std::array<const char*, kEnCokSayfa> sayfalar;
-};
-
-constexpr Diyalog kDiyaloglar[]{
-    {EkranAdi::FormSalonTanim,
-     Ac<&Program::FormSalonTanim>,
-     "Command1",
-     "Command3",
-     {"List1 Command1 Command3"}},
-    {EkranAdi::FormSalonTanimAd,
-     Ac<&Program::FormSalonTanimAd>,
-     "Command1",
-     "Command2",
-     {"Text1 Command1 Command2"}},
-    {EkranAdi::FormMenuAyar, Ac<&Program::FormMenuAyar>, "Command1", "Command3", {"Liste Command1 Command3"}},
-    {EkranAdi::FormMenuEkle, AdliMenuEkleAc, "Command4", "Command3", {"Text1 Text2 Command4 Command3"}},
-    {EkranAdi::FormRenk,
-     Ac<&Program::FormRenk>,
-     "Command1",
-     "Command2",
-     {"txtRed txtGreen txtBlue txtWeb txtHex txtTers Command1 Command2"}},
-    {EkranAdi::FormAyarlar,
-     Ac<&Program::FormAyarlar>,
-     "Command1",
-     "Command2",
-     {"UyariGun UyariGun2 GunduzGece Check2 Check7 Check6 Check3 Aylar1 Aylar2 Aylar3 Aylar4 Aylar5 Aylar6 "
-      "Aylar7 Aylar8 Aylar9 Aylar10 Aylar11 Aylar12 Command3 Command1 Command4 Command2 qt_tabwidget_tabbar",
-      "Renk0 Renk1 Renk2 Renk3 Renk4 Renk5 Renk8 Renk9 Renk10 Renk11 Renk6 Renk7 Renk12 Renk13 Renk19 Renk20 "
-      "Renk21 Renk22 Check5 Renk23 Renk24 Renk14 Renk15 Check1 Renk17 Renk18 Renk16 Command3 Command1 "
-      "Command4 Command2 qt_tabwidget_tabbar"}},
-    {EkranAdi::FormKayit,
-     Ac<&Program::FormKayit>,
-     "Command1",
-     "Command2",
-     {"Kay1 Kay2 Kay3 Kay4 Kay5 Kay6 Kay7 Kay8 Command4 Kay11 Kay12 Kay15 Kay13 Kay14 Kay16 Kay17 Option1 "
-      "Check18 Check19 Command1 Command2 qt_tabwidget_tabbar",
-      "Liste Command8 Command1 Command2 qt_tabwidget_tabbar",
-      "Combo1 Label20 Aciklamalar Command1 Command2 qt_tabwidget_tabbar",
-      "Check1 Check2 Check3 Check4 Check5 Check6 Check7 Check8 Check9 Check10 Check11 Check12 Check13 "
-      "Check14 "
-      "Check15 Check16 Check17 Command1 Command2 qt_tabwidget_tabbar"}},
-    {EkranAdi::FormOdemeAl,
-     Ac<&Program::FormOdemeAl>,
-     "Command1",
-     "Command2",
-     {"Text1 Aciklama Command2 DTPicker1"}},
-    {EkranAdi::FormArama,
-     Ac<&Program::FormArama>,
-     "Command3",
-     "Command2",
-     {"Text1 Text2 Text3 Text4 Text5 Command3 Liste Command2"}},
-    {EkranAdi::FormBakiye,
-     Ac<&Program::FormBakiye>,
-     "ListeleGun",
-     "Command1",
-     {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command1"}},
-};
 
 /// Does something in a window of the table, opened over the main screen.
 void Diyalogda(GuiFirma& firma, const Diyalog& diyalog, const Is& is) {
@@ -126,13 +41,21 @@ int SayfaSayisi(const QDialog& pencere) {
     return sayfalar == nullptr ? 1 : sayfalar->count();
 }
 
-/// The numbers of the screens that are in the first set only.
-QString Farki(const std::set<EkranAdi>& bir, const std::set<EkranAdi>& iki) {
+using Ekranlar = std::set<EkranAdi>;
+
+/// The names of the screens that are in the first set only.
+QString Farki(const Ekranlar& bir, const Ekranlar& iki) {
     QStringList kalanlar;
     for (const EkranAdi ekran : bir)
         if (!iki.contains(ekran))
-            kalanlar << QString::number(static_cast<int>(ekran));
+            kalanlar << QMetin(EkranBul(ekran).ad);
     return kalanlar.join(u' ');
+}
+
+/// The screens that the program can make a window for.
+Ekranlar Taninanlar(const GuiFirma& firma) {
+    const auto taninanlar = firma.disDunya.Taninanlar();
+    return {taninanlar.begin(), taninanlar.end()};
 }
 
 /// A new reservation would ask before it is dropped.
@@ -207,16 +130,24 @@ class DiyalogKlavyesiTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void the_screens_that_the_list_gives_a_window_are_the_ones_that_have_one() {
+        const GuiFirma firma;
+        Ekranlar listedekiler;
+        for (const EkranKaydi& kayit : kEkranlar)
+            if (kayit.tur == EkranTuru::Pencereli)
+                listedekiler.insert(kayit.ekran);
+        QCOMPARE(Farki(listedekiler, Taninanlar(firma)), QString());
+        QCOMPARE(Farki(Taninanlar(firma), listedekiler), QString());
+    }
+
     void every_window_but_the_main_one_has_its_row_here() {
         const GuiFirma firma;
-        std::set<EkranAdi> satirlar{EkranAdi::FormTablo}; // its keys have a test of their own
+        Ekranlar satirlar{EkranAdi::FormTablo}; // its keys have a test of their own
         for (const Diyalog& diyalog : kDiyaloglar)
             satirlar.insert(diyalog.ekran);
         QCOMPARE(satirlar.size(), std::size(kDiyaloglar) + 1);
-        const auto taninanlar = firma.disDunya.Taninanlar();
-        const std::set<EkranAdi> pencereliler(taninanlar.begin(), taninanlar.end());
-        QCOMPARE(Farki(pencereliler, satirlar), QString()); // windows without a row
-        QCOMPARE(Farki(satirlar, pencereliler), QString()); // rows without a window
+        QCOMPARE(Farki(Taninanlar(firma), satirlar), QString()); // windows without a row
+        QCOMPARE(Farki(satirlar, Taninanlar(firma)), QString()); // rows without a window
     }
 
     void on_each_page_each_caption_has_an_access_key_of_its_own() {
