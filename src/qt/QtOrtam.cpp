@@ -78,6 +78,13 @@ void QtOrtam::Tanit(EkranAdi ekran, Uretici uretici) {
     ureticiler_[ekran] = std::move(uretici);
 }
 
+std::vector<EkranAdi> QtOrtam::Taninanlar() const {
+    std::vector<EkranAdi> ekranlar;
+    for (const auto& [ekran, uretici] : ureticiler_)
+        ekranlar.push_back(ekran);
+    return ekranlar;
+}
+
 QWidget* QtOrtam::Pencere(EkranAdi ekran) const {
     const auto yer = pencereler_.find(ekran);
     return yer == pencereler_.end() ? nullptr : yer->second.get();

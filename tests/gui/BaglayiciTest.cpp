@@ -13,10 +13,12 @@
 #include <QWheelEvent>
 
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
 #include "qt/QtOrtam.h"
 
 using namespace velora;
+using namespace velora::test;
 
 namespace {
 
@@ -353,7 +355,7 @@ class BaglayiciTest : public QObject {
         QtOrtam disDunya;
         const Ortam ortam = disDunya.Ver();
         QString icerde;
-        QTimer::singleShot(0, &kutu, [&] { icerde = kutu.text(); });
+        Siraya(kutu, [&] { icerde = kutu.text(); });
         sahne.baglayici.Calistir([&] {
             sahne.ekran->metin.metin = u"ara";
             ortam.olaylar.isle();
