@@ -13,6 +13,8 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 
+#include "qt/Ceviri.h"
+
 namespace velora {
 
 namespace {
@@ -164,6 +166,11 @@ void ErisimTuslariVer(QWidget& pencere) {
     for (const QWidget* sayfa : sayfalar)
         if (sayfa != nullptr)
             SayfayaVer(basliklar, sayfa);
+}
+
+QString TusIsaretli(MetinBakis baslik, QChar tus) {
+    QString metin = QMetin(baslik);
+    return metin.insert(metin.indexOf(tus), u'&');
 }
 
 } // namespace velora

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+
+#include "storage/Metin.h"
+
 class QWidget;
 
 namespace velora {
@@ -11,5 +15,9 @@ namespace velora {
 /// is marked already keeps its mark, and one for which no letter is left gets none. Costs nothing where all
 /// are marked: meant to run after every refresh.
 void ErisimTuslariVer(QWidget& pencere);
+
+/// A caption with its access key marked by hand: before the first `tus` in it, which must be there. For what
+/// stands on a window whose keys aren't given out.
+QString TusIsaretli(MetinBakis baslik, QChar tus);
 
 } // namespace velora

@@ -35,6 +35,8 @@ FormTablo::FormTablo(Program& program) : program_(program) {
     Liste.secimDugmeleri.dugmeler = {&Command8};
     Picture1.yer = kPanelYeri;
     Picture1.gorunur = Ekran.gorunur = false;
+    Salon.baslik = u"Salon";
+    Sene.baslik = u"Çalışma Yılı";
     Salon.tiklandi = [this] { Salon_Click(); };
     Sene.tiklandi = [this] { Sene_Click(); };
     CetvelTimer.tik = [this] { CetvelTimer_Tick(); };

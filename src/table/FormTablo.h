@@ -126,17 +126,15 @@ struct FormTablo {
     void Hucre_DragDrop(SatirAdi satir, int gun);
 
     // --- the commands (Komutlar.h) ---
+    /// Shows another screen of the program over the table: all that many commands do.
+    template <auto Ekran>
+    void EkranAc();
     /// A button of the tool bar: the ruler goes, then the command runs.
     void AracaTikla(const KomutTanimi& komut);
     void newkay_Click();
     void TasimaModuAc_Click();
     void iptals_Click();
-    void Arasss_Click();
-    void BakiyeRaporss_Click();
     void iptalsebepss_Click(); ///< the log of cancellations, there or not, in the user's text viewer
-    void Salontanimss_Click();
-    void MenuAyars_Click();
-    void Progrset_Click();
 
     // --- the panel of warnings (UyariPaneli.cpp) ---
     void Liste_Click(); ///< a row is marked
@@ -202,6 +200,7 @@ struct FormTablo {
     Dugme Command8{u"Detaylar", {}, false};
     Dugme Command2{u"Kapat", {}};
     bool Image3 = false; ///< the bell: a personal reminder falls on today
+    Metin image3Ipucu = u"Bu Tarihte Hatırlatma Var";
     bool Image3a = true; ///< which of its two pictures the bell shows; they alternate
     Zamanlayici CetvelTimer;
     Zamanlayici GunTimer;

@@ -1,4 +1,4 @@
-// The table of the commands, and those that only show another screen over the table.
+// The table of the commands.
 #include "table/Komutlar.h"
 
 #include "accounts/FormBakiye.h"
@@ -11,18 +11,25 @@
 
 namespace velora {
 
+template <auto Ekran>
+void FormTablo::EkranAc() {
+    (program_.*Ekran).GosterModal();
+}
+
 namespace {
 
 using T = FormTablo;
+using P = Program;
 
 constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
-    {Komut::Arasss, u"Arasss", Menu::Kayitss, u"Kayıt Ara", &T::Arasss_Click, u"F2"},
-    {Komut::BakiyeRaporss, u"BakiyeRaporss", Menu::Raporsss, u"Rezervasyon Raporu", &T::BakiyeRaporss_Click,
-     u"F3"},
+    {Komut::Arasss, u"Arasss", Menu::Kayitss, u"Kayıt Ara", &T::EkranAc<&P::FormArama>, u"F2"},
+    {Komut::BakiyeRaporss, u"BakiyeRaporss", Menu::Raporsss, u"Rezervasyon Raporu",
+     &T::EkranAc<&P::FormBakiye>, u"F3"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
-    {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::Salontanimss_Click},
-    {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::MenuAyars_Click},
-    {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::Progrset_Click, u"F7"},
+    {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
+    {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::EkranAc<&P::FormAyarlar>,
+     u"F7"},
     {Komut::newkay, u"newkay", Menu::Sagtus, u"Yeni Organizasyon Oluştur", &T::newkay_Click},
     {Komut::aline11, u"aline11", Menu::Sagtus, u"-"},
     {Komut::TasimaModuAc, u"TasimaModuAc", Menu::Sagtus, u"Taşıma Modunu Aç", &T::TasimaModuAc_Click},
@@ -47,26 +54,6 @@ std::span<const KomutTanimi, kKomutSayisi> Komutlar() {
 void FormTablo::AracaTikla(const KomutTanimi& komut) {
     CetvelSil();
     (this->*komut.isle)();
-}
-
-void FormTablo::Arasss_Click() {
-    program_.FormArama.GosterModal();
-}
-
-void FormTablo::BakiyeRaporss_Click() {
-    program_.FormBakiye.GosterModal();
-}
-
-void FormTablo::Salontanimss_Click() {
-    program_.FormSalonTanim.GosterModal();
-}
-
-void FormTablo::MenuAyars_Click() {
-    program_.FormMenuAyar.GosterModal();
-}
-
-void FormTablo::Progrset_Click() {
-    program_.FormAyarlar.GosterModal();
 }
 
 } // namespace velora

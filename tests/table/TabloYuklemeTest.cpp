@@ -26,6 +26,13 @@ TEST_F(TabloYukleme, Title_is_the_name_and_the_version) {
     EXPECT_EQ(kullanici.Tablo().baslik, u"Velora 2.0.5");
 }
 
+TEST_F(TabloYukleme, The_drop_downs_and_the_bell_have_their_texts) {
+    kullanici.ProgramiAc();
+    EXPECT_EQ(kullanici.Tablo().Salon.baslik, u"Salon");
+    EXPECT_EQ(kullanici.Tablo().Sene.baslik, u"Çalışma Yılı");
+    EXPECT_EQ(kullanici.Tablo().image3Ipucu, u"Bu Tarihte Hatırlatma Var");
+}
+
 TEST_F(TabloYukleme, Halls_come_in_the_order_of_the_file_and_blank_ones_are_left_out) {
     agac.KoyMetin(u"Salon.dat",
                   u"\"Çınar. Bahçesi\"\r\n\"  \"\r\n\"\"\r\n\"Gül Salonu\"\r\n\"Gül Salonu\"\r\n");

@@ -10,6 +10,7 @@
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/ErisimTuslari.h"
 #include "qt/Gorunum.h"
 #include "qt/Simgeler.h"
 #include "qt/table/KomutMenuleri.h"
@@ -28,13 +29,12 @@ constexpr int kSeneEni = 96;
 constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
 
-/// A drop-down with its caption before it; `yazi` has the access key marked, `ad` is what it is called.
-QComboBox* EtiketliListe(QHBoxLayout& serit, const QString& yazi, const QString& ad,
-                         const QString& nesneAdi) {
-    auto* etiket = new QLabel(yazi);
+/// A drop-down under the name of its control, with its caption before it.
+QComboBox* EtiketliListe(QHBoxLayout& serit, const AcilirListe& model, QChar tus, const QString& ad) {
+    auto* etiket = new QLabel(TusIsaretli(model.baslik, tus));
     auto* liste = new QComboBox;
-    liste->setObjectName(nesneAdi);
-    liste->setAccessibleName(ad);
+    liste->setObjectName(ad);
+    liste->setAccessibleName(QMetin(model.baslik));
     etiket->setBuddy(liste);
     serit.addWidget(etiket);
     serit.addWidget(liste);
@@ -81,13 +81,11 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     auto* serit = new QHBoxLayout(parca);
     serit->setContentsMargins(kAralik, kAralik, kAralik, kAralik);
     serit->setSpacing(kAralik);
-    QComboBox* salon =
-        EtiketliListe(*serit, QStringLiteral("&Salon"), QStringLiteral("Salon"), QStringLiteral("Salon"));
+    QComboBox* salon = EtiketliListe(*serit, tablo.Salon, u'S', QStringLiteral("Salon"));
     salon->setMinimumWidth(kSalonEni);
     baglayici_->Bagla(*salon, tablo.Salon);
     serit->addSpacing(kAralik);
-    QComboBox* sene = EtiketliListe(*serit, QStringLiteral("Çalışma &Yılı"), QStringLiteral("Çalışma Yılı"),
-                                    QStringLiteral("Sene"));
+    QComboBox* sene = EtiketliListe(*serit, tablo.Sene, u'Y', QStringLiteral("Sene"));
     sene->setMinimumWidth(kSeneEni);
     baglayici_->Bagla(*sene, tablo.Sene);
     serit->addSpacing(kAralik);
@@ -101,7 +99,7 @@ QLabel* TabloPenceresi::ZilKur(FormTablo& tablo) {
     auto* zil = new QLabel;
     zil->setObjectName(QStringLiteral("Image3"));
     zil->setAccessibleName(QStringLiteral("Hatırlatma"));
-    zil->setToolTip(QStringLiteral("Bu Tarihte Hatırlatma Var"));
+    zil->setToolTip(QIpucu(tablo.image3Ipucu));
     const QPixmap sakin = ZilResmi(QStringLiteral("zil"), *this);
     const QPixmap calan = ZilResmi(QStringLiteral("zil-calan"), *this);
     baglayici_->Izle([zil, &tablo, sakin, calan] {

@@ -11,6 +11,7 @@
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/ErisimTuslari.h"
 #include "qt/Gorunum.h"
 #include "qt/Yerlesimler.h"
 #include "table/FormTablo.h"
@@ -19,12 +20,6 @@
 namespace velora {
 
 namespace {
-
-/// A caption with its access key marked, which must be one of its letters.
-QString TusIsaretli(const Metin& baslik, QChar tus) {
-    QString metin = QMetin(baslik);
-    return metin.insert(metin.indexOf(tus), u'&');
-}
 
 QPushButton* DugmeYap(QWidget& ust, Baglayici& baglayici, const char* ad, Dugme& model,
                       const Baglayici::Isleyici& tiklandi) {
