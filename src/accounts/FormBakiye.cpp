@@ -44,6 +44,7 @@ Metin SayacMetni(std::ptrdiff_t sayi) {
 } // namespace
 
 FormBakiye::FormBakiye(Program& program) : program_(program) {
+    BasliklariKoy();
     Combo1.ogeler = {u"(Tümü)", u"Ön Rezervasyonlar", u"Kesin Rezervasyonlar"};
     Liste.basliklar = {u"Tarih", u"Ad Soyad", u"Toplam",   u"Alınan",  u"Kalan",
                        u"Tipi",  u"Salon",    u"Niteliği", u"Davetli", u"Ön Açıklama"};
@@ -51,6 +52,22 @@ FormBakiye::FormBakiye(Program& program) : program_(program) {
     Liste.secimDugmeleri.dugmeler = {&Command6};
     ToplamlariGoster({});
     Say();
+}
+
+void FormBakiye::BasliklariKoy() {
+    Combo2.baslik = u"Salon Adı";
+    DTPicker1.baslik = u"Başlangıç Tarihi";
+    DTPicker2.baslik = u"Bitiş Tarihi";
+    Combo1.baslik = u"Rezervasyon Tipi";
+    Liste.baslik = u"Rezervasyonlar";
+    for (std::size_t i = 0; i < kBakiyeTurleri.size(); ++i)
+        DTop[static_cast<int>(i) + 1].once = kBakiyeTurleri[i];
+    Toplam.once = u"Genel Toplam";
+    Alinan.once = u"Alınan Ödeme";
+    Kalan.once = u"Kalan Ödeme";
+    Label14.once = u"Kesin Rezervasyon";
+    Label18.once = u"Ön Rezervasyon";
+    Label19.once = u"Toplam Rezervasyon";
 }
 
 void FormBakiye::Load() {

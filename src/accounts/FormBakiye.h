@@ -62,6 +62,7 @@ struct FormBakiye {
     static constexpr std::size_t kToplamSayisi = kBakiyeTurleri.size() + 3;
     using Toplamlar = std::array<double, kToplamSayisi>;
 
+    void BasliklariKoy();
     bool Tara(Toplamlar& toplamlar);
     bool Istenen(const DetayDegerler& detay) const;
     void SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana, const DetayDegerler& detay);

@@ -1,12 +1,12 @@
 #include "qt/Baglayici.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -21,15 +21,12 @@ namespace velora {
 
 namespace {
 
-constexpr int kKisaIs = 100; // milliseconds up to which a handler only shows its end
-
 /// What all binders share.
 struct Ortak {
     std::vector<Baglayici*> canlilar;
     int derinlik = 0; // handlers that run, one inside the other
     bool tazeleniyor = false;
-    bool uzun = false;       // the outermost handler has begun to wait for the user
-    QElapsedTimer baslangic; // of the outermost handler
+    bool bekliyor = false; // the innermost one waits for the user
 };
 
 Ortak& Durum() {
@@ -40,15 +37,16 @@ Ortak& Durum() {
 /// Counts a running handler, also when it ends by an exception.
 class IsSayaci {
   public:
-    IsSayaci() {
-        if (Durum().derinlik++ > 0)
-            return;
-        Durum().baslangic.start();
-        Durum().uzun = false;
+    IsSayaci() : disaridaki_(std::exchange(Durum().bekliyor, false)) { ++Durum().derinlik; }
+    ~IsSayaci() {
+        --Durum().derinlik;
+        Durum().bekliyor = disaridaki_;
     }
-    ~IsSayaci() { --Durum().derinlik; }
     IsSayaci(const IsSayaci&) = delete;
     IsSayaci& operator=(const IsSayaci&) = delete;
+
+  private:
+    bool disaridaki_; // the handler around this one waits
 };
 
 } // namespace
@@ -114,14 +112,16 @@ void Baglayici::HepsiniTazele() {
     durum.tazeleniyor = false;
 }
 
-bool Baglayici::KisaIsSuruyor() {
-    const Ortak& durum = Durum();
-    return durum.derinlik > 0 && !durum.uzun && !durum.baslangic.hasExpired(kKisaIs);
+bool Baglayici::IsSuruyor() {
+    return Durum().derinlik > 0 && !Durum().bekliyor;
 }
 
-void Baglayici::KullaniciBekleniyor() {
-    Durum().uzun = true;
+Baglayici::KullaniciBekleme::KullaniciBekleme() : onceki_(std::exchange(Durum().bekliyor, true)) {
     HepsiniTazele();
+}
+
+Baglayici::KullaniciBekleme::~KullaniciBekleme() {
+    Durum().bekliyor = onceki_;
 }
 
 void Baglayici::Tazele() {

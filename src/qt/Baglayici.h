@@ -53,8 +53,8 @@ class Baglayici : public QObject {
     void Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
     /// A field of many lines. The model's line ends are CR LF.
     void Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
-    /// An editable list: the text is the model's, `ogeler` is what it offers.
-    void Bagla(QComboBox& kutu, MetinKutusu& model, const std::vector<Metin>& ogeler);
+    /// An editable list.
+    void Bagla(QComboBox& kutu, MetinKutusu& model);
     /// A date, with its calendar. A day outside the model's limits can be neither typed nor chosen.
     void Bagla(QDateEdit& kutu, TarihSecici& model);
     /// A tick box whose handler also wants to know that the mouse was let go on it.
@@ -87,13 +87,22 @@ class Baglayici : public QObject {
     /// All widgets of all windows take what their models hold.
     static void HepsiniTazele();
 
-    /// True while a handler runs that began only a moment ago. What is costly to show, and would only flash,
+    /// True while a handler runs and doesn't wait for the user. What is costly to show, and would only flash,
     /// waits for its end.
-    static bool KisaIsSuruyor();
+    static bool IsSuruyor();
 
-    /// Refreshes all widgets and takes the running handler for a long one from here on: it waits for the
-    /// user.
-    static void KullaniciBekleniyor();
+    /// While it stands the running handler waits for the user: the widgets show what it has done so far. A
+    /// handler that runs meanwhile, in the window or the box that is waited for, is one of its own.
+    class KullaniciBekleme {
+      public:
+        KullaniciBekleme();
+        ~KullaniciBekleme();
+        KullaniciBekleme(const KullaniciBekleme&) = delete;
+        KullaniciBekleme& operator=(const KullaniciBekleme&) = delete;
+
+      private:
+        bool onceki_; // the handler waited already
+    };
 
   protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;

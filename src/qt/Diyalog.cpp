@@ -6,8 +6,8 @@
 #include <QCloseEvent>
 #include <QPointer>
 #include <QPushButton>
+#include <QTreeWidget>
 
-#include "qt/Baglayici.h"
 #include "qt/ErisimTuslari.h"
 
 namespace velora {
@@ -31,12 +31,22 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
     });
 }
 
-QHBoxLayout* Diyalog::TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal) {
-    auto* tamamDugmesi = DugmeYap(tamam.ad, tamam.model, tamam.tiklandi);
-    auto* iptalDugmesi = DugmeYap(iptal.ad, iptal.model, iptal.tiklandi);
-    tamamDugmesi->setDefault(true);
-    IptalDugmesi(iptalDugmesi);
-    return DugmeSeridi({tamamDugmesi, iptalDugmesi});
+QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
+    auto* etiket = new QLabel(this);
+    Adlandir(*etiket, ad, QMetin(model.once));
+    baglayici_->Bagla(*etiket, model);
+    return etiket;
+}
+
+QTreeWidget* Diyalog::ListeYap(ListeGorunumu& model, std::span<const int> enler,
+                               const Baglayici::Isleyici& secildi, const Baglayici::Isleyici& ciftTiklandi) {
+    auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), model, secildi, ciftTiklandi);
+    SutunEnleriVer(*liste, enler);
+    return liste;
+}
+
+void Diyalog::IlkOdak(const char* ad) {
+    findChild<QWidget*>(QString::fromLatin1(ad))->setFocus();
 }
 
 void Diyalog::OdagiListeyeVer(QPushButton& dugme, QWidget& liste) {

@@ -2,20 +2,22 @@
 
 #include <functional>
 #include <memory>
+#include <type_traits>
 
 #include <QDialog>
+#include <QFormLayout>
+#include <QLabel>
 #include <QPushButton>
 
+#include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
 #include "qt/Yerlesimler.h"
 
 namespace velora {
 
-class Baglayici;
-struct Dugme;
-
-/// The window of a screen that stands over others. Its X and the Esc key press the screen's own cancel
-/// button, and do nothing while that one is disabled: what closing means is the screen's to say. Its captions
-/// get access keys when it is first shown.
+/// A window that stands over others. Its X and the Esc key press the screen's own cancel button, and do
+/// nothing while that one is disabled: what closing means is the screen's to say. Its captions get access keys
+/// when it is first shown.
 class Diyalog : public QDialog {
   public:
     explicit Diyalog(std::weak_ptr<const void> ekran);
@@ -25,39 +27,42 @@ class Diyalog : public QDialog {
   protected:
     Baglayici& Bag() { return *baglayici_; }
 
+    /// The widget of a control: under its name, called by its caption, bound to it. Tick boxes show the
+    /// caption themselves, for others see `EtiketYap`.
+    template <class Parca, class Model, class... Isler>
+    Parca* ParcaYap(const QString& ad, Model& model, const Isler&... isler) {
+        auto* parca = new Parca(this);
+        Adlandir(*parca, ad, QMetin(model.baslik));
+        if constexpr (std::is_same_v<Model, OnayKutusu>)
+            parca->setText(QMetin(model.baslik));
+        Bag().Bagla(*parca, model, isler...);
+        return parca;
+    }
+    /// A row of a form: a control's widget with its caption before it.
+    template <class Parca, class Model, class... Isler>
+    Parca* SatirEkle(QFormLayout& form, const QString& ad, Model& model, const Isler&... isler) {
+        auto* parca = ParcaYap<Parca>(ad, model, isler...);
+        form.addRow(EtiketYap(QMetin(model.baslik), *parca), parca);
+        return parca;
+    }
+    /// The text of a label that changes, called by what stands before it.
+    QLabel* DegerYap(const QString& ad, Etiket& model);
+
+    /// The list of a screen, its columns in these widths.
+    QTreeWidget* ListeYap(ListeGorunumu& model, std::span<const int> enler,
+                          const Baglayici::Isleyici& secildi, const Baglayici::Isleyici& ciftTiklandi);
+
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
     /// What Enter presses: `dugme` from any field, `listede` while the list has the focus. Another button
     /// that has the focus comes before both.
     void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
-
-    /// What a button is made from.
-    struct DugmeTanimi {
-        const char* ad;
-        Dugme& model;
-        std::function<void()> tiklandi;
-    };
-    /// The row of a dialog that confirms or cancels: Enter presses the first, Esc the second.
-    QHBoxLayout* TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal);
+    /// The control of that name has the focus when the window comes.
+    void IlkOdak(const char* ad);
 
     /// Where the button can't be pressed any more after its work, the list has the focus again.
     void OdagiListeyeVer(QPushButton& dugme, QWidget& liste);
-
-    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
-    /// Enter adds.
-    template <class Ekran>
-    QHBoxLayout* ListeDugmeleri(Ekran* ekran, QWidget& liste) {
-        auto* ekle = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
-        auto* duzenle = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
-        auto* sil = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
-        auto* kapat = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
-        ekle->setDefault(true);
-        IptalDugmesi(kapat);
-        for (QPushButton* dugme : {duzenle, sil})
-            OdagiListeyeVer(*dugme, liste);
-        return DugmeSeridi({ekle, duzenle, sil, kapat});
-    }
 
     void closeEvent(QCloseEvent* olay) override;
     void showEvent(QShowEvent* olay) override;

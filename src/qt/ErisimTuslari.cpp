@@ -20,7 +20,7 @@ namespace {
 constexpr QChar kNoktaliBuyukI = u'İ'; // its key brings "i" and never this sign
 
 /// A caption on the display.
-struct Yazi {
+struct Baslik {
     QString metin;
     std::function<void(const QString&)> koy;
     QWidget* sayfa; // the page that it is seen on, null for every page
@@ -45,11 +45,11 @@ QWidget* Sayfasi(QWidget* parca) {
     return nullptr;
 }
 
-void SekmeleriEkle(std::vector<Yazi>& yazilar, QTabWidget& sayfalar) {
+void SekmeleriEkle(std::vector<Baslik>& basliklar, QTabWidget& sayfalar) {
     for (int i = 0; i < sayfalar.count(); ++i)
-        yazilar.push_back({sayfalar.tabText(i),
-                           [&sayfalar, i](const QString& metin) { sayfalar.setTabText(i, metin); },
-                           Sayfasi(&sayfalar)});
+        basliklar.push_back({sayfalar.tabText(i),
+                             [&sayfalar, i](const QString& metin) { sayfalar.setTabText(i, metin); },
+                             Sayfasi(&sayfalar)});
 }
 
 /// Whether a label names a field that can be typed into or pressed.
@@ -58,21 +58,21 @@ bool AlanAdi(const QLabel& etiket) {
 }
 
 /// All captions of a window.
-std::vector<Yazi> Yazilar(const QWidget& pencere) {
-    std::vector<Yazi> yazilar;
+std::vector<Baslik> Basliklar(const QWidget& pencere) {
+    std::vector<Baslik> basliklar;
     for (QWidget* parca : pencere.findChildren<QWidget*>()) {
         if (parca->window() != &pencere)
             continue;
         if (auto* dugme = qobject_cast<QAbstractButton*>(parca); dugme != nullptr && !dugme->text().isEmpty())
-            yazilar.push_back(
+            basliklar.push_back(
                 {dugme->text(), [dugme](const QString& metin) { dugme->setText(metin); }, Sayfasi(parca)});
         else if (auto* etiket = qobject_cast<QLabel*>(parca); etiket != nullptr && AlanAdi(*etiket))
-            yazilar.push_back(
+            basliklar.push_back(
                 {etiket->text(), [etiket](const QString& metin) { etiket->setText(metin); }, Sayfasi(parca)});
         else if (auto* sayfalar = qobject_cast<QTabWidget*>(parca); sayfalar != nullptr)
-            SekmeleriEkle(yazilar, *sayfalar);
+            SekmeleriEkle(basliklar, *sayfalar);
     }
-    return yazilar;
+    return basliklar;
 }
 
 /// Places of a caption that its mark may stand before, the best first: the letters that begin a word.
@@ -90,10 +90,10 @@ std::vector<qsizetype> Adaylar(const QString& metin, const Tuslar& dolu) {
 /// of one that can do with another.
 class Dagitim {
   public:
-    Dagitim(std::vector<Yazi*> yazilar, const Tuslar& dolu) : yazilar_(std::move(yazilar)) {
-        for (const Yazi* yazi : yazilar_)
-            adaylar_.push_back(Adaylar(yazi->metin, dolu));
-        for (std::size_t i = 0; i < yazilar_.size(); ++i) {
+    Dagitim(std::vector<Baslik*> basliklar, const Tuslar& dolu) : basliklar_(std::move(basliklar)) {
+        for (const Baslik* baslik : basliklar_)
+            adaylar_.push_back(Adaylar(baslik->metin, dolu));
+        for (std::size_t i = 0; i < basliklar_.size(); ++i) {
             denenen_.clear();
             YerBul(i);
         }
@@ -101,25 +101,25 @@ class Dagitim {
 
     void Koy() const {
         for (const auto& [tus, secim] : secimler_) {
-            Yazi& yazi = *yazilar_[secim.yazi];
-            yazi.metin.insert(secim.yer, u'&');
-            yazi.koy(yazi.metin);
+            Baslik& baslik = *basliklar_[secim.baslik];
+            baslik.metin.insert(secim.yer, u'&');
+            baslik.koy(baslik.metin);
         }
     }
 
   private:
     struct Secim {
-        std::size_t yazi;
+        std::size_t baslik;
         qsizetype yer;
     };
 
     bool YerBul(std::size_t i) {
         for (const bool bosken : {true, false})
             for (const qsizetype yer : adaylar_[i]) {
-                const QChar tus = Tus(yazilar_[i]->metin[yer]);
+                const QChar tus = Tus(basliklar_[i]->metin[yer]);
                 const auto eski = secimler_.find(tus);
                 const bool bos = eski == secimler_.end();
-                if (bos != bosken || (!bos && (denenen_.contains(tus) || !Birakir(tus, eski->second.yazi))))
+                if (bos != bosken || (!bos && (denenen_.contains(tus) || !Birakir(tus, eski->second.baslik))))
                     continue;
                 secimler_[tus] = {i, yer};
                 return true;
@@ -132,22 +132,22 @@ class Dagitim {
         return YerBul(sahibi);
     }
 
-    std::vector<Yazi*> yazilar_;
+    std::vector<Baslik*> basliklar_;
     std::vector<std::vector<qsizetype>> adaylar_;
     std::map<QChar, Secim> secimler_; // by key
     Tuslar denenen_;                  // keys that the caption at hand can't get from their owners
 };
 
 /// The captions of one page that have no mark yet get one; null: those that are seen with every page.
-void SayfayaVer(std::vector<Yazi>& yazilar, const QWidget* sayfa) {
-    std::vector<Yazi*> isaretsizler;
+void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa) {
+    std::vector<Baslik*> isaretsizler;
     Tuslar dolu;
-    for (Yazi& yazi : yazilar) {
-        const bool birlikte = sayfa == nullptr || yazi.sayfa == nullptr || yazi.sayfa == sayfa;
-        if (const QChar tus = VarolanTus(yazi.metin); !tus.isNull() && birlikte)
+    for (Baslik& baslik : basliklar) {
+        const bool birlikte = sayfa == nullptr || baslik.sayfa == nullptr || baslik.sayfa == sayfa;
+        if (const QChar tus = VarolanTus(baslik.metin); !tus.isNull() && birlikte)
             dolu.insert(tus);
-        if (yazi.sayfa == sayfa && !yazi.metin.contains(u'&'))
-            isaretsizler.push_back(&yazi);
+        if (baslik.sayfa == sayfa && !baslik.metin.contains(u'&'))
+            isaretsizler.push_back(&baslik);
     }
     if (!isaretsizler.empty())
         Dagitim(std::move(isaretsizler), dolu).Koy();
@@ -156,14 +156,14 @@ void SayfayaVer(std::vector<Yazi>& yazilar, const QWidget* sayfa) {
 } // namespace
 
 void ErisimTuslariVer(QWidget& pencere) {
-    std::vector<Yazi> yazilar = Yazilar(pencere);
+    std::vector<Baslik> basliklar = Basliklar(pencere);
     std::set<QWidget*> sayfalar;
-    for (const Yazi& yazi : yazilar)
-        sayfalar.insert(yazi.sayfa);
-    SayfayaVer(yazilar, nullptr);
+    for (const Baslik& baslik : basliklar)
+        sayfalar.insert(baslik.sayfa);
+    SayfayaVer(basliklar, nullptr);
     for (const QWidget* sayfa : sayfalar)
         if (sayfa != nullptr)
-            SayfayaVer(yazilar, sayfa);
+            SayfayaVer(basliklar, sayfa);
 }
 
 } // namespace velora

@@ -137,11 +137,11 @@ void Baglayici::Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri
     });
 }
 
-void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model, const std::vector<Metin>& ogeler) {
+void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
     kutu.setEditable(true);
     kutu.setInsertPolicy(QComboBox::NoInsert);
     kutu.setCompleter(nullptr);
-    for (const Metin& oge : ogeler)
+    for (const Metin& oge : model.ogeler)
         kutu.addItem(QMetin(oge));
     kutu.installEventFilter(this); // the wheel
     TuslariSuz(kutu);              // its field gets the keys from it, past all filters of its own

@@ -31,10 +31,12 @@ class KapanisGozcusu : public QObject {
     QEventLoop& dongu_;
 };
 
-/// Questions come out of running handlers: what these have done so far must be seen behind the box.
-QWidget* KutununUstu() {
-    Baglayici::KullaniciBekleniyor();
-    return QApplication::activeWindow();
+/// Shows a box over the window that is in front. Questions come out of running handlers: what these have done
+/// so far must be seen behind the box.
+template <class Goster, class Kutu>
+auto Kutuda(Goster goster, const Kutu& kutu) {
+    const Baglayici::KullaniciBekleme bekleme;
+    return goster(QApplication::activeWindow(), kutu);
 }
 
 /// The window stands over that one, whatever else the desktop does.
@@ -59,8 +61,8 @@ void QtOrtam::SonraSil::operator()(QWidget* pencere) const {
 
 Ortam QtOrtam::Ver() {
     Ortam ortam;
-    ortam.sor.mesaj = [](const MesajKutusu& kutu) { return MesajGoster(KutununUstu(), kutu); };
-    ortam.sor.girdi = [](const GirdiKutusu& kutu) { return GirdiAl(KutununUstu(), kutu); };
+    ortam.sor.mesaj = [](const MesajKutusu& kutu) { return Kutuda(MesajGoster, kutu); };
+    ortam.sor.girdi = [](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, kutu); };
     ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
     ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
     ortam.goster.gizle = [this](EkranAdi ekran) { Gizle(ekran); };
@@ -74,6 +76,13 @@ Ortam QtOrtam::Ver() {
 
 void QtOrtam::Tanit(EkranAdi ekran, Uretici uretici) {
     ureticiler_[ekran] = std::move(uretici);
+}
+
+std::vector<EkranAdi> QtOrtam::Taninanlar() const {
+    std::vector<EkranAdi> ekranlar;
+    for (const auto& [ekran, uretici] : ureticiler_)
+        ekranlar.push_back(ekran);
+    return ekranlar;
 }
 
 QWidget* QtOrtam::Pencere(EkranAdi ekran) const {
@@ -116,7 +125,7 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
     QWidget* pencere = Hazirla(ekran);
     if (pencere == nullptr)
         return;
-    Baglayici::KullaniciBekleniyor();
+    const Baglayici::KullaniciBekleme bekleme;
     QEventLoop dongu;
     const KapanisGozcusu gozcu(*pencere, dongu);
     const QPointer<QWidget> ust = QApplication::activeWindow();

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include <QWidget>
 
@@ -21,6 +22,9 @@ class QtOrtam {
 
     /// Tells how the window of a screen is made.
     void Tanit(EkranAdi ekran, Uretici uretici);
+
+    /// The screens that it knows a window for.
+    std::vector<EkranAdi> Taninanlar() const;
 
     /// The window of a screen, null while it has none.
     QWidget* Pencere(EkranAdi ekran) const;

@@ -6,10 +6,12 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabWidget>
+#include <QTreeWidget>
 
 #include "qt/Gorunum.h"
 
@@ -48,6 +50,19 @@ QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
     return serit;
 }
 
+void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler) {
+    QHeaderView& basliklar = *liste.header();
+    basliklar.setStretchLastSection(std::ranges::find(enler, kKalanEn) == enler.end());
+    int sutun = 0;
+    for (const int en : enler) {
+        if (en == kKalanEn)
+            basliklar.setSectionResizeMode(sutun, QHeaderView::Stretch);
+        else
+            basliklar.resizeSection(sutun, en);
+        ++sutun;
+    }
+}
+
 void SayfaTuslari(QTabWidget& sayfalar) {
     const std::array tuslar{
         std::pair{QKeySequence(Qt::CTRL | Qt::Key_Tab), 1},
@@ -63,15 +78,15 @@ void SayfaTuslari(QTabWidget& sayfalar) {
                          });
 }
 
-QLabel* EtiketYap(const QString& yazi, QWidget& alan) {
-    auto* etiket = new QLabel(yazi);
+QLabel* EtiketYap(const QString& baslik, QWidget& alan) {
+    auto* etiket = new QLabel(baslik);
     etiket->setBuddy(&alan);
     return etiket;
 }
 
-void Adlandir(QWidget& parca, const QString& ad, const QString& yazi) {
+void Adlandir(QWidget& parca, const QString& ad, const QString& baslik) {
     parca.setObjectName(ad);
-    parca.setAccessibleName(yazi);
+    parca.setAccessibleName(baslik);
 }
 
 } // namespace velora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 
 #include <QString>
 
@@ -9,6 +10,7 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTabWidget;
+class QTreeWidget;
 class QVBoxLayout;
 class QWidget;
 
@@ -27,14 +29,21 @@ QFormLayout* FormKur();
 QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
                          std::initializer_list<QPushButton*> soldakiler = {});
 
+/// In the widths of a list's columns: shares with the others of its kind what is left.
+inline constexpr int kKalanEn = 0;
+
+/// The widths of a list's columns, from the first on. Where none is `kKalanEn`, the last column of the list
+/// takes what is left.
+void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler);
+
 /// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever
 /// field.
 void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.
-QLabel* EtiketYap(const QString& yazi, QWidget& alan);
+QLabel* EtiketYap(const QString& baslik, QWidget& alan);
 
 /// The name of a widget's control, and what it is called for those who can't see it.
-void Adlandir(QWidget& parca, const QString& ad, const QString& yazi);
+void Adlandir(QWidget& parca, const QString& ad, const QString& baslik);
 
 } // namespace velora

@@ -21,6 +21,9 @@ constexpr std::array<Kural, FormArama::kOlcutSayisi> kKurallar{Kural::Icerir, Ku
                                                                Kural::Esit, Kural::Esit};
 static_assert(kKurallar.size() == kAramaNumaralari.size());
 
+constexpr std::array<MetinBakis, FormArama::kOlcutSayisi> kOlcutAdlari{u"Adı Soyadı", u"Gelin / Damat",
+                                                                       u"Telefon", u"Cep", u"Sözleşme No"};
+
 constexpr int kSozlesmeNo = 5;
 
 /// The signs of a pattern keep their meaning in what is looked for.
@@ -33,6 +36,9 @@ bool Uyar(Kural kural, MetinBakis deger, MetinBakis olcut) {
 } // namespace
 
 FormArama::FormArama(Program& program) : program_(program) {
+    for (int no = 1; no <= kOlcutSayisi; ++no)
+        Text[no].baslik = kOlcutAdlari[static_cast<std::size_t>(no - 1)];
+    Liste.baslik = u"Bulunan kayıtlar";
     Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin Damat", u"Telefon", u"Cep"};
     Liste.secimDugmeleri.dugmeler = {&Command1};
 }

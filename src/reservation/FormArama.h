@@ -30,7 +30,7 @@ struct FormArama {
     void Liste_DblClick();
 
     Metin baslik = u"Kayıt Arama";
-    /// "Adı Soyadı", "Gelin / Damat", "Telefon", "Cep", "Sözleşme No". An empty one takes no part.
+    /// The criteria. An empty one takes no part.
     BirTabanli<MetinKutusu, kOlcutSayisi> Text;
     ListeGorunumu Liste; ///< what was found; the tag of a row is the full path that was opened
     Dugme Command1{u"Detaylar", {}, false};

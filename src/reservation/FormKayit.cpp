@@ -25,8 +25,8 @@ void Ac(MetinKutusu& kutu, bool acik) {
 } // namespace
 
 FormKayit::FormKayit(Program& program) : program_(program) {
-    for (const MetinBakis nitelik : kNitelikler)
-        Kay4Listesi.emplace_back(nitelik);
+    BasliklariKoy();
+    Kay[AnaNo::Niteligi].ogeler.assign(kNitelikler.begin(), kNitelikler.end());
     Kay[AnaNo::Niteligi].metin = kNitelikSeciniz;
     for (const int no : {AnaNo::BaslamaSaati, AnaNo::BitisSaati}) {
         Kay[no].maske = kSaatMaskesi;
@@ -58,7 +58,6 @@ FormKayit::FormKayit(Program& program) : program_(program) {
     }
     Aciklamalar.enUzun = Label20.enUzun = 5000;
     Combo1.tiklandi = [this] { Combo1_Click(); };
-    Liste.basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
     Liste.sayiSutunlari = {1};
     Liste.secimDugmeleri.dugmeler = {&Command7, &Command9};
 }

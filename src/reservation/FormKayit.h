@@ -16,25 +16,6 @@ inline constexpr int kOdemelerSayfasi = 2;
 inline constexpr MetinBakis kNitelikSeciniz = u"Lütfen Seçiniz";
 inline constexpr MetinBakis kMenuSeciniz = u"Menü seçiniz...";
 
-/// The services, by the numbers of their `Check` and `TT` fields less one.
-inline constexpr std::array<MetinBakis, kHizmetSayisi> kHizmetAdlari{u"Yaş Pasta Servisi",
-                                                                     u"Havai Fişek Gösterisi",
-                                                                     u"Yerli İçki Servisi",
-                                                                     u"Yabancı İçki Servisi",
-                                                                     u"Yemek Servisi",
-                                                                     u"Kuru Pasta Servisi",
-                                                                     u"Volkan Konfeti Gösterisi",
-                                                                     u"Barkovizyon",
-                                                                     u"Özel Araç Tahsisi",
-                                                                     u"Araç Süsleme",
-                                                                     u"Gelin Kuaförü",
-                                                                     u"Damat Kuaförü",
-                                                                     u"Orkestra",
-                                                                     u"Sanatçı",
-                                                                     u"Video Çekimleri",
-                                                                     u"Fotoğraf Çekimleri",
-                                                                     u"Dj / Ara Disko"};
-
 /// "Yeni Kayıt" / "Kayıt Düzenle": the one screen on which a reservation is entered and changed. `Load`
 /// prepares a new record; who opens an existing one sets `KayitAc` and the fields afterwards (`KayitYukle`).
 ///
@@ -78,20 +59,20 @@ struct FormKayit {
     void Kaydet() const; ///< writes `OdemeDosyasi`; an empty list leaves no file
 
     Metin baslik = u"Yeni Kayıt";
-    int SSTab1 = 1; ///< the page shown, 1 to 4: "Genel Bilgiler ", "Ödemeler", "Menüler", "Hizmetler"
+    std::array<Metin, 4> sayfalar{u"Genel Bilgiler ", u"Ödemeler", u"Menüler", u"Hizmetler"};
+    int SSTab1 = 1; ///< the page shown, 1 to 4
 
     int KayitAc = 0; ///< 1: an existing record. Set by who opens one.
     int Basildi = 0; ///< 1: saved in this opening
     Metin Tag;       ///< path of the main file of an existing record
 
     Metin Tarih; ///< day file name of the record
-    /// The fields by their numbers. `Kay[4]` is an editable combo: what it offers stands in `Kay4Listesi`.
-    BirTabanli<MetinKutusu, kKaySayisi> Kay;
-    std::vector<Metin> Kay4Listesi;
-    OnayKutusu Option1; ///< "Kesin Rezervasyon"
-    OnayKutusu Option2; ///< "Ön Rezervasyon"
-    OnayKutusu Check18; ///< "Yaklaşınca Hatırlat"
-    OnayKutusu Check19; ///< "Bu Tarihte Hatırlat"
+    Metin tarihBaslik = u"Rezervasyon Tarihi";
+    BirTabanli<MetinKutusu, kKaySayisi> Kay; ///< the fields by their numbers; `Kay[4]` is an editable list
+    OnayKutusu Option1;                      ///< "Kesin Rezervasyon"
+    OnayKutusu Option2;                      ///< "Ön Rezervasyon"
+    OnayKutusu Check18;                      ///< "Yaklaşınca Hatırlat"
+    OnayKutusu Check19;                      ///< "Bu Tarihte Hatırlat"
 
     ListeGorunumu Liste; ///< payments: "Tarih", "Tutar", "Açıklama"
     Etiket Kayam9;       ///< `Kay9` for the eye
@@ -121,6 +102,7 @@ struct FormKayit {
     bool NumaraVar(const Metin& no) const;
     bool NumaraUygun();
     void AlanaDon(int no, const Metin& mesaj);
+    void BasliklariKoy();
     void KlasoruVeKayitlariYaz();
     AnaKayit Ana() const;
     DetayKaydi Detay() const;

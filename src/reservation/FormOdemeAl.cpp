@@ -8,6 +8,9 @@
 namespace velora {
 
 FormOdemeAl::FormOdemeAl(Program& program) : program_(program) {
+    DTPicker1.baslik = u"Tarih Seçin";
+    Text1.baslik = u"Miktar Girin";
+    Aciklama.baslik = u"Açıklama";
     Text1.enUzun = 6;
     Text1.suzgec = YalnizRakam;
 }

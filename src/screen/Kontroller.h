@@ -51,12 +51,17 @@ struct Yer {
     bool operator==(const Yer&) const = default;
 };
 
+// What stands on a control or beside it is the screen's to say, a window shows it. Where no label stands
+// beside a field, its `baslik` is what the field is called for those who can't see it.
+
 struct Etiket {
-    Metin baslik;
+    Metin baslik; ///< its text
     bool gorunur = true;
     RenkDegeri zemin = kBeyaz;
     RenkDegeri yazi = 0;
     Yer yer;
+    Metin once{};  ///< what a text that changes says: stands before it
+    Metin sonra{}; ///< stands behind it, as "TL"
 };
 
 struct MetinKutusu {
@@ -71,6 +76,9 @@ struct MetinKutusu {
     bool odaktaSecilir = false; ///< its whole text is selected when it gets the focus
     /// The characters that typing and pasting let through; null for all of them.
     bool (*suzgec)(char16_t) = nullptr;
+    std::vector<Metin> ogeler{}; ///< what an editable list offers to choose from
+    Metin baslik{};              ///< its label
+    Metin sonra{};               ///< stands behind it, as "TL"
 };
 
 /// A box with a tick. `deger` is 0 or 1; a file may bring another number, which then stands as it is.
@@ -108,6 +116,7 @@ struct TarihSecici {
     Gun deger{};
     std::optional<Gun> enKucuk; ///< the first day that can be chosen; with none, any day
     std::optional<Gun> enBuyuk; ///< the last one
+    Metin baslik{};             ///< its label
 
     /// From here on only the days from `ilk` to `son` can be chosen. A value outside goes to the nearer end.
     void Sinirla(const Gun& ilk, const Gun& son);
@@ -120,6 +129,7 @@ struct AcilirListe {
     Metin serbest;   ///< with no entry chosen: the text that stands in the field all the same
     bool etkin = true;
     std::function<void()> tiklandi; ///< the screen's handler, set by the screen
+    Metin baslik{};                 ///< its label
 
     /// What the field shows: the chosen entry or the free text.
     Metin Metni() const { return secili < 0 ? serbest : ogeler[static_cast<std::size_t>(secili)]; }
@@ -158,6 +168,7 @@ struct SecimDugmeleri {
 struct ListeKutusu {
     std::vector<Metin> ogeler;
     int secili = -1; ///< index of the marked entry, -1 for none
+    Metin baslik{};  ///< its label
     SecimDugmeleri secimDugmeleri{};
 
     /// The marked entry's text, empty for none.
@@ -177,6 +188,7 @@ struct ListeGorunumu {
     std::vector<ListeSatiri> satirlar;
     int secili = -1;                  ///< index of the marked row, -1 for none
     std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
+    Metin baslik{};                   ///< its label
     SecimDugmeleri secimDugmeleri{};
 
     /// The marked row, null for none.

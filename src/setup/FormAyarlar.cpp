@@ -60,6 +60,10 @@ void FormAyarlar::BasliklariKoy() {
                                                 u"Eylül", u"Ekim",    u"Kasım",  u"Aralık"};
     for (int ay = 1; ay <= BirTabanli<OnayKutusu, 12>::kAdet; ++ay)
         Aylar[ay].baslik = kAylar[static_cast<std::size_t>(ay - 1)];
+    UyariGun.baslik = u"Kesin rezervasyonların tarihine";
+    UyariGun2.baslik = u"Ön rezervasyonların tarihine";
+    UyariGun.sonra = UyariGun2.sonra = u"gün kaldığında hatırlat.";
+    GunduzGece.baslik = u"Yarı Gün Sıralaması";
     Check1.baslik = u"Geçmiş Günler";
     Check2.baslik = u"Sözleşme numaralarını otomatik olarak ata.";
     Check3.baslik = u"Tabloda Görünecek Aylar";

@@ -51,20 +51,16 @@ struct FormAyarlar {
     std::array<RenkDegeri, kRenkSayisi> renkler{};
     MetinKutusu UyariGun;
     MetinKutusu UyariGun2; ///< takes any character, unlike `UyariGun`, as is meant
-    Metin uyariGunBaslik = u"Kesin rezervasyonların tarihine"; ///< before the field `UyariGun`
-    Metin uyariGun2Baslik = u"Ön rezervasyonların tarihine";
-    Metin uyariGunSonu = u"gün kaldığında hatırlat."; ///< behind either field
-    OnayKutusu Check1;                                ///< past days are painted
-    OnayKutusu Check2;                                ///< contract numbers are given automatically
-    OnayKutusu Check3;                                ///< the box over all months
-    OnayKutusu Check4;                                ///< hidden: the slot order was changed
-    OnayKutusu Check5;                                ///< holidays are painted
-    OnayKutusu Check6;                                ///< the pointer shows the day
-    OnayKutusu Check7;                                ///< no contract numbers at all
+    OnayKutusu Check1;     ///< past days are painted
+    OnayKutusu Check2;     ///< contract numbers are given automatically
+    OnayKutusu Check3;     ///< the box over all months
+    OnayKutusu Check4;     ///< hidden: the slot order was changed
+    OnayKutusu Check5;     ///< holidays are painted
+    OnayKutusu Check6;     ///< the pointer shows the day
+    OnayKutusu Check7;     ///< no contract numbers at all
 
     /// "Yarı Gün Sıralaması": one of two items. A file may bring a third text, which stands as it is.
     AcilirListe GunduzGece;
-    Metin gunduzGeceBaslik = u"Yarı Gün Sıralaması";
 
     BirTabanli<OnayKutusu, 12> Aylar;
     Dugme Command1;

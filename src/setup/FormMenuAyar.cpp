@@ -10,6 +10,7 @@ namespace velora {
 namespace {} // namespace
 
 FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
+    Liste.baslik = baslik;
     Liste.basliklar = {u"Menü Adı", u"Menü İçeriği"};
     Command1.baslik = u"Ekle";
     Command2.baslik = u"Sil";

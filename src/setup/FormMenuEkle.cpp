@@ -9,8 +9,8 @@
 namespace velora {
 
 FormMenuEkle::FormMenuEkle(Program& program) : program_(program) {
-    Label1.baslik = u"Menü Adı";
-    Label2.baslik = u"İçerik";
+    Label1.baslik = Text1.baslik = u"Menü Adı";
+    Label2.baslik = Text2.baslik = u"İçerik";
     Command3.baslik = u"İptal";
     Command4.baslik = u"Tamam";
 }

@@ -33,6 +33,13 @@ int Bilesen(const MetinKutusu& kutu) {
 FormRenk::FormRenk(Program& program) : program_(program) {
     for (MetinKutusu* kutu : {&txtRed, &txtGreen, &txtBlue, &txtWeb, &txtHex, &txtTers})
         kutu->metin = u"0";
+    picColorBox.once = u"Seçilen renk";
+    txtRed.baslik = u"R";
+    txtGreen.baslik = u"G";
+    txtBlue.baslik = u"B";
+    txtWeb.baslik = u"Web Value";
+    txtHex.baslik = u"Hex Value";
+    txtTers.baslik = u"Ters değer";
     Command1.baslik = u"Tamam";
     Command2.baslik = u"İptal";
 }

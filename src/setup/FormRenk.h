@@ -23,6 +23,7 @@ struct FormRenk {
     void Command2_Click(); ///< "İptal"
 
     Metin baslik = u"Renk Seçiniz";
+    Metin cizelgeBaslik = u"Renk çizelgesi";
     Metin Tag;          ///< the slot's number
     Etiket picColorBox; ///< the sample
     MetinKutusu txtRed;
@@ -31,11 +32,6 @@ struct FormRenk {
     MetinKutusu txtWeb;  ///< "#", then red, green, blue
     MetinKutusu txtHex;  ///< the colour's value, unpadded: blue, green, red
     MetinKutusu txtTers; ///< "&H", then blue, green, red, "&"
-    Metin redBaslik = u"R";
-    Metin greenBaslik = u"G";
-    Metin blueBaslik = u"B";
-    Metin webBaslik = u"Web Value";
-    Metin hexBaslik = u"Hex Value";
     Dugme Command1;
     Dugme Command2;
 

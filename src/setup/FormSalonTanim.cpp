@@ -33,7 +33,7 @@ FormSalonTanim::FormSalonTanim(Program& program) : program_(program) {
     Command3.baslik = u"Kapat";
     Command4.baslik = u"Düzenle";
     Kaydet.baslik = u"Kaydet";
-    Label8.baslik = u"Salon Tanımları";
+    Label8.baslik = List1.baslik = u"Salon Tanımları";
     List1.secimDugmeleri.dugmeler = {&Command2, &Command4};
 }
 

@@ -52,7 +52,7 @@ void AdiDegistir(std::vector<Metin>& ogeler, double sira, const Metin& yeni) {
 } // namespace
 
 FormSalonTanimAd::FormSalonTanimAd(Program& program) : program_(program) {
-    Label1.baslik = u"Salon Adı";
+    Label1.baslik = Text1.baslik = u"Salon Adı";
     Label2.gorunur = false;
     Command1.baslik = u"Tamam";
     Command2.baslik = u"İptal";

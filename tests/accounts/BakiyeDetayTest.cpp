@@ -73,9 +73,8 @@ TEST_F(BakiyeDetay, Payments_shown_and_saved_are_those_of_the_rows_day_wherever_
 }
 
 TEST_F(BakiyeDetay, The_table_goes_to_the_hall_of_the_report_before_the_record_opens) {
-    agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni({.ad = u"B Müşterisi"}));
-    agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
-    agac.Koy(u"Salon B/2012/05.02.2012 - Gece-Odeme", "\"01.02.2012\",\"9\",\"x\"\r\n");
+    KayitKoy(agac, u"Salon B/2012/05.02.2012 - Gece", {.ad = u"B Müşterisi"}, false,
+             u"\"01.02.2012\",\"9\",\"x\"\r\n");
     RaporAc([&] {
         Aralik(u"01.01.2012", u"31.12.2012");
         ListedenSec(Rapor().Combo2, u"Salon B");
@@ -116,8 +115,7 @@ TEST_F(BakiyeDetay, The_table_that_is_in_that_hall_already_is_not_scanned_again)
 }
 
 TEST_F(BakiyeDetay, The_record_that_was_clicked_opens_though_the_list_is_made_anew_meanwhile) {
-    agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni({.ad = u"B Müşterisi"}));
-    agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
+    KayitKoy(agac, u"Salon B/2012/05.02.2012 - Gece", {.ad = u"B Müşterisi"});
     Metin acilan;
     RaporAc([&] {
         Aralik(u"01.01.2012", u"31.12.2012");

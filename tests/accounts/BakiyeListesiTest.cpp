@@ -80,8 +80,7 @@ TEST_F(BakiyeListesi, Each_type_lists_its_own_and_a_record_in_neither_state_is_a
 
 TEST_F(BakiyeListesi, The_hall_and_year_are_those_of_the_report_and_the_table) {
     RezervasyonKoy(u"20.06.2012 - Gece");
-    agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece", AnaMetni());
-    agac.KoyMetin(u"Salon B/2012/05.02.2012 - Gece-Detay", DetayMetni(false));
+    KayitKoy(agac, u"Salon B/2012/05.02.2012 - Gece");
     YiliListele([&] {
         ListedenSec(Rapor().Combo2, u"Salon B");
         Rapor().ListeleGun();

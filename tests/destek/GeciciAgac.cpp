@@ -14,14 +14,15 @@ namespace fs = std::filesystem;
 GeciciAgac::GeciciAgac() {
     std::random_device rastgele;
     do
-        kok_ = fs::temp_directory_path() /
-               fs::path(u"Düğün Salonu " + SayiMetni(rastgele()) + u" ığüşöç İĞÜŞÖÇ");
-    while (!fs::create_directory(kok_));
+        disi_ = fs::temp_directory_path() / ("velora-" + std::to_string(rastgele()));
+    while (!fs::create_directory(disi_));
+    kok_ = disi_ / fs::path(u"Düğün Salonu ığüşöç İĞÜŞÖÇ");
+    fs::create_directory(kok_);
 }
 
 GeciciAgac::~GeciciAgac() {
     std::error_code hata;
-    fs::remove_all(kok_, hata);
+    fs::remove_all(disi_, hata);
 }
 
 fs::path GeciciAgac::Yol(MetinBakis yol) const {
@@ -42,8 +43,18 @@ void GeciciAgac::KlasorKoy(MetinBakis yol) const {
 }
 
 std::string GeciciAgac::Bayt(MetinBakis yol) const {
+    return Oku(yol).value_or("");
+}
+
+std::optional<std::string> GeciciAgac::Oku(MetinBakis yol) const {
     std::ifstream dosya(Yol(yol), std::ios::binary);
-    return {std::istreambuf_iterator<char>(dosya), {}};
+    if (!dosya)
+        return {};
+    return std::string(std::istreambuf_iterator<char>(dosya), {});
+}
+
+bool GeciciAgac::Var(MetinBakis yol) const {
+    return fs::exists(Yol(yol));
 }
 
 bool GeciciAgac::DosyaVar(MetinBakis yol) const {

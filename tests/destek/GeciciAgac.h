@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,8 @@ class GeciciAgac {
     GeciciAgac& operator=(const GeciciAgac&) = delete;
 
     const std::filesystem::path& Kok() const { return kok_; }
+    /// The folder above the root, empty but for the root.
+    const std::filesystem::path& Disi() const { return disi_; }
 
     /// A path below the root; `yol` has "/" between its names.
     std::filesystem::path Yol(MetinBakis yol) const;
@@ -27,7 +30,12 @@ class GeciciAgac {
     /// The same with a text, which the file holds in Windows-1254.
     void KoyMetin(MetinBakis yol, MetinBakis metin) const;
     void KlasorKoy(MetinBakis yol) const;
+    /// The bytes of a file, none also when it isn't there.
     std::string Bayt(MetinBakis yol) const;
+    /// The same, with nothing when it isn't there.
+    std::optional<std::string> Oku(MetinBakis yol) const;
+    /// Whether there is anything of this name.
+    bool Var(MetinBakis yol) const;
     bool DosyaVar(MetinBakis yol) const;
     bool KlasorVar(MetinBakis yol) const;
 
@@ -36,6 +44,7 @@ class GeciciAgac {
     std::string Resim() const;
 
   private:
+    std::filesystem::path disi_;
     std::filesystem::path kok_;
 };
 

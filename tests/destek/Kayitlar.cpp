@@ -25,6 +25,14 @@ Metin DetayMetni(bool on) {
     return metin + u"\"Menü seçiniz...\"\r\n\"\"\r\n";
 }
 
+void KayitKoy(const GeciciAgac& agac, const Metin& yol, const OrnekKayit& kayit, bool on,
+              MetinBakis odemeler) {
+    agac.KoyMetin(yol, AnaMetni(kayit));
+    agac.KoyMetin(yol + u"-Detay", DetayMetni(on));
+    if (!odemeler.empty())
+        agac.KoyMetin(yol + u"-Odeme", odemeler);
+}
+
 Metin AyarMetni() {
     return u"32768,16777215,8454143,0,16777215,0,255,16777215,6086641,0,15461355,0,192,16777215,192,16777215,"
            u"255,"

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "destek/GeciciAgac.h"
 #include "storage/Metin.h"
 
 namespace velora::test {
@@ -26,6 +27,9 @@ struct OrnekKayit {
 Metin AnaMetni(const OrnekKayit& kayit = {});
 /// A whole details record in one of the two states.
 Metin DetayMetni(bool on);
+/// Puts a reservation into a tree, with payments when some are given; `yol` is hall/year/day file name.
+void KayitKoy(const GeciciAgac& agac, const Metin& yol, const OrnekKayit& kayit = {}, bool on = false,
+              MetinBakis odemeler = {});
 /// The line of `Settings.dll` with all defaults.
 Metin AyarMetni();
 /// The same with the field of this number, counted from 1, replaced.

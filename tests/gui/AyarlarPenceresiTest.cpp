@@ -37,13 +37,6 @@ int IsaretliAylar(const QWidget& pencere) {
     return adet;
 }
 
-void AlanaYaz(QWidget& pencere, const char* ad, const QString& metin) {
-    auto& alan = Parcasi<QLineEdit>(pencere, ad);
-    alan.setFocus();
-    alan.selectAll();
-    Yaz(metin);
-}
-
 /// Chooses the other slot order with the keys.
 void SirayiDegistir(QWidget& pencere) {
     auto& liste = Parcasi<QComboBox>(pencere, "GunduzGece");

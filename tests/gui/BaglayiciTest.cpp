@@ -13,10 +13,12 @@
 #include <QWheelEvent>
 
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
 #include "qt/QtOrtam.h"
 
 using namespace velora;
+using namespace velora::test;
 
 namespace {
 
@@ -331,7 +333,7 @@ class BaglayiciTest : public QObject {
         QTest::ignoreMessage(QtWarningMsg, "A handler ended early: broken on purpose");
         dugme.click();
         QCOMPARE(dugme.text(), QStringLiteral("yarım"));
-        QVERIFY(!Baglayici::KisaIsSuruyor());
+        QVERIFY(!Baglayici::IsSuruyor());
         QTest::ignoreMessage(QtWarningMsg, "A handler ended early: broken on purpose");
         dugme.click();
         QCOMPARE(sahne.sayi, 2);
@@ -353,7 +355,7 @@ class BaglayiciTest : public QObject {
         QtOrtam disDunya;
         const Ortam ortam = disDunya.Ver();
         QString icerde;
-        QTimer::singleShot(0, &kutu, [&] { icerde = kutu.text(); });
+        Siraya(kutu, [&] { icerde = kutu.text(); });
         sahne.baglayici.Calistir([&] {
             sahne.ekran->metin.metin = u"ara";
             ortam.olaylar.isle();

@@ -6,10 +6,8 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include "accounts/FormBakiye.h"
@@ -27,47 +25,20 @@ using namespace velora::test;
 class BakiyePenceresiTest : public QObject {
     Q_OBJECT
 
-    using Is = std::function<void(QWidget&)>;
-
-    /// Runs `is` as soon as the window of the screen stands, and unloads what is left of it. Loading a screen
-    /// lets events run too, so it may take some of their rounds.
-    template <class Ekran>
-    void Durunca(GuiFirma& firma, EkranAdi ad, Pencere<Ekran>& ekran, const Is& is, int kalan = 100) {
-        QTimer::singleShot(0, this, [this, &firma, ad, &ekran, is, kalan] {
-            QWidget* pencere = firma.disDunya.Pencere(ad);
-            if (pencere == nullptr && kalan > 0) {
-                Durunca(firma, ad, ekran, is, kalan - 1);
-                return;
-            }
-            if (pencere != nullptr)
-                is(*pencere);
-            ekran.Bosalt();
-        });
+    /// F3 on the table; `is` is done on the report, which is then taken away.
+    static void Raporda(GuiFirma& firma, const Is& is) {
+        Pencerede([&] { QTest::keyClick(&firma.Pencere(), Qt::Key_F3); }, {is});
+        firma.program.FormBakiye.Bosalt();
     }
-    /// F3 on the table; `is` is done on the report.
-    void Raporda(GuiFirma& firma, const Is& is) {
-        bool kosuldu = false;
-        Durunca(firma, EkranAdi::FormBakiye, firma.program.FormBakiye, [&](QWidget& pencere) {
-            QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &pencere; }));
-            kosuldu = true;
-            is(pencere);
-        });
-        QTest::keyClick(&firma.Pencere(), Qt::Key_F3);
-        QVERIFY(kosuldu);
-        QVERIFY(!firma.program.FormBakiye.Yuklu());
+    /// `ac` must open the record of this day, which is then taken away.
+    static void KaydiAcmali(GuiFirma& firma, const QString& gun, const std::function<void()>& ac) {
+        Pencerede(ac, {[&](QDialog& kayit) { QCOMPARE(Yazi(kayit, "Tarih"), gun); }});
+        firma.program.FormKayit.Bosalt();
     }
-    template <class Parca>
-    static Parca& Bul(QWidget& pencere, const char* ad) {
-        return *pencere.findChild<Parca*>(QString::fromLatin1(ad));
-    }
-    static QString Yazi(QWidget& pencere, const char* ad) { return Bul<QLabel>(pencere, ad).text(); }
+    static QString Yazi(QWidget& pencere, const char* ad) { return Parcasi<QLabel>(pencere, ad).text(); }
     static bool EtiketVar(const QWidget& pencere, const QString& yazi) {
         return std::ranges::any_of(pencere.findChildren<QLabel*>(),
                                    [&](const QLabel* etiket) { return Isaretsiz(etiket->text()) == yazi; });
-    }
-    /// Where a row of the list stands on its viewport.
-    static QPoint SatirYeri(QTreeWidget& liste, int sira) {
-        return liste.visualItemRect(liste.topLevelItem(sira)).center();
     }
 
   private slots:
@@ -77,14 +48,14 @@ class BakiyePenceresiTest : public QObject {
         firma.Rezervasyon(kSalonA, u"11.05.2026 - Gece", false);
         firma.Rezervasyon(kSalonA, u"12.05.2026 - Gündüz", true);
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
+        Raporda(firma, [&](QDialog& pencere) {
             QCOMPARE(pencere.windowTitle(), QStringLiteral("Rezervasyon Raporu"));
             QCOMPARE(Yazi(pencere, "Toplam"), QStringLiteral(": 0 TL"));
-            auto& tip = Bul<QComboBox>(pencere, "Combo1");
+            auto& tip = Parcasi<QComboBox>(pencere, "Combo1");
             tip.setFocus();
             QTest::keyClick(&tip, Qt::Key_Down);
             QTest::keyClick(&tip, Qt::Key_Return);
-            auto& liste = Bul<QTreeWidget>(pencere, "Liste");
+            auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
             QCOMPARE(liste.topLevelItemCount(), 2);
             QCOMPARE(liste.topLevelItem(1)->text(0), QStringLiteral("12.05.2026 - Gündüz"));
             QCOMPARE(liste.headerItem()->text(9), QStringLiteral("Ön Açıklama"));
@@ -104,7 +75,7 @@ class BakiyePenceresiTest : public QObject {
     void every_control_has_its_caption_also_for_those_who_cannot_see_it() {
         GuiFirma firma;
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
+        Raporda(firma, [&](QDialog& pencere) {
             const std::array yazilar{std::pair{"Combo2", "Salon Adı"},
                                      std::pair{"Combo1", "Rezervasyon Tipi"},
                                      std::pair{"DTPicker1", "Başlangıç Tarihi"},
@@ -118,10 +89,10 @@ class BakiyePenceresiTest : public QObject {
                                      std::pair{"Label18", "Ön Rezervasyon"},
                                      std::pair{"Label19", "Toplam Rezervasyon"}};
             for (const auto& [ad, yazi] : yazilar) {
-                QCOMPARE(Bul<QWidget>(pencere, ad).accessibleName(), QString::fromUtf8(yazi));
+                QCOMPARE(Parcasi<QWidget>(pencere, ad).accessibleName(), QString::fromUtf8(yazi));
                 QVERIFY2(EtiketVar(pencere, QString::fromUtf8(yazi)), yazi);
             }
-            QVERIFY(!Bul<QWidget>(pencere, "Liste").accessibleName().isEmpty());
+            QVERIFY(!Parcasi<QWidget>(pencere, "Liste").accessibleName().isEmpty());
         });
     }
 
@@ -129,20 +100,16 @@ class BakiyePenceresiTest : public QObject {
         GuiFirma firma;
         firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
-            QTest::mouseClick(&Bul<QPushButton>(pencere, "ListeleGun"), Qt::LeftButton);
-            auto& liste = Bul<QTreeWidget>(pencere, "Liste");
-            auto& detay = Bul<QPushButton>(pencere, "Command6");
+        Raporda(firma, [&](QDialog& pencere) {
+            QTest::mouseClick(&Parcasi<QPushButton>(pencere, "ListeleGun"), Qt::LeftButton);
+            auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+            auto& detay = Parcasi<QPushButton>(pencere, "Command6");
             QVERIFY(!detay.isEnabled());
-            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, 0));
+            SatiraTikla(liste, 0);
             QVERIFY(detay.isEnabled());
-            QString gun;
-            Durunca(firma, EkranAdi::FormKayit, firma.program.FormKayit,
-                    [&](QWidget& kayit) { gun = Yazi(kayit, "Tarih"); });
-            QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, 0));
-            QCOMPARE(gun, QStringLiteral("10.05.2026 - Gece"));
+            KaydiAcmali(firma, QStringLiteral("10.05.2026 - Gece"), [&] { SatiraCiftTikla(liste, 0); });
             QVERIFY(!detay.isEnabled());
-            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, 0));
+            SatiraTikla(liste, 0);
             QVERIFY(detay.isEnabled());
         });
     }
@@ -152,18 +119,15 @@ class BakiyePenceresiTest : public QObject {
         firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
         firma.Rezervasyon(kSalonA, u"11.05.2026 - Gece", true);
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
-            Bul<QPushButton>(pencere, "ListeleGun").click();
-            auto& liste = Bul<QTreeWidget>(pencere, "Liste");
+        Raporda(firma, [&](QDialog& pencere) {
+            Parcasi<QPushButton>(pencere, "ListeleGun").click();
+            auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
             liste.setFocus();
             QTest::keyClick(&liste, Qt::Key_Down);
             QTest::keyClick(&liste, Qt::Key_Up);
-            QVERIFY(Bul<QPushButton>(pencere, "Command6").isEnabled());
-            QString gun;
-            Durunca(firma, EkranAdi::FormKayit, firma.program.FormKayit,
-                    [&](QWidget& kayit) { gun = Yazi(kayit, "Tarih"); });
-            QTest::keyClick(&Bul<QPushButton>(pencere, "Command6"), Qt::Key_Space);
-            QCOMPARE(gun, QStringLiteral("10.05.2026 - Gece"));
+            QVERIFY(Parcasi<QPushButton>(pencere, "Command6").isEnabled());
+            KaydiAcmali(firma, QStringLiteral("10.05.2026 - Gece"),
+                        [&] { QTest::keyClick(&Parcasi<QPushButton>(pencere, "Command6"), Qt::Key_Space); });
         });
     }
 
@@ -171,9 +135,9 @@ class BakiyePenceresiTest : public QObject {
         GuiFirma firma;
         firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
-            Bul<QPushButton>(pencere, "ListeleGun").click();
-            Bul<QWidget>(pencere, "Combo2").setFocus();
+        Raporda(firma, [&](QDialog& pencere) {
+            Parcasi<QPushButton>(pencere, "ListeleGun").click();
+            Parcasi<QWidget>(pencere, "Combo2").setFocus();
             for (const char* ad :
                  {"DTPicker1", "Combo1", "DTPicker2", "ListeleGun", "Liste", "Command1", "Combo2"}) {
                 // A date keeps the key for its day, month and year.
@@ -188,11 +152,11 @@ class BakiyePenceresiTest : public QObject {
     void the_dates_refuse_another_year() {
         GuiFirma firma;
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
+        Raporda(firma, [&](QDialog& pencere) {
             const auto model = firma.program.FormBakiye.Tut();
-            auto& ilk = Bul<QDateEdit>(pencere, "DTPicker1");
+            auto& ilk = Parcasi<QDateEdit>(pencere, "DTPicker1");
             QCOMPARE(ilk.date(), QDate(2026, 5, 1));
-            QCOMPARE(Bul<QDateEdit>(pencere, "DTPicker2").date(), QDate(2026, 5, 31));
+            QCOMPARE(Parcasi<QDateEdit>(pencere, "DTPicker2").date(), QDate(2026, 5, 31));
             ilk.setFocus();
             ilk.setCurrentSection(QDateTimeEdit::YearSection);
             QTest::keyClick(&ilk, Qt::Key_Up);
@@ -210,23 +174,17 @@ class BakiyePenceresiTest : public QObject {
     void an_empty_report_says_so_in_a_box() {
         GuiFirma firma;
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
-            QString metin;
-            QTimer::singleShot(0, this, [&] {
-                if (auto* kutu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                    metin = kutu->text();
-                    QTest::keyClick(kutu, Qt::Key_Return);
-                }
-            });
-            Bul<QPushButton>(pencere, "ListeleGun").click();
-            QCOMPARE(metin, QStringLiteral("Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!"));
+        Raporda(firma, [&](QDialog& pencere) {
+            Pencerede(
+                [&] { Parcasi<QPushButton>(pencere, "ListeleGun").click(); },
+                {Mesaj(QStringLiteral("Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!"))});
         });
     }
 
     void escape_closes_it() {
         GuiFirma firma;
         firma.Ac();
-        Raporda(firma, [&](QWidget& pencere) {
+        Raporda(firma, [&](QDialog& pencere) {
             QTest::keyClick(&pencere, Qt::Key_Escape);
             QVERIFY(!firma.program.FormBakiye.Yuklu());
         });

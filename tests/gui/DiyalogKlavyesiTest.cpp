@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <set>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
@@ -12,99 +15,53 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "accounts/FormBakiye.h"
+#include "gui/Diyaloglar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
-#include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
-#include "reservation/FormOdemeAl.h"
-#include "setup/FormMenuAyar.h"
 #include "setup/FormMenuEkle.h"
 #include "setup/FormRenk.h"
-#include "setup/FormSalonTanim.h"
-#include "setup/FormSalonTanimAd.h"
 
 using namespace velora;
 using namespace velora::test;
 
 namespace {
 
-/// A window by the name of its screen, and the controls that Tab walks, the one that has the focus at first
-/// in front.
-struct Sira {
-    const char* pencere;
-    int sayfa; // of its tabs, from 0; -1 without tabs
-    const char* durulan;
-};
+/// Does something in a window of the table, opened over the main screen.
+void Diyalogda(GuiFirma& firma, const Diyalog& diyalog, const Is& is) {
+    Pencerede([&] { diyalog.ac(firma.program); }, {is});
+}
 
-constexpr Sira kSiralar[]{
-    {"FormSalonTanim", -1, "List1 Command1 Command3"},
-    {"FormSalonTanimAd", -1, "Text1 Command1 Command2"},
-    {"FormMenuAyar", -1, "Liste Command1 Command3"},
-    {"FormMenuEkle", -1, "Text1 Text2 Command4 Command3"},
-    {"FormRenk", -1, "txtRed txtGreen txtBlue txtWeb txtHex txtTers Command1 Command2"},
-    {"FormAyarlar", 0,
-     "UyariGun UyariGun2 GunduzGece Check2 Check7 Check6 Check3 Aylar1 Aylar2 Aylar3 Aylar4 Aylar5 Aylar6 "
-     "Aylar7 Aylar8 Aylar9 Aylar10 Aylar11 Aylar12 Command3 Command1 Command4 Command2 qt_tabwidget_tabbar"},
-    {"FormAyarlar", 1,
-     "Renk0 Renk1 Renk2 Renk3 Renk4 Renk5 Renk8 Renk9 Renk10 Renk11 Renk6 Renk7 Renk12 Renk13 Renk19 Renk20 "
-     "Renk21 Renk22 Check5 Renk23 Renk24 Renk14 Renk15 Check1 Renk17 Renk18 Renk16 Command3 Command1 "
-     "Command4 Command2 qt_tabwidget_tabbar"},
-    {"FormKayit", 0,
-     "Kay1 Kay2 Kay3 Kay4 Kay5 Kay6 Kay7 Kay8 Command4 Kay11 Kay12 Kay15 Kay13 Kay14 Kay16 Kay17 Option1 "
-     "Check18 Check19 Command1 Command2 qt_tabwidget_tabbar"},
-    {"FormKayit", 1, "Liste Command8 Command1 Command2 qt_tabwidget_tabbar"},
-    {"FormKayit", 2, "Combo1 Label20 Aciklamalar Command1 Command2 qt_tabwidget_tabbar"},
-    {"FormKayit", 3,
-     "Check1 Check2 Check3 Check4 Check5 Check6 Check7 Check8 Check9 Check10 Check11 Check12 Check13 Check14 "
-     "Check15 Check16 Check17 Command1 Command2 qt_tabwidget_tabbar"},
-    {"FormOdemeAl", -1, "Text1 Aciklama Command2 DTPicker1"},
-    {"FormArama", -1, "Text1 Text2 Text3 Text4 Text5 Command3 Liste Command2"},
-    {"FormBakiye", -1, "Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command1"},
-};
+/// The number of its pages; a window without tabs is one.
+int SayfaSayisi(const QDialog& pencere) {
+    const auto* sayfalar = pencere.findChild<QTabWidget*>();
+    return sayfalar == nullptr ? 1 : sayfalar->count();
+}
 
-/// A window, the button that Enter presses from a field, and the one that cancels.
-struct Dugmeler {
-    const char* pencere;
-    const char* dolu;
-    const char* iptal;
-};
+using Ekranlar = std::set<EkranAdi>;
 
-constexpr Dugmeler kDugmeler[]{
-    {"FormSalonTanim", "Command1", "Command3"}, {"FormSalonTanimAd", "Command1", "Command2"},
-    {"FormMenuAyar", "Command1", "Command3"},   {"FormMenuEkle", "Command4", "Command3"},
-    {"FormAyarlar", "Command1", "Command2"},    {"FormRenk", "Command1", "Command2"},
-    {"FormKayit", "Command1", "Command2"},      {"FormOdemeAl", "Command1", "Command2"},
-    {"FormArama", "Command3", "Command2"},      {"FormBakiye", "ListeleGun", "Command1"},
-};
+/// The names of the screens that are in the first set only.
+QString Farki(const Ekranlar& bir, const Ekranlar& iki) {
+    QStringList kalanlar;
+    for (const EkranAdi ekran : bir)
+        if (!iki.contains(ekran))
+            kalanlar << QMetin(EkranBul(ekran).ad);
+    return kalanlar.join(u' ');
+}
+
+/// The screens that the program can make a window for.
+Ekranlar Taninanlar(const GuiFirma& firma) {
+    const auto taninanlar = firma.disDunya.Taninanlar();
+    return {taninanlar.begin(), taninanlar.end()};
+}
 
 /// A new reservation would ask before it is dropped.
 void SorusuzKapansin(Program& program) {
     if (program.FormKayit.Yuklu())
         program.FormKayit->KayitAc = 1;
-}
-
-/// Opens a screen's window as another screen does.
-void Ac(Program& program, const QString& ad) {
-    const QMap<QString, std::function<void()>> acanlar{
-        {"FormSalonTanim", [&] { program.FormSalonTanim.GosterModal(); }},
-        {"FormSalonTanimAd", [&] { program.FormSalonTanimAd.GosterModal(); }},
-        {"FormMenuAyar", [&] { program.FormMenuAyar.GosterModal(); }},
-        {"FormMenuEkle",
-         [&] {
-             program.FormMenuEkle->Text1.metin = u"a";
-             program.FormMenuEkle->Text1_Change();
-             program.FormMenuEkle.GosterModal();
-         }},
-        {"FormAyarlar", [&] { program.FormAyarlar.GosterModal(); }},
-        {"FormRenk", [&] { program.FormRenk.GosterModal(); }},
-        {"FormKayit", [&] { program.FormKayit.GosterModal(); }},
-        {"FormOdemeAl", [&] { program.FormOdemeAl.GosterModal(); }},
-        {"FormArama", [&] { program.FormArama.GosterModal(); }},
-        {"FormBakiye", [&] { program.FormBakiye.GosterModal(); }}};
-    acanlar[ad]();
 }
 
 /// The Tab key until it leaves the control: a date takes it for its day, month and year first.
@@ -113,6 +70,26 @@ void SonrakineGit() {
     const int enCok = qobject_cast<QDateEdit*>(alan) == nullptr ? 1 : 3;
     for (int i = 0; i < enCok && QApplication::focusWidget() == alan; ++i)
         Tusla(Qt::Key_Tab);
+}
+
+void SayfayaGec(const QDialog& pencere, int sayfa) {
+    if (auto* sayfalar = pencere.findChild<QTabWidget*>())
+        sayfalar->setCurrentIndex(sayfa);
+}
+
+/// From the first of `beklenen` the Tab key leads once around.
+void TabGezmeli(const QDialog& pencere, int sayfa, const QStringList& beklenen) {
+    if (sayfa > 0) {
+        SayfayaGec(pencere, sayfa);
+        Parcasi<QWidget>(pencere, qPrintable(beklenen.front())).setFocus();
+    }
+    QStringList durulan;
+    for (qsizetype i = 0; i < beklenen.size(); ++i) {
+        durulan << Odaktaki();
+        SonrakineGit();
+    }
+    QCOMPARE(durulan, beklenen);
+    QCOMPARE(Odaktaki(), beklenen.front());
 }
 
 /// The captions on the display that can have an access key.
@@ -153,27 +130,43 @@ class DiyalogKlavyesiTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void the_screens_that_the_list_gives_a_window_are_the_ones_that_have_one() {
+        const GuiFirma firma;
+        Ekranlar listedekiler;
+        for (const EkranKaydi& kayit : kEkranlar)
+            if (kayit.tur == EkranTuru::Pencereli)
+                listedekiler.insert(kayit.ekran);
+        QCOMPARE(Farki(listedekiler, Taninanlar(firma)), QString());
+        QCOMPARE(Farki(Taninanlar(firma), listedekiler), QString());
+    }
+
+    void every_window_but_the_main_one_has_its_row_here() {
+        const GuiFirma firma;
+        Ekranlar satirlar{EkranAdi::FormTablo}; // its keys have a test of their own
+        for (const Diyalog& diyalog : kDiyaloglar)
+            satirlar.insert(diyalog.ekran);
+        QCOMPARE(satirlar.size(), std::size(kDiyaloglar) + 1);
+        QCOMPARE(Farki(Taninanlar(firma), satirlar), QString()); // windows without a row
+        QCOMPARE(Farki(satirlar, Taninanlar(firma)), QString()); // rows without a window
+    }
+
     void on_each_page_each_caption_has_an_access_key_of_its_own() {
         GuiFirma firma;
         firma.Ac();
-        for (const char* ad :
-             {"FormSalonTanim", "FormSalonTanimAd", "FormMenuAyar", "FormMenuEkle", "FormAyarlar", "FormRenk",
-              "FormKayit", "FormOdemeAl", "FormArama", "FormBakiye"})
-            Pencerede([&] { Ac(firma.program, ad); }, {[](QDialog& pencere) {
-                          QVERIFY(Yazilar(pencere).size() >= 2);
-                          auto* sayfalar = pencere.findChild<QTabWidget*>();
-                          for (int i = 0; i < (sayfalar == nullptr ? 1 : sayfalar->count()); ++i) {
-                              if (sayfalar != nullptr)
-                                  sayfalar->setCurrentIndex(i);
-                              TuslariAyriOlmali(pencere);
-                          }
-                      }});
+        for (const Diyalog& diyalog : kDiyaloglar)
+            Diyalogda(firma, diyalog, [](QDialog& pencere) {
+                QVERIFY(Yazilar(pencere).size() >= 2);
+                for (int i = 0; i < SayfaSayisi(pencere); ++i) {
+                    SayfayaGec(pencere, i);
+                    TuslariAyriOlmali(pencere);
+                }
+            });
     }
 
     void the_captions_of_the_screens_know_no_marks() {
         GuiFirma firma;
         firma.Ac();
-        Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[&](QDialog& pencere) {
+        Pencerede([&] { firma.program.FormAyarlar.GosterModal(); }, {[&](QDialog& pencere) {
                       const auto ekran = firma.program.FormAyarlar.Tut();
                       QVERIFY(Parcasi<QPushButton>(pencere, "Command2").text() == QStringLiteral("İ&ptal"));
                       QCOMPARE(ekran->Command2.baslik, Metin(u"İptal"));
@@ -184,59 +177,56 @@ class DiyalogKlavyesiTest : public QObject {
     }
 
     void tab_walks_the_fields_and_the_buttons_in_their_order() {
-        for (const Sira& sira : kSiralar) {
-            GuiFirma firma;
-            firma.Ac();
-            Pencerede([&] { Ac(firma.program, sira.pencere); }, {[&](QDialog& pencere) {
-                          const QStringList beklenen = QString(sira.durulan).split(u' ');
-                          if (sira.sayfa > 0) {
-                              pencere.findChild<QTabWidget*>()->setCurrentIndex(sira.sayfa);
-                              Parcasi<QWidget>(pencere, qPrintable(beklenen.front())).setFocus();
-                          }
-                          QStringList durulan;
-                          for (qsizetype i = 0; i < beklenen.size(); ++i) {
-                              durulan << Odaktaki();
-                              SonrakineGit();
-                          }
-                          QCOMPARE(durulan, beklenen);
-                          QCOMPARE(Odaktaki(), beklenen.front());
-                      }});
+        for (const Diyalog& diyalog : kDiyaloglar) {
+            int sayfaSayisi = 1;
+            for (int sayfa = 0; sayfa < sayfaSayisi; ++sayfa) {
+                GuiFirma firma;
+                firma.Ac();
+                Diyalogda(firma, diyalog, [&](QDialog& pencere) {
+                    sayfaSayisi = SayfaSayisi(pencere);
+                    const char* satir = diyalog.sayfalar.at(static_cast<std::size_t>(sayfa));
+                    QVERIFY2(satir != nullptr, qPrintable(pencere.windowTitle()));
+                    TabGezmeli(pencere, sayfa, QString(satir).split(u' '));
+                });
+            }
+            const auto fazla = diyalog.sayfalar.begin() + sayfaSayisi;
+            QVERIFY(std::all_of(fazla, diyalog.sayfalar.end(), [](const char* s) { return s == nullptr; }));
         }
     }
 
     void each_window_has_one_button_for_enter_and_escape_cancels() {
         GuiFirma firma;
         firma.Ac();
-        for (const Dugmeler& dugmeler : kDugmeler)
-            Pencerede([&] { Ac(firma.program, dugmeler.pencere); }, {[&](QDialog& pencere) {
-                          QStringList bulunan;
-                          for (const auto* dugme : pencere.findChildren<QPushButton*>())
-                              if (dugme->isDefault())
-                                  bulunan << dugme->objectName();
-                          QCOMPARE(bulunan, QStringList{dugmeler.dolu});
-                          SorusuzKapansin(firma.program);
-                          QTest::keyClick(&pencere, Qt::Key_Escape);
-                          QVERIFY(!pencere.isVisible());
-                      }});
+        for (const Diyalog& diyalog : kDiyaloglar)
+            Diyalogda(firma, diyalog, [&](QDialog& pencere) {
+                QStringList bulunan;
+                for (const auto* dugme : pencere.findChildren<QPushButton*>())
+                    if (dugme->isDefault())
+                        bulunan << dugme->objectName();
+                QCOMPARE(bulunan, QStringList{diyalog.dolu});
+                SorusuzKapansin(firma.program);
+                QTest::keyClick(&pencere, Qt::Key_Escape);
+                QVERIFY(!pencere.isVisible());
+            });
     }
 
     void enter_on_the_button_that_cancels_presses_that_one() {
         GuiFirma firma;
         firma.Ac();
-        for (const Dugmeler& dugmeler : kDugmeler)
-            Pencerede([&] { Ac(firma.program, dugmeler.pencere); }, {[&](QDialog& pencere) {
-                          SorusuzKapansin(firma.program);
-                          Parcasi<QPushButton>(pencere, dugmeler.iptal).setFocus();
-                          // A box would come out of another button.
-                          Pencerede([] { Tusla(Qt::Key_Return); }, {});
-                          QVERIFY2(!pencere.isVisible(), dugmeler.pencere);
-                      }});
+        for (const Diyalog& diyalog : kDiyaloglar)
+            Diyalogda(firma, diyalog, [&](QDialog& pencere) {
+                SorusuzKapansin(firma.program);
+                Parcasi<QPushButton>(pencere, diyalog.iptal).setFocus();
+                // A box would come out of another button.
+                Pencerede([] { Tusla(Qt::Key_Return); }, {});
+                QVERIFY2(!pencere.isVisible(), qPrintable(pencere.windowTitle()));
+            });
     }
 
     void after_delete_and_edit_the_list_has_the_focus_and_enter_still_adds() {
         GuiFirma firma;
         firma.Ac();
-        Pencerede([&] { Ac(firma.program, "FormSalonTanim"); }, {[](QDialog& pencere) {
+        Pencerede([&] { firma.program.FormSalonTanim.GosterModal(); }, {[](QDialog& pencere) {
                       for (const Qt::Key tus : {Qt::Key_D, Qt::Key_I}) {
                           QCOMPARE(Odaktaki(), QStringLiteral("List1"));
                           QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
@@ -260,14 +250,14 @@ class DiyalogKlavyesiTest : public QObject {
     void access_keys_lead_to_fields_press_buttons_and_turn_pages() {
         GuiFirma firma;
         firma.Ac();
-        Pencerede([&] { Ac(firma.program, "FormMenuEkle"); }, {[](QDialog& pencere) {
+        Pencerede([&] { AdliMenuEkleAc(firma.program); }, {[](QDialog& pencere) {
                       Parcasi<QPushButton>(pencere, "Command3").setFocus();
                       AltIle(Qt::Key_M);
                       QCOMPARE(Odaktaki(), QStringLiteral("Text1"));
                       AltIle(Qt::Key_P);
                       Kapanincaya(pencere);
                   }});
-        Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[](QDialog& pencere) {
+        Pencerede([&] { firma.program.FormAyarlar.GosterModal(); }, {[](QDialog& pencere) {
                       const auto& ekim = Parcasi<QCheckBox>(pencere, "Aylar10");
                       QVERIFY(ekim.isChecked());
                       AltIle(Qt::Key_E);
@@ -280,7 +270,7 @@ class DiyalogKlavyesiTest : public QObject {
     void the_key_of_a_colour_row_opens_the_picker_for_its_ground() {
         GuiFirma firma;
         firma.Ac();
-        Pencerede([&] { Ac(firma.program, "FormAyarlar"); }, {[&](QDialog& pencere) {
+        Pencerede([&] { firma.program.FormAyarlar.GosterModal(); }, {[&](QDialog& pencere) {
                       AltIle(Qt::Key_A);
                       bool kosuldu = false;
                       const auto ac = [&] {
@@ -299,7 +289,7 @@ class DiyalogKlavyesiTest : public QObject {
     void a_caption_that_changes_while_the_window_stands_is_marked_again() {
         GuiFirma firma;
         firma.Ac();
-        Pencerede([&] { Ac(firma.program, "FormMenuEkle"); }, {[&](QDialog& pencere) {
+        Pencerede([&] { AdliMenuEkleAc(firma.program); }, {[&](QDialog& pencere) {
                       const auto& dugme = Parcasi<QPushButton>(pencere, "Command4");
                       QCOMPARE(dugme.text(), QStringLiteral("&Tamam"));
                       firma.program.FormMenuEkle->Command4.baslik = u"Değiştir";

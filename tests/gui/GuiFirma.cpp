@@ -35,10 +35,8 @@ Ortam GuiFirma::Dis() {
 }
 
 void GuiFirma::Rezervasyon(MetinBakis salon, MetinBakis gunAnahtari, bool on) const {
-    const Metin yil = Metin(gunAnahtari.substr(6, 4));
-    const Metin yol = Metin(salon) + u"/" + yil + u"/" + Metin(gunAnahtari);
-    agac.KoyMetin(yol, AnaMetni());
-    agac.KoyMetin(yol + u"-Detay", DetayMetni(on));
+    const MetinBakis yil = gunAnahtari.substr(6, 4);
+    KayitKoy(agac, Metin(salon) + u"/" + Metin(yil) + u"/" + Metin(gunAnahtari), {}, on);
 }
 
 void GuiFirma::Ac(QSize boy) {

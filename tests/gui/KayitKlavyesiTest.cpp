@@ -26,7 +26,8 @@ class KayitKlavyesiTest : public QObject {
             Tusla(Qt::Key_Tab);
         QCOMPARE(Odaktaki(), QString::fromLatin1(ad));
     }
-    static void AlanaYaz(const char* ad, const QString& metin) {
+    /// Types into a field that Tab leads to.
+    static void TablaYaz(const char* ad, const QString& metin) {
         AlanaGit(ad);
         Yaz(metin);
     }
@@ -46,8 +47,8 @@ class KayitKlavyesiTest : public QObject {
                         QCOMPARE(Odaktaki(), QStringLiteral("Kay1"));
                         Yaz(QStringLiteral("ali veli"));
                         NiteligiSec(pencere);
-                        AlanaYaz("Kay15", QStringLiteral("2330"));
-                        AlanaYaz("Kay8", QStringLiteral("1500"));
+                        TablaYaz("Kay15", QStringLiteral("2330"));
+                        TablaYaz("Kay8", QStringLiteral("1500"));
                         Tusla(ErisimTusu(Parcasi<QPushButton>(pencere, "Command1")), Qt::AltModifier);
                         Kapanincaya(pencere);
                     }});
@@ -69,7 +70,7 @@ class KayitKlavyesiTest : public QObject {
                 Tusla(Qt::Key_Tab);
                 QCOMPARE(QMetin(model->Kay[12].metin), QStringLiteral("00:00"));
                 QCOMPARE(Parcasi<QLineEdit>(pencere, "Kay12").displayText(), QStringLiteral("00:00"));
-                AlanaYaz("Kay15", QStringLiteral("9999"));
+                TablaYaz("Kay15", QStringLiteral("9999"));
                 Tusla(Qt::Key_Tab);
                 QCOMPARE(QMetin(model->Kay[15].metin), QStringLiteral("99:99"));
                 Pencerede([] { Tusla(Qt::Key_Escape); },
@@ -115,7 +116,7 @@ class KayitKlavyesiTest : public QObject {
         YeniKayitta(firma, kGun, {[&](QDialog& pencere) {
                         Yaz(QStringLiteral("ali veli"));
                         NiteligiSec(pencere);
-                        AlanaYaz("Kay15", QStringLiteral("2330"));
+                        TablaYaz("Kay15", QStringLiteral("2330"));
                         const auto kapat = [&](const char* cevap) {
                             AlanaGit("Command2");
                             Pencerede(

@@ -1,20 +1,18 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Ceviri.h"
 #include "reservation/FormKayit.h"
-#include "reservation/KayitYukle.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -23,33 +21,15 @@ using namespace velora::test;
 class KayitPenceresiTest : public QObject {
     Q_OBJECT
 
-    /// Shows the screen as a new record, runs `is` while it stands, and unloads it.
-    void YeniKayitta(GuiFirma& firma, const std::function<void(QWidget&)>& is) {
-        bool kosuldu = false;
-        firma.program.FormKayit.Tut(); // loading lets events run, the timer's among them
-        QTimer::singleShot(0, this, [&] {
-            if (QWidget* pencere = firma.disDunya.Pencere(EkranAdi::FormKayit)) {
-                kosuldu = true;
-                is(*pencere);
-            }
-            firma.program.FormKayit.Bosalt();
-        });
-        firma.program.FormKayit.GosterModal();
-        QVERIFY(kosuldu);
-    }
-    template <class Parca>
-    static Parca& Bul(QWidget& pencere, const char* ad) {
-        return *pencere.findChild<Parca*>(QString::fromLatin1(ad));
-    }
+    static void Kayitta(GuiFirma& firma, const Is& is) { YeniKayitta(firma, u"20.06.2026 - Gece", {is}); }
 
   private slots:
     void an_empty_or_half_filled_mask_keeps_its_prompt_signs_in_the_model() {
         GuiFirma firma;
-        firma.Ac();
-        YeniKayitta(firma, [&](QWidget& pencere) {
+        Kayitta(firma, [&](QDialog& pencere) {
             const auto model = firma.program.FormKayit.Tut();
             QCOMPARE(QMetin(model->Kay[15].metin), QStringLiteral("__:__"));
-            auto& saat = Bul<QLineEdit>(pencere, "Kay15");
+            auto& saat = Parcasi<QLineEdit>(pencere, "Kay15");
             saat.setFocus();
             saat.setCursorPosition(0);
             QTest::keyClicks(&saat, QStringLiteral("2"));
@@ -61,10 +41,9 @@ class KayitPenceresiTest : public QObject {
 
     void the_price_takes_digits_only_typed_or_pasted_and_six_of_them() {
         GuiFirma firma;
-        firma.Ac();
-        YeniKayitta(firma, [&](QWidget& pencere) {
+        Kayitta(firma, [&](QDialog& pencere) {
             const auto model = firma.program.FormKayit.Tut();
-            auto& ucret = Bul<QLineEdit>(pencere, "Kay8");
+            auto& ucret = Parcasi<QLineEdit>(pencere, "Kay8");
             ucret.setFocus();
             QTest::keyClicks(&ucret, QStringLiteral("1a,5."));
             QCOMPARE(QMetin(model->Kay[8].metin), QStringLiteral("15"));
@@ -76,15 +55,11 @@ class KayitPenceresiTest : public QObject {
 
     void a_sign_outside_the_code_page_is_dropped_when_typed_and_asked_for_when_pasted() {
         GuiFirma firma;
-        firma.Ac();
-        YeniKayitta(firma, [&](QWidget& pencere) {
+        Kayitta(firma, [&](QDialog& pencere) {
             const auto model = firma.program.FormKayit.Tut();
-            auto& ad = Bul<QLineEdit>(pencere, "Kay1");
+            auto& ad = Parcasi<QLineEdit>(pencere, "Kay1");
             ad.setFocus();
-            for (const QChar harf : QStringLiteral("ş語ı")) {
-                QKeyEvent tus(QEvent::KeyPress, 0, Qt::NoModifier, QString(harf));
-                QApplication::sendEvent(&ad, &tus);
-            }
+            Yaz(QStringLiteral("ş語ı"));
             QCOMPARE(QMetin(model->Kay[1].metin), QStringLiteral("şı"));
             QApplication::clipboard()->setText(QStringLiteral(" u\u0308語"));
             ad.paste();
@@ -94,28 +69,24 @@ class KayitPenceresiTest : public QObject {
 
     void the_price_counts_as_left_when_a_button_is_pressed_without_the_mouse() {
         GuiFirma firma;
-        firma.Ac();
-        YeniKayitta(firma, [&](QWidget& pencere) {
+        Kayitta(firma, [&](QDialog& pencere) {
             const auto model = firma.program.FormKayit.Tut();
-            QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &pencere; }));
-            auto& ucret = Bul<QLineEdit>(pencere, "Kay8");
+            auto& ucret = Parcasi<QLineEdit>(pencere, "Kay8");
             ucret.setFocus();
             QVERIFY(ucret.hasFocus());
             QTest::keyClicks(&ucret, QStringLiteral("1500"));
-            Bul<QPushButton>(pencere, "Command4").click();
+            Parcasi<QPushButton>(pencere, "Command4").click();
             QCOMPARE(QMetin(model->Kay[10].metin), QStringLiteral("1500"));
         });
     }
 
     void a_service_that_is_ticked_opens_its_note_and_moves_the_focus_there() {
         GuiFirma firma;
-        firma.Ac();
-        YeniKayitta(firma, [&](QWidget& pencere) {
-            QVERIFY(QTest::qWaitFor([&] { return QApplication::activeWindow() == &pencere; }));
-            auto& not3 = Bul<QLineEdit>(pencere, "TT3");
-            auto& kutu = Bul<QCheckBox>(pencere, "Check3");
+        Kayitta(firma, [&](QDialog& pencere) {
+            auto& not3 = Parcasi<QLineEdit>(pencere, "TT3");
+            auto& kutu = Parcasi<QCheckBox>(pencere, "Check3");
             QVERIFY(!not3.isEnabled());
-            Bul<QTabWidget>(pencere, "SSTab1").setCurrentIndex(3);
+            Parcasi<QTabWidget>(pencere, "SSTab1").setCurrentIndex(3);
             QVERIFY(kutu.isVisible());
             QTest::mouseClick(&kutu, Qt::LeftButton, {}, {8, kutu.height() / 2});
             QTRY_COMPARE(QApplication::focusWidget(), &not3);
@@ -130,9 +101,8 @@ class KayitPenceresiTest : public QObject {
 
     void line_breaks_of_a_note_are_those_of_the_files() {
         GuiFirma firma;
-        firma.Ac();
-        YeniKayitta(firma, [&](QWidget& pencere) {
-            auto& adres = Bul<QPlainTextEdit>(pencere, "Kay7");
+        Kayitta(firma, [&](QDialog& pencere) {
+            auto& adres = Parcasi<QPlainTextEdit>(pencere, "Kay7");
             adres.setFocus();
             QTest::keyClicks(&adres, QStringLiteral("a"));
             QTest::keyClick(&adres, Qt::Key_Return);
@@ -143,21 +113,15 @@ class KayitPenceresiTest : public QObject {
 
     void escape_asks_before_a_new_record_is_dropped() {
         GuiFirma firma;
-        firma.Ac();
-        QString soru;
-        firma.program.FormKayit.Tut();
-        QTimer::singleShot(0, this, [&] {
-            QTimer::singleShot(0, this, [&] {
-                if (auto* kutu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                    soru = kutu->text();
-                    QTest::keyClick(kutu->defaultButton(), Qt::Key_Return);
-                }
-            });
-            QTest::keyClick(firma.disDunya.Pencere(EkranAdi::FormKayit), Qt::Key_Escape);
+        Kayitta(firma, [](QDialog& pencere) {
+            Pencerede([&] { QTest::keyClick(&pencere, Qt::Key_Escape); },
+                      {Kutuda<QMessageBox>([](QMessageBox& kutu) {
+                          QCOMPARE(kutu.text(),
+                                   QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                                                  "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"));
+                          QTest::keyClick(kutu.defaultButton(), Qt::Key_Return);
+                      })});
         });
-        firma.program.FormKayit.GosterModal();
-        QCOMPARE(soru, QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
-                                      "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"));
         QVERIFY(!firma.program.FormKayit.Yuklu());
     }
 };

@@ -1,14 +1,14 @@
 #include "gui/Kullanim.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QInputDialog>
-#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
-#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -33,12 +33,19 @@ void Etkinlestir(QWidget* pencere) {
 } // namespace
 
 void Yaz(const QString& metin) {
-    for (const QChar harf : metin)
-        for (const QEvent::Type tur : {QEvent::KeyPress, QEvent::KeyRelease})
-            if (QWidget* alan = QApplication::focusWidget()) {
-                QKeyEvent tus(tur, 0, Qt::NoModifier, QString(harf));
-                QApplication::sendEvent(alan, &tus);
-            }
+    for (const char32_t harf : metin.toUcs4()) {
+        // As the platforms do: a key is named by its sign, the great one of a letter.
+        const auto tus = static_cast<Qt::Key>(QChar::toUpper(harf));
+        if (QWidget* alan = QApplication::focusWidget())
+            QTest::sendKeyEvent(QTest::Click, alan, tus, QString::fromUcs4(&harf, 1), Qt::NoModifier);
+    }
+}
+
+void AlanaYaz(QWidget& pencere, const char* ad, const QString& metin) {
+    auto& alan = Parcasi<QLineEdit>(pencere, ad);
+    alan.setFocus();
+    alan.selectAll();
+    Yaz(metin);
 }
 
 void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
@@ -68,29 +75,30 @@ void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler) {
     QCOMPARE(sira, isler.size());
 }
 
+void Siraya(QObject& sahip, const std::function<void()>& is) {
+    QMetaObject::invokeMethod(&sahip, is, Qt::QueuedConnection);
+}
+
 void Kapanincaya(QDialog& pencere) {
     const QPointer<QDialog> beklenen = &pencere;
     QTRY_VERIFY(beklenen == nullptr || !beklenen->isVisible());
 }
 
 Is Mesaj(const QString& metin, const QString& dugme) {
-    return [=](QDialog& pencere) {
-        auto* kutu = qobject_cast<QMessageBox*>(&pencere);
-        QVERIFY(kutu != nullptr);
-        QCOMPARE(kutu->text(), metin);
-        for (QAbstractButton* aday : kutu->buttons())
+    return Kutuda<QMessageBox>([=](QMessageBox& kutu) {
+        QCOMPARE(kutu.text(), metin);
+        for (QAbstractButton* aday : kutu.buttons())
             if (aday->text() == dugme)
                 return QTest::mouseClick(aday, Qt::LeftButton);
         QFAIL("the box has no such button");
-    };
+    });
 }
 
 Is Girdi(const QString& metin) {
-    return [=](QDialog& pencere) {
-        QVERIFY(qobject_cast<QInputDialog*>(&pencere) != nullptr);
+    return Kutuda<QInputDialog>([=](QInputDialog& kutu) {
         Yaz(metin);
-        QTest::keyClick(&pencere, Qt::Key_Return);
-    };
+        QTest::keyClick(&kutu, Qt::Key_Return);
+    });
 }
 
 Is TusBas(Qt::Key tus) {
@@ -124,9 +132,23 @@ void Tikla(QWidget& pencere, const char* ad) {
     QTest::mouseClick(&Parcasi<QWidget>(pencere, ad), Qt::LeftButton);
 }
 
-void SatiraTikla(const QTreeWidget& liste, int sira) {
-    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {},
-                      liste.visualItemRect(liste.topLevelItem(sira)).center());
+QPoint SatirYeri(const QAbstractItemView& liste, int sira) {
+    return liste.visualRect(liste.model()->index(sira, 0)).center();
+}
+
+QStringList SatirYazilari(const QTreeWidget& liste, int sira) {
+    QStringList yazilar;
+    for (int sutun = 0; sutun < liste.columnCount(); ++sutun)
+        yazilar << liste.topLevelItem(sira)->text(sutun);
+    return yazilar;
+}
+
+void SatiraTikla(const QAbstractItemView& liste, int sira) {
+    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, sira));
+}
+
+void SatiraCiftTikla(const QAbstractItemView& liste, int sira) {
+    QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, SatirYeri(liste, sira));
 }
 
 QString Isaretsiz(QString metin) {

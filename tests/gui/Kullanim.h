@@ -5,9 +5,11 @@
 
 #include <QDialog>
 #include <QString>
+#include <QTest>
 
 #include "storage/Metin.h"
 
+class QAbstractItemView;
 class QTreeWidget;
 
 namespace velora::test {
@@ -16,8 +18,11 @@ class GuiFirma;
 
 // What a user does to windows, with the mouse and the keyboard.
 
-/// Types into the widget that has the focus, any letters.
+/// Types into the widget that has the focus, any signs.
 void Yaz(const QString& metin);
+
+/// Puts the focus into a field, by the name of its control, and types over all that it holds.
+void AlanaYaz(QWidget& pencere, const char* ad, const QString& metin);
 
 /// What is done in a modal window while it stands and has the focus.
 using Is = std::function<void(QDialog&)>;
@@ -27,6 +32,9 @@ using Is = std::function<void(QDialog&)>;
 /// window more is closed and fails too.
 void Pencerede(const std::function<void()>& ac, const std::vector<Is>& isler);
 
+/// Done when pending events run the next time.
+void Siraya(QObject& sahip, const std::function<void()>& is);
+
 /// Waits until a window is closed, and perhaps gone. An access key presses its button only after a moment.
 void Kapanincaya(QDialog& pencere);
 
@@ -35,6 +43,16 @@ Is Mesaj(const QString& metin, const QString& dugme = QStringLiteral("Tamam"));
 
 /// In an input box: `metin` is typed and Enter pressed.
 Is Girdi(const QString& metin);
+
+/// In a box of the toolkit's: `is` is done with it.
+template <class Kutu>
+Is Kutuda(const std::function<void(Kutu&)>& is) {
+    return [is](QDialog& pencere) {
+        auto* kutu = qobject_cast<Kutu*>(&pencere);
+        QVERIFY(kutu != nullptr);
+        is(*kutu);
+    };
+}
 
 /// In any window: a key is pressed.
 Is TusBas(Qt::Key tus);
@@ -53,8 +71,11 @@ void MenudenSec(GuiFirma& firma, const char* girdi);
 /// Clicks on the middle of a widget of a window, by the name of its control.
 void Tikla(QWidget& pencere, const char* ad);
 
-/// Clicks on a row of a list, counted from 0.
-void SatiraTikla(const QTreeWidget& liste, int sira);
+/// A row of a list, counted from 0: where it stands on the viewport, what its columns say, clicks on it.
+QPoint SatirYeri(const QAbstractItemView& liste, int sira);
+QStringList SatirYazilari(const QTreeWidget& liste, int sira);
+void SatiraTikla(const QAbstractItemView& liste, int sira);
+void SatiraCiftTikla(const QAbstractItemView& liste, int sira);
 
 /// A widget of a window by the name of its control.
 template <class Parca>

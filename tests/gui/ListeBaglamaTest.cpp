@@ -5,9 +5,11 @@
 #include <QVBoxLayout>
 
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
 
 using namespace velora;
+using namespace velora::test;
 
 namespace {
 
@@ -40,14 +42,6 @@ struct ListeSahnesi {
     Baglayici baglayici;
 };
 
-void Tikla(QAbstractItemView& liste, QPoint yer) {
-    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, yer);
-}
-
-QPoint Satir(const QAbstractItemView& liste, int sira) {
-    return liste.visualRect(liste.model()->index(sira, 0)).center();
-}
-
 } // namespace
 
 class ListeBaglamaTest : public QObject {
@@ -79,10 +73,10 @@ class ListeBaglamaTest : public QObject {
 
     void a_press_on_the_row_that_is_marked_already_runs_the_handler_again() {
         Ikisinde([](ListeSahnesi& sahne, QAbstractItemView& liste, const int& secili) {
-            Tikla(liste, Satir(liste, 1));
+            SatiraTikla(liste, 1);
             QCOMPARE(secili, 1);
             sahne.sayi = 0;
-            Tikla(liste, Satir(liste, 1));
+            SatiraTikla(liste, 1);
             QCOMPARE(secili, 1);
             QCOMPARE(sahne.sayi, 1);
         });
@@ -90,12 +84,12 @@ class ListeBaglamaTest : public QObject {
 
     void a_press_beside_the_rows_or_with_ctrl_leaves_the_mark() {
         Ikisinde([](ListeSahnesi& sahne, QAbstractItemView& liste, const int& secili) {
-            Tikla(liste, Satir(liste, 1));
+            SatiraTikla(liste, 1);
             sahne.sayi = 0;
-            Tikla(liste, {20, liste.viewport()->height() - 4});
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, {20, liste.viewport()->height() - 4});
             QVERIFY(liste.selectionModel()->isRowSelected(1));
             QCOMPARE(sahne.sayi, 0);
-            QTest::mouseClick(liste.viewport(), Qt::LeftButton, Qt::ControlModifier, Satir(liste, 1));
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, Qt::ControlModifier, SatirYeri(liste, 1));
             QVERIFY(liste.selectionModel()->isRowSelected(1));
             QCOMPARE(secili, 1);
         });
@@ -103,7 +97,7 @@ class ListeBaglamaTest : public QObject {
 
     void the_model_takes_the_mark_away() {
         Ikisinde([](ListeSahnesi&, QAbstractItemView& liste, int& secili) {
-            Tikla(liste, Satir(liste, 2));
+            SatiraTikla(liste, 2);
             secili = -1;
             Baglayici::HepsiniTazele();
             QVERIFY(!liste.selectionModel()->hasSelection());

@@ -22,18 +22,9 @@ QTreeWidget& Liste(const QWidget& pencere) {
     return Parcasi<QTreeWidget>(pencere, "Liste");
 }
 
-QPoint MenununYeri(const QWidget& pencere, int sira) {
-    QTreeWidget& liste = Liste(pencere);
-    return liste.visualItemRect(liste.topLevelItem(sira)).center();
-}
-
-void MenuyeTikla(const QWidget& pencere, int sira) {
-    QTest::mouseClick(Liste(pencere).viewport(), Qt::LeftButton, {}, MenununYeri(pencere, sira));
-}
-
 void MenuyeCiftTikla(const QWidget& pencere, int sira) {
-    MenuyeTikla(pencere, sira);
-    QTest::mouseDClick(Liste(pencere).viewport(), Qt::LeftButton, {}, MenununYeri(pencere, sira));
+    SatiraTikla(Liste(pencere), sira);
+    SatiraCiftTikla(Liste(pencere), sira);
 }
 
 bool Etkin(const QWidget& pencere, const char* dugme) {
@@ -151,7 +142,7 @@ class MenuPencereleriTest : public QObject {
             const Is vazgecmeler[]{[](QDialog& ekle) { Tikla(ekle, "Command3"); },
                                    [](QDialog& ekle) { ekle.close(); }};
             for (const Is& vazgec : vazgecmeler) {
-                MenuyeTikla(pencere, 0);
+                SatiraTikla(Liste(pencere), 0);
                 Pencerede([&] { Tikla(pencere, "Command4"); }, {[&](QDialog& ekle) {
                               Yaz(QStringLiteral("x"));
                               vazgec(ekle);
@@ -169,17 +160,17 @@ class MenuPencereleriTest : public QObject {
         firma.Ac();
         Menulerde(firma, [&](QDialog& pencere) {
             QVERIFY(!Etkin(pencere, "Command2") && !Etkin(pencere, "Command4"));
-            MenuyeTikla(pencere, 0);
+            SatiraTikla(Liste(pencere), 0);
             QVERIFY(Etkin(pencere, "Command2") && Etkin(pencere, "Command4"));
             Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kMenuSilinsinMi, QStringLiteral("Hayır"))});
             QVERIFY(!Etkin(pencere, "Command2") && !Etkin(pencere, "Command4"));
             QCOMPARE(Liste(pencere).topLevelItemCount(), 2);
-            MenuyeTikla(pencere, 0);
+            SatiraTikla(Liste(pencere), 0);
             Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kMenuSilinsinMi, QStringLiteral("Evet"))});
             QCOMPARE(Liste(pencere).topLevelItemCount(), 1);
             QVERIFY(!Etkin(pencere, "Command2") && !Etkin(pencere, "Command4"));
             QCOMPARE(firma.agac.Bayt(u"Menuler.dat"), std::string("\"K\xFDna\",\"\xC7orba\"\r\n"));
-            MenuyeTikla(pencere, 0);
+            SatiraTikla(Liste(pencere), 0);
             Pencerede([&] { Tikla(pencere, "Command2"); }, {Mesaj(kMenuSilinsinMi, QStringLiteral("Evet"))});
         });
         QVERIFY(firma.agac.DosyaVar(u"Menuler.dat"));

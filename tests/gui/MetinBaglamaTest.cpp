@@ -207,7 +207,8 @@ class MetinBaglamaTest : public QObject {
     void an_editable_list_drops_typed_signs_as_a_field_does() {
         MetinSahnesi sahne;
         QComboBox kutu(&sahne.pencere);
-        sahne.baglayici.Bagla(kutu, *sahne.metin, {u"bir", u"iki"});
+        sahne.metin->ogeler = {u"bir", u"iki"};
+        sahne.baglayici.Bagla(kutu, *sahne.metin);
         sahne.metin->metin.clear();
         Baglayici::HepsiniTazele();
         Bas(kutu, QStringLiteral("ş"));
@@ -221,7 +222,8 @@ class MetinBaglamaTest : public QObject {
     void the_arrow_keys_of_an_editable_list_go_on_from_the_text_of_the_model() {
         MetinSahnesi sahne;
         QComboBox kutu(&sahne.pencere);
-        sahne.baglayici.Bagla(kutu, *sahne.metin, {u"bir", u"iki", u"üç"});
+        sahne.metin->ogeler = {u"bir", u"iki", u"üç"};
+        sahne.baglayici.Bagla(kutu, *sahne.metin);
         sahne.metin->metin = u"iki";
         Baglayici::HepsiniTazele();
         QTest::keyClick(&kutu, Qt::Key_Down);

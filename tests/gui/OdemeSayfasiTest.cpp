@@ -39,10 +39,7 @@ class OdemeSayfasiTest : public QObject {
                   }});
     }
     static QTreeWidget& Liste(QDialog& pencere) { return Parcasi<QTreeWidget>(pencere, "Liste"); }
-    static QStringList Satir(QDialog& pencere, int sira) {
-        const QTreeWidgetItem& satir = *Liste(pencere).topLevelItem(sira);
-        return {satir.text(0), satir.text(1), satir.text(2)};
-    }
+    static QStringList Satir(QDialog& pencere, int sira) { return SatirYazilari(Liste(pencere), sira); }
     static QStringList Toplamlar(QDialog& pencere) {
         return {Parcasi<QLabel>(pencere, "Kayam9").text(), Parcasi<QLabel>(pencere, "Kayam10").text()};
     }

@@ -5,26 +5,18 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
+#include "qt/Ceviri.h"
 #include "qt/OlayKilidi.h"
 #include "qt/QtOrtam.h"
 
 using namespace velora;
+using namespace velora::test;
 
 namespace {
-
-/// Runs inside the next box, once it stands.
-template <class Kutu>
-void Kutuda(const std::function<void(Kutu&)>& is) {
-    QTimer::singleShot(0, qApp, [is] {
-        auto* kutu = qobject_cast<Kutu*>(QApplication::activeModalWidget());
-        QVERIFY(kutu != nullptr);
-        is(*kutu);
-    });
-}
 
 QStringList Dugmeler(const QMessageBox& kutu) {
     QStringList yazilar;
@@ -38,6 +30,26 @@ QStringList Dugmeler(const QMessageBox& kutu) {
 class QtOrtamTest : public QObject {
     Q_OBJECT
 
+    const MesajKutusu kSoru{
+        .metin = u"Emin misiniz?", .simge = Simge::Soru, .dugmeler = KutuDugmeleri::EvetHayir};
+
+    /// What a question gives when `is` is done in its box.
+    void CevapOlmali(Cevap beklenen, const Is& is) const {
+        auto cevap = Cevap::Tamam;
+        Pencerede([&] { cevap = ortam_.sor.mesaj(kSoru); }, {is});
+        QCOMPARE(cevap, beklenen);
+    }
+    /// What an input box that begins with a text gives when `is` is done in it.
+    void YazilanOlmali(MetinBakis baslangic, MetinBakis beklenen,
+                       const std::function<void(QInputDialog&)>& is) const {
+        Metin yazilan = u"hiç";
+        const auto ac = [&] {
+            yazilan = ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = Metin(baslangic)});
+        };
+        Pencerede(ac, {Kutuda<QInputDialog>(is)});
+        QCOMPARE(yazilan, Metin(beklenen));
+    }
+
   private slots:
     void init() {
         disDunya_ = std::make_unique<QtOrtam>();
@@ -47,110 +59,75 @@ class QtOrtamTest : public QObject {
     void cleanup() { disDunya_->PencereleriBirak(); }
 
     void a_message_box_shows_text_title_and_one_turkish_button() {
-        QStringList dugmeler;
-        QString metin;
-        QString baslik;
-        auto simge = QMessageBox::NoIcon;
-        Kutuda<QMessageBox>([&](QMessageBox& kutu) {
-            dugmeler = Dugmeler(kutu);
-            metin = kutu.text();
-            baslik = kutu.windowTitle();
-            simge = kutu.icon();
-            QTest::keyClick(&kutu, Qt::Key_Return);
-        });
-        const Cevap cevap =
-            ortam_.sor.mesaj({.metin = u"<b>Önce salon\nseçiniz</b>", .simge = Simge::Kritik});
+        const MesajKutusu mesaj{.metin = u"<b>Önce salon\nseçiniz</b>", .simge = Simge::Kritik};
+        Cevap cevap = Cevap::Hayir;
+        Pencerede([&] { cevap = ortam_.sor.mesaj(mesaj); }, {Kutuda<QMessageBox>([](QMessageBox& kutu) {
+                      QCOMPARE(Dugmeler(kutu), QStringList{QStringLiteral("Tamam")});
+                      QCOMPARE(kutu.text(), QStringLiteral("<b>Önce salon\nseçiniz</b>"));
+                      QCOMPARE(kutu.windowTitle(), QStringLiteral("Velora"));
+                      QCOMPARE(kutu.icon(), QMessageBox::Critical);
+                      QTest::keyClick(&kutu, Qt::Key_Return);
+                  })});
         QCOMPARE(cevap, Cevap::Tamam);
-        QCOMPARE(dugmeler, QStringList{QStringLiteral("Tamam")});
-        QCOMPARE(metin, QStringLiteral("<b>Önce salon\nseçiniz</b>"));
-        QCOMPARE(baslik, QStringLiteral("Velora"));
-        QCOMPARE(simge, QMessageBox::Critical);
     }
 
     void a_question_has_turkish_buttons_and_answers_by_the_one_pressed() {
-        for (const Cevap istenen : {Cevap::Evet, Cevap::Hayir}) {
-            QStringList dugmeler;
-            Kutuda<QMessageBox>([&](QMessageBox& kutu) {
-                dugmeler = Dugmeler(kutu);
-                for (QAbstractButton* dugme : kutu.buttons())
-                    if (dugme->text() ==
-                        (istenen == Cevap::Evet ? QStringLiteral("Evet") : QStringLiteral("Hayır")))
-                        QTest::mouseClick(dugme, Qt::LeftButton);
-            });
-            const Cevap cevap = ortam_.sor.mesaj(
-                {.metin = u"Emin misiniz?", .simge = Simge::Soru, .dugmeler = KutuDugmeleri::EvetHayir});
-            QCOMPARE(cevap, istenen);
+        const auto dugmelerineBak = [](QMessageBox& kutu) {
+            const QStringList dugmeler = Dugmeler(kutu);
             QVERIFY(dugmeler.contains(QStringLiteral("Evet")));
             QVERIFY(dugmeler.contains(QStringLiteral("Hayır")));
             QCOMPARE(dugmeler.size(), 2);
-        }
+        };
+        for (const Cevap istenen : {Cevap::Evet, Cevap::Hayir})
+            CevapOlmali(istenen, [&](QDialog& pencere) {
+                Kutuda<QMessageBox>(dugmelerineBak)(pencere);
+                Mesaj(QMetin(kSoru.metin),
+                      istenen == Cevap::Evet ? QStringLiteral("Evet") : QStringLiteral("Hayır"))(pencere);
+            });
     }
 
     void escape_and_closing_a_question_are_a_no() {
-        const MesajKutusu soru{
-            .metin = u"Emin misiniz?", .simge = Simge::Soru, .dugmeler = KutuDugmeleri::EvetHayir};
-        Kutuda<QMessageBox>([](QMessageBox& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
-        QCOMPARE(ortam_.sor.mesaj(soru), Cevap::Hayir);
-        Kutuda<QMessageBox>([](QMessageBox& kutu) { kutu.close(); });
-        QCOMPARE(ortam_.sor.mesaj(soru), Cevap::Hayir);
+        CevapOlmali(Cevap::Hayir, TusBas(Qt::Key_Escape));
+        CevapOlmali(Cevap::Hayir, [](QDialog& kutu) { kutu.close(); });
     }
 
     void an_input_box_gives_what_was_typed() {
-        QString tamam;
-        QString iptal;
-        int alan = 0; // its width
-        Kutuda<QInputDialog>([&](QInputDialog& kutu) {
-            tamam = kutu.okButtonText();
-            iptal = kutu.cancelButtonText();
-            alan = kutu.findChild<QLineEdit*>()->width();
-            QTest::keyClicks(kutu.findChild<QLineEdit*>(), QStringLiteral("Salon 3"));
+        YazilanOlmali(u"eski", u"Salon 3", [](QInputDialog& kutu) {
+            QCOMPARE(kutu.okButtonText(), QStringLiteral("Tamam"));
+            QCOMPARE(kutu.cancelButtonText(), QStringLiteral("İptal"));
+            QVERIFY(kutu.findChild<QLineEdit*>()->width() >= 300);
+            Yaz(QStringLiteral("Salon 3"));
             QTest::keyClick(&kutu, Qt::Key_Return);
         });
-        QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}), Metin(u"Salon 3"));
-        QCOMPARE(tamam, QStringLiteral("Tamam"));
-        QCOMPARE(iptal, QStringLiteral("İptal"));
-        QVERIFY(alan >= 300);
     }
 
     void an_input_box_drops_keys_that_no_file_holds_and_makes_pasted_text_fit() {
-        QString yazilan;
-        Kutuda<QInputDialog>([&yazilan](QInputDialog& kutu) {
+        YazilanOlmali(u"", u"aé?b", [](QInputDialog& kutu) {
             auto* satir = kutu.findChild<QLineEdit*>();
-            QTest::keyClick(satir, Qt::Key_A);
-            QTest::sendKeyEvent(QTest::Click, satir, Qt::Key_unknown, QStringLiteral("\u0436"),
-                                Qt::NoModifier);
-            QTest::keyClick(satir, Qt::Key_B);
-            yazilan = satir->text();
+            Yaz(QStringLiteral("a\u0436b"));
+            QCOMPARE(satir->text(), QStringLiteral("ab"));
             satir->setCursorPosition(1);
             QGuiApplication::clipboard()->setText(QStringLiteral("e\u0301\u0436"));
             satir->paste();
             QTest::keyClick(&kutu, Qt::Key_Return);
         });
-        QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u""}), Metin(u"aé?b"));
-        QCOMPARE(yazilan, QStringLiteral("ab"));
     }
 
     void an_input_box_holds_one_line_and_drops_a_typed_picture() {
-        QString yazilan;
-        Kutuda<QInputDialog>([&yazilan](QInputDialog& kutu) {
+        YazilanOlmali(u"", u"a b c d?", [](QInputDialog& kutu) {
             auto* satir = kutu.findChild<QLineEdit*>();
-            QTest::keyClick(satir, Qt::Key_A);
-            QTest::sendKeyEvent(QTest::Click, satir, Qt::Key_unknown, QStringLiteral("\U0001F600"),
-                                Qt::NoModifier);
-            yazilan = satir->text();
+            Yaz(QStringLiteral("a\U0001F600"));
+            QCOMPARE(satir->text(), QStringLiteral("a"));
             QGuiApplication::clipboard()->setText(QStringLiteral("\r\nb\tc\u2028d"));
             satir->paste();
             QGuiApplication::clipboard()->setText(QStringLiteral("語"));
             satir->paste();
             QTest::keyClick(&kutu, Qt::Key_Return);
         });
-        QCOMPARE(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u""}), Metin(u"a b c d?"));
-        QCOMPARE(yazilan, QStringLiteral("a"));
     }
 
     void a_cancelled_input_box_gives_empty_text() {
-        Kutuda<QInputDialog>([](QInputDialog& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
-        QVERIFY(ortam_.sor.girdi({.metin = u"Salon adı", .baslangic = u"eski"}).empty());
+        YazilanOlmali(u"eski", u"", [](QInputDialog& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
     }
 
     void a_handler_that_waits_for_an_answer_is_no_quick_one_and_shows_what_it_has_done() {
@@ -159,21 +136,59 @@ class QtOrtamTest : public QObject {
         Baglayici baglayici(ekran, &pencere);
         int gorulen = 0;
         baglayici.Izle([&] {
-            if (!Baglayici::KisaIsSuruyor())
+            if (!Baglayici::IsSuruyor())
                 gorulen = *ekran;
         });
-        int kutuda = 0;
-        Kutuda<QMessageBox>([&](QMessageBox& kutu) {
-            kutuda = gorulen;
-            kutu.close();
-        });
-        baglayici.Calistir([&] {
-            *ekran = 8;
-            ortam_.sor.mesaj({.metin = u"Bekle"});
-            *ekran = 9;
-        });
-        QCOMPARE(kutuda, 8);
+        const auto calistir = [&] {
+            baglayici.Calistir([&] {
+                *ekran = 8;
+                ortam_.sor.mesaj({.metin = u"Bekle"});
+                *ekran = 9;
+            });
+        };
+        Pencerede(calistir, {Kutuda<QMessageBox>([&](QMessageBox&) { QCOMPARE(gorulen, 8); })});
         QCOMPARE(gorulen, 9);
+    }
+
+    void a_handler_shows_only_its_end_however_long_it_takes() {
+        const auto ekran = std::make_shared<int>(0);
+        QObject pencere;
+        Baglayici baglayici(ekran, &pencere);
+        std::vector<bool> suruyor;
+        baglayici.Calistir([&] {
+            QTest::qSleep(150);
+            suruyor.push_back(Baglayici::IsSuruyor());
+            baglayici.Calistir([&] { suruyor.push_back(Baglayici::IsSuruyor()); });
+            suruyor.push_back(Baglayici::IsSuruyor());
+        });
+        suruyor.push_back(Baglayici::IsSuruyor());
+        QCOMPARE(suruyor, (std::vector{true, true, true, false}));
+    }
+
+    void a_handler_that_waits_for_the_user_is_none_until_the_answer_and_one_inside_is_of_its_own() {
+        const auto ekran = std::make_shared<int>(0);
+        QObject pencere;
+        Baglayici baglayici(ekran, &pencere);
+        std::vector<bool> suruyor;
+        const auto bak = [&] { suruyor.push_back(Baglayici::IsSuruyor()); };
+        baglayici.Calistir([&] {
+            bak();
+            {
+                const Baglayici::KullaniciBekleme acikPencere;
+                bak();
+                baglayici.Calistir([&] {
+                    bak();
+                    {
+                        const Baglayici::KullaniciBekleme acikKutu;
+                        bak();
+                    }
+                    bak();
+                });
+                bak();
+            }
+            bak();
+        });
+        QCOMPARE(suruyor, (std::vector{true, false, true, false, true, false, true}));
     }
 
     void a_window_is_made_at_its_first_showing_and_dropped_when_hidden() {
@@ -195,18 +210,16 @@ class QtOrtamTest : public QObject {
     }
 
     void a_modal_window_returns_when_it_is_closed_by_the_user_or_by_the_program() {
-        disDunya_->Tanit(EkranAdi::FormAyarlar, [] { return std::make_unique<QWidget>(); });
-        const std::vector<std::function<void()>> kapatmalar{
-            [this] { disDunya_->Pencere(EkranAdi::FormAyarlar)->close(); },
-            [this] { ortam_.goster.gizle(EkranAdi::FormAyarlar); }};
+        disDunya_->Tanit(EkranAdi::FormAyarlar, [] { return std::make_unique<QDialog>(); });
+        const std::vector<Is> kapatmalar{[](QDialog& pencere) { pencere.close(); },
+                                         [this](QDialog&) { ortam_.goster.gizle(EkranAdi::FormAyarlar); }};
         for (const auto& kapat : kapatmalar) {
-            bool modal = false;
-            QTimer::singleShot(20, this, [&] {
-                modal = disDunya_->Pencere(EkranAdi::FormAyarlar)->isModal();
-                kapat();
-            });
-            ortam_.goster.modal(EkranAdi::FormAyarlar, [] {});
-            QVERIFY(modal);
+            Pencerede([this] { ortam_.goster.modal(EkranAdi::FormAyarlar, [] {}); }, {[&](QDialog& pencere) {
+                          QCOMPARE(disDunya_->Pencere(EkranAdi::FormAyarlar), &pencere);
+                          QVERIFY(pencere.isModal());
+                          kapat(pencere);
+                          QVERIFY(!pencere.isVisible());
+                      }});
             QVERIFY(disDunya_->Pencere(EkranAdi::FormAyarlar) == nullptr);
         }
     }
@@ -237,7 +250,7 @@ class QtOrtamTest : public QObject {
 
     void pending_events_run_unless_the_toolkit_is_in_the_middle_of_its_own_work() {
         int sayi = 0;
-        QTimer::singleShot(0, this, [&] { ++sayi; });
+        Siraya(*this, [&] { ++sayi; });
         {
             const OlayKilidi kilit;
             ortam_.olaylar.isle();

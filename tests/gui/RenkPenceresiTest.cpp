@@ -21,14 +21,14 @@ QColor CizelgeRengi(const QWidget& pencere, QPoint yer) {
     return Parcasi<QWidget>(pencere, "Picture1").grab().toImage().pixelColor(yer);
 }
 
-QString RenkAlani(const QWidget& pencere, const char* ad) {
+QString AlanYazisi(const QWidget& pencere, const char* ad) {
     return Parcasi<QLineEdit>(pencere, ad).text();
 }
 
 /// The colour that the component fields say.
 QColor Yazan(const QWidget& pencere) {
-    return {RenkAlani(pencere, "txtRed").toInt(), RenkAlani(pencere, "txtGreen").toInt(),
-            RenkAlani(pencere, "txtBlue").toInt()};
+    return {AlanYazisi(pencere, "txtRed").toInt(), AlanYazisi(pencere, "txtGreen").toInt(),
+            AlanYazisi(pencere, "txtBlue").toInt()};
 }
 
 QColor Ornek(const QWidget& pencere) {
@@ -47,7 +47,7 @@ class RenkPenceresiTest : public QObject {
     Q_OBJECT
 
     /// Opens the settings on their second page, and there the colour picker by a click on a colour box.
-    static void Kutuda(GuiFirma& firma, const char* kutu, const Is& renkte, const Is& sonra = {}) {
+    static void RenkKutusunda(GuiFirma& firma, const char* kutu, const Is& renkte, const Is& sonra = {}) {
         Pencerede([&] { QTest::keyClick(&firma.Tablo(), Qt::Key_F7); }, {[&](QDialog& ayarlar) {
                       ayarlar.findChild<QTabWidget*>()->setCurrentIndex(1);
                       Pencerede([&] { Tikla(ayarlar, kutu); }, {renkte});
@@ -60,18 +60,18 @@ class RenkPenceresiTest : public QObject {
     void a_click_on_a_colour_box_opens_the_picker_with_its_colour() {
         GuiFirma firma;
         firma.Ac();
-        Kutuda(firma, "Renk8", [](QDialog& pencere) {
+        RenkKutusunda(firma, "Renk8", [](QDialog& pencere) {
             QCOMPARE(pencere.windowTitle(), QStringLiteral("Renk Seçiniz"));
             QCOMPARE(Ornek(pencere), QColor(241, 223, 92));
             for (const char* ad : {"txtRed", "txtGreen", "txtBlue", "txtWeb", "txtHex", "txtTers"})
-                QCOMPARE(RenkAlani(pencere, ad), QStringLiteral("0"));
+                QCOMPARE(AlanYazisi(pencere, ad), QStringLiteral("0"));
         });
     }
 
     void a_press_and_a_move_with_the_button_held_pick_and_a_move_without_does_not() {
         GuiFirma firma;
         firma.Ac();
-        Kutuda(firma, "Renk2", [](QDialog& pencere) {
+        RenkKutusunda(firma, "Renk2", [](QDialog& pencere) {
             auto& cizelge = Parcasi<QWidget>(pencere, "Picture1");
             QTest::mouseMove(&cizelge, {10, 60});
             QCOMPARE(Yazan(pencere), QColor(Qt::black));
@@ -91,23 +91,23 @@ class RenkPenceresiTest : public QObject {
     void the_texts_say_the_colour_in_each_form() {
         GuiFirma firma;
         firma.Ac();
-        Kutuda(firma, "Renk2", [](QDialog& pencere) {
+        RenkKutusunda(firma, "Renk2", [](QDialog& pencere) {
             auto& cizelge = Parcasi<QWidget>(pencere, "Picture1");
             const QPoint yer(80, 170);
             const QColor renk = CizelgeRengi(pencere, yer);
             QVERIFY(renk.red() > 0 && renk.green() > renk.red() && renk.blue() == 0);
             QTest::mouseClick(&cizelge, Qt::LeftButton, {}, yer);
-            QCOMPARE(RenkAlani(pencere, "txtWeb"), renk.name().toUpper());
+            QCOMPARE(AlanYazisi(pencere, "txtWeb"), renk.name().toUpper());
             // Blue leads and is nought here: the plain form has no digits for it.
             const int deger = renk.green() * 256 + renk.red();
-            QCOMPARE(RenkAlani(pencere, "txtHex"), QString::number(deger, 16).toUpper());
+            QCOMPARE(AlanYazisi(pencere, "txtHex"), QString::number(deger, 16).toUpper());
         });
     }
 
     void a_drag_beyond_the_chart_gives_no_colour_at_all() {
         GuiFirma firma;
         firma.Ac();
-        Kutuda(firma, "Renk2", [](QDialog& pencere) {
+        RenkKutusunda(firma, "Renk2", [](QDialog& pencere) {
             auto& cizelge = Parcasi<QWidget>(pencere, "Picture1");
             QTest::mousePress(&cizelge, Qt::LeftButton, {}, {40, 90});
             QVERIFY(Yazan(pencere) != QColor(Qt::black));
@@ -117,9 +117,9 @@ class RenkPenceresiTest : public QObject {
                 QVERIFY(Yazan(pencere) != QColor(Qt::black));
                 QTest::mouseMove(&cizelge, yer);
                 QCOMPARE(Yazan(pencere), QColor(Qt::black));
-                QCOMPARE(RenkAlani(pencere, "txtWeb"), QStringLiteral("#000000"));
-                QCOMPARE(RenkAlani(pencere, "txtHex"), QStringLiteral("0"));
-                QCOMPARE(RenkAlani(pencere, "txtTers"), QStringLiteral("&H000000&"));
+                QCOMPARE(AlanYazisi(pencere, "txtWeb"), QStringLiteral("#000000"));
+                QCOMPARE(AlanYazisi(pencere, "txtHex"), QStringLiteral("0"));
+                QCOMPARE(AlanYazisi(pencere, "txtTers"), QStringLiteral("&H000000&"));
             }
             QTest::mouseRelease(&cizelge, Qt::LeftButton, {}, {-3, 90});
         });
@@ -135,7 +135,7 @@ class RenkPenceresiTest : public QObject {
             QTest::keyClick(&pencere, Qt::Key_Return);
             QVERIFY(!pencere.isVisible());
         };
-        Kutuda(firma, "Renk0", sec, [&](QDialog& ayarlar) {
+        RenkKutusunda(firma, "Renk0", sec, [&](QDialog& ayarlar) {
             QCOMPARE(KutununRengi(ayarlar, "Renk0"), secilen);
             QCOMPARE(QRenk(firma.program.FormAyarlar->Renk(0)), secilen);
             Tikla(ayarlar, "Command1");
@@ -147,7 +147,7 @@ class RenkPenceresiTest : public QObject {
     void ok_without_a_pick_gives_black_on_purpose() {
         GuiFirma firma;
         firma.Ac();
-        Kutuda(
+        RenkKutusunda(
             firma, "Renk2", [](QDialog& pencere) { Tikla(pencere, "Command1"); },
             [&](QDialog& ayarlar) {
                 QCOMPARE(firma.program.FormAyarlar->Renk(2), 0);
@@ -167,8 +167,8 @@ class RenkPenceresiTest : public QObject {
             }
             Tikla(pencere, "Command1");
         };
-        Kutuda(firma, "Renk5", yaz,
-               [&](QDialog&) { QCOMPARE(firma.program.FormAyarlar->Renk(5), 17 * 0x010101); });
+        RenkKutusunda(firma, "Renk5", yaz,
+                      [&](QDialog&) { QCOMPARE(firma.program.FormAyarlar->Renk(5), 17 * 0x010101); });
     }
 
     void cancel_escape_and_the_x_leave_the_colour() {
@@ -182,8 +182,8 @@ class RenkPenceresiTest : public QObject {
                 vazgec(pencere);
                 QVERIFY(!pencere.isVisible());
             };
-            Kutuda(firma, "Renk2", dene,
-                   [&](QDialog&) { QCOMPARE(firma.program.FormAyarlar->Renk(2), 8454143); });
+            RenkKutusunda(firma, "Renk2", dene,
+                          [&](QDialog&) { QCOMPARE(firma.program.FormAyarlar->Renk(2), 8454143); });
         }
     }
 };

@@ -36,8 +36,7 @@ QStringList SecicininSalonlari(GuiFirma& firma) {
 }
 
 void SalonaTikla(const QWidget& pencere, int sira) {
-    auto& liste = Parcasi<QListWidget>(pencere, "List1");
-    QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, liste.visualItemRect(liste.item(sira)).center());
+    SatiraTikla(Parcasi<QListWidget>(pencere, "List1"), sira);
 }
 
 /// Whether "Sil" and "Düzenle" can be pressed; they go together.

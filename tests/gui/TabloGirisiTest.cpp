@@ -1,16 +1,14 @@
 #include <QApplication>
-#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
+#include "reservation/FormKayit.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -41,22 +39,12 @@ void Sec(GuiFirma& firma, const char* ad) {
     QTRY_VERIFY(!menu.isVisible());
 }
 
-/// Counts what the screen is shown over the table.
-void Say(GuiFirma& firma, EkranAdi ad, int& sayi) {
-    firma.program.ortam.goster.modal = [&sayi, ad](EkranAdi acilan, const auto&) { sayi += acilan == ad; };
-}
-
-/// Answers the box that comes next and keeps its text.
-void MesajaCevap(QString& metin, const QString& dugme) {
-    QTimer::singleShot(50, qApp, [&metin, dugme] {
-        auto* kutu = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (kutu == nullptr)
-            return;
-        metin = kutu->text();
-        for (QAbstractButton* aday : kutu->buttons())
-            if (aday->text() == dugme)
-                QTimer::singleShot(0, aday, &QAbstractButton::click);
-    });
+/// In the record of a day, new or old.
+Is Kayitta(GuiFirma& firma, const QString& baslik, MetinBakis gun) {
+    return [=, &firma](QDialog& kayit) {
+        QCOMPARE(kayit.windowTitle(), baslik);
+        QCOMPARE(firma.program.FormKayit->Tarih, Metin(gun));
+    };
 }
 
 } // namespace
@@ -155,12 +143,10 @@ class TabloGirisiTest : public QObject {
         firma.Ac();
         Uzerine(firma, Goz(firma, EylulGunduz, 11));
         Metin kutuda;
-        QTimer::singleShot(50, &firma.Tablo(), [&] {
-            Uzerine(firma, Goz(firma, MartGece, 3));
-            kutuda = firma.Model().SeciliTarih;
-            QApplication::activeModalWidget()->close();
-        });
-        firma.program.ortam.sor.mesaj({u"Bir soru"});
+        Pencerede([&] { firma.program.ortam.sor.mesaj({u"Bir soru"}); }, {[&](QDialog&) {
+                      Uzerine(firma, Goz(firma, MartGece, 3));
+                      kutuda = firma.Model().SeciliTarih;
+                  }});
         QCOMPARE(kutuda, Metin(u"11.09.2026 - Gündüz"));
         Uzerine(firma, Goz(firma, MartGece, 3));
         QCOMPARE(firma.Model().SeciliTarih, Metin(u"03.03.2026 - Gece"));
@@ -181,22 +167,23 @@ class TabloGirisiTest : public QObject {
         GuiFirma firma;
         firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
         firma.Ac();
-        int acilma = 0;
-        Say(firma, EkranAdi::FormKayit, acilma);
-        QTest::mouseDClick(&firma.Tablo(), Qt::LeftButton, {}, Goz(firma, EylulGunduz, 10));
-        QCOMPARE(acilma, 1);
-        QTest::mouseDClick(&firma.Tablo(), Qt::LeftButton, {}, Goz(firma, EylulGunduz, 11));
-        QCOMPARE(acilma, 1);
+        const auto ciftTikla = [&](int gun) {
+            QTest::mouseDClick(&firma.Tablo(), Qt::LeftButton, {}, Goz(firma, EylulGunduz, gun));
+        };
+        Pencerede([&] { ciftTikla(10); },
+                  {Kayitta(firma, QStringLiteral("Kayıt Düzenle"), u"10.09.2026 - Gündüz")});
+        Pencerede([&] { ciftTikla(11); }, {});
     }
 
     void an_entry_of_the_menu_begins_a_new_reservation_on_the_pressed_day() {
         GuiFirma firma;
         firma.Ac();
-        int acilma = 0;
-        Say(firma, EkranAdi::FormKayit, acilma);
         QTest::mousePress(&firma.Tablo(), Qt::RightButton, {}, Goz(firma, EylulGece, 11));
-        Sec(firma, "newkay");
-        QTRY_COMPARE(acilma, 1);
+        const auto sec = [&] {
+            Sec(firma, "newkay");
+            QTRY_VERIFY(firma.program.FormKayit.Yuklu()); // the entry's turn comes after the menu's
+        };
+        Pencerede(sec, {Kayitta(firma, QStringLiteral("Yeni Kayıt"), u"11.09.2026 - Gece")});
         QCOMPARE(firma.Model().SeciliTarih, Metin(u"11.09.2026 - Gece"));
     }
 
@@ -205,20 +192,13 @@ class TabloGirisiTest : public QObject {
         firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
         firma.Ac();
         QTest::mousePress(&firma.Tablo(), Qt::RightButton, {}, Goz(firma, EylulGunduz, 10));
-        QString soru;
-        MesajaCevap(soru, QStringLiteral("Evet"));
-        QTimer yazan;
-        connect(&yazan, &QTimer::timeout, &yazan, [&yazan] {
-            if (auto* kutu = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
-                yazan.stop();
-                kutu->setTextValue(QStringLiteral("vazgeçti"));
-                kutu->accept();
-            }
-        });
-        yazan.start(20);
-        Sec(firma, "iptals");
-        QTRY_VERIFY(firma.agac.DosyaVar(u"IptalSebep.txt"));
-        QCOMPARE(soru, QStringLiteral("Seçili kaydı silmek istediğinizden emin misiniz?"));
+        const auto iptal = [&] {
+            Sec(firma, "iptals");
+            QTRY_VERIFY(firma.agac.DosyaVar(u"IptalSebep.txt"));
+        };
+        Pencerede(iptal, {Mesaj(QStringLiteral("Seçili kaydı silmek istediğinizden emin misiniz?"),
+                                QStringLiteral("Evet")),
+                          Girdi(QStringLiteral("vazgeçti"))});
         QVERIFY(!firma.agac.DosyaVar(Metin(kSalonA) + u"/2026/10.09.2026 - Gündüz"));
         QVERIFY(firma.agac.Bayt(u"IptalSebep.txt").ends_with(" - vazge\xE7ti\r\n"));
     }

@@ -22,7 +22,7 @@ using namespace velora::test;
 namespace {
 
 /// Counts the runs of a list's click beside what it does.
-void Say(AcilirListe& liste, int& sayi) {
+void TiklamalariSay(AcilirListe& liste, int& sayi) {
     liste.tiklandi = [&sayi, asil = liste.tiklandi] {
         ++sayi;
         asil();
@@ -82,7 +82,7 @@ class TabloPenceresiTest : public QObject {
         firma.Rezervasyon(kSalonB, u"10.09.2026 - Gündüz", false);
         firma.Ac();
         int sayi = 0;
-        Say(firma.Model().Salon, sayi);
+        TiklamalariSay(firma.Model().Salon, sayi);
         QCOMPARE(PencereRengi(firma, EylulGunduz, 10), QColor(255, 255, 128));
         FareyleSec(firma.Bul<QComboBox>("Salon"), 1);
         QTRY_COMPARE(sayi, 1);
@@ -96,7 +96,7 @@ class TabloPenceresiTest : public QObject {
         GuiFirma firma;
         firma.Ac();
         int sayi = 0;
-        Say(firma.Model().Sene, sayi);
+        TiklamalariSay(firma.Model().Sene, sayi);
         auto& sene = firma.Bul<QComboBox>("Sene");
         sene.setFocus();
         QTest::keyClick(&sene, Qt::Key_Down);

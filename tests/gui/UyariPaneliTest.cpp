@@ -1,12 +1,11 @@
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
@@ -20,9 +19,6 @@ class UyariPaneliTest : public QObject {
     Q_OBJECT
 
     static QRect PaneldeYeri(GuiFirma& firma) { return firma.Bul<QWidget>("Picture1").geometry(); }
-    static QPoint SatirOrtasi(QTreeWidget& liste, int sira) {
-        return liste.visualItemRect(liste.topLevelItem(sira)).center();
-    }
 
   private slots:
     void it_stands_over_the_table_at_the_start_when_something_is_near() {
@@ -81,29 +77,20 @@ class UyariPaneliTest : public QObject {
         auto& liste = firma.Bul<QTreeWidget>("Liste");
         auto& detaylar = firma.Bul<QPushButton>("Command8");
         QVERIFY(!detaylar.isEnabled());
-        int acilan = 0;
-        QTimer bekci;
-        connect(&bekci, &QTimer::timeout, this, [&] {
-            if (QWidget* pencere = firma.disDunya.Pencere(EkranAdi::FormKayit)) {
-                ++acilan;
-                QCOMPARE(firma.program.FormKayit->Tarih, Metin(u"23.05.2026 - Gece"));
-                QTest::keyClick(pencere, Qt::Key_Escape);
-            }
-        });
-        bekci.start(1);
-        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
+        const Is kayitta = [&](QDialog& pencere) {
+            QCOMPARE(firma.program.FormKayit->Tarih, Metin(u"23.05.2026 - Gece"));
+            QTest::keyClick(&pencere, Qt::Key_Escape);
+        };
+        const auto enter = [&] { QTest::keyClick(&liste, Qt::Key_Return); };
+        SatiraTikla(liste, 0);
         QVERIFY(detaylar.isEnabled());
-        QTest::mouseClick(&detaylar, Qt::LeftButton);
-        QCOMPARE(acilan, 1);
+        Pencerede([&] { QTest::mouseClick(&detaylar, Qt::LeftButton); }, {kayitta});
         QVERIFY(!detaylar.isEnabled());
-        QTest::mouseClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
-        QTest::mouseDClick(liste.viewport(), Qt::LeftButton, {}, SatirOrtasi(liste, 0));
-        QCOMPARE(acilan, 2);
-        QTest::keyClick(&liste, Qt::Key_Return);
-        QCOMPARE(acilan, 2); // no row was chosen since
+        SatiraTikla(liste, 0);
+        Pencerede([&] { SatiraCiftTikla(liste, 0); }, {kayitta});
+        Pencerede(enter, {}); // no row was chosen since
         QTest::keyClick(&liste, Qt::Key_Space);
-        QTest::keyClick(&liste, Qt::Key_Return);
-        QCOMPARE(acilan, 3);
+        Pencerede(enter, {kayitta});
         QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonB));
     }
 

@@ -17,8 +17,7 @@ class Ayarlama : public ::testing::Test {
 
     Ayarlama() {
         agac.Koy(u"Salon.dat", "\"\xDEi\xFEli\"\r\n");
-        agac.KoyMetin(u"Şişli/2012/20.06.2012 - Gece", AnaMetni());
-        agac.KoyMetin(u"Şişli/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
+        KayitKoy(agac, u"Şişli/2012/20.06.2012 - Gece");
         kullanici.ProgramiAc();
     }
 

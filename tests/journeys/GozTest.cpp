@@ -23,9 +23,7 @@ class TabloGunu : public ::testing::Test {
         kullanici.Tablo().UserNamem = u"admin";
     }
     void Koy(const Metin& ad, const OrnekKayit& kayit) {
-        agac.KoyMetin(u"Şişli/2012/" + ad, AnaMetni(kayit));
-        agac.KoyMetin(u"Şişli/2012/" + ad + u"-Detay", DetayMetni(false));
-        agac.KoyMetin(u"Şişli/2012/" + ad + u"-Odeme", u"\"01.01.2012\",\"1000\",\"not\"\r\n");
+        KayitKoy(agac, u"Şişli/2012/" + ad, kayit, false, u"\"01.01.2012\",\"1000\",\"not\"\r\n");
     }
     void Tasi(const TabloGozu& kaynak, const TabloGozu& hedef) {
         ASSERT_TRUE(kullanici.SagTikla(kaynak));

@@ -48,9 +48,8 @@ class SalonVeMenu : public ::testing::Test {
     }
     void RezervasyonKoy(const Metin& salon, int yil) {
         const Metin yol = salon + u"/" + SayiMetni(yil) + u"/20.06." + SayiMetni(yil) + u" - Gece";
-        agac.KoyMetin(yol, AnaMetni({.ad = u"Yıl " + SayiMetni(yil)}));
-        agac.KoyMetin(yol + u"-Detay", DetayMetni(false));
-        agac.KoyMetin(yol + u"-Odeme", u"\"01.01.2012\",\"1000\",\"7 - Ali\"\r\n");
+        KayitKoy(agac, yol, {.ad = u"Yıl " + SayiMetni(yil)}, false,
+                 u"\"01.01.2012\",\"1000\",\"7 - Ali\"\r\n");
     }
     /// The customer that the table shows on 20 June in the evening of a year.
     Metin Musteri(int yil) {

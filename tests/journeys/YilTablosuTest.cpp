@@ -25,9 +25,7 @@ class YilTablosu : public ::testing::Test {
     }
 
     void Rezervasyon(const Metin& yol, const OrnekKayit& kayit, bool on) {
-        agac.KoyMetin(yol, AnaMetni(kayit));
-        agac.KoyMetin(yol + u"-Detay", DetayMetni(on));
-        agac.KoyMetin(yol + u"-Odeme", u"\"01.01.2012\",\"1000\",\"7 - Ali\"\r\n");
+        KayitKoy(agac, yol, kayit, on, u"\"01.01.2012\",\"1000\",\"7 - Ali\"\r\n");
     }
 
     GeciciAgac agac;

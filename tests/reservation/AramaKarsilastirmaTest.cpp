@@ -1,5 +1,6 @@
-#include <random>
+#include <array>
 
+#include "destek/RastgeleAgac.h"
 #include "reservation/AramaTest.h"
 #include "reservation/ReferansArama.h"
 
@@ -7,23 +8,18 @@ namespace velora::test {
 
 namespace {
 
-/// Random trees of three years and two halls: whole, short, empty and foreign files, names that stand in
-/// several years, folders in the place of files. The words are few, so that the criteria find something.
-class RastgeleAgac {
+/// Three years of two halls, in words and criteria so few that the criteria find something.
+class AramaAgaci : public RastgeleAgac {
   public:
-    RastgeleAgac(const GeciciAgac& agac, unsigned tohum) : agac_(agac), rastgele_(tohum) {}
+    using RastgeleAgac::RastgeleAgac;
 
-    void Yap() {
-        for (int i = 0; i < 90; ++i) {
-            const auto dilim = Sec(2) == 0 ? kGunduz : kGece;
-            const Metin yil = SayiMetni(2011 + Sec(3));
-            Koy(GunAnahtari(1 + Sec(28), 1 + Sec(12), yil, dilim), yil);
-        }
-        for (const MetinBakis ad : {u"Gider.dat", u"05.05.2012 - Gece", u"zz", u"İnce Ğ", u"gider.dat"})
-            for (const MetinBakis yil : {u"2011", u"2012", u"2013"})
-                Koy(Metin(ad), Metin(yil));
+    void Doldur() {
+        Yap({.adet = 90,
+             .salonlar = {u"Salon A", u"Salon B"},
+             .yillar = {u"2011", u"2012", u"2013"},
+             .adlar = {u"Gider.dat", u"05.05.2012 - Gece", u"zz", u"İnce Ğ", u"gider.dat"},
+             .metin = [this](MetinBakis) { return Degerler(); }});
     }
-
     Metin Kelime() {
         constexpr std::array kKelimeler{u"Ali",  u"ALİ", u"İnci", u"ışık", u"7",
                                         u"0212", u"0",   u"1",    u"",     u" "};
@@ -35,32 +31,14 @@ class RastgeleAgac {
     }
 
   private:
-    unsigned Sec(std::size_t adet) {
-        return std::uniform_int_distribution<unsigned>(0, static_cast<unsigned>(adet) - 1)(rastgele_);
-    }
-
-    void Koy(const Metin& ad, const Metin& yil) {
-        for (const Metin& ek : {Metin(), Metin(kDetayEki), Metin(kOdemeEki)}) {
-            const Metin yol = (Sec(2) == 0 ? u"Salon A/" : u"Salon B/") + yil + u"/" + ad + ek;
-            if (Sec(3) == 0 || std::filesystem::exists(agac_.Yol(yol)))
-                continue;
-            if (Sec(15) == 0)
-                agac_.KlasorKoy(yol);
-            else
-                agac_.KoyMetin(yol, Metinler());
-        }
-    }
     /// Values up to the end of a record, or fewer.
-    Metin Metinler() {
+    Metin Degerler() {
         const unsigned adet = Sec(2) == 0 ? 20 : Sec(20);
         Metin metin;
         for (unsigned i = 0; i < adet; ++i)
             metin += Sec(9) == 0 ? Kelime() + u"\r\n" : u"\"" + Kelime() + u"\",";
         return metin;
     }
-
-    const GeciciAgac& agac_;
-    std::mt19937 rastgele_;
 };
 
 } // namespace
@@ -68,8 +46,8 @@ class RastgeleAgac {
 class AramaKarsilastirma : public AramaTest, public ::testing::WithParamInterface<unsigned> {};
 
 TEST_P(AramaKarsilastirma, Fast_search_lists_what_the_plain_search_lists) {
-    RastgeleAgac rastgele(agac, GetParam());
-    rastgele.Yap();
+    AramaAgaci rastgele(agac, GetParam());
+    rastgele.Doldur();
     const FormTablo& tablo = *Prog().FormTablo.Tut();
     std::size_t toplam = 0;
     for (int arama = 0; arama < 20; ++arama) {

@@ -7,7 +7,7 @@ class AramaKayit : public AramaTest {
   protected:
     static constexpr MetinBakis kGece20 = u"20.06.2012 - Gece";
 
-    AramaKayit() { RezervasyonKoyYola(u"Salon B/2012/" + Metin(kGece20), {.ad = u"Şükran Öz"}); }
+    AramaKayit() { KayitKoy(agac, u"Salon B/2012/" + Metin(kGece20), {.ad = u"Şükran Öz"}); }
 };
 
 TEST_F(AramaKayit, Coming_to_the_front_marks_the_screen_open_and_takes_the_button_back) {
@@ -74,7 +74,7 @@ TEST_F(AramaKayit, A_record_of_another_hall_switches_the_table_there_before_it_o
 }
 
 TEST_F(AramaKayit, Events_run_before_the_record_comes_and_a_search_among_them_changes_nothing_of_it) {
-    RezervasyonKoyYola(u"Salon A/2012/" + Metin(kGece20), {.ad = u"Ali"});
+    KayitKoy(agac, u"Salon A/2012/" + Metin(kGece20), {.ad = u"Ali"});
     Ara(kAd, u"ali");
     AlanaYaz(Arama().Text[kAd], u"yok");
     BulunamadiBekle();
@@ -108,7 +108,7 @@ TEST_F(AramaKayit, A_hall_that_is_not_listed_any_more_leaves_the_table_as_it_is)
 }
 
 TEST_F(AramaKayit, The_year_is_not_switched_so_a_row_of_another_year_opens_nothing) {
-    RezervasyonKoyYola(u"Salon B/2013/07.07.2013 - Gece", {});
+    KayitKoy(agac, u"Salon B/2013/07.07.2013 - Gece");
     Prog();
     std::filesystem::remove(agac.Yol(u"Salon B/2012/20.06.2012 - Gece-Detay"));
     Ara(kAd, u"şükran");
@@ -125,7 +125,7 @@ TEST_F(AramaKayit, A_companion_is_opened_as_a_record_and_so_never_shown) {
 }
 
 TEST_F(AramaKayit, A_row_whose_file_is_not_there_leaves_no_ghost_to_the_next_new_record) {
-    RezervasyonKoyYola(u"Salon B/2013/07.07.2013 - Gece", {});
+    KayitKoy(agac, u"Salon B/2013/07.07.2013 - Gece");
     agac.KoyMetin(u"Salon B/2012/20.06.2012 - Gece-Detay", u"");
     AramaAcikken([&] {
         Ara(kAd, u"şükran");

@@ -18,11 +18,6 @@ class AramaTest : public KayitTest {
 
     /// A file of a year folder; `yol` is hall/year/name.
     void Koy(const Metin& yol, const OrnekKayit& kayit) { agac.KoyMetin(yol, AnaMetni(kayit)); }
-    /// A whole reservation.
-    void RezervasyonKoyYola(const Metin& yol, const OrnekKayit& kayit) {
-        Koy(yol, kayit);
-        agac.KoyMetin(yol + u"-Detay", DetayMetni(false));
-    }
     /// A record whose first 14 values are these; the ones left out are empty.
     static Metin Degerler(const std::map<int, Metin>& degerler) {
         Metin satir;

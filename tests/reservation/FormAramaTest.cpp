@@ -213,7 +213,7 @@ TEST_F(AramaTest, A_star_lists_names_before_any_file_was_read_too_on_purpose) {
 }
 
 TEST_F(AramaTest, A_search_writes_nothing) {
-    RezervasyonKoyYola(u"Salon B/2012/20.06.2012 - Gece", {});
+    KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece");
     Prog();
     const std::string once = agac.Resim();
     Ara(kAd, u"ali");

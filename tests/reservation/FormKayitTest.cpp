@@ -25,8 +25,8 @@ TEST_F(FormKayitTest, A_new_record_starts_from_the_design_and_todays_contract_da
         const FormKayit& k = Kayit();
         EXPECT_EQ(k.baslik, u"Yeni Kayıt");
         EXPECT_EQ(k.Kay[4].metin, u"Lütfen Seçiniz");
-        EXPECT_EQ(k.Kay4Listesi, (std::vector<Metin>{u"Lütfen Seçiniz", u"Düğün", u"Nişan", u"Sünnet",
-                                                     u"Toplantı", u"Kokteyl", u"Konferans", u"Diğer"}));
+        EXPECT_EQ(k.Kay[4].ogeler, (std::vector<Metin>{u"Lütfen Seçiniz", u"Düğün", u"Nişan", u"Sünnet",
+                                                       u"Toplantı", u"Kokteyl", u"Konferans", u"Diğer"}));
         EXPECT_EQ(k.Kay[13].metin, u"15.06.2012");
         EXPECT_EQ(k.Kay[15].metin, u"__:__");
         EXPECT_EQ(k.Kay[18].metin, u"__.__.____");

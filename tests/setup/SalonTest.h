@@ -60,10 +60,7 @@ class SalonTest : public ::testing::Test {
         VELORA_BAS(kullanici.Prog().FormSalonTanim, Command4);
     }
     /// A reservation of the hall on 20 June 2012 in the evening.
-    void RezervasyonKoy(const Metin& salon) const {
-        agac.KoyMetin(salon + u"/2012/20.06.2012 - Gece", AnaMetni());
-        agac.KoyMetin(salon + u"/2012/20.06.2012 - Gece-Detay", DetayMetni(false));
-    }
+    void RezervasyonKoy(const Metin& salon) const { KayitKoy(agac, salon + u"/2012/20.06.2012 - Gece"); }
     /// What the table knows of it; empty when it shows none.
     const Metin& RezervasyonTagi() { return kullanici.Goz(20, 6, GunduzGece::Gece).tag; }
     /// Both lists hold these halls, in this order.

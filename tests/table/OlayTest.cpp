@@ -21,8 +21,7 @@ class Olay : public TabloTest {
 
 TEST_F(Olay, Hall_chosen_in_the_middle_of_a_scan_is_the_one_that_shows_in_the_end) {
     RezervasyonKoy(u"05.01.2012 - Gündüz");
-    agac.KoyMetin(u"Salon B/2012/06.02.2012 - Gece", AnaMetni({.ad = u"B Müşterisi"}));
-    agac.KoyMetin(u"Salon B/2012/06.02.2012 - Gece-Detay", DetayMetni(true));
+    KayitKoy(agac, u"Salon B/2012/06.02.2012 - Gece", {.ad = u"B Müşterisi"}, true);
     kullanici.ProgramiAc();
     kullanici.SalonSec(u"Salon B");
     const std::string yalinB = TabloResmi();

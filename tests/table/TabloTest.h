@@ -18,8 +18,7 @@ class TabloTest : public ::testing::Test {
 
     /// A reservation of hall A in 2012; `ad` is its day file name.
     void RezervasyonKoy(const Metin& ad, const OrnekKayit& kayit = {}, bool on = false) {
-        agac.KoyMetin(u"Salon A/2012/" + ad, AnaMetni(kayit));
-        agac.KoyMetin(u"Salon A/2012/" + ad + u"-Detay", DetayMetni(on));
+        KayitKoy(agac, u"Salon A/2012/" + ad, kayit, on);
     }
     void AyarKoy(int alan, MetinBakis deger) {
         agac.KoyMetin(u"Settings.dll", AyarMetni(alan, deger));

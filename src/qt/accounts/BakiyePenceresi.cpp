@@ -7,7 +7,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -27,50 +26,38 @@ namespace {
 constexpr std::array kBakiyeSutunEnleri{150, 170, 76, 76, 76, 56, 130, 90, 64, 140};
 constexpr int kSecimEni = 300; // of the two lists to choose from
 
-/// A field with its caption before it.
-template <class Parca>
-Parca* AlanEkle(QGridLayout& izgara, int satir, int sutun, const char* ad, const QString& yazi) {
-    auto* parca = new Parca;
-    Adlandir(*parca, QString::fromLatin1(ad), yazi);
-    izgara.addWidget(EtiketYap(yazi, *parca), satir, sutun);
-    izgara.addWidget(parca, satir, sutun + 1);
-    return parca;
-}
-
 } // namespace
 
-BakiyePenceresi::BakiyePenceresi(Program& program) : Diyalog(program.FormBakiye.Tut()) {
-    const auto tut = program.FormBakiye.Tut();
-    FormBakiye* ekran = tut.get();
+BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.FormBakiye.Tut()) {
     QVBoxLayout* sutun = SutunKur(*this);
     // In the window first: the keys go through the fields in the order in which they come into it.
     auto* suzgecler = new QGridLayout;
     sutun->addLayout(suzgecler);
-    SuzgecleriKur(*suzgecler, ekran);
-    QWidget* liste = Liste(ekran);
+    SuzgecleriKur(*suzgecler);
+    QWidget* liste = ListeYap(kBakiyeSutunEnleri, &FormBakiye::Liste_Click, &FormBakiye::Liste_DblClick);
     sutun->addWidget(liste, 1);
-    sutun->addWidget(Toplamlar(ekran));
-    auto* detay = DugmeYap("Command6", ekran->Command6, [ekran] { ekran->Command6_Click(); });
-    auto* kapat = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    sutun->addWidget(Toplamlar());
+    auto* detay = DugmeYap({"Command6", &FormBakiye::Command6, &FormBakiye::Command6_Click});
+    auto* kapat = DugmeYap({"Command1", &FormBakiye::Command1, &FormBakiye::Command1_Click});
     IptalDugmesi(kapat);
     VarsayilanDugme(*findChild<QPushButton*>(QStringLiteral("ListeleGun")), *liste, *detay);
     OdagiListeyeVer(*detay, *liste);
     sutun->addLayout(DugmeSeridi({detay, kapat}));
-    setWindowTitle(QMetin(ekran->baslik));
     resize(1080, 600);
-    findChild<QWidget*>(QStringLiteral("Combo2"))->setFocus();
+    IlkOdak("Combo2");
 }
 
-void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
+void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara) {
     izgara.setSpacing(kAralik);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 0, 0, "Combo2", QStringLiteral("Salon Adı")), ekran->Combo2);
-    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 0, 3, "DTPicker1", QStringLiteral("Başlangıç Tarihi")),
-                ekran->DTPicker1);
-    Bag().Bagla(*AlanEkle<QComboBox>(izgara, 1, 0, "Combo1", QStringLiteral("Rezervasyon Tipi")),
-                ekran->Combo1);
-    Bag().Bagla(*AlanEkle<QDateEdit>(izgara, 1, 3, "DTPicker2", QStringLiteral("Bitiş Tarihi")),
-                ekran->DTPicker2);
-    auto* listele = DugmeYap("ListeleGun", ekran->Listele, [ekran] { ekran->ListeleGun(); });
+    const auto ekle = [&](int satir, int sutun, QWidget* parca) {
+        izgara.addWidget(EtiketYap(parca->accessibleName(), *parca), satir, sutun);
+        izgara.addWidget(parca, satir, sutun + 1);
+    };
+    ekle(0, 0, ParcaYap<QComboBox>(QStringLiteral("Combo2"), Model().Combo2));
+    ekle(0, 3, ParcaYap<QDateEdit>(QStringLiteral("DTPicker1"), Model().DTPicker1));
+    ekle(1, 0, ParcaYap<QComboBox>(QStringLiteral("Combo1"), Model().Combo1));
+    ekle(1, 3, ParcaYap<QDateEdit>(QStringLiteral("DTPicker2"), Model().DTPicker2));
+    auto* listele = DugmeYap({"ListeleGun", &FormBakiye::Listele, &FormBakiye::ListeleGun});
     izgara.addWidget(listele, 1, 6);
     for (const int ara : {2, 5})
         izgara.setColumnMinimumWidth(ara, kAralik);
@@ -78,18 +65,7 @@ void BakiyePenceresi::SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran) {
     izgara.setColumnStretch(7, 1);
 }
 
-QWidget* BakiyePenceresi::Liste(FormBakiye* ekran) {
-    auto* liste = new QTreeWidget;
-    Adlandir(*liste, QStringLiteral("Liste"), QStringLiteral("Rezervasyonlar"));
-    Bag().Bagla(
-        *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
-    int sutun = 0;
-    for (const int en : kBakiyeSutunEnleri)
-        liste->setColumnWidth(sutun++, en);
-    return liste;
-}
-
-QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
+QWidget* BakiyePenceresi::Toplamlar() {
     auto* cerceve = new QFrame;
     cerceve->setFrameShape(QFrame::StyledPanel);
     cerceve->setBackgroundRole(QPalette::Base);
@@ -100,17 +76,14 @@ QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
     constexpr int kSatir = static_cast<int>(kBakiyeTurleri.size()) / 2; // the kinds stand in two columns
     for (int sira = 0; sira < 2 * kSatir; ++sira)
         ToplamEkle(*izgara, sira % kSatir, sira / kSatir * 3, QStringLiteral("DTop%1").arg(sira + 1),
-                   QMetin(kBakiyeTurleri[static_cast<std::size_t>(sira)]), ekran->DTop[sira + 1]);
-    const std::array sagdakiler{std::tuple{"Toplam", u"Genel Toplam", &ekran->Toplam},
-                                std::tuple{"Alinan", u"Alınan Ödeme", &ekran->Alinan},
-                                std::tuple{"Kalan", u"Kalan Ödeme", &ekran->Kalan},
-                                std::tuple{"Label14", u"Kesin Rezervasyon", &ekran->Label14},
-                                std::tuple{"Label18", u"Ön Rezervasyon", &ekran->Label18},
-                                std::tuple{"Label19", u"Toplam Rezervasyon", &ekran->Label19}};
+                   Model().DTop[sira + 1]);
+    const std::array sagdakiler{
+        std::pair{"Toplam", &Model().Toplam},   std::pair{"Alinan", &Model().Alinan},
+        std::pair{"Kalan", &Model().Kalan},     std::pair{"Label14", &Model().Label14},
+        std::pair{"Label18", &Model().Label18}, std::pair{"Label19", &Model().Label19}};
     int sira = 0;
-    for (const auto& [ad, yazi, model] : sagdakiler) {
-        ToplamEkle(*izgara, sira % 3, 6 + sira / 3 * 3, QString::fromLatin1(ad), QString::fromUtf16(yazi),
-                   *model);
+    for (const auto& [ad, model] : sagdakiler) {
+        ToplamEkle(*izgara, sira % 3, 6 + sira / 3 * 3, QString::fromLatin1(ad), *model);
         ++sira;
     }
     for (const int sutun : {1, 4, 7, 10})
@@ -119,13 +92,11 @@ QWidget* BakiyePenceresi::Toplamlar(FormBakiye* ekran) {
 }
 
 void BakiyePenceresi::ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad,
-                                 const QString& yazi, Etiket& model) {
-    auto* tutar = new QLabel;
-    Adlandir(*tutar, ad, yazi);
-    Bag().Bagla(*tutar, model);
+                                 Etiket& model) {
+    QLabel* tutar = DegerYap(ad, model);
     // The block keeps its shape when the amounts grow.
     tutar->setMinimumWidth(tutar->fontMetrics().horizontalAdvance(QStringLiteral(": 9.999.999 TL")));
-    auto* baslik = new QLabel(yazi);
+    auto* baslik = new QLabel(QMetin(model.once));
     for (QLabel* etiket : {baslik, tutar})
         etiket->setMargin(kAralik / 4);
     izgara.addWidget(baslik, satir, sutun);

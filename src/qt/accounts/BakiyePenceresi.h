@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 class QGridLayout;
 class QWidget;
@@ -12,16 +12,14 @@ struct FormBakiye;
 struct Program;
 
 /// The window of `FormBakiye`.
-class BakiyePenceresi : public Diyalog {
+class BakiyePenceresi : public EkranPenceresi<FormBakiye> {
   public:
     explicit BakiyePenceresi(Program& program);
 
   private:
-    void SuzgecleriKur(QGridLayout& izgara, FormBakiye* ekran);
-    QWidget* Liste(FormBakiye* ekran);
-    QWidget* Toplamlar(FormBakiye* ekran);
-    void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, const QString& yazi,
-                    Etiket& model);
+    void SuzgecleriKur(QGridLayout& izgara);
+    QWidget* Toplamlar();
+    void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, Etiket& model);
 };
 
 } // namespace velora

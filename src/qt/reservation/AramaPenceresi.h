@@ -1,8 +1,6 @@
 #pragma once
 
-#include "qt/Diyalog.h"
-
-class QTreeWidget;
+#include "qt/EkranPenceresi.h"
 
 namespace velora {
 
@@ -10,14 +8,13 @@ struct FormArama;
 struct Program;
 
 /// The window of `FormArama`.
-class AramaPenceresi : public Diyalog {
+class AramaPenceresi : public EkranPenceresi<FormArama> {
   public:
     explicit AramaPenceresi(Program& program);
 
   private:
-    QTreeWidget* Liste(FormArama* ekran);
     /// The criteria, with "Ara" behind the last of them.
-    QLayout* Olcutler(FormArama* ekran);
+    QLayout* Olcutler();
 };
 
 } // namespace velora

@@ -28,30 +28,15 @@ constexpr int kAlanEni = 300;
 constexpr int kKisaAlanEni = 110;
 constexpr int kCokSatirBoyu = 64;
 
-struct AlanYazisi {
-    int no;
-    const char16_t* yazi;
-    const char16_t* ardindan; // what stands behind the field
-};
-
-// The first page, column by column.
-constexpr std::array<AlanYazisi, 8> kSolAlanlar{{{1, u"Adı Soyadı", u""},
-                                                 {2, u"Yöresi", u""},
-                                                 {3, u"Gelin / Damat", u""},
-                                                 {4, u"Niteliği", u""},
-                                                 {5, u"Telefon", u""},
-                                                 {6, u"Cep", u""},
-                                                 {7, u"Adres", u""},
-                                                 {8, u"Toplam Ücret", u"TL"}}};
-constexpr std::array<AlanYazisi, 7> kSagAlanlar{{{11, u"Ön Açıklama", u""},
-                                                 {12, u"Başlama Saati", u""},
-                                                 {15, u"Bitiş Saati", u""},
-                                                 {13, u"Sözleşme Tarihi", u"(gün.ay.yıl)"},
-                                                 {14, u"Sözleşme No", u""},
-                                                 {16, u"T.C. Kimlik No", u""},
-                                                 {17, u"Davetli Sayısı", u""}}};
-constexpr std::array kCokSatirlilar{7, 11};
-constexpr std::array kKisalar{8, 12, 13, 14, 15, 18};
+// The fields of the first page, column by column.
+constexpr std::array kSolAlanlar{AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Niteligi,
+                                 AnaNo::Telefon,   AnaNo::Cep,    AnaNo::Adres,      AnaNo::ToplamUcret};
+constexpr std::array kSagAlanlar{AnaNo::OnAciklama,     AnaNo::BaslamaSaati, AnaNo::BitisSaati,
+                                 AnaNo::SozlesmeTarihi, AnaNo::SozlesmeNo,   AnaNo::KimlikNo,
+                                 AnaNo::DavetliSayisi};
+constexpr std::array kCokSatirlilar{AnaNo::Adres, AnaNo::OnAciklama};
+constexpr std::array kKisalar{AnaNo::ToplamUcret, AnaNo::BaslamaSaati, AnaNo::SozlesmeTarihi,
+                              AnaNo::SozlesmeNo,  AnaNo::BitisSaati,   AnaNo::HatirlatmaTarihi};
 
 template <class Dizi>
 bool Icinde(const Dizi& dizi, int no) {
@@ -65,66 +50,50 @@ QString AlanAdi(const char* dizi, int no) {
 } // namespace
 
 KayitPenceresi::KayitPenceresi(Program& program)
-    : Diyalog(program.FormKayit.Tut()), program_(program), tut_(program.FormKayit.Tut()), ekran_(*tut_),
-      sayfalar_(new QTabWidget) {
+    : EkranPenceresi(program.FormKayit.Tut()), sayfalar_(new QTabWidget) {
     QVBoxLayout* sutun = SutunKur(*this);
     sutun->addWidget(sayfalar_);
     sayfalar_->setObjectName(QStringLiteral("SSTab1"));
     SayfaTuslari(*sayfalar_);
-    sayfalar_->addTab(GenelSayfasi(), QStringLiteral("Genel Bilgiler "));
-    sayfalar_->addTab(OdemeSayfasi(), QStringLiteral("Ödemeler"));
-    sayfalar_->addTab(MenuSayfasi(), QStringLiteral("Menüler"));
-    sayfalar_->addTab(HizmetSayfasi(), QStringLiteral("Hizmetler"));
-    sutun->addLayout(Dugmeler()); // behind the pages for the Tab key too
+    std::size_t no = 0;
+    for (QWidget* sayfa : {GenelSayfasi(), OdemeSayfasi(), MenuSayfasi(), HizmetSayfasi()})
+        sayfalar_->addTab(sayfa, QMetin(Model().sayfalar[no++]));
+    // Behind the pages for the Tab key too.
+    sutun->addLayout(TamamIptal({"Command1", &FormKayit::Command1, &FormKayit::Command1_Click},
+                                {"Command2", &FormKayit::Command2, &FormKayit::Command2_Click}));
     connect(sayfalar_, &QTabWidget::tabBarClicked, this,
-            [this](int sira) { Bag().Calistir([this, sira] { ekran_.SSTab1 = sira + 1; }); });
+            [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     connect(sayfalar_, &QTabWidget::currentChanged, this,
-            [this](int sira) { Bag().Calistir([this, sira] { ekran_.SSTab1 = sira + 1; }); });
-    Bag().Izle([this] {
-        setWindowTitle(QMetin(ekran_.baslik));
-        sayfalar_->setCurrentIndex(ekran_.SSTab1 - 1);
-    });
-    findChild<QWidget*>(QStringLiteral("Kay1"))->setFocus();
-    tut_.reset();
-}
-
-QLayout* KayitPenceresi::Dugmeler() {
-    auto* kaydet = DugmeYap("Command1", ekran_.Command1, [this] { ekran_.Command1_Click(); });
-    kaydet->setDefault(true);
-    auto* kapat = DugmeYap("Command2", ekran_.Command2, [this] { ekran_.Command2_Click(); });
-    IptalDugmesi(kapat);
-    return DugmeSeridi({kaydet, kapat});
+            [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
+    Bag().Izle([this] { sayfalar_->setCurrentIndex(Model().SSTab1 - 1); });
+    IlkOdak("Kay1");
 }
 
 QWidget* KayitPenceresi::AlanYap(int no) {
-    MetinKutusu& model = ekran_.Kay[no];
-    if (no == 4) {
-        auto* kutu = new QComboBox;
-        Bag().Bagla(*kutu, model, ekran_.Kay4Listesi);
-        return kutu;
-    }
+    MetinKutusu& model = Model().Kay[no];
+    const QString ad = AlanAdi("Kay", no);
+    if (!model.ogeler.empty())
+        return ParcaYap<QComboBox>(ad, model);
     if (Icinde(kCokSatirlilar, no)) {
-        auto* kutu = new QPlainTextEdit;
+        auto* kutu = ParcaYap<QPlainTextEdit>(ad, model);
         kutu->setFixedHeight(kCokSatirBoyu);
-        Bag().Bagla(*kutu, model);
         return kutu;
     }
-    auto* kutu = new QLineEdit;
     Baglayici::AlanIsleri isler;
-    if (no == 8) {
+    if (no == AnaNo::ToplamUcret)
+        isler.odakGitti = Isle(&FormKayit::Kay8_LostFocus);
+    if (no == AnaNo::BaslamaSaati)
+        isler.odakGitti = Isle(&FormKayit::Kay12_LostFocus);
+    auto* kutu = ParcaYap<QLineEdit>(ad, model, isler);
+    if (no == AnaNo::ToplamUcret)
         kutu->setAlignment(Qt::AlignRight);
-        isler.odakGitti = [this] { ekran_.Kay8_LostFocus(); };
-    } else if (no == 12) {
-        isler.odakGitti = [this] { ekran_.Kay12_LostFocus(); };
-    }
-    Bag().Bagla(*kutu, model, isler);
     return kutu;
 }
 
-void KayitPenceresi::AlanEkle(QFormLayout& form, int no, const QString& yazi, const QString& ardindan) {
+void KayitPenceresi::AlanEkle(QFormLayout& form, int no) {
+    const MetinKutusu& model = Model().Kay[no];
     QWidget* kutu = AlanYap(no);
-    Adlandir(*kutu, AlanAdi("Kay", no), yazi);
-    QLabel* etiket = EtiketYap(yazi, *kutu);
+    QLabel* etiket = EtiketYap(QMetin(model.baslik), *kutu);
     if (!Icinde(kKisalar, no)) {
         kutu->setMinimumWidth(kAlanEni);
         form.addRow(etiket, kutu);
@@ -134,12 +103,10 @@ void KayitPenceresi::AlanEkle(QFormLayout& form, int no, const QString& yazi, co
     satir->setSpacing(kAralik);
     kutu->setFixedWidth(kKisaAlanEni);
     satir->addWidget(kutu);
-    if (no == 8) {
-        satir->addWidget(new QLabel(ardindan));
+    satir->addWidget(new QLabel(QMetin(model.sonra)));
+    if (no == AnaNo::ToplamUcret) {
         satir->addSpacing(kAralik);
-        satir->addWidget(DugmeYap("Command4", ekran_.Command4, [this] { ekran_.Command4_Click(); }));
-    } else {
-        satir->addWidget(new QLabel(ardindan));
+        satir->addWidget(DugmeYap({"Command4", &FormKayit::Command4, &FormKayit::Command4_Click}));
     }
     satir->addStretch(1);
     form.addRow(etiket, satir);
@@ -152,18 +119,18 @@ QWidget* KayitPenceresi::GenelSayfasi() {
     sutunlar->setSpacing(4 * kAralik);
     QFormLayout* sol = FormKur();
     auto* tarih = new QLabel;
-    Adlandir(*tarih, QStringLiteral("Tarih"), QStringLiteral("Rezervasyon Tarihi"));
+    Adlandir(*tarih, QStringLiteral("Tarih"), QMetin(Model().tarihBaslik));
     tarih->setTextFormat(Qt::PlainText);
     QFont kalin = tarih->font();
     kalin.setBold(true);
     tarih->setFont(kalin);
-    Bag().Izle([this, tarih] { tarih->setText(QMetin(ekran_.Tarih)); });
-    sol->addRow(QStringLiteral("Rezervasyon Tarihi"), tarih);
-    for (const AlanYazisi& alan : kSolAlanlar)
-        AlanEkle(*sol, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
+    Bag().Izle([this, tarih] { tarih->setText(QMetin(Model().Tarih)); });
+    sol->addRow(QMetin(Model().tarihBaslik), tarih);
+    for (const int no : kSolAlanlar)
+        AlanEkle(*sol, no);
     QFormLayout* sag = FormKur();
-    for (const AlanYazisi& alan : kSagAlanlar)
-        AlanEkle(*sag, alan.no, QString::fromUtf16(alan.yazi), QString::fromUtf16(alan.ardindan));
+    for (const int no : kSagAlanlar)
+        AlanEkle(*sag, no);
     sag->addRow(DurumSecimi());
     sag->addRow(HatirlatmaSecimi());
     // Rows keep their distance when the window grows.
@@ -181,15 +148,8 @@ QWidget* KayitPenceresi::DurumSecimi() {
     auto* satir = new QHBoxLayout(parca);
     satir->setContentsMargins(0, 0, 0, 0);
     satir->setSpacing(2 * kAralik);
-    const std::array secenekler{std::pair{u"Kesin Rezervasyon", &ekran_.Option1},
-                                std::pair{u"Ön Rezervasyon", &ekran_.Option2}};
-    int no = 0;
-    for (const auto& [yazi, model] : secenekler) {
-        auto* dugme = new QRadioButton(QString::fromUtf16(yazi));
-        Adlandir(*dugme, AlanAdi("Option", ++no), dugme->text());
-        Bag().Bagla(*dugme, *model);
-        satir->addWidget(dugme);
-    }
+    satir->addWidget(ParcaYap<QRadioButton>(QStringLiteral("Option1"), Model().Option1));
+    satir->addWidget(ParcaYap<QRadioButton>(QStringLiteral("Option2"), Model().Option2));
     satir->addStretch(1);
     return parca;
 }
@@ -199,14 +159,10 @@ QWidget* KayitPenceresi::HatirlatmaSecimi() {
     auto* satir = new QGridLayout(parca);
     satir->setContentsMargins(0, 0, 0, 0);
     satir->setSpacing(kAralik);
-    auto* yaklasinca = new QCheckBox(QStringLiteral("Yaklaşınca Hatırlat"));
-    Adlandir(*yaklasinca, QStringLiteral("Check18"), yaklasinca->text());
-    Bag().Bagla(*yaklasinca, ekran_.Check18);
-    auto* tarihte = new QCheckBox(QStringLiteral("Bu Tarihte Hatırlat"));
-    Adlandir(*tarihte, QStringLiteral("Check19"), tarihte->text());
-    Bag().Bagla(*tarihte, ekran_.Check19, [this] { ekran_.Check19_MouseUp(); });
-    QWidget* tarih = AlanYap(18);
-    Adlandir(*tarih, QStringLiteral("Kay18"), QStringLiteral("Bu Tarihte Hatırlat"));
+    auto* yaklasinca = ParcaYap<QCheckBox>(QStringLiteral("Check18"), Model().Check18);
+    auto* tarihte =
+        ParcaYap<QCheckBox>(QStringLiteral("Check19"), Model().Check19, Isle(&FormKayit::Check19_MouseUp));
+    QWidget* tarih = AlanYap(AnaNo::HatirlatmaTarihi);
     tarih->setFixedWidth(kKisaAlanEni);
     satir->addWidget(yaklasinca, 0, 0);
     satir->addWidget(tarihte, 1, 0);
@@ -218,20 +174,13 @@ QWidget* KayitPenceresi::HatirlatmaSecimi() {
 QWidget* KayitPenceresi::MenuSayfasi() {
     auto* sayfa = new QWidget;
     QVBoxLayout* sutun = SutunKur(*sayfa);
-    auto* secim = new QComboBox;
-    Adlandir(*secim, QStringLiteral("Combo1"), QStringLiteral("Menü"));
-    Bag().Bagla(*secim, ekran_.Combo1);
-    auto* metin = new QPlainTextEdit;
-    Adlandir(*metin, QStringLiteral("Label20"), QStringLiteral("Menü içeriği"));
-    Bag().Bagla(*metin, ekran_.Label20);
-    auto* aciklama = new QPlainTextEdit;
-    QLabel* baslik = EtiketYap(QStringLiteral("Özel İstekler ve Açıklamalar"), *aciklama);
-    Adlandir(*aciklama, QStringLiteral("Aciklamalar"), baslik->text());
-    Bag().Bagla(*aciklama, ekran_.Aciklamalar);
+    auto* secim = ParcaYap<QComboBox>(QStringLiteral("Combo1"), Model().Combo1);
+    auto* metin = ParcaYap<QPlainTextEdit>(QStringLiteral("Label20"), Model().Label20);
+    auto* aciklama = ParcaYap<QPlainTextEdit>(QStringLiteral("Aciklamalar"), Model().Aciklamalar);
     sutun->addWidget(secim);
     sutun->addWidget(metin, 1);
     sutun->addSpacing(kAralik);
-    sutun->addWidget(baslik);
+    sutun->addWidget(EtiketYap(QMetin(Model().Aciklamalar.baslik), *aciklama));
     sutun->addWidget(aciklama, 1);
     return sayfa;
 }
@@ -243,13 +192,9 @@ QWidget* KayitPenceresi::HizmetSayfasi() {
     izgara->setSpacing(kAralik);
     constexpr int kSatir = (kHizmetSayisi + 1) / 2; // in two columns, each from top to bottom
     for (int no = 1; no <= kHizmetSayisi; ++no) {
-        const QString ad = QMetin(kHizmetAdlari[static_cast<std::size_t>(no - 1)]);
-        auto* kutu = new QCheckBox(ad);
-        Adlandir(*kutu, AlanAdi("Check", no), ad);
-        Bag().Bagla(*kutu, ekran_.Check[no], [this, no] { ekran_.Check_MouseUp(no); });
-        auto* not_ = new QLineEdit;
-        Adlandir(*not_, AlanAdi("TT", no), ad + QStringLiteral(", not"));
-        Bag().Bagla(*not_, ekran_.TT[no]);
+        auto* kutu = ParcaYap<QCheckBox>(AlanAdi("Check", no), Model().Check[no],
+                                         [this, no] { Model().Check_MouseUp(no); });
+        auto* not_ = ParcaYap<QLineEdit>(AlanAdi("TT", no), Model().TT[no]);
         const int sutun = (no - 1) / kSatir * 3;
         izgara->addWidget(kutu, (no - 1) % kSatir, sutun);
         izgara->addWidget(not_, (no - 1) % kSatir, sutun + 1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 class QFormLayout;
 class QTabWidget;
@@ -11,7 +11,7 @@ struct FormKayit;
 struct Program;
 
 /// The window of `FormKayit`: four pages and a row of buttons.
-class KayitPenceresi : public Diyalog {
+class KayitPenceresi : public EkranPenceresi<FormKayit> {
   public:
     explicit KayitPenceresi(Program& program);
 
@@ -20,17 +20,13 @@ class KayitPenceresi : public Diyalog {
     QWidget* OdemeSayfasi();
     QWidget* MenuSayfasi();
     QWidget* HizmetSayfasi();
-    QLayout* Dugmeler();
 
-    void AlanEkle(QFormLayout& form, int no, const QString& yazi, const QString& ardindan = {});
+    void AlanEkle(QFormLayout& form, int no);
     QWidget* AlanYap(int no);
     QWidget* DurumSecimi();
     QWidget* HatirlatmaSecimi();
     QLayout* Toplamlar();
 
-    Program& program_;
-    std::shared_ptr<FormKayit> tut_; // only while the window is built
-    FormKayit& ekran_;
     QTabWidget* sayfalar_;
 };
 

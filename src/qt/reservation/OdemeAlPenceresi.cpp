@@ -18,32 +18,22 @@ namespace {
 
 constexpr int kOdemeAlaniEni = 260;
 
-template <class Parca>
-Parca* AlanEkle(QFormLayout& form, const char* ad, const QString& yazi) {
-    auto* parca = new Parca;
-    Adlandir(*parca, QString::fromLatin1(ad), yazi);
-    parca->setMinimumWidth(kOdemeAlaniEni);
-    form.addRow(yazi, parca);
-    return parca;
-}
-
 } // namespace
 
-OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : Diyalog(program.FormOdemeAl.Tut()) {
-    const auto tut = program.FormOdemeAl.Tut();
-    FormOdemeAl* ekran = tut.get();
+OdemeAlPenceresi::OdemeAlPenceresi(Program& program) : EkranPenceresi(program.FormOdemeAl.Tut()) {
     QVBoxLayout* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    Bag().Bagla(*AlanEkle<QDateEdit>(*form, "DTPicker1", QStringLiteral("Tarih Seçin")), ekran->DTPicker1);
-    auto* miktar = AlanEkle<QLineEdit>(*form, "Text1", QStringLiteral("Miktar Girin"));
+    const Baglayici::AlanIsleri isler{.degisti = Isle(&FormOdemeAl::Text1_Change), .odakGitti = {}};
+    auto* tarih = SatirEkle<QDateEdit>(*form, QStringLiteral("DTPicker1"), Model().DTPicker1);
+    auto* miktar = SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1, isler);
+    auto* aciklama = SatirEkle<QLineEdit>(*form, QStringLiteral("Aciklama"), Model().Aciklama);
     miktar->setAlignment(Qt::AlignRight);
-    Bag().Bagla(*miktar, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
-    Bag().Bagla(*AlanEkle<QLineEdit>(*form, "Aciklama", QStringLiteral("Açıklama")), ekran->Aciklama);
+    for (QWidget* alan : std::initializer_list<QWidget*>{tarih, miktar, aciklama})
+        alan->setMinimumWidth(kOdemeAlaniEni);
     sutun->addLayout(form);
-    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
-                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
+    sutun->addLayout(TamamIptal({"Command1", &FormOdemeAl::Command1, &FormOdemeAl::Command1_Click},
+                                {"Command2", &FormOdemeAl::Command2, &FormOdemeAl::Command2_Click}));
     sutun->setSizeConstraint(QLayout::SetFixedSize);
-    setWindowTitle(QMetin(ekran->baslik));
     miktar->setFocus();
 }
 

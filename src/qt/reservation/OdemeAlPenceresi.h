@@ -1,13 +1,14 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 namespace velora {
 
+struct FormOdemeAl;
 struct Program;
 
 /// The window of `FormOdemeAl`.
-class OdemeAlPenceresi : public Diyalog {
+class OdemeAlPenceresi : public EkranPenceresi<FormOdemeAl> {
   public:
     explicit OdemeAlPenceresi(Program& program);
 };

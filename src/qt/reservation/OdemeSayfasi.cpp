@@ -2,7 +2,6 @@
 #include <array>
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -18,7 +17,7 @@ namespace velora {
 
 namespace {
 
-constexpr int kSutunEni = 120;
+constexpr std::array kOdemeSutunEnleri{120, 120};
 constexpr int kTutarEni = 90;
 
 } // namespace
@@ -26,15 +25,11 @@ constexpr int kTutarEni = 90;
 QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* sayfa = new QWidget;
     QVBoxLayout* sutun = SutunKur(*sayfa);
-    auto* liste = new QTreeWidget;
-    liste->setObjectName(QStringLiteral("Liste"));
-    liste->setAccessibleName(QStringLiteral("Ödemeler"));
-    Bag().Bagla(*liste, ekran_.Liste, [this] { ekran_.Liste_ItemClick(); });
-    liste->header()->setDefaultSectionSize(kSutunEni);
+    auto* liste = ListeYap(kOdemeSutunEnleri, &FormKayit::Liste_ItemClick);
     auto* dugmeler = new QHBoxLayout;
     dugmeler->setSpacing(kAralik);
-    dugmeler->addWidget(DugmeYap("Command8", ekran_.Command8, [this] { ekran_.Command8_Click(); }));
-    auto* sil = DugmeYap("Command7", ekran_.Command7, [this] { ekran_.Command7_Click(); });
+    dugmeler->addWidget(DugmeYap({"Command8", &FormKayit::Command8, &FormKayit::Command8_Click}));
+    auto* sil = DugmeYap({"Command7", &FormKayit::Command7, &FormKayit::Command7_Click});
     OdagiListeyeVer(*sil, *liste);
     dugmeler->addWidget(sil);
     dugmeler->addStretch(1);
@@ -47,19 +42,15 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    const std::array toplamlar{std::tuple{u"Alınan Ödeme :", "Kayam9", &ekran_.Kayam9},
-                               std::tuple{u"Kalan Ödeme :", "Kayam10", &ekran_.Kayam10}};
-    for (const auto& [yazi, ad, model] : toplamlar) {
-        auto* tutar = new QLabel;
-        tutar->setObjectName(QString::fromLatin1(ad));
-        tutar->setAccessibleName(QString::fromUtf16(yazi));
+    for (const int no : {9, 10}) {
+        Etiket& model = no == 9 ? Model().Kayam9 : Model().Kayam10;
+        QLabel* tutar = DegerYap(QStringLiteral("Kayam%1").arg(no), model);
         tutar->setMinimumWidth(kTutarEni);
         tutar->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         tutar->setMargin(kAralik / 2);
-        Bag().Bagla(*tutar, *model);
-        serit->addWidget(new QLabel(QString::fromUtf16(yazi)));
+        serit->addWidget(new QLabel(QMetin(model.once)));
         serit->addWidget(tutar);
-        serit->addWidget(new QLabel(QStringLiteral("TL")));
+        serit->addWidget(new QLabel(QMetin(model.sonra)));
         serit->addSpacing(kAralik);
     }
     return serit;

@@ -27,88 +27,73 @@ constexpr int kGunEni = 56;
 constexpr QSize kRenkKutusu(56, 22);
 constexpr int kAySutunu = 4; // months in a row
 
-QCheckBox* OnayYap(Baglayici& baglayici, const QString& ad, OnayKutusu& model) {
-    auto* kutu = new QCheckBox(QMetin(model.baslik));
-    Adlandir(*kutu, ad, kutu->text());
-    baglayici.Bagla(*kutu, model);
-    return kutu;
-}
-
-void GunSatiriEkle(Baglayici& baglayici, QGridLayout& izgara, const QString& ad, MetinKutusu& model,
-                   const QString& once, const QString& sonra) {
-    auto* kutu = new QLineEdit;
-    Adlandir(*kutu, ad, once);
-    kutu->setFixedWidth(kGunEni);
-    kutu->setAlignment(Qt::AlignRight);
-    baglayici.Bagla(*kutu, model);
-    const int satir = izgara.rowCount();
-    izgara.addWidget(EtiketYap(once, *kutu), satir, 0);
-    izgara.addWidget(kutu, satir, 1);
-    izgara.addWidget(new QLabel(sonra), satir, 2);
-}
-
 } // namespace
 
-AyarlarPenceresi::AyarlarPenceresi(Program& program) : Diyalog(program.FormAyarlar.Tut()) {
-    const auto tut = program.FormAyarlar.Tut();
-    FormAyarlar* ekran = tut.get();
+AyarlarPenceresi::AyarlarPenceresi(Program& program) : EkranPenceresi(program.FormAyarlar.Tut()) {
     auto* sutun = SutunKur(*this);
     auto* sayfalar = new QTabWidget;
     SayfaTuslari(*sayfalar);
-    sayfalar->addTab(GenelSayfasi(*ekran), QMetin(ekran->sayfalar[0]));
-    sayfalar->addTab(GorunumSayfasi(*ekran), QMetin(ekran->sayfalar[1]));
-    auto* kaydet = DugmeYap("Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); });
+    sayfalar->addTab(GenelSayfasi(), QMetin(Model().sayfalar[0]));
+    sayfalar->addTab(GorunumSayfasi(), QMetin(Model().sayfalar[1]));
+    auto* kaydet = DugmeYap({"Command1", &FormAyarlar::Command1, &FormAyarlar::Command1_Click});
     kaydet->setDefault(true);
-    auto* iptal = DugmeYap("Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); });
+    auto* iptal = DugmeYap({"Command2", &FormAyarlar::Command2, &FormAyarlar::Command2_Click});
     IptalDugmesi(iptal);
-    auto* uygula = DugmeYap("Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); });
-    auto* varsayilan = DugmeYap("Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); });
+    auto* uygula = DugmeYap({"Command4", &FormAyarlar::Command4, &FormAyarlar::Command4_Click});
+    auto* varsayilan = DugmeYap({"Command3", &FormAyarlar::Command3, &FormAyarlar::Command3_Click});
     sutun->addWidget(sayfalar, 1);
     sutun->addLayout(DugmeSeridi({kaydet, uygula, iptal}, {varsayilan}));
     sutun->setSizeConstraint(QLayout::SetFixedSize); // nothing in it could use more room
-    setWindowTitle(QMetin(ekran->baslik));
-    findChild<QWidget*>(QStringLiteral("UyariGun"))->setFocus();
+    IlkOdak("UyariGun");
 }
 
-QWidget* AyarlarPenceresi::GenelSayfasi(FormAyarlar& ekran) {
+QWidget* AyarlarPenceresi::GenelSayfasi() {
+    FormAyarlar& ekran = Model();
     auto* sayfa = new QWidget;
     auto* sutun = SutunKur(*sayfa);
     auto* izgara = new QGridLayout;
     izgara->setSpacing(kAralik);
     izgara->setColumnStretch(2, 1);
-    GunSatiriEkle(Bag(), *izgara, QStringLiteral("UyariGun"), ekran.UyariGun, QMetin(ekran.uyariGunBaslik),
-                  QMetin(ekran.uyariGunSonu));
-    GunSatiriEkle(Bag(), *izgara, QStringLiteral("UyariGun2"), ekran.UyariGun2, QMetin(ekran.uyariGun2Baslik),
-                  QMetin(ekran.uyariGunSonu));
-    auto* liste = new QComboBox;
-    Adlandir(*liste, QStringLiteral("GunduzGece"), QMetin(ekran.gunduzGeceBaslik));
-    Bag().Bagla(*liste, ekran.GunduzGece);
+    GunSatiriEkle(*izgara, QStringLiteral("UyariGun"), ekran.UyariGun);
+    GunSatiriEkle(*izgara, QStringLiteral("UyariGun2"), ekran.UyariGun2);
+    auto* liste = ParcaYap<QComboBox>(QStringLiteral("GunduzGece"), ekran.GunduzGece);
     const int satir = izgara->rowCount();
-    izgara->addWidget(EtiketYap(QMetin(ekran.gunduzGeceBaslik), *liste), satir, 0);
+    izgara->addWidget(EtiketYap(QMetin(ekran.GunduzGece.baslik), *liste), satir, 0);
     izgara->addWidget(liste, satir, 1, 1, 2, Qt::AlignLeft);
     sutun->addLayout(izgara);
     sutun->addSpacing(kAralik);
-    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check2"), ekran.Check2));
-    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check7"), ekran.Check7));
-    sutun->addWidget(OnayYap(Bag(), QStringLiteral("Check6"), ekran.Check6));
+    sutun->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check2"), ekran.Check2));
+    sutun->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check7"), ekran.Check7));
+    sutun->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check6"), ekran.Check6));
     sutun->addSpacing(kAralik);
-    sutun->addWidget(AylarKutusu(ekran));
+    sutun->addWidget(AylarKutusu());
     sutun->addStretch(1);
     return sayfa;
 }
 
-QWidget* AyarlarPenceresi::AylarKutusu(FormAyarlar& ekran) {
+void AyarlarPenceresi::GunSatiriEkle(QGridLayout& izgara, const QString& ad, MetinKutusu& model) {
+    auto* kutu = ParcaYap<QLineEdit>(ad, model);
+    kutu->setFixedWidth(kGunEni);
+    kutu->setAlignment(Qt::AlignRight);
+    const int satir = izgara.rowCount();
+    izgara.addWidget(EtiketYap(QMetin(model.baslik), *kutu), satir, 0);
+    izgara.addWidget(kutu, satir, 1);
+    izgara.addWidget(new QLabel(QMetin(model.sonra)), satir, 2);
+}
+
+QWidget* AyarlarPenceresi::AylarKutusu() {
+    FormAyarlar& ekran = Model();
     auto* kutu = new QGroupBox;
     auto* izgara = new QGridLayout(kutu);
     izgara->setSpacing(kAralik);
-    izgara->addWidget(OnayYap(Bag(), QStringLiteral("Check3"), ekran.Check3), 0, 0, 1, kAySutunu);
+    izgara->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check3"), ekran.Check3), 0, 0, 1, kAySutunu);
     for (int ay = 1; ay <= BirTabanli<OnayKutusu, 12>::kAdet; ++ay)
-        izgara->addWidget(OnayYap(Bag(), QStringLiteral("Aylar%1").arg(ay), ekran.Aylar[ay]),
+        izgara->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Aylar%1").arg(ay), ekran.Aylar[ay]),
                           1 + (ay - 1) / kAySutunu, (ay - 1) % kAySutunu);
     return kutu;
 }
 
-QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
+QWidget* AyarlarPenceresi::GorunumSayfasi() {
     auto* sayfa = new QWidget;
     auto* izgara = new QGridLayout(sayfa);
     izgara->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
@@ -118,31 +103,31 @@ QWidget* AyarlarPenceresi::GorunumSayfasi(FormAyarlar& ekran) {
     izgara->addWidget(new QLabel(QMetin(kMetinRengi)), 0, 2);
     int satir = 0;
     for (const RenkSatiri& renkler : kRenkSatirlari)
-        RenkSatiriEkle(*izgara, ++satir, renkler, ekran);
+        RenkSatiriEkle(*izgara, ++satir, renkler);
     izgara->setColumnStretch(3, 1);
     izgara->setRowStretch(satir + 1, 1);
     return sayfa;
 }
 
-void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler,
-                                      FormAyarlar& ekran) {
-    const QString yazi = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
-    QWidget* zemin = RenkKutusu(ekran, renkler.zemin, QMetin(renkler.zeminIpucu), yazi);
+void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler) {
+    FormAyarlar& ekran = Model();
+    const QString baslik = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
+    QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu), baslik);
     if (renkler.onay != nullptr) {
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
-        izgara.addWidget(
-            OnayYap(Bag(), gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"), ekran.*renkler.onay),
-            satir, 0);
+        izgara.addWidget(ParcaYap<QCheckBox>(gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"),
+                                             ekran.*renkler.onay),
+                         satir, 0);
     } else {
-        izgara.addWidget(EtiketYap(yazi, *zemin), satir, 0);
+        izgara.addWidget(EtiketYap(baslik, *zemin), satir, 0);
     }
     izgara.addWidget(zemin, satir, 1);
     if (renkler.yazi != kRenkYok)
-        izgara.addWidget(RenkKutusu(ekran, renkler.yazi, QMetin(renkler.yaziIpucu), yazi), satir, 2);
+        izgara.addWidget(RenkKutusu(renkler.yazi, QMetin(renkler.yaziIpucu), baslik), satir, 2);
 }
 
-QWidget* AyarlarPenceresi::RenkKutusu(FormAyarlar& ekran, int renk, const QString& ipucu,
-                                      const QString& okunan) {
+QWidget* AyarlarPenceresi::RenkKutusu(int renk, const QString& ipucu, const QString& okunan) {
+    FormAyarlar& ekran = Model();
     auto* kutu = new QToolButton;
     Adlandir(*kutu, QStringLiteral("Renk%1").arg(renk), okunan + QStringLiteral(", ") + ipucu);
     kutu->setToolTip(ipucu);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 class QGridLayout;
 
@@ -11,16 +11,17 @@ struct Program;
 struct RenkSatiri;
 
 /// The window of `FormAyarlar`: a page of general settings, and one of appearance.
-class AyarlarPenceresi : public Diyalog {
+class AyarlarPenceresi : public EkranPenceresi<FormAyarlar> {
   public:
     explicit AyarlarPenceresi(Program& program);
 
   private:
-    QWidget* GenelSayfasi(FormAyarlar& ekran);
-    QWidget* GorunumSayfasi(FormAyarlar& ekran);
-    QWidget* AylarKutusu(FormAyarlar& ekran);
-    void RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler, FormAyarlar& ekran);
-    QWidget* RenkKutusu(FormAyarlar& ekran, int renk, const QString& ipucu, const QString& okunan);
+    QWidget* GenelSayfasi();
+    QWidget* GorunumSayfasi();
+    void GunSatiriEkle(QGridLayout& izgara, const QString& ad, MetinKutusu& model);
+    QWidget* AylarKutusu();
+    void RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler);
+    QWidget* RenkKutusu(int renk, const QString& ipucu, const QString& okunan);
 };
 
 } // namespace velora

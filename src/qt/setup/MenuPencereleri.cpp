@@ -1,8 +1,9 @@
 #include "qt/setup/MenuPencereleri.h"
 
+#include <array>
+
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -19,45 +20,30 @@ namespace velora {
 
 namespace {
 
-constexpr int kAdSutunu = 180;
+constexpr std::array kMenuSutunEnleri{180};
 constexpr int kMenuAlaniEni = 340;
 
 } // namespace
 
-MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : Diyalog(program.FormMenuAyar.Tut()) {
-    const auto tut = program.FormMenuAyar.Tut();
-    FormMenuAyar* ekran = tut.get();
+MenuAyarPenceresi::MenuAyarPenceresi(Program& program) : EkranPenceresi(program.FormMenuAyar.Tut()) {
     auto* sutun = SutunKur(*this);
-    auto* liste = new QTreeWidget;
-    Adlandir(*liste, QStringLiteral("Liste"), QMetin(ekran->baslik));
-    Bag().Bagla(
-        *liste, ekran->Liste, [ekran] { ekran->Liste_Click(); }, [ekran] { ekran->Liste_DblClick(); });
-    liste->setColumnWidth(0, kAdSutunu);
+    auto* liste = ListeYap(kMenuSutunEnleri, &FormMenuAyar::Liste_Click, &FormMenuAyar::Liste_DblClick);
     sutun->addWidget(liste, 1);
-    sutun->addLayout(ListeDugmeleri(ekran, *liste));
-    setWindowTitle(QMetin(ekran->baslik));
+    sutun->addLayout(ListeDugmeleri(*liste));
     liste->setFocus();
     resize(640, 380);
 }
 
-MenuEklePenceresi::MenuEklePenceresi(Program& program) : Diyalog(program.FormMenuEkle.Tut()) {
-    const auto tut = program.FormMenuEkle.Tut();
-    FormMenuEkle* ekran = tut.get();
+MenuEklePenceresi::MenuEklePenceresi(Program& program) : EkranPenceresi(program.FormMenuEkle.Tut()) {
     auto* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    auto* ad = new QLineEdit;
-    Adlandir(*ad, QStringLiteral("Text1"), QMetin(ekran->Label1.baslik));
+    const Baglayici::AlanIsleri isler{.degisti = Isle(&FormMenuEkle::Text1_Change), .odakGitti = {}};
+    auto* ad = SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1, isler);
     ad->setMinimumWidth(kMenuAlaniEni);
-    Bag().Bagla(*ad, ekran->Text1, {.degisti = [ekran] { ekran->Text1_Change(); }, .odakGitti = {}});
-    form->addRow(QMetin(ekran->Label1.baslik), ad);
-    auto* icerik = new QPlainTextEdit;
-    Adlandir(*icerik, QStringLiteral("Text2"), QMetin(ekran->Label2.baslik));
-    Bag().Bagla(*icerik, ekran->Text2);
-    form->addRow(QMetin(ekran->Label2.baslik), icerik);
+    SatirEkle<QPlainTextEdit>(*form, QStringLiteral("Text2"), Model().Text2);
     sutun->addLayout(form, 1);
-    sutun->addLayout(TamamIptal({"Command4", ekran->Command4, [ekran] { ekran->Command4_Click(); }},
-                                {"Command3", ekran->Command3, [ekran] { ekran->Command3_Click(); }}));
-    Bag().Izle([this, ekran] { setWindowTitle(QMetin(ekran->baslik)); });
+    sutun->addLayout(TamamIptal({"Command4", &FormMenuEkle::Command4, &FormMenuEkle::Command4_Click},
+                                {"Command3", &FormMenuEkle::Command3, &FormMenuEkle::Command3_Click}));
     ad->setFocus();
 }
 

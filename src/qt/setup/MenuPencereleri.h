@@ -1,19 +1,21 @@
 #pragma once
 
-#include "qt/Diyalog.h"
+#include "qt/EkranPenceresi.h"
 
 namespace velora {
 
+struct FormMenuAyar;
+struct FormMenuEkle;
 struct Program;
 
 /// The window of `FormMenuAyar`.
-class MenuAyarPenceresi : public Diyalog {
+class MenuAyarPenceresi : public EkranPenceresi<FormMenuAyar> {
   public:
     explicit MenuAyarPenceresi(Program& program);
 };
 
 /// The window of `FormMenuEkle`.
-class MenuEklePenceresi : public Diyalog {
+class MenuEklePenceresi : public EkranPenceresi<FormMenuEkle> {
   public:
     explicit MenuEklePenceresi(Program& program);
 };

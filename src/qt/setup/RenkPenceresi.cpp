@@ -84,53 +84,41 @@ class Cizelge : public QWidget {
     QImage resim_;
 };
 
-/// The sample, and below it the fields that say its colour.
-QFormLayout* DegerlerKur(Baglayici& baglayici, FormRenk& ekran) {
+} // namespace
+
+QFormLayout* RenkPenceresi::Degerler() {
     QFormLayout* form = FormKur();
-    auto* ornek = new QLabel;
-    Adlandir(*ornek, QStringLiteral("picColorBox"), QStringLiteral("Seçilen renk"));
+    QLabel* ornek = DegerYap(QStringLiteral("picColorBox"), Model().picColorBox);
     ornek->setFixedHeight(kOrnekBoyu);
     ornek->setFrameShape(QFrame::StyledPanel); // seen also when it is as light as the window
-    baglayici.Bagla(*ornek, ekran.picColorBox);
     form->addRow(ornek);
-    Metin basliksiz; // the last field stands without a caption
     const std::array alanlar{
-        std::tuple{"txtRed", &ekran.redBaslik, &ekran.txtRed},
-        std::tuple{"txtGreen", &ekran.greenBaslik, &ekran.txtGreen},
-        std::tuple{"txtBlue", &ekran.blueBaslik, &ekran.txtBlue},
-        std::tuple{"txtWeb", &ekran.webBaslik, &ekran.txtWeb},
-        std::tuple{"txtHex", &ekran.hexBaslik, &ekran.txtHex},
-        std::tuple{"txtTers", &basliksiz, &ekran.txtTers},
+        std::pair{"txtRed", &Model().txtRed},   std::pair{"txtGreen", &Model().txtGreen},
+        std::pair{"txtBlue", &Model().txtBlue}, std::pair{"txtWeb", &Model().txtWeb},
+        std::pair{"txtHex", &Model().txtHex},
     };
-    for (const auto& [ad, baslik, model] : alanlar) {
-        auto* kutu = new QLineEdit;
-        Adlandir(*kutu, QString::fromLatin1(ad),
-                 baslik->empty() ? QStringLiteral("Ters değer") : QMetin(*baslik));
-        kutu->setFixedWidth(kDegerEni);
-        baglayici.Bagla(*kutu, *model);
-        form->addRow(QMetin(*baslik), kutu);
-    }
+    for (const auto& [ad, model] : alanlar)
+        SatirEkle<QLineEdit>(*form, QString::fromLatin1(ad), *model)->setFixedWidth(kDegerEni);
+    // The last one stands without its caption.
+    auto* ters = ParcaYap<QLineEdit>(QStringLiteral("txtTers"), Model().txtTers);
+    ters->setFixedWidth(kDegerEni);
+    form->addRow(QString(), ters);
     return form;
 }
 
-} // namespace
-
-RenkPenceresi::RenkPenceresi(Program& program) : Diyalog(program.FormRenk.Tut()) {
-    const auto tut = program.FormRenk.Tut();
-    FormRenk* ekran = tut.get();
+RenkPenceresi::RenkPenceresi(Program& program) : EkranPenceresi(program.FormRenk.Tut()) {
     auto* sutun = SutunKur(*this);
     auto* ust = new QHBoxLayout;
     ust->setSpacing(2 * kAralik);
-    auto* cizelge = new Cizelge(Bag(), *ekran);
-    Adlandir(*cizelge, QStringLiteral("Picture1"), QStringLiteral("Renk çizelgesi"));
+    auto* cizelge = new Cizelge(Bag(), Model());
+    Adlandir(*cizelge, QStringLiteral("Picture1"), QMetin(Model().cizelgeBaslik));
     ust->addWidget(cizelge);
-    ust->addLayout(DegerlerKur(Bag(), *ekran));
+    ust->addLayout(Degerler());
     sutun->addLayout(ust);
-    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
-                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
+    sutun->addLayout(TamamIptal({"Command1", &FormRenk::Command1, &FormRenk::Command1_Click},
+                                {"Command2", &FormRenk::Command2, &FormRenk::Command2_Click}));
     sutun->setSizeConstraint(QLayout::SetFixedSize); // as the chart
-    setWindowTitle(QMetin(ekran->baslik));
-    findChild<QWidget*>(QStringLiteral("txtRed"))->setFocus();
+    IlkOdak("txtRed");
 }
 
 } // namespace velora

@@ -22,36 +22,27 @@ constexpr int kSalonAlaniEni = 260;
 
 } // namespace
 
-SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : Diyalog(program.FormSalonTanim.Tut()) {
-    const auto tut = program.FormSalonTanim.Tut();
-    FormSalonTanim* ekran = tut.get();
+SalonTanimPenceresi::SalonTanimPenceresi(Program& program) : EkranPenceresi(program.FormSalonTanim.Tut()) {
     auto* sutun = SutunKur(*this);
-    auto* liste = new QListWidget;
-    Adlandir(*liste, QStringLiteral("List1"), QMetin(ekran->Label8.baslik));
-    Bag().Bagla(*liste, ekran->List1, [ekran] { ekran->List1_Click(); });
-    sutun->addWidget(EtiketYap(QMetin(ekran->Label8.baslik), *liste));
+    auto* liste =
+        ParcaYap<QListWidget>(QStringLiteral("List1"), Model().List1, Isle(&FormSalonTanim::List1_Click));
+    sutun->addWidget(EtiketYap(QMetin(Model().Label8.baslik), *liste));
     sutun->addWidget(liste, 1);
-    sutun->addLayout(ListeDugmeleri(ekran, *liste));
-    setWindowTitle(QMetin(ekran->baslik));
+    sutun->addLayout(ListeDugmeleri(*liste));
     liste->setFocus();
     resize(460, 340);
 }
 
-SalonAdPenceresi::SalonAdPenceresi(Program& program) : Diyalog(program.FormSalonTanimAd.Tut()) {
-    const auto tut = program.FormSalonTanimAd.Tut();
-    FormSalonTanimAd* ekran = tut.get();
+SalonAdPenceresi::SalonAdPenceresi(Program& program) : EkranPenceresi(program.FormSalonTanimAd.Tut()) {
     auto* sutun = SutunKur(*this);
     QFormLayout* form = FormKur();
-    auto* ad = new QLineEdit;
-    Adlandir(*ad, QStringLiteral("Text1"), QMetin(ekran->Label1.baslik));
+    auto* ad = SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1);
     ad->setMinimumWidth(kSalonAlaniEni);
-    Bag().Bagla(*ad, ekran->Text1);
-    form->addRow(QMetin(ekran->Label1.baslik), ad);
     sutun->addLayout(form);
-    sutun->addLayout(TamamIptal({"Command1", ekran->Command1, [ekran] { ekran->Command1_Click(); }},
-                                {"Command2", ekran->Command2, [ekran] { ekran->Command2_Click(); }}));
+    sutun->addLayout(
+        TamamIptal({"Command1", &FormSalonTanimAd::Command1, &FormSalonTanimAd::Command1_Click},
+                   {"Command2", &FormSalonTanimAd::Command2, &FormSalonTanimAd::Command2_Click}));
     sutun->setSizeConstraint(QLayout::SetFixedSize);
-    setWindowTitle(QMetin(ekran->baslik));
     ad->setFocus();
     ad->selectAll();
 }

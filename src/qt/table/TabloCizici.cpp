@@ -61,23 +61,23 @@ bool GunAdiVar(const FormTablo& tablo) {
 TabloCizici::TabloCizici(const QFont& yaziTipi, const TabloTonlari& tonlar)
     : yaziTipi_(yaziTipi), tonlar_(tonlar) {}
 
-void TabloCizici::Yazilar::Kur(const QFont& tip) {
+void TabloCizici::HazirMetinler::Kur(const QFont& tip) {
     tip_ = tip;
-    yazilar_.clear();
+    metinler_.clear();
 }
 
-const TabloCizici::Yazi& TabloCizici::Yazilar::Bul(MetinBakis metin) {
-    const auto [yer, yeni] = yazilar_.try_emplace(Metin(metin));
-    Yazi& yazi = yer->second;
+const TabloCizici::HazirMetin& TabloCizici::HazirMetinler::Bul(MetinBakis metin) {
+    const auto [yer, yeni] = metinler_.try_emplace(Metin(metin));
+    HazirMetin& hazir = yer->second;
     if (!yeni)
-        return yazi;
-    yazi.metin.setText(QMetin(metin));
-    yazi.metin.setTextFormat(Qt::PlainText);
-    yazi.metin.setPerformanceHint(QStaticText::AggressiveCaching);
-    yazi.metin.prepare({}, tip_);
+        return hazir;
+    hazir.metin.setText(QMetin(metin));
+    hazir.metin.setTextFormat(Qt::PlainText);
+    hazir.metin.setPerformanceHint(QStaticText::AggressiveCaching);
+    hazir.metin.prepare({}, tip_);
     const QFontMetricsF olculer(tip_);
-    yazi.pay = {yazi.metin.size().width() / 2, olculer.ascent() - olculer.capHeight() / 2};
-    return yazi;
+    hazir.pay = {hazir.metin.size().width() / 2, olculer.ascent() - olculer.capHeight() / 2};
+    return hazir;
 }
 
 QFont TabloCizici::SiganTip(const QStringList& metinler, QSize yer, bool kalin) const {
@@ -104,9 +104,9 @@ void TabloCizici::OlculeriKur(const FormTablo& tablo, const TabloDuzeni& duzen) 
     if (yeni == olcu_)
         return;
     olcu_ = yeni;
-    hucreYazilari_.Kur(SiganTip(GunAdlari(tablo), yeni.hucre, false));
-    baslikYazilari_.Kur(SiganTip(AyriMetinler(tablo.ALabel), yeni.hucre, true));
-    ayYazilari_.Kur(SiganTip(AyriMetinler(tablo.AyAdi), yeni.ay, true));
+    hucreMetinleri_.Kur(SiganTip(GunAdlari(tablo), yeni.hucre, false));
+    baslikMetinleri_.Kur(SiganTip(AyriMetinler(tablo.ALabel), yeni.hucre, true));
+    ayMetinleri_.Kur(SiganTip(AyriMetinler(tablo.AyAdi), yeni.ay, true));
     pictogramBoyu_ = std::min(static_cast<int>(std::lround(kPictogramBoyu * yeni.olcek)),
                               static_cast<int>(yeni.hucre.height() * kPictogramOrani));
     for (auto& pictogramlar : pictogramlar_)
@@ -131,30 +131,30 @@ void TabloCizici::Ciz(QPainter& boyaci, const FormTablo& tablo, const TabloDuzen
     boyaci.restore();
 }
 
-void TabloCizici::Ortala(QPainter& boyaci, const QRect& yer, const Yazi& yazi, RenkDegeri renk) {
+void TabloCizici::Ortala(QPainter& boyaci, const QRect& yer, const HazirMetin& hazir, RenkDegeri renk) {
     const QPointF orta(yer.x() + yer.width() / 2.0, yer.y() + yer.height() / 2.0);
     boyaci.setPen(QRenk(renk));
-    boyaci.drawStaticText((orta - yazi.pay).toPoint(), yazi.metin);
+    boyaci.drawStaticText((orta - hazir.pay).toPoint(), hazir.metin);
 }
 
 void TabloCizici::GunBasliklari(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen,
                                 const QRect& bolge) {
-    boyaci.setFont(baslikYazilari_.Tip());
+    boyaci.setFont(baslikMetinleri_.Tip());
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
         const QRect yer = duzen.GunBasligi(gun);
         if (!yer.intersects(bolge))
             continue;
         boyaci.fillRect(yer, QRenk(tablo.Gunler[gun].zemin));
-        Ortala(boyaci, yer, baslikYazilari_.Bul(tablo.ALabel[gun].baslik), tablo.ALabel[gun].yazi);
+        Ortala(boyaci, yer, baslikMetinleri_.Bul(tablo.ALabel[gun].baslik), tablo.ALabel[gun].yazi);
     }
 }
 
 void TabloCizici::AyBasligi(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, int ay) {
     const Etiket& ad = tablo.AyAdi[ay];
     boyaci.fillRect(duzen.AyBasligi(ay), QRenk(tablo.AyZemin[ay].zemin));
-    boyaci.setFont(ayYazilari_.Tip());
+    boyaci.setFont(ayMetinleri_.Tip());
     if (ad.gorunur)
-        Ortala(boyaci, duzen.AyAdi(ay), ayYazilari_.Bul(ad.baslik), ad.yazi);
+        Ortala(boyaci, duzen.AyAdi(ay), ayMetinleri_.Bul(ad.baslik), ad.yazi);
     if (!tablo.GunduzGece[ay].gorunur)
         return;
     const bool gunduzUstte = tablo.GunduzGece[ay].resim == SiraResmi::Image1;
@@ -168,7 +168,7 @@ void TabloCizici::AyBasligi(QPainter& boyaci, const FormTablo& tablo, const Tabl
 
 void TabloCizici::AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, int ay,
                               const QRect& bolge) {
-    boyaci.setFont(hucreYazilari_.Tip());
+    boyaci.setFont(hucreMetinleri_.Tip());
     const int cizgi = duzen.Cizgi();
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
         const QRect cift = duzen.HucreCifti(ay, gun);
@@ -183,7 +183,7 @@ void TabloCizici::AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const Ta
             gorunur = true;
             const QRect yer = duzen.Hucre(satir, gun);
             boyaci.fillRect(yer, QRenk(hucre.zemin));
-            Ortala(boyaci, yer, hucreYazilari_.Bul(hucre.baslik), hucre.yazi);
+            Ortala(boyaci, yer, hucreMetinleri_.Bul(hucre.baslik), hucre.yazi);
         }
         if (!gorunur)
             continue;

@@ -41,21 +41,20 @@ class TabloCizici {
     static void OdakIsareti(QPainter& boyaci, const TabloDuzeni& duzen, const QRect& hucre);
 
   private:
-    struct Yazi {
+    struct HazirMetin {
         QStaticText metin;
         QPointF pay; // from its upper left corner to the middle of its letters
     };
     /// Texts in one font.
-    class Yazilar {
+    class HazirMetinler {
       public:
         void Kur(const QFont& tip);
-        bool AyniMi(const QFont& tip) const { return tip == tip_; }
-        const Yazi& Bul(MetinBakis metin);
+        const HazirMetin& Bul(MetinBakis metin);
         const QFont& Tip() const { return tip_; }
 
       private:
         QFont tip_;
-        std::unordered_map<Metin, Yazi> yazilar_;
+        std::unordered_map<Metin, HazirMetin> metinler_;
     };
     /// What the kept texts and pictograms were made for.
     struct Olcu {
@@ -75,15 +74,15 @@ class TabloCizici {
                      const QRect& bolge);
     void Cerceve(QPainter& boyaci, const TabloDuzeni& duzen, const velora::Cerceve& cerceve,
                  const QColor& renk) const;
-    static void Ortala(QPainter& boyaci, const QRect& yer, const Yazi& yazi, RenkDegeri renk);
+    static void Ortala(QPainter& boyaci, const QRect& yer, const HazirMetin& hazir, RenkDegeri renk);
     const QPixmap& Pictogram(GunduzGece dilim, RenkDegeri renk);
 
     QFont yaziTipi_;
     TabloTonlari tonlar_;
     Olcu olcu_;
-    Yazilar hucreYazilari_;
-    Yazilar baslikYazilari_;
-    Yazilar ayYazilari_;
+    HazirMetinler hucreMetinleri_;
+    HazirMetinler baslikMetinleri_;
+    HazirMetinler ayMetinleri_;
     int pictogramBoyu_ = 0;
     std::unordered_map<RenkDegeri, QPixmap> pictogramlar_[2];
 };

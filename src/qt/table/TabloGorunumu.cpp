@@ -104,7 +104,7 @@ void TabloGorunumu::Yerlestir() {
 void TabloGorunumu::Tazele() {
     // A scan wipes the cells before it fills them: shown at once, the table would flash at every save.
     const auto tablo = ekran_.lock();
-    if (!tablo || Baglayici::KisaIsSuruyor())
+    if (!tablo || Baglayici::IsSuruyor())
         return;
     if (const std::uint64_t iz = TabloIzi(*tablo); iz != iz_) {
         iz_ = iz;

@@ -8,14 +8,14 @@
 #include <random>
 #include <thread>
 
-#include "storage/GeciciKok.h"
+#include "storage/DosyaAgaci.h"
 #include "storage/RezervasyonDosyalari.h"
 
 // A program that is killed while it saves.
 namespace velora {
 namespace {
 
-using test::GeciciKok;
+using test::DosyaAgaci;
 
 constexpr int kTur = 150;
 constexpr unsigned kEnUzunOmur = 20; ///< seconds after which a forgotten child ends by itself
@@ -37,7 +37,7 @@ OrnekKayit YeniOrnek(char harf, std::size_t uzunluk) {
 }
 
 /// Saves the two records in turn for ever. Tells by one byte that it has begun.
-[[noreturn]] void Kaydet(const GeciciKok& kok, const Metin& yol, const OrnekKayit& kisa,
+[[noreturn]] void Kaydet(const DosyaAgaci& kok, const Metin& yol, const OrnekKayit& kisa,
                          const OrnekKayit& uzun, int haber) {
     ::alarm(kEnUzunOmur);
     for (unsigned i = 0;; ++i) {
@@ -48,7 +48,7 @@ OrnekKayit YeniOrnek(char harf, std::size_t uzunluk) {
 }
 
 /// Starts the saving child, lets it run for a while and kills it. False when it didn't come so far.
-bool BirOlum(const GeciciKok& kok, const Metin& yol, const OrnekKayit& kisa, const OrnekKayit& uzun,
+bool BirOlum(const DosyaAgaci& kok, const Metin& yol, const OrnekKayit& kisa, const OrnekKayit& uzun,
              std::chrono::microseconds sure) {
     std::array<int, 2> boru{};
     if (::pipe(boru.data()) != 0)
@@ -81,12 +81,12 @@ std::array<Metin, kAnaDegerSayisi> BaytinDegerleri(const std::string& bayt) {
 } // namespace
 
 TEST(Oldurme, A_program_killed_while_saving_leaves_one_of_the_two_records_whole) {
-    const GeciciKok kok;
-    const Metin yol = kok.Yol(u"05.01.2012 - Gündüz");
+    const DosyaAgaci kok;
+    const Metin yol = kok.TamYol(u"05.01.2012 - Gündüz");
     const OrnekKayit kisa = YeniOrnek('k', 5);
     const OrnekKayit uzun = YeniOrnek('u', 150);
     ASSERT_LT(uzun.bayt.size(), 4096U);
-    kok.HamYaz(u"05.01.2012 - Gündüz", kisa.bayt);
+    kok.Koy(u"05.01.2012 - Gündüz", kisa.bayt);
 
     std::mt19937 rastgele(5000);
     std::uniform_int_distribution<int> mikrosaniye(0, 1500);
@@ -94,7 +94,7 @@ TEST(Oldurme, A_program_killed_while_saving_leaves_one_of_the_two_records_whole)
     int uzunSayisi = 0;
     for (int tur = 0; tur < kTur; ++tur) {
         ASSERT_TRUE(BirOlum(kok, yol, kisa, uzun, std::chrono::microseconds(mikrosaniye(rastgele))));
-        const auto bayt = kok.HamOku(u"05.01.2012 - Gündüz");
+        const auto bayt = kok.Oku(u"05.01.2012 - Gündüz");
         ASSERT_TRUE(bayt);
         const auto degerler = BaytinDegerleri(*bayt);
         kisaSayisi += degerler == kisa.degerler ? 1 : 0;

@@ -4,7 +4,7 @@
 
 #include <set>
 
-#include "storage/GeciciKok.h"
+#include "storage/DosyaAgaci.h"
 #include "storage/YazimBicimi.h"
 
 namespace velora {
@@ -31,13 +31,13 @@ TEST(KodSayfasi, All_256_bytes_survive_decoding_and_encoding) {
 TEST(KodSayfasi, All_bytes_but_the_quote_survive_a_file_that_is_written_and_read) {
     std::string bayt = TumBaytlar();
     std::erase(bayt, '"');
-    test::GeciciKok kok;
+    test::DosyaAgaci kok;
     DegerYazici yazici;
     yazici.Yaz(KodCoz(bayt), u"son");
-    ASSERT_TRUE(kok.dosyalar.Yaz(kok.Yol(u"a"), yazici.Bayt()));
-    EXPECT_EQ(kok.HamOku(u"a"), "\"" + bayt + "\",\"son\"\r\n");
+    ASSERT_TRUE(kok.dosyalar.Yaz(kok.TamYol(u"a"), yazici.Bayt()));
+    EXPECT_EQ(kok.Oku(u"a"), "\"" + bayt + "\",\"son\"\r\n");
 
-    const auto okunan = kok.dosyalar.Oku(kok.Yol(u"a"));
+    const auto okunan = kok.dosyalar.Oku(kok.TamYol(u"a"));
     ASSERT_TRUE(okunan);
     DegerOkuyucu okuyucu(*okunan);
     Metin deger;

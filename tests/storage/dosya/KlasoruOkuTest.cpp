@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "storage/GeciciKok.h"
+#include "storage/DosyaAgaci.h"
 
 namespace velora {
 namespace {
 
-using test::GeciciKok;
+using test::DosyaAgaci;
 
 struct Gorulen {
     Metin ad;
@@ -25,72 +25,72 @@ std::vector<Gorulen> Oku(const Dosyalar& dosyalar, const Metin& klasor, std::siz
 } // namespace
 
 TEST(KlasoruOku, Reads_each_file_once_in_the_order_of_the_listing) {
-    const GeciciKok kok;
-    kok.HamYaz(u"Gider.dat", "g");
-    kok.HamYaz(u"b", "");
-    kok.HamYaz(u"A", "a");
-    kok.KlasorYap(u"k");
+    const DosyaAgaci kok;
+    kok.Koy(u"Gider.dat", "g");
+    kok.Koy(u"b", "");
+    kok.Koy(u"A", "a");
+    kok.KlasorKoy(u"k");
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok()),
               (std::vector<Gorulen>{{u"A", true, "a"}, {u"b", true, ""}, {u"Gider.dat", true, "g"}}));
 }
 
 TEST(KlasoruOku, Sees_the_same_as_listing_and_reading_one_by_one) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     for (int i = 0; i < 300; ++i)
-        kok.HamYaz(SayiMetni(i * 7919 % 1000) + u" ğ", std::string(static_cast<std::size_t>(i) * 37, 'x'));
+        kok.Koy(SayiMetni(i * 7919 % 1000) + u" ğ", std::string(static_cast<std::size_t>(i) * 37, 'x'));
     std::vector<Gorulen> tekTek;
     for (const Metin& ad : kok.dosyalar.Listele(kok.dosyalar.Kok()))
-        tekTek.push_back({ad, true, kok.dosyalar.Oku(kok.Yol(ad)).value()});
+        tekTek.push_back({ad, true, kok.dosyalar.Oku(kok.TamYol(ad)).value()});
     ASSERT_EQ(tekTek.size(), 300U);
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok()), tekTek);
 }
 
 TEST(KlasoruOku, A_long_file_among_short_ones_is_read_whole_and_leaves_nothing_in_the_next) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const std::string uzun(200'000, 'u');
-    kok.HamYaz(u"a", "1");
-    kok.HamYaz(u"b", uzun);
-    kok.HamYaz(u"c", "3");
+    kok.Koy(u"a", "1");
+    kok.Koy(u"b", uzun);
+    kok.Koy(u"c", "3");
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok()),
               (std::vector<Gorulen>{{u"a", true, "1"}, {u"b", true, uzun}, {u"c", true, "3"}}));
 }
 
 TEST(KlasoruOku, A_huge_stray_file_gives_only_its_beginning) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "abcdef");
-    std::filesystem::resize_file(kok.Ham(u"a"), 64ULL << 30U);
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "abcdef");
+    std::filesystem::resize_file(kok.Yol(u"a"), 64ULL << 30U);
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok(), 4), (std::vector<Gorulen>{{u"a", true, "abcd"}}));
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok(), 0), (std::vector<Gorulen>{{u"a", true, ""}}));
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok(), 100'000).at(0).bayt.size(), 100'000U);
 }
 
 TEST(KlasoruOku, A_file_that_cannot_be_read_is_told_and_the_others_come) {
-    GeciciKok kok;
+    DosyaAgaci kok;
     for (const MetinBakis ad : {u"a", u"b", u"c"})
-        kok.HamYaz(ad, "x");
+        kok.Koy(ad, "x");
     kok.dosyalar.ariza = [&](DosyaIsi is, const Metin& yol) {
-        return is == DosyaIsi::Oku && yol == kok.Yol(u"b");
+        return is == DosyaIsi::Oku && yol == kok.TamYol(u"b");
     };
     EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok()),
               (std::vector<Gorulen>{{u"a", true, "x"}, {u"b", false, ""}, {u"c", true, "x"}}));
 }
 
 TEST(KlasoruOku, A_file_removed_while_the_folder_is_read_counts_as_one_that_cannot_be_opened) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "x");
-    kok.HamYaz(u"b", "x");
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "x");
+    kok.Koy(u"b", "x");
     std::vector<bool> acilanlar;
     kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), 100, [&](const Dosyalar::OkunanDosya& dosya) {
         acilanlar.push_back(dosya.acildi);
-        std::filesystem::remove(kok.Ham(u"b"));
+        std::filesystem::remove(kok.Yol(u"b"));
     });
     EXPECT_EQ(acilanlar, (std::vector<bool>{true, false}));
 }
 
 TEST(KlasoruOku, May_be_called_again_from_inside_itself) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "1");
-    kok.HamYaz(u"b", "2");
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "1");
+    kok.Koy(u"b", "2");
     std::string gorulen;
     kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), 100, [&](const Dosyalar::OkunanDosya& dosya) {
         for (const Gorulen& ic : Oku(kok.dosyalar, kok.dosyalar.Kok()))
@@ -101,10 +101,10 @@ TEST(KlasoruOku, May_be_called_again_from_inside_itself) {
 }
 
 TEST(KlasoruOku, A_folder_that_is_not_there_or_not_below_the_root_gives_nothing) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "x");
-    EXPECT_TRUE(Oku(kok.dosyalar, kok.Yol(u"yok")).empty());
-    EXPECT_TRUE(Oku(kok.dosyalar, kok.Yol(u"..")).empty());
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "x");
+    EXPECT_TRUE(Oku(kok.dosyalar, kok.TamYol(u"yok")).empty());
+    EXPECT_TRUE(Oku(kok.dosyalar, kok.TamYol(u"..")).empty());
     EXPECT_TRUE(Oku(kok.dosyalar, u"").empty());
 }
 

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "storage/GeciciKok.h"
+#include "storage/DosyaAgaci.h"
 
 namespace velora {
 
-using test::GeciciKok;
+using test::DosyaAgaci;
 
 TEST(GunAnahtari, Day_9_gives_09_and_day_10_gives_10) {
     EXPECT_EQ(GunAnahtari(9, 1, u"2012", GunduzGece::Gece), u"09.01.2012 - Gece");
@@ -68,7 +68,7 @@ TEST(GunDosyasiDeseni, Wants_a_digit_to_3_one_sign_and_a_dot) {
 }
 
 TEST(VeriAgaci, Paths_are_joined_as_they_stand) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
     const Metin k = kok.dosyalar.Kok();
     EXPECT_EQ(agac.KokYolu(u"Salon.dat"), k + u"\\Salon.dat");
@@ -79,63 +79,63 @@ TEST(VeriAgaci, Paths_are_joined_as_they_stand) {
 }
 
 TEST(VeriAgaci, A_hall_name_with_a_dot_or_blank_in_it_needs_no_treatment) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
     agac.KlasorHazirla(u"Salon A.Ş. no 1", u"2012");
     const Metin yol = agac.GunYolu(u"Salon A.Ş. no 1", u"2012", u"05.01.2012 - Gündüz");
     EXPECT_FALSE(agac.RezervasyonVarMi(yol));
     ASSERT_TRUE(kok.dosyalar.Yaz(yol, "x"));
-    EXPECT_TRUE(kok.HamVar(u"Salon A.Ş. no 1/2012/05.01.2012 - Gündüz"));
+    EXPECT_TRUE(kok.Var(u"Salon A.Ş. no 1/2012/05.01.2012 - Gündüz"));
     EXPECT_TRUE(agac.RezervasyonVarMi(yol));
 }
 
 TEST(VeriAgaci, The_two_slots_of_a_day_are_independent) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
-    kok.KlasorYap(u"A/2012");
-    kok.HamYaz(u"A/2012/05.01.2012 - Gece", "x");
+    kok.KlasorKoy(u"A/2012");
+    kok.Koy(u"A/2012/05.01.2012 - Gece", "x");
     EXPECT_TRUE(agac.RezervasyonVarMi(agac.GunYolu(u"A", u"2012", u"05.01.2012 - Gece")));
     EXPECT_FALSE(agac.RezervasyonVarMi(agac.GunYolu(u"A", u"2012", u"05.01.2012 - Gündüz")));
 }
 
 TEST(VeriAgaci, Companions_never_decide_whether_a_slot_is_taken) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
-    kok.KlasorYap(u"A/2012");
-    kok.HamYaz(u"A/2012/05.01.2012 - Gece-Detay", "x");
-    kok.HamYaz(u"A/2012/05.01.2012 - Gece-Odeme", "x");
+    kok.KlasorKoy(u"A/2012");
+    kok.Koy(u"A/2012/05.01.2012 - Gece-Detay", "x");
+    kok.Koy(u"A/2012/05.01.2012 - Gece-Odeme", "x");
     EXPECT_FALSE(agac.RezervasyonVarMi(agac.GunYolu(u"A", u"2012", u"05.01.2012 - Gece")));
 }
 
 TEST(VeriAgaci, A_folder_of_that_name_or_a_missing_year_is_a_free_day) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
-    kok.KlasorYap(u"A/2012/05.01.2012 - Gece");
+    kok.KlasorKoy(u"A/2012/05.01.2012 - Gece");
     EXPECT_FALSE(agac.RezervasyonVarMi(agac.GunYolu(u"A", u"2012", u"05.01.2012 - Gece")));
     EXPECT_FALSE(agac.RezervasyonVarMi(agac.GunYolu(u"A", u"2013", u"05.01.2013 - Gece")));
 }
 
 TEST(KlasorHazirla, Passes_over_what_is_there_and_makes_what_was_removed) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
     agac.KlasorHazirla(u"A", u"2012");
     agac.KlasorHazirla(u"A", u"2013");
-    EXPECT_TRUE(kok.HamVar(u"A/2012"));
-    EXPECT_TRUE(kok.HamVar(u"A/2013"));
-    std::filesystem::remove_all(kok.Ham(u"A"));
+    EXPECT_TRUE(kok.Var(u"A/2012"));
+    EXPECT_TRUE(kok.Var(u"A/2013"));
+    std::filesystem::remove_all(kok.Yol(u"A"));
     agac.KlasorHazirla(u"A", u"2012");
-    EXPECT_TRUE(kok.HamVar(u"A/2012"));
+    EXPECT_TRUE(kok.Var(u"A/2012"));
 }
 
 TEST(KlasorHazirla, Tries_each_folder_on_its_own) {
-    GeciciKok kok;
+    DosyaAgaci kok;
     const VeriAgaci agac(kok.dosyalar);
-    kok.KlasorYap(u"A");
+    kok.KlasorKoy(u"A");
     kok.dosyalar.ariza = [&](DosyaIsi is, const Metin& yol) {
-        return is == DosyaIsi::KlasorYap && yol == kok.Yol(u"A");
+        return is == DosyaIsi::KlasorYap && yol == kok.TamYol(u"A");
     };
     agac.KlasorHazirla(u"A", u"2012");
-    EXPECT_TRUE(kok.HamVar(u"A/2012"));
+    EXPECT_TRUE(kok.Var(u"A/2012"));
 }
 
 } // namespace velora

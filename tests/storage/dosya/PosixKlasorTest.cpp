@@ -1,17 +1,20 @@
+#include <filesystem>
+#include <fstream>
+
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "storage/GeciciKok.h"
+#include "storage/DosyaAgaci.h"
 
 // What only a POSIX folder can hold: pipes, links, names that are no UTF-8.
 namespace velora {
 namespace {
 
-using test::GeciciKok;
+using test::DosyaAgaci;
 
-std::vector<Metin> Okunanlar(const GeciciKok& kok) {
+std::vector<Metin> Okunanlar(const DosyaAgaci& kok) {
     std::vector<Metin> adlar;
     kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), 100, [&](const Dosyalar::OkunanDosya& dosya) {
         if (dosya.acildi)
@@ -23,65 +26,65 @@ std::vector<Metin> Okunanlar(const GeciciKok& kok) {
 } // namespace
 
 TEST(PosixKlasor, A_pipe_in_the_folder_neither_hangs_nor_counts_as_a_file) {
-    const GeciciKok kok;
-    ASSERT_EQ(::mkfifo(kok.Ham(u"boru").c_str(), 0600), 0);
-    kok.HamYaz(u"a", "x");
+    const DosyaAgaci kok;
+    ASSERT_EQ(::mkfifo(kok.Yol(u"boru").c_str(), 0600), 0);
+    kok.Koy(u"a", "x");
     EXPECT_EQ(kok.dosyalar.Listele(kok.dosyalar.Kok()), (std::vector<Metin>{u"a"}));
     EXPECT_EQ(Okunanlar(kok), (std::vector<Metin>{u"a"}));
-    const Metin boru = kok.Yol(u"boru");
+    const Metin boru = kok.TamYol(u"boru");
     EXPECT_FALSE(kok.dosyalar.VarMi(boru));
     EXPECT_FALSE(kok.dosyalar.Oku(boru));
     EXPECT_FALSE(kok.dosyalar.Yaz(boru, "x"));
     EXPECT_FALSE(kok.dosyalar.Ekle(boru, "x"));
-    EXPECT_FALSE(kok.dosyalar.Kopyala(kok.Yol(u"a"), boru));
+    EXPECT_FALSE(kok.dosyalar.Kopyala(kok.TamYol(u"a"), boru));
 }
 
 TEST(PosixKlasor, A_link_to_a_plain_file_is_one_and_a_link_to_anything_else_is_none) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "x");
-    kok.KlasorYap(u"k");
-    std::filesystem::create_symlink("a", kok.Ham(u"b"));
-    std::filesystem::create_symlink("k", kok.Ham(u"c"));
-    std::filesystem::create_symlink("yok", kok.Ham(u"d"));
-    std::filesystem::create_symlink("/dev/zero", kok.Ham(u"e"));
-    std::filesystem::create_symlink("f", kok.Ham(u"f"));
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "x");
+    kok.KlasorKoy(u"k");
+    std::filesystem::create_symlink("a", kok.Yol(u"b"));
+    std::filesystem::create_symlink("k", kok.Yol(u"c"));
+    std::filesystem::create_symlink("yok", kok.Yol(u"d"));
+    std::filesystem::create_symlink("/dev/zero", kok.Yol(u"e"));
+    std::filesystem::create_symlink("f", kok.Yol(u"f"));
     EXPECT_EQ(kok.dosyalar.Listele(kok.dosyalar.Kok()), (std::vector<Metin>{u"a", u"b"}));
     EXPECT_EQ(Okunanlar(kok), (std::vector<Metin>{u"a", u"b"}));
-    EXPECT_TRUE(kok.dosyalar.VarMi(kok.Yol(u"b")));
+    EXPECT_TRUE(kok.dosyalar.VarMi(kok.TamYol(u"b")));
     for (const MetinBakis ad : {u"c", u"d", u"e", u"f"}) {
-        EXPECT_FALSE(kok.dosyalar.VarMi(kok.Yol(ad)));
-        EXPECT_FALSE(kok.dosyalar.Oku(kok.Yol(ad)));
-        EXPECT_FALSE(kok.dosyalar.Yaz(kok.Yol(ad), "x"));
+        EXPECT_FALSE(kok.dosyalar.VarMi(kok.TamYol(ad)));
+        EXPECT_FALSE(kok.dosyalar.Oku(kok.TamYol(ad)));
+        EXPECT_FALSE(kok.dosyalar.Yaz(kok.TamYol(ad), "x"));
     }
 }
 
 TEST(PosixKlasor, A_name_that_is_no_UTF_8_is_listed_and_can_be_opened_again) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     // As a machine with the Turkish code page would have left it.
-    std::ofstream(kok.yol / "05.01.2012 - G\xFCnd\xFCz") << "x";
+    std::ofstream(kok.Kok() / "05.01.2012 - G\xFCnd\xFCz") << "x";
     const auto adlar = kok.dosyalar.Listele(kok.dosyalar.Kok());
     ASSERT_EQ(adlar.size(), 1U);
-    EXPECT_EQ(kok.dosyalar.Oku(kok.Yol(adlar[0])), "x");
-    EXPECT_TRUE(kok.dosyalar.VarMi(kok.Yol(adlar[0])));
-    EXPECT_FALSE(kok.dosyalar.VarMi(kok.Yol(u"05.01.2012 - Gündüz")));
+    EXPECT_EQ(kok.dosyalar.Oku(kok.TamYol(adlar[0])), "x");
+    EXPECT_TRUE(kok.dosyalar.VarMi(kok.TamYol(adlar[0])));
+    EXPECT_FALSE(kok.dosyalar.VarMi(kok.TamYol(u"05.01.2012 - Gündüz")));
     EXPECT_EQ(Okunanlar(kok), adlar);
-    EXPECT_TRUE(kok.dosyalar.Sil(kok.Yol(adlar[0])));
-    EXPECT_TRUE(std::filesystem::is_empty(kok.yol));
+    EXPECT_TRUE(kok.dosyalar.Sil(kok.TamYol(adlar[0])));
+    EXPECT_TRUE(std::filesystem::is_empty(kok.Kok()));
 }
 
 TEST(PosixKlasor, Bytes_of_a_name_cannot_smuggle_a_separator_or_a_step_upwards) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     for (const char kod : {'/', '.', '\\', '\0'})
-        EXPECT_FALSE(kok.dosyalar.KlasorYap(kok.Yol(Metin(2, static_cast<char16_t>(0xDC00 + kod)))));
-    EXPECT_TRUE(std::filesystem::is_empty(kok.yol));
+        EXPECT_FALSE(kok.dosyalar.KlasorYap(kok.TamYol(Metin(2, static_cast<char16_t>(0xDC00 + kod)))));
+    EXPECT_TRUE(std::filesystem::is_empty(kok.Kok()));
 }
 
 TEST(PosixKlasor, Names_that_differ_only_in_case_are_two_files) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "1");
-    kok.HamYaz(u"A", "2");
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "1");
+    kok.Koy(u"A", "2");
     EXPECT_EQ(kok.dosyalar.Listele(kok.dosyalar.Kok()), (std::vector<Metin>{u"A", u"a"}));
-    EXPECT_EQ(kok.dosyalar.Oku(kok.Yol(u"a")), "1");
+    EXPECT_EQ(kok.dosyalar.Oku(kok.TamYol(u"a")), "1");
     EXPECT_FALSE(AyniAd(u"a", u"A"));
     EXPECT_TRUE(AyniAd(u"a", u"a"));
 }
@@ -89,18 +92,18 @@ TEST(PosixKlasor, Names_that_differ_only_in_case_are_two_files) {
 TEST(PosixKlasor, A_file_without_rights_is_told_as_one_that_cannot_be_opened) {
     if (::geteuid() == 0)
         GTEST_SKIP() << "root may read everything";
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "x");
-    ASSERT_EQ(::chmod(kok.Ham(u"a").c_str(), 0), 0);
-    EXPECT_TRUE(kok.dosyalar.VarMi(kok.Yol(u"a")));
-    EXPECT_FALSE(kok.dosyalar.Oku(kok.Yol(u"a")));
-    EXPECT_FALSE(kok.dosyalar.Yaz(kok.Yol(u"a"), "y"));
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "x");
+    ASSERT_EQ(::chmod(kok.Yol(u"a").c_str(), 0), 0);
+    EXPECT_TRUE(kok.dosyalar.VarMi(kok.TamYol(u"a")));
+    EXPECT_FALSE(kok.dosyalar.Oku(kok.TamYol(u"a")));
+    EXPECT_FALSE(kok.dosyalar.Yaz(kok.TamYol(u"a"), "y"));
     EXPECT_TRUE(Okunanlar(kok).empty());
 }
 
 TEST(PosixKlasor, No_file_stays_open_behind_any_call) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a", "x");
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "x");
     const auto acik = [] {
         return std::distance(std::filesystem::directory_iterator("/dev/fd"),
                              std::filesystem::directory_iterator());
@@ -108,10 +111,10 @@ TEST(PosixKlasor, No_file_stays_open_behind_any_call) {
     const auto once = acik();
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(Okunanlar(kok), (std::vector<Metin>{u"a"}));
-        kok.dosyalar.Oku(kok.Yol(u"a"));
+        kok.dosyalar.Oku(kok.TamYol(u"a"));
         kok.dosyalar.Oku(kok.dosyalar.Kok() + u"\\yok");
-        kok.dosyalar.Yaz(kok.Yol(u"a"), "y");
-        kok.dosyalar.Ekle(kok.Yol(u"a"), "x");
+        kok.dosyalar.Yaz(kok.TamYol(u"a"), "y");
+        kok.dosyalar.Ekle(kok.TamYol(u"a"), "x");
         kok.dosyalar.Yaz(kok.dosyalar.Kok(), "y");
     }
     EXPECT_EQ(acik(), once);

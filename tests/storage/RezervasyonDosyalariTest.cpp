@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "storage/GeciciKok.h"
+#include "storage/DosyaAgaci.h"
 
 // What the writers put on the disk, byte for byte.
 namespace velora {
 namespace {
 
-using test::GeciciKok;
+using test::DosyaAgaci;
 
 AnaKayit OrnekAna() {
     AnaKayit kayit;
@@ -79,9 +79,9 @@ TEST(DetayTemizle, Turns_quotes_into_apostrophes_unlike_the_main_record_on_purpo
 }
 
 TEST(AnaYaz, Writes_one_line_of_20_values) {
-    const GeciciKok kok;
-    ASSERT_TRUE(AnaYaz(kok.dosyalar, kok.Yol(u"a"), OrnekAna()));
-    EXPECT_EQ(kok.HamOku(u"a"), kOrnekAnaBayt);
+    const DosyaAgaci kok;
+    ASSERT_TRUE(AnaYaz(kok.dosyalar, kok.TamYol(u"a"), OrnekAna()));
+    EXPECT_EQ(kok.Oku(u"a"), kOrnekAnaBayt);
 }
 
 TEST(AnaYaz, A_fresh_record_holds_the_empty_masks_and_its_two_checks) {
@@ -102,9 +102,9 @@ TEST(AnaYaz, Texts_that_were_not_cleaned_go_out_as_they_are) {
 }
 
 TEST(DetayYaz, Writes_38_lines_with_the_two_states_on_one) {
-    const GeciciKok kok;
-    ASSERT_TRUE(DetayYaz(kok.dosyalar, kok.Yol(u"a-Detay"), OrnekDetay()));
-    EXPECT_EQ(kok.HamOku(u"a-Detay"), kOrnekDetayBayt);
+    const DosyaAgaci kok;
+    ASSERT_TRUE(DetayYaz(kok.dosyalar, kok.TamYol(u"a-Detay"), OrnekDetay()));
+    EXPECT_EQ(kok.Oku(u"a-Detay"), kOrnekDetayBayt);
 }
 
 TEST(DetayYaz, Has_38_line_ends_when_no_text_has_its_own) {
@@ -125,28 +125,28 @@ TEST(DetayYaz, The_menu_keeps_its_commas_and_quotes_on_purpose) {
 }
 
 TEST(OdemeYaz, Writes_three_texts_for_each_payment) {
-    const GeciciKok kok;
+    const DosyaAgaci kok;
     const std::vector<Odeme> odemeler{{u"02.01.2012", u"500", u"17 - Ayşe"},
                                       {u"03.01.2012", u"250.5", u"a,b"}};
-    ASSERT_TRUE(OdemeYaz(kok.dosyalar, kok.Yol(u"a-Odeme"), odemeler));
-    EXPECT_EQ(kok.HamOku(u"a-Odeme"), "\"02.01.2012\",\"500\",\"17 - Ay\xFE"
-                                      "e\"\r\n\"03.01.2012\",\"250.5\",\"a,b\"\r\n");
+    ASSERT_TRUE(OdemeYaz(kok.dosyalar, kok.TamYol(u"a-Odeme"), odemeler));
+    EXPECT_EQ(kok.Oku(u"a-Odeme"), "\"02.01.2012\",\"500\",\"17 - Ay\xFE"
+                                   "e\"\r\n\"03.01.2012\",\"250.5\",\"a,b\"\r\n");
 }
 
 TEST(OdemeYaz, Saving_the_last_payment_away_leaves_no_file) {
-    const GeciciKok kok;
-    kok.HamYaz(u"a-Odeme", "\"02.01.2012\",\"500\",\"x\"\r\n");
-    EXPECT_TRUE(OdemeYaz(kok.dosyalar, kok.Yol(u"a-Odeme"), {}));
-    EXPECT_FALSE(kok.HamVar(u"a-Odeme"));
-    EXPECT_TRUE(OdemeYaz(kok.dosyalar, kok.Yol(u"a-Odeme"), {}));
+    const DosyaAgaci kok;
+    kok.Koy(u"a-Odeme", "\"02.01.2012\",\"500\",\"x\"\r\n");
+    EXPECT_TRUE(OdemeYaz(kok.dosyalar, kok.TamYol(u"a-Odeme"), {}));
+    EXPECT_FALSE(kok.Var(u"a-Odeme"));
+    EXPECT_TRUE(OdemeYaz(kok.dosyalar, kok.TamYol(u"a-Odeme"), {}));
 }
 
 TEST(OdemeYaz, A_file_that_cannot_be_removed_is_emptied_so_that_no_payment_comes_back) {
-    GeciciKok kok;
-    kok.HamYaz(u"a-Odeme", "\"02.01.2012\",\"500\",\"x\"\r\n");
+    DosyaAgaci kok;
+    kok.Koy(u"a-Odeme", "\"02.01.2012\",\"500\",\"x\"\r\n");
     kok.dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Sil; };
-    EXPECT_FALSE(OdemeYaz(kok.dosyalar, kok.Yol(u"a-Odeme"), {}));
-    EXPECT_EQ(kok.HamOku(u"a-Odeme"), "");
+    EXPECT_FALSE(OdemeYaz(kok.dosyalar, kok.TamYol(u"a-Odeme"), {}));
+    EXPECT_EQ(kok.Oku(u"a-Odeme"), "");
 }
 
 } // namespace velora

@@ -1,0 +1,103 @@
+#pragma once
+
+#include <array>
+
+#include "accounts/FormBakiye.h"
+#include "reservation/FormArama.h"
+#include "reservation/FormKayit.h"
+#include "reservation/FormOdemeAl.h"
+#include "screen/Program.h"
+#include "setup/FormAyarlar.h"
+#include "setup/FormMenuAyar.h"
+#include "setup/FormMenuEkle.h"
+#include "setup/FormRenk.h"
+#include "setup/FormSalonTanim.h"
+#include "setup/FormSalonTanimAd.h"
+
+namespace velora::test {
+
+/// Opens a screen's window as another screen does.
+template <auto Ekran>
+void EkraniAc(Program& program) {
+    (program.*Ekran).GosterModal();
+}
+
+/// With a name, which lets its fields be reached.
+inline void AdliMenuEkleAc(Program& program) {
+    program.FormMenuEkle->Text1.metin = u"a";
+    program.FormMenuEkle->Text1_Change();
+    program.FormMenuEkle.GosterModal();
+}
+
+inline constexpr std::size_t kEnCokSayfa = 4;
+
+/// A window that stands over another, and its keys.
+struct Diyalog {
+    EkranAdi ekran;
+    void (*ac)(Program&);
+    const char* dolu;  // the button that Enter presses from a field
+    const char* iptal; // the one that cancels
+    // For each of its pages the controls that Tab walks, the one that has the focus at first in front.
+    std::array<const char*, kEnCokSayfa> sayfalar;
+};
+
+inline constexpr Diyalog kDiyaloglar[]{
+    {EkranAdi::FormSalonTanim,
+     EkraniAc<&Program::FormSalonTanim>,
+     "Command1",
+     "Command3",
+     {"List1 Command1 Command3"}},
+    {EkranAdi::FormSalonTanimAd,
+     EkraniAc<&Program::FormSalonTanimAd>,
+     "Command1",
+     "Command2",
+     {"Text1 Command1 Command2"}},
+    {EkranAdi::FormMenuAyar,
+     EkraniAc<&Program::FormMenuAyar>,
+     "Command1",
+     "Command3",
+     {"Liste Command1 Command3"}},
+    {EkranAdi::FormMenuEkle, AdliMenuEkleAc, "Command4", "Command3", {"Text1 Text2 Command4 Command3"}},
+    {EkranAdi::FormRenk,
+     EkraniAc<&Program::FormRenk>,
+     "Command1",
+     "Command2",
+     {"txtRed txtGreen txtBlue txtWeb txtHex txtTers Command1 Command2"}},
+    {EkranAdi::FormAyarlar,
+     EkraniAc<&Program::FormAyarlar>,
+     "Command1",
+     "Command2",
+     {"UyariGun UyariGun2 GunduzGece Check2 Check7 Check6 Check3 Aylar1 Aylar2 Aylar3 Aylar4 Aylar5 Aylar6 "
+      "Aylar7 Aylar8 Aylar9 Aylar10 Aylar11 Aylar12 Command3 Command1 Command4 Command2 qt_tabwidget_tabbar",
+      "Renk0 Renk1 Renk2 Renk3 Renk4 Renk5 Renk8 Renk9 Renk10 Renk11 Renk6 Renk7 Renk12 Renk13 Renk19 Renk20 "
+      "Renk21 Renk22 Check5 Renk23 Renk24 Renk14 Renk15 Check1 Renk17 Renk18 Renk16 Command3 Command1 "
+      "Command4 Command2 qt_tabwidget_tabbar"}},
+    {EkranAdi::FormKayit,
+     EkraniAc<&Program::FormKayit>,
+     "Command1",
+     "Command2",
+     {"Kay1 Kay2 Kay3 Kay4 Kay5 Kay6 Kay7 Kay8 Command4 Kay11 Kay12 Kay15 Kay13 Kay14 Kay16 Kay17 Option1 "
+      "Check18 Check19 Command1 Command2 qt_tabwidget_tabbar",
+      "Liste Command8 Command1 Command2 qt_tabwidget_tabbar",
+      "Combo1 Label20 Aciklamalar Command1 Command2 qt_tabwidget_tabbar",
+      "Check1 Check2 Check3 Check4 Check5 Check6 Check7 Check8 Check9 Check10 Check11 Check12 Check13 "
+      "Check14 "
+      "Check15 Check16 Check17 Command1 Command2 qt_tabwidget_tabbar"}},
+    {EkranAdi::FormOdemeAl,
+     EkraniAc<&Program::FormOdemeAl>,
+     "Command1",
+     "Command2",
+     {"Text1 Aciklama Command2 DTPicker1"}},
+    {EkranAdi::FormArama,
+     EkraniAc<&Program::FormArama>,
+     "Command3",
+     "Command2",
+     {"Text1 Text2 Text3 Text4 Text5 Command3 Liste Command2"}},
+    {EkranAdi::FormBakiye,
+     EkraniAc<&Program::FormBakiye>,
+     "ListeleGun",
+     "Command1",
+     {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command1"}},
+};
+
+} // namespace velora::test
