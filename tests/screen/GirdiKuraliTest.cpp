@@ -42,7 +42,7 @@ TEST(GirdiKuraliTest, Character_outside_the_code_page_becomes_one_question_mark)
 
 TEST(GirdiKuraliTest, Line_breaks_and_control_characters_are_blanks_in_one_line) {
     OrnekleriDene({}, {{u"", u"a\r\nb\rc\nd", u"", u"a b c d"},
-                       {u"", u"a\u2028b\u2029c\td\u0001e\u007Ff\u009Dg", u"", u"a b c d e f g"},
+                       {u"", u"a\u2028b\u2029c\td\u0001e\u007Ff\u009Dg\u001Fh", u"", u"a b c d e f g h"},
                        {u"", u"\n\r\r\n\r\n", u"", u"    "},
                        {u"\t", u"\n", u"\r\n", u"\t \r\n"}});
 }

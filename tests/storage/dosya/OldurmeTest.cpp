@@ -37,8 +37,8 @@ OrnekKayit YeniOrnek(char harf, std::size_t uzunluk) {
 }
 
 /// Saves the two records in turn for ever. Tells by one byte that it has begun.
-[[noreturn]] void Kaydet(const DosyaAgaci& kok, const Metin& yol, const OrnekKayit& kisa,
-                         const OrnekKayit& uzun, int haber) {
+[[noreturn]] void DurmadanYaz(const DosyaAgaci& kok, const Metin& yol, const OrnekKayit& kisa,
+                              const OrnekKayit& uzun, int haber) {
     ::alarm(kEnUzunOmur);
     for (unsigned i = 0;; ++i) {
         kok.dosyalar.Yaz(yol, i % 2 == 0 ? uzun.bayt : kisa.bayt);
@@ -55,7 +55,7 @@ bool BirOlum(const DosyaAgaci& kok, const Metin& yol, const OrnekKayit& kisa, co
         return false;
     const pid_t cocuk = ::fork();
     if (cocuk == 0)
-        Kaydet(kok, yol, kisa, uzun, boru[1]);
+        DurmadanYaz(kok, yol, kisa, uzun, boru[1]);
     ::close(boru[1]);
     char haber = 0;
     const bool basladi = cocuk > 0 && ::read(boru[0], &haber, 1) == 1;
