@@ -16,8 +16,8 @@
 namespace velora {
 
 /// A window that stands over others. Its X and the Esc key press the screen's own cancel button, and do
-/// nothing while that one is disabled: what closing means is the screen's to say. Its captions get access keys
-/// when it is first shown.
+/// nothing while that one is disabled: what closing means is the screen's to say. Its captions get access
+/// keys when it is first shown.
 class Diyalog : public QDialog {
   public:
     explicit Diyalog(std::weak_ptr<const void> ekran);

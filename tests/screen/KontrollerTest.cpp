@@ -188,6 +188,44 @@ TEST(ZamanlayiciTest, Timer_that_threw_ticks_again) {
     EXPECT_EQ(sayac, 2);
 }
 
+TEST(ListeGorunumuTest, The_marked_row_goes_and_nothing_is_marked_then) {
+    ListeGorunumu liste;
+    liste.satirlar = {{{u"bir"}, {}, 0}, {{u"iki"}, {}, 0}, {{u"üç"}, {}, 0}};
+    liste.secili = 1;
+    liste.SeciliyiSil();
+    ASSERT_EQ(liste.satirlar.size(), 2U);
+    EXPECT_EQ(liste.satirlar[0].sutun[0], u"bir");
+    EXPECT_EQ(liste.satirlar[1].sutun[0], u"üç");
+    EXPECT_EQ(liste.secili, -1);
+    for (const int yok : {-1, 2}) {
+        liste.secili = yok;
+        liste.SeciliyiSil();
+        EXPECT_EQ(liste.satirlar.size(), 2U);
+        EXPECT_EQ(liste.secili, -1);
+    }
+}
+
+TEST(ListeGorunumuTest, An_emptied_list_has_no_mark) {
+    ListeGorunumu liste;
+    liste.satirlar = {{{u"bir"}, {}, 0}};
+    liste.secili = 0;
+    liste.Temizle();
+    EXPECT_TRUE(liste.satirlar.empty());
+    EXPECT_EQ(liste.secili, -1);
+}
+
+TEST(SecimDugmeleriTest, All_of_them_go_on_and_off_together_and_no_other) {
+    std::array<Dugme, 3> dugmeler;
+    const SecimDugmeleri secim{{&dugmeler[0], &dugmeler[2]}};
+    secim.Ac(false);
+    EXPECT_FALSE(dugmeler[0].etkin || dugmeler[2].etkin);
+    EXPECT_TRUE(dugmeler[1].etkin);
+    dugmeler[1].etkin = false;
+    secim.Ac(true);
+    EXPECT_TRUE(dugmeler[0].etkin && dugmeler[2].etkin);
+    EXPECT_FALSE(dugmeler[1].etkin);
+}
+
 TEST(BirTabanliTest, Items_are_numbered_from_one) {
     BirTabanli<int, 3> dizi;
     int no = 0;
