@@ -31,7 +31,7 @@ void TumTablonunBoyanmasi(benchmark::State& durum) {
     QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);
     while (durum.KeepRunning()) {
         QPainter boyaci(&resim);
-        cizici.Ciz(boyaci, tablo, duzen, resim.rect(), program.FormAyarlar->Renk(16));
+        cizici.Ciz(boyaci, tablo, duzen, resim.rect(), program.FormAyarlar->Renk(RenkNo::BuGunCercevesi));
     }
 }
 BENCHMARK(TumTablonunBoyanmasi)->Unit(benchmark::kMillisecond);

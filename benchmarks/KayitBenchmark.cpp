@@ -15,11 +15,11 @@ constexpr int kOdemeSayisi = 1000;
 
 void Doldur(FormKayit& kayit) {
     kayit.Tarih = u"15.06.2026 - Gece";
-    kayit.Kay[1].metin = u"ali usta";
-    kayit.Kay[4].metin = u"Düğün";
-    kayit.Kay[8].metin = u"500000";
-    kayit.Kay[12].metin = u"20:00";
-    kayit.Kay[15].metin = u"23:00";
+    kayit.Kay[AnaNo::AdiSoyadi].metin = u"ali usta";
+    kayit.Kay[AnaNo::Niteligi].metin = u"Düğün";
+    kayit.Kay[AnaNo::ToplamUcret].metin = u"500000";
+    kayit.Kay[AnaNo::BaslamaSaati].metin = u"20:00";
+    kayit.Kay[AnaNo::BitisSaati].metin = u"23:00";
 }
 
 } // namespace
@@ -78,7 +78,7 @@ void BinOdeme(benchmark::State& durum) {
     for (auto _ : durum) {
         for (int i = 0; i < kOdemeSayisi; ++i)
             kayit.Command8_Click();
-        if (kayit.Kay[9].metin != u"250000")
+        if (kayit.Kay[AnaNo::AlinanOdeme].metin != u"250000")
             durum.SkipWithError("the payments are not all there");
         while (!kayit.Liste.satirlar.empty()) {
             kayit.Liste.secili = 0;

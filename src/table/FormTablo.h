@@ -178,7 +178,7 @@ struct FormTablo {
     BirTabanli<Etiket, kAySayisi> AyAdi;   ///< month names in capitals
     BirTabanli<Etiket, kAySayisi> AyZemin; ///< bar behind the name of the month
     BirTabanli<AyResmi, kAySayisi> GunduzGece;
-    Cerceve BuGun;           ///< frame about today's column of the current month, in `Renk(16)`
+    Cerceve BuGun;           ///< frame about today's column of the current month, in `RenkNo::BuGunCercevesi`
     Cerceve HizliSecim;      ///< frame of the ruler
     int HizliAy = 0;         ///< month picked in the heads, 0 for none
     int HizliGun = 0;        ///< day picked in the heads, 0 for none

@@ -11,7 +11,9 @@
 #include "qt/Gorunum.h"
 #include "qt/Yerlesimler.h"
 #include "qt/reservation/KayitPenceresi.h"
+
 #include "reservation/FormKayit.h"
+#include <utility>
 
 namespace velora {
 
@@ -42,15 +44,14 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    for (const int no : {9, 10}) {
-        Etiket& model = no == 9 ? Model().Kayam9 : Model().Kayam10;
-        QLabel* tutar = DegerYap(QStringLiteral("Kayam%1").arg(no), model);
+    for (const auto& [ad, model] : {std::pair{"Kayam9", &Model().Kayam9}, {"Kayam10", &Model().Kayam10}}) {
+        QLabel* tutar = DegerYap(QString::fromLatin1(ad), *model);
         tutar->setMinimumWidth(kTutarEni);
         tutar->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         tutar->setMargin(kAralik / 2);
-        serit->addWidget(new QLabel(QMetin(model.once)));
+        serit->addWidget(new QLabel(QMetin(model->once)));
         serit->addWidget(tutar);
-        serit->addWidget(new QLabel(QMetin(model.sonra)));
+        serit->addWidget(new QLabel(QMetin(model->sonra)));
         serit->addSpacing(kAralik);
     }
     return serit;
