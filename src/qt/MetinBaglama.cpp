@@ -1,6 +1,8 @@
 // The binder's text fields.
 #include <chrono>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -57,6 +59,9 @@ QDate QGun(const Gun& gun) {
     return {static_cast<int>(gun.year()), static_cast<int>(static_cast<unsigned>(gun.month())),
             static_cast<int>(static_cast<unsigned>(gun.day()))};
 }
+
+/// The first and the last day that can be chosen.
+using Sinirlar = std::pair<std::optional<Gun>, std::optional<Gun>>;
 
 void SinirlariKoy(QDateEdit& kutu, const TarihSecici& model) {
     if (model.enKucuk)
@@ -168,10 +173,16 @@ void Baglayici::Bagla(QDateEdit& kutu, TarihSecici& model) {
                     std::chrono::day(static_cast<unsigned>(gun.day())));
         });
     });
-    Izle([&kutu, &model] {
+    // A day or limits that are put anew begin the part anew that is being typed, and turn an open calendar
+    // back.
+    Izle([&kutu, &model, konan = Sinirlar()]() mutable {
         const QSignalBlocker sus(&kutu);
-        SinirlariKoy(kutu, model);
-        kutu.setDate(QGun(model.deger));
+        if (const Sinirlar simdiki{model.enKucuk, model.enBuyuk}; konan != simdiki) {
+            SinirlariKoy(kutu, model);
+            konan = simdiki;
+        }
+        if (const QDate gun = QGun(model.deger); gun != kutu.date())
+            kutu.setDate(gun);
     });
 }
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -31,7 +30,6 @@ struct Ekran {
     Dugme dugme;
     Etiket etiket;
     Zamanlayici saat;
-    TarihSecici tarih;
 };
 
 struct Sahne {
@@ -224,28 +222,6 @@ class BaglayiciTest : public QObject {
         sahne.baglayici.Bagla(liste, sahne.ekran->satirlar);
         QCOMPARE(liste.topLevelItem(0)->text(0), QStringLiteral("bir iki üç"));
         QCOMPARE(sahne.ekran->satirlar.satirlar[0].sutun[0], Metin(u"bir\r\niki\nüç"));
-    }
-
-    void a_date_field_takes_the_days_between_the_limits_of_its_model_and_no_others() {
-        Sahne sahne;
-        QDateEdit kutu(&sahne.pencere);
-        TarihSecici& model = sahne.ekran->tarih;
-        model.deger = Gun{std::chrono::year{2026}, std::chrono::month{5}, std::chrono::day{21}};
-        sahne.baglayici.Bagla(kutu, model);
-        kutu.setDate(QDate(2024, 2, 29));
-        QCOMPARE(TarihMetni(model.deger), Metin(u"29.02.2024"));
-        model.Sinirla(TarihCoz(u"01.01.2026").value(), TarihCoz(u"31.12.2026").value());
-        Baglayici::HepsiniTazele();
-        QCOMPARE(kutu.date(), QDate(2026, 1, 1));
-        kutu.setDate(QDate(2027, 1, 1));
-        QCOMPARE(TarihMetni(model.deger), Metin(u"31.12.2026"));
-        kutu.setDate(QDate(2026, 3, 8));
-        QCOMPARE(TarihMetni(model.deger), Metin(u"08.03.2026"));
-        model.enKucuk.reset();
-        model.enBuyuk.reset();
-        Baglayici::HepsiniTazele();
-        kutu.setDate(QDate(2030, 7, 1));
-        QCOMPARE(TarihMetni(model.deger), Metin(u"01.07.2030"));
     }
 
     void a_button_runs_its_handler_and_shows_its_model() {

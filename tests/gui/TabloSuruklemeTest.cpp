@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTest>
+#include <QTreeWidget>
 
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
@@ -31,14 +32,20 @@ void Cek(GuiFirma& firma, QPoint yer) {
     QApplication::sendEvent(&firma.Tablo(), &olay);
 }
 
-/// A drag of a cell of this table comes over a place of it and is let go there. False when it isn't taken.
-bool Birak(GuiFirma& firma, QPoint yer, const QMimeData& veri = *TabloGirisi::SuruklemeVerisi()) {
+/// A drag comes over a place of a widget and is let go there; the toolkit looks for who takes it. False when
+/// nobody does.
+bool Birak(QWidget& alttaki, QPoint yer, const QMimeData& veri) {
     QDragEnterEvent giris(yer, Qt::MoveAction, &veri, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&firma.Tablo(), &giris);
+    QApplication::sendEvent(&alttaki, &giris);
     QDropEvent olay(yer, Qt::MoveAction, &veri, Qt::LeftButton, Qt::NoModifier);
     olay.ignore();
-    QApplication::sendEvent(&firma.Tablo(), &olay);
+    QApplication::sendEvent(&alttaki, &olay);
     return olay.isAccepted();
+}
+
+/// The same with a cell of this table, over a place of it.
+bool Birak(GuiFirma& firma, QPoint yer, const QMimeData& veri = *TabloGirisi::SuruklemeVerisi()) {
+    return Birak(firma.Tablo(), yer, veri);
 }
 
 } // namespace
@@ -98,6 +105,26 @@ class TabloSuruklemeTest : public QObject {
         QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, bas);
         Cek(firma, bas + QPoint(50, 0));
         QVERIFY(firma.Tablo().findChild<QDrag*>() == nullptr);
+    }
+
+    void a_drop_on_the_panel_of_warnings_moves_nothing_to_the_days_under_it() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        auto& panel = firma.Bul<QWidget>("Picture1");
+        QVERIFY(panel.isVisible());
+        firma.Model().TasimaModuAc_Click();
+        firma.Model().Hucre_MouseMove(MayisGece, 23);
+        const auto veri = TabloGirisi::SuruklemeVerisi();
+        auto& liste = *panel.findChild<QTreeWidget*>(QStringLiteral("Liste"));
+        const auto birak = [&] {
+            for (QWidget* yuzey : {&panel, liste.viewport()})
+                QVERIFY(!Birak(*yuzey, yuzey->rect().center(), *veri));
+            QCoreApplication::processEvents();
+        };
+        Pencerede(birak, {});
+        QCOMPARE(firma.Model().tasimamoducheck, 1);
+        QVERIFY(firma.agac.DosyaVar(Dosya(u"23.05.2026 - Gece")));
     }
 
     void a_drop_beside_the_cells_leaves_the_mode_open() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -36,6 +37,7 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
     setAccessibleName(QMetin(tablo.UyariBaslik.baslik));
     setFrameShape(QFrame::Box);
     setAttribute(Qt::WA_NoMousePropagation);
+    setAcceptDrops(true);
     setAutoFillBackground(true);
     auto* sutun = SutunKur(*this);
     auto* baslik = new QLabel;
@@ -71,6 +73,19 @@ void UyariPaneli::keyPressEvent(QKeyEvent* olay) {
     if (olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter)
         (kapat_->hasFocus() ? kapat_ : detaylar_)->click();
     olay->accept();
+}
+
+void UyariPaneli::dragEnterEvent(QDragEnterEvent* olay) {
+    // What isn't taken here would go on to the table.
+    olay->accept();
+}
+
+void UyariPaneli::dragMoveEvent(QDragMoveEvent* olay) {
+    olay->ignore();
+}
+
+void UyariPaneli::dropEvent(QDropEvent* olay) {
+    olay->ignore();
 }
 
 void UyariPaneli::Tazele(const FormTablo& tablo) {

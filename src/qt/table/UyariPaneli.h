@@ -18,6 +18,10 @@ class UyariPaneli : public QFrame {
   protected:
     /// Esc closes it, Enter opens the marked row. No key of the panel gets through to the table.
     void keyPressEvent(QKeyEvent* olay) override;
+    /// A drag over the panel stays with it and finds no place there: the cells under it aren't seen.
+    void dragEnterEvent(QDragEnterEvent* olay) override;
+    void dragMoveEvent(QDragMoveEvent* olay) override;
+    void dropEvent(QDropEvent* olay) override;
 
   private:
     void Tazele(const FormTablo& tablo);
