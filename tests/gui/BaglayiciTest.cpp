@@ -1,15 +1,17 @@
 #include <stdexcept>
+#include <utility>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
-#include <QWheelEvent>
 
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
@@ -26,6 +28,7 @@ struct Ekran {
     OnayKutusu onay;
     MetinKutusu metin;
     AcilirListe liste;
+    TarihSecici tarih;
     ListeGorunumu satirlar;
     Dugme dugme;
     Etiket etiket;
@@ -175,15 +178,62 @@ class BaglayiciTest : public QObject {
         QCOMPARE(kutu.palette().color(QPalette::PlaceholderText), kutu.palette().color(QPalette::Text));
     }
 
-    void the_wheel_over_a_list_without_the_focus_changes_nothing() {
+    void the_wheel_over_a_field_without_the_focus_changes_nothing_and_with_it_turns_it() {
         Sahne sahne;
-        QComboBox kutu(&sahne.pencere);
-        sahne.baglayici.Bagla(kutu, sahne.ekran->liste);
-        QWheelEvent olay({5, 5}, {5, 5}, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                         Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&kutu, &olay);
+        QLineEdit odakta(&sahne.pencere);
+        QComboBox liste(&sahne.pencere);
+        QComboBox yazilan(&sahne.pencere);
+        QDateEdit tarih(&sahne.pencere);
+        sahne.ekran->metin.ogeler = {u"Düğün", u"Nişan"};
+        sahne.ekran->metin.metin = u"Düğün";
+        sahne.ekran->tarih.deger = std::chrono::year(2026) / 6 / 21;
+        sahne.baglayici.Bagla(liste, sahne.ekran->liste);
+        sahne.baglayici.Bagla(yazilan, sahne.ekran->metin);
+        sahne.baglayici.Bagla(tarih, sahne.ekran->tarih);
+        int ust = 0;
+        for (QWidget* parca : std::initializer_list<QWidget*>{&odakta, &liste, &yazilan, &tarih})
+            parca->setGeometry(0, std::exchange(ust, ust + 40), 200, 30);
+        sahne.pencere.resize(200, ust);
+        sahne.pencere.show();
+        QVERIFY(QTest::qWaitForWindowActive(&sahne.pencere));
+        odakta.setFocus();
+        const QList<QWidget*> cevrilenler{&liste, &yazilan, &tarih};
+        for (QWidget* parca : cevrilenler) {
+            TekeriCevir(*parca);
+            QVERIFY(odakta.hasFocus());
+        }
         QCOMPARE(sahne.ekran->liste.secili, 0);
-        QCOMPARE(kutu.currentIndex(), 0);
+        QCOMPARE(sahne.ekran->metin.metin, Metin(u"Düğün"));
+        QVERIFY(sahne.ekran->tarih.deger == std::chrono::year(2026) / 6 / 21);
+        for (QWidget* parca : cevrilenler) {
+            parca->setFocus();
+            TekeriCevir(*parca);
+        }
+        QCOMPARE(sahne.ekran->liste.secili, 1);
+        QCOMPARE(sahne.ekran->metin.metin, Metin(u"Nişan"));
+        QVERIFY(sahne.ekran->tarih.deger == std::chrono::year(2026) / 6 / 20);
+    }
+
+    void a_press_in_the_middle_of_a_press_is_dropped_also_on_another_button() {
+        Sahne sahne;
+        QPushButton bir(&sahne.pencere);
+        QPushButton iki(&sahne.pencere);
+        QAction girdi(&sahne.pencere);
+        MenuGirdisi model;
+        const auto say = [&] { ++sahne.sayi; };
+        sahne.baglayici.Bagla(iki, sahne.ekran->dugme, say);
+        sahne.baglayici.Bagla(girdi, model, say);
+        sahne.baglayici.Bagla(bir, sahne.ekran->dugme, [&] {
+            say();
+            bir.click();
+            iki.click();
+            girdi.trigger();
+        });
+        bir.click();
+        QCOMPARE(sahne.sayi, 1);
+        iki.click();
+        girdi.trigger();
+        QCOMPARE(sahne.sayi, 3);
     }
 
     void a_list_view_shows_columns_and_marks_rows_both_ways() {
