@@ -1,11 +1,9 @@
 #include <stdexcept>
-#include <utility>
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -28,7 +26,6 @@ struct Ekran {
     OnayKutusu onay;
     MetinKutusu metin;
     AcilirListe liste;
-    TarihSecici tarih;
     ListeGorunumu satirlar;
     Dugme dugme;
     Etiket etiket;
@@ -176,42 +173,6 @@ class BaglayiciTest : public QObject {
         QCOMPARE(kutu.currentIndex(), -1);
         QCOMPARE(kutu.placeholderText(), QStringLiteral("eski salon"));
         QCOMPARE(kutu.palette().color(QPalette::PlaceholderText), kutu.palette().color(QPalette::Text));
-    }
-
-    void the_wheel_over_a_field_without_the_focus_changes_nothing_and_with_it_turns_it() {
-        Sahne sahne;
-        QLineEdit odakta(&sahne.pencere);
-        QComboBox liste(&sahne.pencere);
-        QComboBox yazilan(&sahne.pencere);
-        QDateEdit tarih(&sahne.pencere);
-        sahne.ekran->metin.ogeler = {u"Düğün", u"Nişan"};
-        sahne.ekran->metin.metin = u"Düğün";
-        sahne.ekran->tarih.deger = std::chrono::year(2026) / 6 / 21;
-        sahne.baglayici.Bagla(liste, sahne.ekran->liste);
-        sahne.baglayici.Bagla(yazilan, sahne.ekran->metin);
-        sahne.baglayici.Bagla(tarih, sahne.ekran->tarih);
-        int ust = 0;
-        for (QWidget* parca : std::initializer_list<QWidget*>{&odakta, &liste, &yazilan, &tarih})
-            parca->setGeometry(0, std::exchange(ust, ust + 40), 200, 30);
-        sahne.pencere.resize(200, ust);
-        sahne.pencere.show();
-        QVERIFY(QTest::qWaitForWindowActive(&sahne.pencere));
-        odakta.setFocus();
-        const QList<QWidget*> cevrilenler{&liste, &yazilan, &tarih};
-        for (QWidget* parca : cevrilenler) {
-            TekeriCevir(*parca);
-            QVERIFY(odakta.hasFocus());
-        }
-        QCOMPARE(sahne.ekran->liste.secili, 0);
-        QCOMPARE(sahne.ekran->metin.metin, Metin(u"Düğün"));
-        QVERIFY(sahne.ekran->tarih.deger == std::chrono::year(2026) / 6 / 21);
-        for (QWidget* parca : cevrilenler) {
-            parca->setFocus();
-            TekeriCevir(*parca);
-        }
-        QCOMPARE(sahne.ekran->liste.secili, 1);
-        QCOMPARE(sahne.ekran->metin.metin, Metin(u"Nişan"));
-        QVERIFY(sahne.ekran->tarih.deger == std::chrono::year(2026) / 6 / 20);
     }
 
     void a_press_in_the_middle_of_a_press_is_dropped_also_on_another_button() {
