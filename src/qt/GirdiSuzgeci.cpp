@@ -66,6 +66,9 @@ class TusSuzgeci : public QObject {
 
     /// True when the key is not to reach the field as it is.
     [[nodiscard]] bool TusuSuz(QObject& alan, const QKeyEvent& tus) const {
+        // A shortcut types nothing; with Alt beside it, Ctrl is AltGr.
+        if ((tus.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier)
+            return false;
         const QString metin = Suz(tus.text());
         if (metin == tus.text())
             return false;

@@ -9,12 +9,14 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/GirdiSuzgeci.h"
 #include "qt/Gorunum.h"
+#include "qt/Pano.h"
 
 namespace velora {
 
@@ -30,6 +32,25 @@ QString QMaske(const Metin& maske) {
 /// What a field shows, empty places of its mask included: the toolkit's own text leaves them out.
 QString Gorunen(const QLineEdit& kutu) {
     return kutu.inputMask().isEmpty() ? kutu.text() : kutu.displayText();
+}
+
+QString Rakamlari(QString metin) {
+    return metin.remove(QRegularExpression(QStringLiteral("[^0-9]")));
+}
+
+/// What a field of one line shows now. Other signs than its keys bring were pasted.
+QString Gelen(const QLineEdit& kutu, const MetinKutusu& model) {
+    return model.suzgec == nullptr ? kutu.text() : QMetin(TutarOlarak(MetinYap(kutu.text())));
+}
+
+/// What a field with a mask takes of what it shows. The toolkit puts what is pasted digit by digit into the
+/// places: where that has just been done, the text goes in as it is meant.
+Metin MaskeliMetin(const QLineEdit& kutu, const MetinKutusu& model, const QString& eski) {
+    const QString pano = PanoMetni();
+    if (const auto oturan = MaskeyeOturt(model.maske, MetinYap(pano));
+        oturan && Rakamlari(pano) == Rakamlari(Gorunen(kutu)))
+        return *oturan;
+    return MaskeyiSuz(model.maske, MetinYap(eski), MetinYap(Gorunen(kutu)));
 }
 
 /// How a field stood when it last took the text of its model. The field may be unable to show a text as it
@@ -118,14 +139,15 @@ void Baglayici::OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyi
 
 void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler) {
     kutu.setInputMask(QMaske(model.maske));
-    TuslariSuz(kutu, model.maske.empty() ? nullptr : MaskeTusu);
+    TuslariSuz(kutu, model.maske.empty() ? model.suzgec : MaskeTusu);
     OdagiIzle(kutu, model, isler.odakGitti);
     const auto son = std::make_shared<SonHal>();
     connect(&kutu, &QLineEdit::textEdited, this, [this, &kutu, &model, isler, son] {
         Calistir([&] {
-            model.metin = kutu.inputMask().isEmpty()
-                              ? MetinYap(GirdiyiSuz(son->metin, kutu.text(), KutununKurali(model, false)))
-                              : MaskeyiSuz(model.maske, MetinYap(son->gorunen), MetinYap(Gorunen(kutu)));
+            model.metin =
+                kutu.inputMask().isEmpty()
+                    ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model), KutununKurali(model, false)))
+                    : MaskeliMetin(kutu, model, son->gorunen);
             if (isler.degisti)
                 isler.degisti();
         });

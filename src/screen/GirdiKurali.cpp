@@ -9,6 +9,7 @@ namespace velora {
 
 namespace {
 
+constexpr MetinBakis kRakamlar = u"0123456789";
 constexpr MetinBakis kSatirSonu = u"\r\n";
 constexpr MetinBakis kRakamSayilanlar = u"\u00B2\u00B3\u00B9\u00BC\u00BD\u00BE"; // superscripts and fractions
 
@@ -80,9 +81,30 @@ Metin GirdiyiKoy(MetinBakis ust, MetinBakis gelen, MetinBakis alt, const GirdiKu
     return metin.append(alt);
 }
 
+Metin TutarOlarak(MetinBakis gelen) {
+    constexpr MetinBakis kAyraclar = u".,";
+    const std::size_t ilk = gelen.find_first_of(kRakamlar);
+    if (ilk == MetinBakis::npos)
+        return Metin(gelen);
+    MetinBakis sayi = gelen.substr(ilk, gelen.find_last_of(kRakamlar) + 1 - ilk);
+    if (sayi.find_first_not_of(u"0123456789., ") != MetinBakis::npos)
+        return Metin(gelen);
+    if (const std::size_t son = sayi.find_last_of(kAyraclar); son != MetinBakis::npos) {
+        const std::size_t once = sayi.find_first_of(kAyraclar);
+        constexpr std::size_t kBinlik = 3;
+        if (sayi.size() - son - 1 != kBinlik || sayi[once] != sayi[son])
+            sayi = sayi.substr(0, son);
+    }
+    Metin tam(sayi);
+    std::erase_if(tam, [](char16_t harf) { return !MaskedeDurur(harf); });
+    return tam;
+}
+
 Metin TuslananMetin(MetinBakis tuslanan, HarfIzni izin) {
     Metin giren(tuslanan);
-    std::erase_if(giren, [izin](char16_t harf) { return !KodVar(harf) || (izin != nullptr && !izin(harf)); });
+    std::erase_if(giren, [izin](char16_t harf) {
+        return !KodVar(harf) || (izin != nullptr && !DenetimHarfi(harf) && !izin(harf));
+    });
     return giren;
 }
 
@@ -97,6 +119,31 @@ Metin MaskeyiSuz(MetinBakis maske, MetinBakis eski, Metin yeni) {
             yeni[i] = kBosYer;
     }
     return yeni;
+}
+
+std::optional<Metin> MaskeyeOturt(MetinBakis maske, MetinBakis yapistirilan) {
+    constexpr std::size_t kYilYeri = 4;
+    Metin dolu;
+    std::size_t yer = 0; // in what was pasted
+    for (std::size_t i = 0; i < maske.size();) {
+        if (maske[i] != kMaskeRakami) {
+            dolu += maske[i++];
+            continue;
+        }
+        const std::size_t son = std::min(maske.find_first_not_of(kMaskeRakami, i), maske.size());
+        const std::size_t ilk = yapistirilan.find_first_of(kRakamlar, yer);
+        if (ilk == MetinBakis::npos)
+            return std::nullopt;
+        yer = std::min(yapistirilan.find_first_not_of(kRakamlar, ilk), yapistirilan.size());
+        const std::size_t adet = yer - ilk;
+        if (adet > son - i || (son - i == kYilYeri && adet != kYilYeri))
+            return std::nullopt;
+        dolu.append(son - i - adet, u'0').append(yapistirilan.substr(ilk, adet));
+        i = son;
+    }
+    if (yapistirilan.find_first_of(kRakamlar, yer) != MetinBakis::npos)
+        return std::nullopt;
+    return dolu;
 }
 
 } // namespace velora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "storage/Metin.h"
 
 namespace velora {
@@ -30,8 +32,15 @@ GirdiKurali KutununKurali(const MetinKutusu& kutu, bool cokSatirli);
 /// that it is. A text that was longer before keeps its length.
 Metin GirdiyiKoy(MetinBakis ust, MetinBakis gelen, MetinBakis alt, const GirdiKurali& kural);
 
+/// A field of digits takes whole numbers: what came in as an amount is the number that it means, without its
+/// groups, its decimals and what stands around it: "12.500,00 TL" is "12500". The last sign between digits
+/// begins the decimals, unless three digits stand behind it and no other sign came before. A text of another
+/// kind stays as it is.
+Metin TutarOlarak(MetinBakis gelen);
+
 /// Of composed characters that are typed those that get into a field: what no file holds and what has no
-/// `izin` is dropped. With none left the key does nothing, not even to the selection.
+/// `izin` is dropped; Enter, Tab and other keys that are no characters get through. With none left the key
+/// does nothing, not even to the selection.
 Metin TuslananMetin(MetinBakis tuslanan, HarfIzni izin = nullptr);
 
 /// In a mask: a digit, or nothing. All else stands as it is.
@@ -46,5 +55,10 @@ bool MaskeTusu(char16_t harf);
 /// What a masked field takes of what it shows now; `eski` is what it showed before. The place of a digit
 /// holds 0 to 9 or nothing: whatever else has come in leaves it empty.
 Metin MaskeyiSuz(MetinBakis maske, MetinBakis eski, Metin yeni);
+
+/// A text of the clipboard as it is meant in a mask: each of its numbers in the places of one of the mask's,
+/// "5.1.2026" as "05.01.2026" and "9.30" as "09:30". Four places take four digits. None when it isn't such a
+/// text, or has another number of numbers.
+std::optional<Metin> MaskeyeOturt(MetinBakis maske, MetinBakis yapistirilan);
 
 } // namespace velora

@@ -145,6 +145,29 @@ class KayitPenceresiTest : public QObject {
         });
     }
 
+    void what_is_pasted_into_a_mask_or_a_price_is_meant_as_a_person_means_it() {
+        GuiFirma firma;
+        Kayitta(firma, [&](QDialog& pencere) {
+            const auto yapistir = [&](const char* ad, const QString& metin) {
+                QGuiApplication::clipboard()->setText(metin);
+                auto& alan = Parcasi<QLineEdit>(pencere, ad);
+                alan.setFocus();
+                QCoreApplication::processEvents();
+                alan.selectAll();
+                QTest::keyClick(&alan, Qt::Key_V, Qt::ControlModifier);
+                return alan.displayText();
+            };
+            QCOMPARE(yapistir("Kay13", QStringLiteral("5.1.2026")), QStringLiteral("05.01.2026"));
+            QCOMPARE(yapistir("Kay13", QStringLiteral("21.6.2025")), QStringLiteral("21.06.2025"));
+            QCOMPARE(yapistir("Kay12", QStringLiteral("9.30")), QStringLiteral("09:30"));
+            QCOMPARE(yapistir("Kay8", QStringLiteral("5000")), QStringLiteral("5000"));
+            QCOMPARE(yapistir("Kay8", QStringLiteral("12.500,00")), QStringLiteral("12500"));
+            QCOMPARE(yapistir("Kay8", QStringLiteral("1,00")), QStringLiteral("1"));
+            QCOMPARE(firma.program.FormKayit->Kay[AnaNo::SozlesmeTarihi].metin, Metin(u"21.06.2025"));
+            QCOMPARE(firma.program.FormKayit->Kay[AnaNo::ToplamUcret].metin, Metin(u"1"));
+        });
+    }
+
     void line_breaks_of_a_note_are_those_of_the_files() {
         GuiFirma firma;
         Kayitta(firma, [&](QDialog& pencere) {

@@ -40,6 +40,39 @@ TEST(GirdiKuraliTest, Character_outside_the_code_page_becomes_one_question_mark)
     EXPECT_EQ(GirdiyiKoy(u"1", yarim + u'x', u"2", {}), u"1?x2");
 }
 
+TEST(GirdiKuraliTest, A_field_of_digits_lets_keys_through_that_are_no_characters) {
+    for (const MetinBakis tus : {u"\r", u"\t", u"\x16", u"\x1B", u"\x7F"})
+        EXPECT_EQ(TuslananMetin(tus, RakamMi), tus);
+    EXPECT_EQ(TuslananMetin(u",", RakamMi), u"");
+    EXPECT_EQ(TuslananMetin(u"7", RakamMi), u"7");
+}
+
+TEST(GirdiKuraliTest, An_amount_that_comes_into_a_field_of_digits_is_the_number_that_it_means) {
+    const std::pair<MetinBakis, MetinBakis> tutarlar[]{
+        {u"12.500,00", u"12500"}, {u"12,500.75", u"12500"},
+        {u"12.500", u"12500"},    {u"1.250.000", u"1250000"},
+        {u"12,5", u"12"},         {u"7,50 TL", u"7"},
+        {u"₺ 9 300", u"9300"},    {u"12.500,000", u"12500"},
+        {u"450", u"450"},         {u"", u""},
+        {u"yüz", u"yüz"},         {u"5x00", u"5x00"},
+    };
+    for (const auto& [gelen, sayi] : tutarlar)
+        EXPECT_EQ(TutarOlarak(gelen), sayi) << ::testing::PrintToString(Metin(gelen));
+}
+
+TEST(GirdiKuraliTest, What_is_pasted_into_a_mask_is_meant_number_by_number) {
+    const MetinBakis tarih = u"##.##.####";
+    const MetinBakis saat = u"##:##";
+    EXPECT_EQ(MaskeyeOturt(tarih, u"5.1.2026"), u"05.01.2026");
+    EXPECT_EQ(MaskeyeOturt(tarih, u" 15/7/2026\n"), u"15.07.2026");
+    EXPECT_EQ(MaskeyeOturt(tarih, u"05.01.2026"), u"05.01.2026");
+    EXPECT_EQ(MaskeyeOturt(saat, u"9.30"), u"09:30");
+    EXPECT_EQ(MaskeyeOturt(saat, u"18:5"), u"18:05");
+    for (const MetinBakis olmayan : {u"5.1", u"5.1.26", u"5.1.2026 9", u"005.1.2026", u"", u"Mayıs"})
+        EXPECT_FALSE(MaskeyeOturt(tarih, olmayan)) << ::testing::PrintToString(Metin(olmayan));
+    EXPECT_FALSE(MaskeyeOturt(saat, u"930"));
+}
+
 TEST(GirdiKuraliTest, Line_breaks_and_control_characters_are_blanks_in_one_line) {
     OrnekleriDene({}, {{u"", u"a\r\nb\rc\nd", u"", u"a b c d"},
                        {u"", u"a\u2028b\u2029c\td\u0001e\u007Ff\u009Dg\u001Fh", u"", u"a b c d e f g h"},
