@@ -71,7 +71,8 @@ void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& 
 }
 
 void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil) {
-    if (satir.sutun.front().empty())
+    // A hall that was renamed or taken out behind the list: as for a missing file.
+    if (satir.sutun.front().empty() || program.FormTablo->Salon.Bul(salon) < 0)
         return;
     program.FormTablo->Salon.Sec(salon);
     if (!yil.empty())

@@ -152,6 +152,21 @@ TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     EXPECT_EQ(Tablo().Sene.Metni(), u"2013");
 }
 
+TEST_F(UyariTest, A_row_whose_hall_is_gone_or_renamed_opens_nothing_and_leaves_the_table_where_it_is) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    KayitKoy(agac, u"Salon B/2012/17.06.2012 - Gece");
+    Prog();
+    Tablo().Salon.ogeler[1] = u"Salon C";
+    Isaretle(0);
+    Tablo().Command8_Click();
+    EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A");
+    Tablo().Salon.ogeler[1] = u"Salon B";
+    Isaretle(0);
+    EkranBekle(EkranAdi::FormKayit, [&] { KapataBas(); });
+    Tablo().Command8_Click();
+}
+
 TEST_F(UyariTest, With_no_row_marked_nothing_opens) {
     RezervasyonKoy(u"16.06.2012 - Gece");
     Prog();
