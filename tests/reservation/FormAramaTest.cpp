@@ -1,5 +1,6 @@
 // What a search finds.
 #include "reservation/AramaTest.h"
+#include "storage/Desen.h"
 
 namespace velora::test {
 
@@ -210,6 +211,16 @@ TEST_F(AramaTest, A_star_lists_names_before_any_file_was_read_too_on_purpose) {
     Ara(kAd, u"*");
     EXPECT_EQ(Bulunanlar(), Adlar{u"05.05.2011 - Gece"});
     EXPECT_EQ(Sutun(2), Adlar{u""});
+}
+
+TEST_F(AramaTest, A_pattern_is_taken_apart_once_for_all_files) {
+    for (int gun = 10; gun < 28; ++gun)
+        KayitKoy(agac, u"Salon B/2012/" + SayiMetni(gun) + u".06.2012 - Gece", {.ad = u"Nur Ak"});
+    Prog();
+    const std::size_t once = HazirDesen::Cozulen();
+    Ara({{kAd, u"nur?a[k-l]"}, {kGelinDamat, u"*"}, {kTelefon, u"yok"}});
+    EXPECT_GT(Arama().Liste.satirlar.size(), 18U);
+    EXPECT_EQ(HazirDesen::Cozulen() - once, 2U) << "one for each field that is a pattern";
 }
 
 TEST_F(AramaTest, A_search_writes_nothing) {
