@@ -131,6 +131,7 @@ void FormKayit::Activate() {
         Command1.ipucu = u"Değişiklikleri Kaydet";
         Command2.ipucu = u"Değişiklikleri Kaydetmeden Kapat";
     }
+    SalonAdi.baslik = program_.FormTablo->Salon.Metni();
     Liste.secimDugmeleri.Ac(false);
     Command12(); // the totals
 }

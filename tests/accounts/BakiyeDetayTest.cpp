@@ -104,6 +104,8 @@ TEST_F(BakiyeDetay, A_hall_chosen_after_the_listing_lists_anew_so_that_payments_
         SatirSec(0);
         Detaylar([&] {
             EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
+            EXPECT_EQ(Kayit().SalonAdi.baslik, u"Salon B") << "the hall is named beside the day";
+            EXPECT_EQ(Kayit().Tarih, kGun) << "which stays as it is";
             EXPECT_EQ(Kayit().Kay[1].metin, u"B Müşterisi");
             EXPECT_EQ(Kayit().Kay[9].metin, u"9");
             Gir(AnaNo::BitisSaati, u"17:00");
