@@ -26,7 +26,7 @@ std::size_t DegerleriOku(std::string_view bayt, AramaDegerleri& degerler) {
 } // namespace
 
 AramaOkumasi::AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor) {
-    dosyalar.KlasoruOku(klasor, kEnCokBayt, [this](const Dosyalar::OkunanDosya& okunan) {
+    dosyalar.KlasoruOku(klasor, [this](const Dosyalar::OkunanDosya& okunan) {
         Dosya dosya{Metin(okunan.ad), 0, {}};
         dosya.adet = DegerleriOku(okunan.bayt, dosya.deger);
         dosyalari_.push_back(std::move(dosya));

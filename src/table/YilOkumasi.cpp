@@ -71,7 +71,7 @@ void AnaParcasi::Uygula(HatirlatmaDegerleri& degerler) const {
 
 YilOkumasi::YilOkumasi(const Dosyalar& dosyalar, const Metin& klasor, MetinBakis yil, MetinBakis bugun)
     : yil_(yil), bugun_(KodYaz(bugun)) {
-    dosyalar.KlasoruOku(klasor, kEnCokBayt, [this](const Dosyalar::OkunanDosya& dosya) { Ekle(dosya); });
+    dosyalar.KlasoruOku(klasor, [this](const Dosyalar::OkunanDosya& dosya) { Ekle(dosya); });
 }
 
 const DilimOkumasi& YilOkumasi::Dilim(int ay, int gun, GunduzGece dilim) const {

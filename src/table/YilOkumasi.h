@@ -54,9 +54,6 @@ struct DilimOkumasi {
 /// by one.
 class YilOkumasi {
   public:
-    /// At most so many bytes of a file are looked at: a huge stray file costs neither memory nor time.
-    static constexpr std::size_t kEnCokBayt = std::size_t{1} << 20U;
-
     /// Reads the folder of a hall and year. A folder that isn't there gives an empty reading.
     YilOkumasi(const Dosyalar& dosyalar, const Metin& klasor, MetinBakis yil, MetinBakis bugun);
 

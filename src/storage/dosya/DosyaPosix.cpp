@@ -169,9 +169,16 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
         int no;
         ~Kapatan() { ::close(no); }
     } const kapatan{no};
-    const auto boy = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
-        return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
-    });
+    const auto boy = SinirliDoldur(
+        tampon, enCok,
+        [no]() -> std::optional<std::uint64_t> {
+            struct stat bilgi {};
+            return ::fstat(no, &bilgi) == 0 ? std::optional(static_cast<std::uint64_t>(bilgi.st_size))
+                                            : std::nullopt;
+        },
+        [no](char* hedef, std::size_t adet) {
+            return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
+        });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);

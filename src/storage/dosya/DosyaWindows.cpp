@@ -183,11 +183,19 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
         ~Kapatan() { ::CloseHandle(dosya); }
     } const kapatan{dosya};
     std::uint64_t konum = 0;
-    const auto boy = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
-        const auto gelen = KonumdanOku(dosya, konum, hedef, adet);
-        konum += gelen.value_or(0);
-        return gelen;
-    });
+    const auto boy = SinirliDoldur(
+        tampon, enCok,
+        [dosya]() -> std::optional<std::uint64_t> {
+            LARGE_INTEGER uzunluk{};
+            if (::GetFileSizeEx(dosya, &uzunluk) == 0)
+                return {};
+            return static_cast<std::uint64_t>(uzunluk.QuadPart);
+        },
+        [&](char* hedef, std::size_t adet) {
+            const auto gelen = KonumdanOku(dosya, konum, hedef, adet);
+            konum += gelen.value_or(0);
+            return gelen;
+        });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);

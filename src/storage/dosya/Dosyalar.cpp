@@ -15,9 +15,6 @@ using sistem::AcikDosya;
 using sistem::Acilis;
 using sistem::Kip;
 
-// Read whole, a longer file would only cost the memory of the machine.
-constexpr std::uint64_t kEnUzunOkuma = 256U << 20U;
-
 /// What a system throws is memory running out. That is a failed step as any other.
 template <class Is>
 auto Sessiz(Is is) noexcept -> decltype(is()) {
@@ -180,8 +177,7 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
     });
 }
 
-void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
-                          const std::function<void(const OkunanDosya&)>& ver,
+void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                           const std::function<bool(MetinBakis ad)>& istenen) const {
     struct Okuma {
         explicit Okuma(const std::filesystem::path& yol) : klasor(yol) {}
@@ -204,7 +200,7 @@ void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
         const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
             if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
                 return {};
-            return okuma->klasor.Oku(okuma->adlar.Diskteki(i), enCok, okuma->tampon);
+            return okuma->klasor.Oku(okuma->adlar.Diskteki(i), kEnUzunOkuma, okuma->tampon);
         });
         ver({ad, bayt.has_value(), bayt.value_or(std::string_view())});
     }

@@ -19,6 +19,10 @@ namespace sistem {
 enum class Tur;
 }
 
+/// The longest file that any reader takes, in bytes. A longer one can't be read: whole it would only cost the
+/// memory of the machine.
+inline constexpr std::size_t kEnUzunOkuma = std::size_t{256} << 20U;
+
 enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 
 /// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path
@@ -49,21 +53,20 @@ class Dosyalar {
     /// lists nothing.
     std::vector<Metin> Listele(const Metin& klasor) const;
 
-    /// The whole file, or nothing when it can't be opened or read. A file of more than 256 MiB can't be read.
+    /// The whole file, or nothing when it can't be opened or read. One longer than `kEnUzunOkuma` can't be
+    /// read.
     std::optional<std::string> Oku(const Metin& yol) const;
 
     /// One file of a folder, as `KlasoruOku` hands it over. The views last until `ver` returns.
     struct OkunanDosya {
         MetinBakis ad;
-        bool acildi;           ///< false: it is there but can't be opened or read; `bayt` is empty
-        std::string_view bayt; ///< at most `enCok` bytes from its beginning
+        bool acildi; ///< false: it is there but can't be opened or read; `bayt` is empty
+        std::string_view bayt;
     };
 
-    /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok`
-    /// limits what is read of each file, so that a huge stray file costs neither memory nor time. A name that
-    /// `istenen` says no to is passed over and not opened.
-    void KlasoruOku(const Metin& klasor, std::size_t enCok,
-                    const std::function<void(const OkunanDosya&)>& ver,
+    /// Lists a folder as `Listele` does and reads each of its files once, in that order and as `Oku` does. A
+    /// name that `istenen` says no to is passed over and not opened.
+    void KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                     const std::function<bool(MetinBakis ad)>& istenen = {}) const;
 
     /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the

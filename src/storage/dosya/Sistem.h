@@ -69,8 +69,8 @@ class Klasor {
     /// The name of the next entry of this kind, in the order of the disk. False after the last.
     bool Sonraki(Metin& ad, Tur tur);
 
-    /// The bytes of a file of this folder, at most `enCok` of them, in `tampon`, which grows when it must and
-    /// is there to be used again. Nothing when the file can't be opened or read.
+    /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
+    /// again. Nothing when the file can't be opened or read, or is longer than `enCok`.
     std::optional<std::string_view> Oku(MetinBakis ad, std::size_t enCok, std::string& tampon);
 
   private:

@@ -72,7 +72,7 @@ TEST(AdArama, Listings_and_bulk_reading_give_names_in_the_form_of_the_program) {
     EXPECT_EQ(kok.dosyalar.Listele(kok.TamYol(u"Gül")), beklenen);
     std::vector<Metin> adlar;
     std::string baytlar;
-    kok.dosyalar.KlasoruOku(kok.TamYol(u"Gül"), 100, [&](const Dosyalar::OkunanDosya& dosya) {
+    kok.dosyalar.KlasoruOku(kok.TamYol(u"Gül"), [&](const Dosyalar::OkunanDosya& dosya) {
         adlar.emplace_back(dosya.ad);
         baytlar += dosya.bayt;
     });
@@ -99,7 +99,7 @@ TEST(AdArama, A_name_that_is_there_costs_no_listing) {
     kok.dosyalar.Oku(kok.TamYol(u"Gül\\2026\\a"));
     kok.dosyalar.Yaz(kok.TamYol(u"Gül\\2026\\a"), "22");
     kok.dosyalar.Listele(kok.TamYol(u"Gül\\2026"));
-    kok.dosyalar.KlasoruOku(kok.TamYol(u"Gül\\2026"), 9, [](const auto&) {});
+    kok.dosyalar.KlasoruOku(kok.TamYol(u"Gül\\2026"), [](const auto&) {});
     EXPECT_EQ(kok.dosyalar.AramadaListelenen(), 0U);
 }
 

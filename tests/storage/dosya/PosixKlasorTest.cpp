@@ -16,7 +16,7 @@ using test::DosyaAgaci;
 
 std::vector<Metin> Okunanlar(const DosyaAgaci& kok) {
     std::vector<Metin> adlar;
-    kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), 100, [&](const Dosyalar::OkunanDosya& dosya) {
+    kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), [&](const Dosyalar::OkunanDosya& dosya) {
         if (dosya.acildi)
             adlar.emplace_back(dosya.ad);
     });
