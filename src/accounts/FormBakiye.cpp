@@ -77,6 +77,8 @@ void FormBakiye::Load() {
     const auto tablo = program_.FormTablo.Tut();
     Combo2.ogeler = tablo->Salon.ogeler;
     Combo2.secili = tablo->Salon.secili;
+    Combo2.bosYazi = tablo->Salon.bosYazi;
+    Combo2.bosIpucu = tablo->Salon.bosIpucu;
     Combo1.secili = Tumu;
     const Gun bugun = program_.Bugun();
     DTPicker1.deger = bugun.year() / bugun.month() / 1;
