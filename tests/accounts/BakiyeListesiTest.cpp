@@ -238,4 +238,14 @@ TEST_F(BakiyeDurmasi, A_scan_that_stops_before_its_first_row_shows_no_box_on_pur
     });
 }
 
+TEST_F(BakiyeListesi, A_new_listing_marks_nothing) {
+    RezervasyonKoy(u"20.06.2012 - Gece");
+    YiliListele([&] {
+        SatirSec(0);
+        Rapor().ListeleGun();
+        EXPECT_EQ(Gunler(), Adlar{u"20.06.2012 - Gece"});
+        EXPECT_EQ(Rapor().Liste.secili, -1);
+    });
+}
+
 } // namespace velora::test

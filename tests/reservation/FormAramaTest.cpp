@@ -231,4 +231,20 @@ TEST_F(AramaTest, A_search_writes_nothing) {
     EXPECT_EQ(agac.Resim(), once);
 }
 
+TEST_F(AramaTest, A_long_record_is_found_by_what_stands_at_its_end) {
+    agac.KoyMetin(u"Salon B/2012/20.06.2012 - Gece",
+                  Degerler({{1, u"Nur"}, {7, Metin(200'000, u'ş')}, {14, u"4711"}}));
+    Ara(kSozlesmeNo, u"4711");
+    EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
+}
+
+TEST_F(AramaTest, A_new_search_marks_nothing) {
+    KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece", {.ad = u"Nur Ak"});
+    Ara(kAd, u"nur");
+    Isaretle(0);
+    Ara(kAd, u"ak");
+    EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
+    EXPECT_EQ(Arama().Liste.secili, -1);
+}
+
 } // namespace velora::test

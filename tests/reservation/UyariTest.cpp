@@ -211,4 +211,14 @@ TEST_F(UyariTest, A_cancelled_reservation_keeps_its_row_until_the_panel_is_liste
     UyarilarOlmali({});
 }
 
+TEST_F(UyariTest, A_record_with_both_states_gives_two_rows_on_purpose) {
+    RezervasyonKoy(u"17.06.2012 - Gece");
+    Metin detay = DetayMetni(false);
+    const Metin yazili = u"\"1\",\"0\"";
+    detay.replace(detay.find(yazili), yazili.size(), u"\"1\",\"1\"");
+    agac.KoyMetin(u"Salon A/2012/17.06.2012 - Gece-Detay", detay);
+    Prog();
+    UyarilarOlmali({u"17.06.2012 - Gece Kesin", u"17.06.2012 - Gece Ön"});
+}
+
 } // namespace velora::test
