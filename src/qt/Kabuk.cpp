@@ -1,7 +1,6 @@
 #include "qt/Kabuk.h"
 
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QString>
 #include <QUrl>
 
@@ -9,7 +8,8 @@ namespace velora {
 
 bool DosyaAc(const std::filesystem::path& yol) {
     const QString ad = QString::fromStdU16String(yol.u16string());
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(ad)) && QFileInfo::exists(ad);
+    std::error_code hata;
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(ad)) && std::filesystem::exists(yol, hata);
 }
 
 } // namespace velora
