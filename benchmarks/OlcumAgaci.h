@@ -51,7 +51,7 @@ inline Ortam OlcumOrtami(Gun bugun) {
     ortam.goster.gizle = [](EkranAdi) {};
     ortam.zaman.simdi = [bugun] { return std::chrono::local_seconds(std::chrono::local_days(bugun)); };
     ortam.olaylar.isle = ortam.olaylar.bitir = [] {};
-    ortam.kabuk.dosyaAc = [](const std::filesystem::path&) {};
+    ortam.kabuk.dosyaAc = [](const std::filesystem::path&) { return true; };
     ortam.odak.ver = [](EkranAdi, MetinBakis) {};
     return ortam;
 }

@@ -1,6 +1,7 @@
 #include "accounts/FormBakiye.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
@@ -50,6 +51,8 @@ FormBakiye::FormBakiye(Program& program) : program_(program) {
                        u"Tipi",  u"Salon",    u"Niteliği", u"Davetli", u"Ön Açıklama"};
     Liste.sayiSutunlari = {2, 3, 4, 8};
     Liste.secimDugmeleri.dugmeler = {&Command6};
+    // The rows are always of the hall shown: a row's record is opened there.
+    Combo2.tiklandi = [this] { ListeleGun(); };
     ToplamlariGoster({});
     Say();
 }
@@ -74,6 +77,8 @@ void FormBakiye::Load() {
     const auto tablo = program_.FormTablo.Tut();
     Combo2.ogeler = tablo->Salon.ogeler;
     Combo2.secili = tablo->Salon.secili;
+    Combo2.bosYazi = tablo->Salon.bosYazi;
+    Combo2.bosIpucu = tablo->Salon.bosIpucu;
     Combo1.secili = Tumu;
     const Gun bugun = program_.Bugun();
     DTPicker1.deger = bugun.year() / bugun.month() / 1;
@@ -82,9 +87,14 @@ void FormBakiye::Load() {
 
 void FormBakiye::Activate() {
     Liste.secimDugmeleri.Ac(false);
+    const auto gunler = [this] { return std::pair(DTPicker1.deger, DTPicker2.deger); };
+    const auto once = gunler();
     Command4(); // the first day within the year
     Command5(); // the last day too
     acikmi = 1;
+    const bool yilDegisti = listelenenYil_ != program_.FormTablo->Sene.Metni() || gunler() != once;
+    if (!listelenenYil_.empty() && yilDegisti)
+        ListeleGun();
 }
 
 void FormBakiye::YilaSinirla(TarihSecici& secici) {
@@ -107,6 +117,7 @@ void FormBakiye::ListeleGun() {
     // No row of the new list has been clicked yet.
     Liste.secimDugmeleri.Ac(false);
     Liste.Temizle();
+    listelenenYil_ = program_.FormTablo->Sene.Metni();
     Toplamlar toplamlar{};
     if (!Tara(toplamlar))
         return;

@@ -20,6 +20,7 @@ struct FormBakiye {
     explicit FormBakiye(Program& program);
 
     void Load();
+    /// Holds the range in the table's year. When that has changed since the last listing, lists anew.
     void Activate();
     /// Reads the folder of the hall and lists what lies in the range. Nothing in it: a box says so.
     ///
@@ -37,7 +38,7 @@ struct FormBakiye {
     void Command5(); ///< "DTPicker2 Tarihi Sınırla"
 
     Metin baslik = u"Rezervasyon Raporu";
-    AcilirListe Combo2;    ///< "Salon Adı"
+    AcilirListe Combo2;    ///< "Salon Adı"; a choice lists anew
     TarihSecici DTPicker1; ///< "Başlangıç Tarihi", inclusive
     TarihSecici DTPicker2; ///< "Bitiş Tarihi", inclusive
     AcilirListe Combo1;    ///< "Rezervasyon Tipi"
@@ -71,6 +72,7 @@ struct FormBakiye {
     void YilaSinirla(TarihSecici& secici);
 
     Program& program_;
+    Metin listelenenYil_; // of the last listing; empty before the first
 };
 
 } // namespace velora

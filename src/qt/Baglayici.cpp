@@ -242,11 +242,14 @@ void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
             konan = model.ogeler;
         }
         kutu.setCurrentIndex(model.secili);
+        const bool bos = model.ogeler.empty() && model.serbest.empty();
         if (model.secili < 0) {
             // A text as good as any entry.
             RenkVer(kutu, QPalette::PlaceholderText, kutu.palette().color(QPalette::Text));
-            kutu.setPlaceholderText(QMetin(model.serbest));
+            kutu.setPlaceholderText(QMetin(bos ? model.bosYazi : model.serbest));
         }
+        if (const QString ipucu = bos ? QMetin(model.bosIpucu) : QString(); kutu.toolTip() != ipucu)
+            kutu.setToolTip(ipucu);
         kutu.setEnabled(model.etkin);
     });
 }

@@ -6,8 +6,10 @@
 
 namespace velora {
 
-void DosyaAc(const std::filesystem::path& yol) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdU16String(yol.u16string())));
+bool DosyaAc(const std::filesystem::path& yol) {
+    const QString ad = QString::fromStdU16String(yol.u16string());
+    std::error_code hata;
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(ad)) && std::filesystem::exists(yol, hata);
 }
 
 } // namespace velora

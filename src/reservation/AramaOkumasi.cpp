@@ -26,7 +26,7 @@ std::size_t DegerleriOku(std::string_view bayt, AramaDegerleri& degerler) {
 } // namespace
 
 AramaOkumasi::AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor) {
-    dosyalar.KlasoruOku(klasor, kEnCokBayt, [this](const Dosyalar::OkunanDosya& okunan) {
+    dosyalar.KlasoruOku(klasor, [this](const Dosyalar::OkunanDosya& okunan) {
         Dosya dosya{Metin(okunan.ad), 0, {}};
         dosya.adet = DegerleriOku(okunan.bayt, dosya.deger);
         dosyalari_.push_back(std::move(dosya));
@@ -34,15 +34,15 @@ AramaOkumasi::AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor) {
 }
 
 const AramaOkumasi::Dosya* AramaOkumasi::Bul(MetinBakis ad) const {
-    const auto yer =
+    auto yer =
         std::lower_bound(dosyalari_.begin(), dosyalari_.end(), ad,
                          [](const Dosya& dosya, MetinBakis aranan) { return AdSirasi(dosya.ad, aranan); });
-    if (yer != dosyalari_.end() && AyniAd(yer->ad, ad))
+    if (yer != dosyalari_.end() && yer->ad == ad)
         return &*yer;
-    // The same name in other letters may stand before it.
-    if (yer != dosyalari_.begin() && AyniAd(std::prev(yer)->ad, ad))
-        return &*std::prev(yer);
-    return nullptr;
+    // Names that differ only in case stand side by side: the first of them.
+    while (yer != dosyalari_.begin() && AyniAd(std::prev(yer)->ad, ad))
+        --yer;
+    return yer != dosyalari_.end() && AyniAd(yer->ad, ad) ? &*yer : nullptr;
 }
 
 bool AramaOkumasi::Oku(MetinBakis ad, AramaDegerleri& hedef) const {

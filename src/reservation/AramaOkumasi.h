@@ -19,9 +19,6 @@ using AramaDegerleri = std::array<Metin, kAramaNumaralari.size()>;
 /// search can then open any name in it as often as it likes.
 class AramaOkumasi {
   public:
-    /// At most so many bytes of a file are looked at: a huge stray file costs neither memory nor time.
-    static constexpr std::size_t kEnCokBayt = std::size_t{1} << 20U;
-
     /// A folder that isn't there gives an empty reading.
     AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor);
 

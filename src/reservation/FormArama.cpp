@@ -1,5 +1,7 @@
 #include "reservation/FormArama.h"
 
+#include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "reservation/KayitYukle.h"
@@ -26,14 +28,19 @@ constexpr std::array<MetinBakis, FormArama::kOlcutSayisi> kOlcutAdlari{u"Adı So
 
 constexpr int kSozlesmeNo = 5;
 
-/// The signs of a pattern keep their meaning in what is looked for.
-bool Uyar(Kural kural, MetinBakis deger, MetinBakis olcut) {
-    if (kural == Kural::Esit)
-        return Kucult(deger) == Kucult(olcut);
-    return DeseneUyar(Kucult(deger), u'*' + Kucult(olcut) + u'*');
-}
-
 } // namespace
+
+/// A criterion as it is held against the values of thousands of files.
+struct FormArama::HazirOlcut {
+    std::size_t deger; ///< which value
+    Metin esit;        ///< in lower case
+    std::optional<HazirDesen> icerir;
+
+    bool Uyar(const AramaDegerleri& degerler) const {
+        const Metin kucuk = Kucult(degerler[deger]);
+        return icerir ? icerir->Uyar(kucuk) : kucuk == esit;
+    }
+};
 
 FormArama::FormArama(Program& program) : program_(program) {
     for (int no = 1; no <= kOlcutSayisi; ++no)
@@ -87,29 +94,38 @@ void FormArama::Ara() {
         okumalar.emplace_back(program_.dosyalar, program_.agac.YilKlasoru(salon, yil));
     // Outside the loops: what can't be opened is tested with the values of the file before it.
     AramaDegerleri degerler;
-    int uyan = UyanSayisi(degerler);
+    const std::vector<HazirOlcut> olcutler = Olcutler();
+    // Each criterion that matches, for itself.
+    const auto uyanSayisi = [&] {
+        return std::ranges::count_if(olcutler, [&](const HazirOlcut& o) { return o.Uyar(degerler); });
+    };
+    auto uyan = uyanSayisi();
     for (const Metin& sene : tablo->Sene.ogeler)
         for (std::size_t i = 0; i < okumalar.size(); ++i) {
             const Metin& salon = tablo->Salon.ogeler[i];
             for (const Metin& ad : program_.dosyalar.Listele(program_.agac.YilKlasoru(salon, sene))) {
                 if (okumalar[i].Oku(ad, degerler))
-                    uyan = UyanSayisi(degerler);
-                for (int kez = 0; kez < uyan; ++kez)
+                    uyan = uyanSayisi();
+                for (auto kez = uyan; kez > 0; --kez)
                     Liste.satirlar.push_back({{ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]},
                                               program_.agac.GunYolu(salon, yil, ad)});
             }
         }
 }
 
-/// How many of the criteria match, each for itself.
-int FormArama::UyanSayisi(const AramaDegerleri& degerler) const {
-    int sayi = 0;
+/// The criteria that take part. The signs of a pattern keep their meaning in what is looked for.
+std::vector<FormArama::HazirOlcut> FormArama::Olcutler() const {
+    std::vector<HazirOlcut> olcutler;
     for (std::size_t i = 0; i < kKurallar.size(); ++i) {
-        const Metin& olcut = Text[static_cast<int>(i) + 1].metin;
-        if (!olcut.empty() && Uyar(kKurallar[i], degerler[i], olcut))
-            ++sayi;
+        Metin olcut = Kucult(Text[static_cast<int>(i) + 1].metin);
+        if (olcut.empty())
+            continue;
+        if (kKurallar[i] == Kural::Icerir)
+            olcutler.push_back({i, {}, HazirDesen(u'*' + olcut + u'*')});
+        else
+            olcutler.push_back({i, std::move(olcut), {}});
     }
-    return sayi;
+    return olcutler;
 }
 
 } // namespace velora

@@ -41,7 +41,8 @@ struct FormArama {
 
   private:
     void Ara();
-    int UyanSayisi(const AramaDegerleri& degerler) const;
+    struct HazirOlcut;
+    std::vector<HazirOlcut> Olcutler() const;
 
     Program& program_;
 };

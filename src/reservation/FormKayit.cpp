@@ -107,8 +107,10 @@ bool FormKayit::SozlesmeNoOner() {
     if (ayarlar->Check7.deger == 1) {
         SozlesmeNoAc(false);
         Kay[AnaNo::SozlesmeNo].metin.clear();
-        return true;
     }
+    // Another number in the file is neither on nor off: the field is left as it is.
+    if (ayarlar->Check7.deger != 0)
+        return true;
     const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kSayacDosyasi));
     Metin sonNo;
     if (!bayt || !DegerOkuyucu(*bayt).Oku(sonNo))
@@ -131,6 +133,7 @@ void FormKayit::Activate() {
         Command1.ipucu = u"Değişiklikleri Kaydet";
         Command2.ipucu = u"Değişiklikleri Kaydetmeden Kapat";
     }
+    SalonAdi.baslik = program_.FormTablo->Salon.Metni();
     Liste.secimDugmeleri.Ac(false);
     Command12(); // the totals
 }

@@ -68,6 +68,7 @@ struct FormKayit {
 
     Metin Tarih; ///< day file name of the record
     Metin tarihBaslik = u"Rezervasyon Tarihi";
+    Etiket SalonAdi;                         ///< the hall that it is saved in: the one that the table shows
     BirTabanli<MetinKutusu, kKaySayisi> Kay; ///< the fields by their numbers; `Kay[4]` is an editable list
     OnayKutusu Option1;                      ///< "Kesin Rezervasyon"
     OnayKutusu Option2;                      ///< "Ön Rezervasyon"
@@ -98,6 +99,7 @@ struct FormKayit {
     bool MenuleriOku();
     void SozlesmeNoAc(bool acik);
     bool SozlesmeNoOner();
+    bool GunVar() const;
     bool AlanlarTamam();
     bool NumaraVar(const Metin& no) const;
     bool NumaraUygun();

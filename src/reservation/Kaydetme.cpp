@@ -41,13 +41,11 @@ void AcikEkranlariTazele(Program& p) {
     tablo->DegisikligiGoster([&p] { p.OlaylariIsle(); });
 }
 
-constexpr std::size_t kEnCokOkunan = std::size_t{1} << 20;
-
 } // namespace
 
 void FormKayit::Command1_Click() {
     Program& p = program_;
-    if (!AlanlarTamam())
+    if (!GunVar() || !AlanlarTamam())
         return;
     for (const int no : {AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Adres})
         Kay[no].metin = BuyukBas(Kay[no].metin);
@@ -56,7 +54,7 @@ void FormKayit::Command1_Click() {
     KlasoruVeKayitlariYaz();
     Kaydet();
     p.OlaylariIsle();
-    if (KayitAc == 0 && p.FormAyarlar->Check7.deger != 1)
+    if (KayitAc == 0 && p.FormAyarlar->Check7.deger == 0)
         SayaciYaz();
     p.OlaylariIsle();
     Basildi = 1;
@@ -66,13 +64,18 @@ void FormKayit::Command1_Click() {
 }
 
 void FormKayit::Command11() {
-    if (!NumaraUygun())
+    if (!GunVar() || !NumaraUygun())
         return;
     KlasoruVeKayitlariYaz();
     if (KayitAc != 0)
         return;
-    program_.dosyalar.Ekle(GunYolu() + Metin(kOdemeEki), {});
+    OdemeHazirla(program_.dosyalar, GunYolu() + Metin(kOdemeEki));
     SayaciYaz();
+}
+
+/// A screen that was filled halfway has no day. Nothing of it is saved, and what stands on it stays.
+bool FormKayit::GunVar() const {
+    return !Kirp(Tarih).empty();
 }
 
 bool FormKayit::AlanlarTamam() {
@@ -107,7 +110,7 @@ bool FormKayit::NumaraVar(const Metin& no) const {
     Metin okunan;
     const auto tablo = program_.FormTablo.Tut();
     program_.dosyalar.KlasoruOku(
-        program_.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()), kEnCokOkunan,
+        program_.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()),
         [&](const Dosyalar::OkunanDosya& dosya) {
             DegerOkuyucu okuyucu(dosya.bayt);
             if (okuyucu.Atla(AnaNo::SozlesmeNo - 1) == AnaNo::SozlesmeNo - 1 && okuyucu.Oku(okunan))

@@ -56,6 +56,7 @@ void FormKayit::BasliklariKoy() {
         Kay[alan.no].baslik = alan.baslik;
         Kay[alan.no].sonra = alan.sonra;
     }
+    SalonAdi.once = u"Salon";
     Option1.baslik = u"Kesin Rezervasyon";
     Option2.baslik = u"Ön Rezervasyon";
     Check18.baslik = u"Yaklaşınca Hatırlat";

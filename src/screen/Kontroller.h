@@ -130,6 +130,8 @@ struct AcilirListe {
     bool etkin = true;
     std::function<void()> tiklandi; ///< the screen's handler, set by the screen
     Metin baslik{};                 ///< its label
+    Metin bosYazi{};  ///< stands in the field while there is nothing to choose; never the list's text
+    Metin bosIpucu{}; ///< what can be done about that
 
     /// What the field shows: the chosen entry or the free text.
     Metin Metni() const { return secili < 0 ? serbest : ogeler[static_cast<std::size_t>(secili)]; }

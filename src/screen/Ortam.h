@@ -60,9 +60,9 @@ struct Ortam {
     } olaylar;
 
     struct Kabuk {
-        /// Opens a file in the program that the user reads such files with, and doesn't wait. What can't be
-        /// opened, that program or the system tells of.
-        std::function<void(const std::filesystem::path&)> dosyaAc;
+        /// Opens a file in the program that the user reads such files with, and doesn't wait. False: none has
+        /// been started that could show the file, or tell of its absence.
+        std::function<bool(const std::filesystem::path&)> dosyaAc;
     } kabuk;
 
     struct Odak {

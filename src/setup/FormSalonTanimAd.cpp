@@ -37,7 +37,7 @@ void DosyalariKopyala(const Program& program, const Metin& eski, const Metin& ye
         const Metin kaynak = Klasor(program, eski, yil + kKopyalar[i].kaynak);
         const Metin hedef = Klasor(program, yeni, yil + kKopyalar[i].hedef);
         // A file can't be copied onto itself.
-        if (AyniAd(kaynak, hedef))
+        if (program.dosyalar.AyniKlasor(kaynak, hedef))
             continue;
         for (const Metin& ad : adlar[i])
             program.dosyalar.Kopyala(kaynak + ad, hedef + ad);

@@ -1,34 +1,26 @@
 #include "storage/Desen.h"
 
 #include <algorithm>
-#include <optional>
-#include <vector>
 
 namespace velora {
-namespace {
 
-struct Aralik {
-    char16_t ilk;
-    char16_t son;
-};
+HazirDesen::HazirDesen(MetinBakis desen) : ogeler_(Coz(desen)) {
+    ++Sayac();
+}
 
-/// What stands for one character of the text, or `*`.
-struct Oge {
-    bool yildiz = false;
-    bool disinda = false; ///< one that lies in none of the ranges
-    std::vector<Aralik> araliklar;
+std::size_t& HazirDesen::Sayac() {
+    static std::size_t sayac = 0;
+    return sayac;
+}
 
-    bool Uyar(char16_t harf) const {
-        const bool icinde = std::any_of(araliklar.begin(), araliklar.end(), [harf](const Aralik& aralik) {
-            return aralik.ilk <= harf && harf <= aralik.son;
-        });
-        return icinde != disinda;
-    }
-};
+bool HazirDesen::Oge::Uyar(char16_t harf) const {
+    const bool icinde = std::any_of(araliklar.begin(), araliklar.end(), [harf](const Aralik& aralik) {
+        return aralik.ilk <= harf && harf <= aralik.son;
+    });
+    return icinde != disinda;
+}
 
-using Ogeler = std::vector<Oge>;
-
-Oge TekHarf(char16_t harf) {
+HazirDesen::Oge HazirDesen::TekHarf(char16_t harf) {
     switch (harf) {
     case u'*':
         return {.yildiz = true, .disinda = false, .araliklar = {}};
@@ -42,7 +34,7 @@ Oge TekHarf(char16_t harf) {
 }
 
 /// What stands between the brackets. False when it is malformed.
-bool ListeEkle(MetinBakis liste, Ogeler& ogeler) {
+bool HazirDesen::ListeEkle(MetinBakis liste, Ogeler& ogeler) {
     if (liste.empty())
         return true;
     Oge oge;
@@ -61,7 +53,7 @@ bool ListeEkle(MetinBakis liste, Ogeler& ogeler) {
     return true;
 }
 
-std::optional<Ogeler> Coz(MetinBakis desen) {
+std::optional<HazirDesen::Ogeler> HazirDesen::Coz(MetinBakis desen) {
     Ogeler ogeler;
     for (std::size_t i = 0; i < desen.size(); ++i) {
         if (desen[i] != u'[') {
@@ -76,32 +68,29 @@ std::optional<Ogeler> Coz(MetinBakis desen) {
     return ogeler;
 }
 
-} // namespace
-
-bool DeseneUyar(MetinBakis metin, MetinBakis desen) {
-    const auto ogeler = Coz(desen);
-    if (!ogeler)
+bool HazirDesen::Uyar(MetinBakis metin) const {
+    if (!ogeler_)
         return false;
-    auto oge = ogeler->begin();
+    auto oge = ogeler_->begin();
     auto harf = metin.begin();
     // The last `*` and how far it reaches: where the rest doesn't fit, it takes one character more.
-    auto yildiz = ogeler->end();
+    auto yildiz = ogeler_->end();
     auto yildizSonu = harf;
     while (harf != metin.end()) {
-        if (oge != ogeler->end() && oge->yildiz) {
+        if (oge != ogeler_->end() && oge->yildiz) {
             yildiz = oge++;
             yildizSonu = harf;
-        } else if (oge != ogeler->end() && oge->Uyar(*harf)) {
+        } else if (oge != ogeler_->end() && oge->Uyar(*harf)) {
             ++oge;
             ++harf;
-        } else if (yildiz != ogeler->end()) {
+        } else if (yildiz != ogeler_->end()) {
             oge = std::next(yildiz);
             harf = ++yildizSonu;
         } else {
             return false;
         }
     }
-    return std::all_of(oge, ogeler->end(), [](const Oge& kalan) { return kalan.yildiz; });
+    return std::all_of(oge, ogeler_->end(), [](const Oge& kalan) { return kalan.yildiz; });
 }
 
 } // namespace velora

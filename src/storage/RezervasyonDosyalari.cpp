@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "storage/VeriAgaci.h"
+
 namespace velora {
 namespace {
 
@@ -28,6 +30,15 @@ Metin VirgulNokta(MetinBakis metin) {
 
 MetinBakis Secenek(bool secili) {
     return secili ? u"1" : u"0";
+}
+
+/// Whether the last name of the path has a day before the word of a companion.
+bool GunuVar(const Metin& yol) {
+    MetinBakis ad = MetinBakis(yol).substr(yol.rfind(kAyrac) + 1);
+    for (const MetinBakis ek : {kDetayEki, kOdemeEki})
+        if (ad.ends_with(ek))
+            ad.remove_suffix(ek.size());
+    return !Kirp(ad).empty();
 }
 
 } // namespace
@@ -98,14 +109,16 @@ std::string OdemeBayt(const std::vector<Odeme>& odemeler) {
 }
 
 bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit) {
-    return dosyalar.Yaz(yol, AnaBayt(kayit));
+    return GunuVar(yol) && dosyalar.Yaz(yol, AnaBayt(kayit));
 }
 
 bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit) {
-    return dosyalar.Yaz(yol, DetayBayt(kayit));
+    return GunuVar(yol) && dosyalar.Yaz(yol, DetayBayt(kayit));
 }
 
 bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler) {
+    if (!GunuVar(yol))
+        return false;
     if (!odemeler.empty())
         return dosyalar.Yaz(yol, OdemeBayt(odemeler));
     if (dosyalar.Sil(yol) || !dosyalar.VarMi(yol))
@@ -113,6 +126,27 @@ bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odem
     // A file that can't be removed must not bring the payments back.
     dosyalar.Yaz(yol, {});
     return false;
+}
+
+bool OdemeHazirla(const Dosyalar& dosyalar, const Metin& yol) {
+    return GunuVar(yol) && dosyalar.Ekle(yol, {});
+}
+
+bool RezervasyonTasi(const Dosyalar& dosyalar, const Metin& kaynak, const Metin& hedef) {
+    if (!GunuVar(kaynak) || !GunuVar(hedef))
+        return false;
+    // A copy that fails doesn't keep the source from being deleted.
+    for (const MetinBakis ek : kRezervasyonEkleri)
+        dosyalar.Kopyala(kaynak + Metin(ek), hedef + Metin(ek));
+    return RezervasyonSil(dosyalar, kaynak);
+}
+
+bool RezervasyonSil(const Dosyalar& dosyalar, const Metin& yol) {
+    if (!GunuVar(yol))
+        return false;
+    for (const MetinBakis ek : kRezervasyonEkleri)
+        dosyalar.Sil(yol + Metin(ek));
+    return true;
 }
 
 } // namespace velora

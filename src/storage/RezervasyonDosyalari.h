@@ -118,9 +118,20 @@ std::string AnaBayt(const AnaKayit& kayit);
 std::string DetayBayt(const DetayKaydi& kayit);
 std::string OdemeBayt(const std::vector<Odeme>& odemeler);
 
+// Each of these refuses a path without a day: false, and nothing on the disk changes. The companions' paths
+// have their word behind the day's.
+
 bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit);
 bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit);
 /// An empty list leaves no file.
 bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler);
+/// Makes an empty file of payments, or leaves the one that is there.
+bool OdemeHazirla(const Dosyalar& dosyalar, const Metin& yol);
+
+// These two take the path of the main file and pass over each step that fails. False is a refusal alone.
+
+/// Copies the three files to the names of another day, then deletes them under the old ones.
+bool RezervasyonTasi(const Dosyalar& dosyalar, const Metin& kaynak, const Metin& hedef);
+bool RezervasyonSil(const Dosyalar& dosyalar, const Metin& yol);
 
 } // namespace velora

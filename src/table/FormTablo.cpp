@@ -36,6 +36,8 @@ FormTablo::FormTablo(Program& program) : program_(program) {
     Picture1.yer = kPanelYeri;
     Picture1.gorunur = Ekran.gorunur = false;
     Salon.baslik = u"Salon";
+    Salon.bosYazi = u"Salon tanımlı değil";
+    Salon.bosIpucu = u"Salon eklemek için Ayarlar menüsünden Salon Tanımları'nı açın.";
     Sene.baslik = u"Çalışma Yılı";
     Salon.tiklandi = [this] { Salon_Click(); };
     Sene.tiklandi = [this] { Sene_Click(); };

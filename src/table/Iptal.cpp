@@ -7,8 +7,6 @@
 
 namespace velora {
 
-namespace {} // namespace
-
 void FormTablo::iptals_Click() {
     if (!SilmeyiSor(program_, u"Seçili kaydı silmek istediğinizden emin misiniz?"))
         return;
@@ -21,8 +19,7 @@ void FormTablo::iptals_Click() {
     program_.OlaylariIsle();
     IptalSatiriEkle(kayit, sebep);
     program_.OlaylariIsle();
-    for (const MetinBakis ek : kRezervasyonEkleri)
-        program_.dosyalar.Sil(yol + Metin(ek));
+    RezervasyonSil(program_.dosyalar, yol);
     program_.OlaylariIsle();
     program_.OlaylariIsle();
     DegisikligiGoster();
@@ -38,8 +35,11 @@ void FormTablo::IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep) {
 }
 
 void FormTablo::iptalsebepss_Click() {
-    if (const auto yol = program_.dosyalar.SistemYolu(program_.agac.KokYolu(kIptalDosyasi)))
-        program_.ortam.kabuk.dosyaAc(*yol);
+    const Metin yol = program_.agac.KokYolu(kIptalDosyasi);
+    const auto sistemYolu = program_.dosyalar.SistemYolu(yol);
+    if (!sistemYolu || program_.ortam.kabuk.dosyaAc(*sistemYolu) || program_.dosyalar.VarMi(yol))
+        return;
+    Soyle(program_, u"IptalSebep.txt bulunamadı.");
 }
 
 } // namespace velora

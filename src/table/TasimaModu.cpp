@@ -2,6 +2,7 @@
 // a move copies them to the names of the other day and deletes the old ones.
 #include "screen/Program.h"
 #include "screen/Sorular.h"
+#include "storage/RezervasyonDosyalari.h"
 #include "table/FormTablo.h"
 
 namespace velora {
@@ -36,13 +37,8 @@ void FormTablo::RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi) 
         return;
     const Metin salon = Salon.Metni();
     const Metin yil = Sene.Metni();
-    const Metin kaynak = program_.agac.GunYolu(salon, yil, kaynakAdi);
-    const Metin hedef = program_.agac.GunYolu(salon, yil, hedefAdi);
-    // A copy that fails doesn't keep the source from being deleted.
-    for (const MetinBakis ek : kRezervasyonEkleri)
-        program_.dosyalar.Kopyala(kaynak + Metin(ek), hedef + Metin(ek));
-    for (const MetinBakis ek : kRezervasyonEkleri)
-        program_.dosyalar.Sil(kaynak + Metin(ek));
+    RezervasyonTasi(program_.dosyalar, program_.agac.GunYolu(salon, yil, kaynakAdi),
+                    program_.agac.GunYolu(salon, yil, hedefAdi));
 }
 
 void FormTablo::TasimaBitir() {

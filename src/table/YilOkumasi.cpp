@@ -16,6 +16,7 @@ struct AdYeri {
     int gun;
     GunduzGece dilim;
     bool detay;
+    bool tam; ///< the name to the letter, not in another case
 };
 
 /// Two digits as a number, -1 when they are none.
@@ -29,7 +30,7 @@ int IkiHaneCoz(MetinBakis metin) {
 std::optional<AdYeri> AdiYerlestir(MetinBakis ad, MetinBakis yil) {
     if (ad.size() <= kTarihUzunlugu || ad[2] != u'.' || ad[5] != u'.' || Parca(ad, 7, 4) != yil)
         return std::nullopt;
-    AdYeri yer{IkiHaneCoz(ad.substr(3)), IkiHaneCoz(ad), GunduzGece::Gunduz, false};
+    AdYeri yer{IkiHaneCoz(ad.substr(3)), IkiHaneCoz(ad), GunduzGece::Gunduz, false, false};
     if (yer.ay < 1 || yer.ay > kAySayisi || yer.gun < 1 || yer.gun > kGunSayisi)
         return std::nullopt;
     const MetinBakis kuyruk = ad.substr(kTarihUzunlugu);
@@ -39,10 +40,20 @@ std::optional<AdYeri> AdiYerlestir(MetinBakis ad, MetinBakis yil) {
             continue;
         yer.dilim = dilim;
         yer.detay = kuyruk.size() > ek.size();
+        yer.tam = kuyruk.starts_with(ek) && (!yer.detay || kuyruk.ends_with(kDetayEki));
         if (!yer.detay || AyniAd(kuyruk.substr(ek.size()), kDetayEki))
             return yer;
     }
     return std::nullopt;
+}
+
+/// Of names that differ only in case the one to the letter counts, else the first. False: it doesn't.
+bool AdiAl(bool tam, DilimAdi& ad) {
+    const DilimAdi yeni = tam ? DilimAdi::Tam : DilimAdi::Baska;
+    if (yeni <= ad)
+        return false;
+    ad = yeni;
+    return true;
 }
 
 bool BirMi(std::string_view deger) {
@@ -60,7 +71,7 @@ void AnaParcasi::Uygula(HatirlatmaDegerleri& degerler) const {
 
 YilOkumasi::YilOkumasi(const Dosyalar& dosyalar, const Metin& klasor, MetinBakis yil, MetinBakis bugun)
     : yil_(yil), bugun_(KodYaz(bugun)) {
-    dosyalar.KlasoruOku(klasor, kEnCokBayt, [this](const Dosyalar::OkunanDosya& dosya) { Ekle(dosya); });
+    dosyalar.KlasoruOku(klasor, [this](const Dosyalar::OkunanDosya& dosya) { Ekle(dosya); });
 }
 
 const DilimOkumasi& YilOkumasi::Dilim(int ay, int gun, GunduzGece dilim) const {
@@ -74,6 +85,9 @@ void YilOkumasi::Ekle(const Dosyalar::OkunanDosya& dosya) {
     if (yer)
         dilim = &dilimler_[static_cast<std::size_t>(yer->ay - 1)][static_cast<std::size_t>(yer->gun - 1)]
                           [static_cast<std::size_t>(yer->dilim)];
+    // A file that another one stands before is read, but it is no reservation of this table.
+    if (dilim != nullptr && !AdiAl(yer->tam, yer->detay ? dilim->detayAdi : dilim->anaAdi))
+        dilim = nullptr;
     DegerOkuyucu okuyucu(dosya.bayt);
     if (dilim == nullptr || yer->detay)
         dosyalari_.push_back(AnaOkumasi(okuyucu));
@@ -102,6 +116,7 @@ void YilOkumasi::DetayEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim) {
 
 AnaParcasi YilOkumasi::AnaEkle(DegerOkuyucu& okuyucu, DilimOkumasi& dilim) {
     dilim.dolu = true;
+    dilim.ana = {};
     dilim.ilkDeger = static_cast<std::uint32_t>(sonlar_.size() - 1);
     std::string_view deger;
     auto tag = kTagDegerleri.begin();

@@ -35,6 +35,9 @@ struct AnaParcasi {
     void Uygula(HatirlatmaDegerleri& degerler) const;
 };
 
+/// Whether a file of a slot was found, and whether its name is the one to the letter.
+enum class DilimAdi { Yok, Baska, Tam };
+
 /// One slot of one day, as the folder has it.
 struct DilimOkumasi {
     bool dolu = false; ///< the main file is there: the slot is taken
@@ -42,6 +45,8 @@ struct DilimOkumasi {
     std::uint32_t ilkDeger = 0; ///< of its tag values in `YilOkumasi`
     bool onVar = false;         ///< the details file holds a value 37
     bool on = false;            ///< and it is 1: a pre-reservation
+    DilimAdi anaAdi = DilimAdi::Yok;
+    DilimAdi detayAdi = DilimAdi::Yok;
 };
 
 /// One pass over a year folder: the folder is listed once and each file is read once. It leaves what the scan
@@ -49,9 +54,6 @@ struct DilimOkumasi {
 /// by one.
 class YilOkumasi {
   public:
-    /// At most so many bytes of a file are looked at: a huge stray file costs neither memory nor time.
-    static constexpr std::size_t kEnCokBayt = std::size_t{1} << 20U;
-
     /// Reads the folder of a hall and year. A folder that isn't there gives an empty reading.
     YilOkumasi(const Dosyalar& dosyalar, const Metin& klasor, MetinBakis yil, MetinBakis bugun);
 

@@ -91,16 +91,38 @@ TEST_F(BakiyeDetay, The_table_goes_to_the_hall_of_the_report_before_the_record_o
     });
 }
 
-TEST_F(BakiyeDetay, A_hall_chosen_after_the_listing_is_the_one_the_table_goes_to_on_purpose) {
+TEST_F(BakiyeDetay, A_hall_chosen_after_the_listing_lists_anew_so_that_payments_are_those_of_the_row) {
     RezervasyonKoy(Metin(kGun), {.ad = u"Ali Veli"});
+    OdemeKoy(kGun, "\"01.02.2012\",\"700\",\"a\"\r\n");
+    KayitKoy(agac, u"Salon B/2012/" + Metin(kGun), {.ad = u"B Müşterisi"}, false,
+             u"\"02.02.2012\",\"9\",\"b\"\r\n");
     YiliListele([&] {
+        SatirSec(0);
         ListedenSec(Rapor().Combo2, u"Salon B");
+        EXPECT_EQ(Sutun(1), std::vector<Metin>{u"B Müşterisi"});
+        EXPECT_FALSE(Rapor().Command6.etkin) << "the click was on another row";
         SatirSec(0);
         Detaylar([&] {
             EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon B");
-            EXPECT_EQ(Kayit().Kay[1].metin, u"Ali Veli");
-            KapataBas();
+            EXPECT_EQ(Kayit().SalonAdi.baslik, u"Salon B") << "the hall is named beside the day";
+            EXPECT_EQ(Kayit().Tarih, kGun) << "which stays as it is";
+            EXPECT_EQ(Kayit().Kay[1].metin, u"B Müşterisi");
+            EXPECT_EQ(Kayit().Kay[9].metin, u"9");
+            Gir(AnaNo::BitisSaati, u"17:00");
+            KaydeteBas();
         });
+    });
+    EXPECT_EQ(OdemeBaytlari(), "\"01.02.2012\",\"700\",\"a\"\r\n");
+    EXPECT_EQ(agac.Bayt(u"Salon B/2012/" + Metin(kGun) + u"-Odeme"), "\"02.02.2012\",\"9\",\"b\"\r\n");
+}
+
+TEST_F(BakiyeDetay, A_hall_that_is_gone_behind_the_report_opens_nothing) {
+    RezervasyonKoy(Metin(kGun));
+    YiliListele([&] {
+        kullanici.Tablo().Salon.ogeler = {u"Salon C", u"Salon B"};
+        SatirSec(0);
+        VELORA_BAS(Prog().FormBakiye, Command6);
+        EXPECT_FALSE(Prog().FormKayit.Yuklu());
     });
 }
 

@@ -90,14 +90,52 @@ TEST_F(BakiyeListesi, The_hall_and_year_are_those_of_the_report_and_the_table) {
     });
 }
 
+TEST_F(BakiyeListesi, A_year_that_changed_under_the_report_is_listed_at_its_next_activation_and_once) {
+    RezervasyonKoy(u"20.06.2012 - Gece");
+    KayitKoy(agac, u"Salon A/2013/31.12.2013 - Gece");
+    KayitKoy(agac, u"Salon A/2013/01.01.2013 - Gece");
+    RaporAc([&] {
+        kullanici.YilSec(u"2014");
+        Rapor().Activate();
+        EXPECT_TRUE(Rapor().Liste.satirlar.empty()) << "nothing was listed, so nothing is listed anew";
+        kullanici.YilSec(u"2012");
+        Rapor().Activate();
+        Aralik(u"01.01.2012", u"31.12.2012");
+        Rapor().ListeleGun();
+        SatirSec(0);
+        Aralik(u"02.01.2012", u"03.01.2012");
+        Rapor().Activate();
+        EXPECT_EQ(Gunler(), Adlar{u"20.06.2012 - Gece"}) << "the same year: the rows stand";
+        kullanici.YilSec(u"2013");
+        Rapor().Activate();
+        EXPECT_EQ(Gunler(), Adlar{u"01.01.2013 - Gece"}) << "the dates were pulled into the year";
+        EXPECT_FALSE(Rapor().Command6.etkin);
+        EXPECT_EQ(Rapor().Label19.baslik, u": 1");
+        Rapor().Liste.satirlar.clear();
+        Rapor().Activate();
+        EXPECT_TRUE(Rapor().Liste.satirlar.empty());
+    });
+}
+
+TEST_F(BakiyeListesi, A_save_in_another_year_does_not_keep_the_report_from_listing_that_year) {
+    RezervasyonKoy(u"20.06.2012 - Gece");
+    KayitKoy(agac, u"Salon A/2013/01.01.2013 - Gece");
+    YiliListele([&] {
+        kullanici.YilSec(u"2013");
+        BosKutuBekle(); // the dates still lie in 2012
+        Rapor().ListeleGun();
+        Rapor().Activate();
+        EXPECT_EQ(Gunler(), Adlar{u"01.01.2013 - Gece"});
+    });
+}
+
 TEST_F(BakiyeListesi, A_hall_without_a_folder_for_the_year_has_nothing) {
     Prog();
     kullanici.YilSec(u"2013");
     ASSERT_FALSE(agac.KlasorVar(u"Salon B/2013"));
     RaporAc([&] {
-        ListedenSec(Rapor().Combo2, u"Salon B");
         BosKutuBekle();
-        Rapor().ListeleGun();
+        ListedenSec(Rapor().Combo2, u"Salon B");
         GenelOlmali(u": 0 TL", u": 0 TL", u": 0 TL");
     });
 }
@@ -197,6 +235,16 @@ TEST_F(BakiyeDurmasi, A_scan_that_stops_before_its_first_row_shows_no_box_on_pur
     YiliListele([&] {
         EXPECT_TRUE(Rapor().Liste.satirlar.empty());
         EXPECT_EQ(TurToplamlari(), kBosTurler);
+    });
+}
+
+TEST_F(BakiyeListesi, A_new_listing_marks_nothing) {
+    RezervasyonKoy(u"20.06.2012 - Gece");
+    YiliListele([&] {
+        SatirSec(0);
+        Rapor().ListeleGun();
+        EXPECT_EQ(Gunler(), Adlar{u"20.06.2012 - Gece"});
+        EXPECT_EQ(Rapor().Liste.secili, -1);
     });
 }
 

@@ -61,7 +61,10 @@ Ortam SahteOrtam::Ver() {
         if (const auto is = olayda)
             is(olaySayisi);
     };
-    ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) { acilanDosyalar.push_back(yol); };
+    ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
+        acilanDosyalar.push_back(yol);
+        return dosyaAcilir;
+    };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
     return ortam;

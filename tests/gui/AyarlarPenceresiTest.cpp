@@ -9,6 +9,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
 
@@ -89,6 +90,21 @@ class AyarlarPenceresiTest : public QObject {
         });
         QCOMPARE(firma.agac.Bayt(u"Settings.dll"),
                  std::string(kRenkler) + "\"12\",\"3x\",0,1,\"Gece / G\xFCnd\xFCz\",1,1,0\r\n");
+    }
+
+    void the_months_stand_in_their_order_under_their_own_names() {
+        GuiFirma firma;
+        firma.Ac();
+        Ayarlarda(firma, [&](QDialog& pencere) {
+            QPoint once(-1, -1);
+            for (int ay = 1; ay <= 12; ++ay) {
+                const auto& kutu = *pencere.findChild<QCheckBox*>(QStringLiteral("Aylar%1").arg(ay));
+                const QPoint yer = kutu.mapTo(&pencere, QPoint());
+                QVERIFY(yer.y() > once.y() || (yer.y() == once.y() && yer.x() > once.x()));
+                QCOMPARE(Isaretsiz(kutu.text()), QMetin(firma.program.FormAyarlar->Aylar[ay].baslik));
+                once = yer;
+            }
+        });
     }
 
     void the_box_over_the_months_clears_and_ticks_them_all() {

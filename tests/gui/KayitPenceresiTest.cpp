@@ -25,6 +25,25 @@ class KayitPenceresiTest : public QObject {
     static void Kayitta(GuiFirma& firma, const Is& is) { YeniKayitta(firma, u"20.06.2026 - Gece", {is}); }
 
   private slots:
+    void the_hall_stands_beside_the_day_and_a_long_name_does_not_widen_the_window() {
+        QSize kisa;
+        for (const Metin& salon : {Metin(u"Nar"), Metin(u"Büyük Bahçe Düğün Salonu Ve Havuz Başı & Teras")}) {
+            GuiFirma firma;
+            firma.agac.KoyMetin(u"Salon.dat", u"\"" + salon + u"\"\r\n");
+            Kayitta(firma, [&](QDialog& pencere) {
+                const auto& gun = Parcasi<QLabel>(pencere, "Tarih");
+                const auto& ad = Parcasi<QLabel>(pencere, "SalonAdi");
+                QCOMPARE(ad.text(), QMetin(salon));
+                QCOMPARE(gun.text(), QStringLiteral("20.06.2026 - Gece"));
+                QVERIFY(ad.isVisible() &&
+                        ad.mapTo(&pencere, QPoint()).x() > gun.mapTo(&pencere, QPoint()).x());
+                QVERIFY(ad.heightForWidth(ad.width()) <= ad.height());
+                QVERIFY(kisa.isEmpty() || pencere.width() == kisa.width());
+                kisa = pencere.size();
+            });
+        }
+    }
+
     void an_empty_or_half_filled_mask_keeps_its_prompt_signs_in_the_model() {
         GuiFirma firma;
         Kayitta(firma, [&](QDialog& pencere) {

@@ -71,6 +71,7 @@ struct Yazi {
 
 constexpr Yazi kKayitYazilari[]{
     {0, "Tarih", Etiketi, u"Rezervasyon Tarihi"},
+    {0, "SalonAdi", Etiketi, u"Salon"},
     {0, "Kay1", Etiketi, u"Adı Soyadı"},
     {0, "Kay2", Etiketi, u"Yöresi"},
     {0, "Kay3", Etiketi, u"Gelin / Damat"},

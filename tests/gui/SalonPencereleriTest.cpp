@@ -181,6 +181,22 @@ class SalonPencereleriTest : public QObject {
         QVERIFY(!firma.program.FormSalonTanim.Yuklu());
     }
 
+    void with_no_hall_the_drop_down_says_so_and_where_to_go_and_the_first_hall_takes_its_place() {
+        GuiFirma firma;
+        std::filesystem::remove(firma.agac.Yol(u"Salon.dat"));
+        firma.Ac();
+        auto& salon = firma.Bul<QComboBox>("Salon");
+        QCOMPARE(salon.placeholderText(), QStringLiteral("Salon tanımlı değil"));
+        QVERIFY(salon.toolTip().contains(QStringLiteral("Salon Tanımları")));
+        QCOMPARE(salon.count(), 0);
+        QCOMPARE(salon.currentText(), QString());
+        Tanimlarda(firma, [&](QDialog& pencere) {
+            Pencerede([&] { Tikla(pencere, "Command1"); }, {Girdi(QStringLiteral("nar"))});
+        });
+        QCOMPARE(salon.currentText(), QStringLiteral("Nar"));
+        QCOMPARE(salon.toolTip(), QString());
+    }
+
     void on_a_first_run_nothing_closes_the_list_before_an_add_was_started() {
         GuiFirma firma;
         std::filesystem::remove(firma.agac.Yol(u"Salon.dat"));

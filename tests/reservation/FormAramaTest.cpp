@@ -1,5 +1,6 @@
 // What a search finds.
 #include "reservation/AramaTest.h"
+#include "storage/Desen.h"
 
 namespace velora::test {
 
@@ -212,12 +213,38 @@ TEST_F(AramaTest, A_star_lists_names_before_any_file_was_read_too_on_purpose) {
     EXPECT_EQ(Sutun(2), Adlar{u""});
 }
 
+TEST_F(AramaTest, A_pattern_is_taken_apart_once_for_all_files) {
+    for (int gun = 10; gun < 28; ++gun)
+        KayitKoy(agac, u"Salon B/2012/" + SayiMetni(gun) + u".06.2012 - Gece", {.ad = u"Nur Ak"});
+    Prog();
+    const std::size_t once = HazirDesen::Cozulen();
+    Ara({{kAd, u"nur?a[k-l]"}, {kGelinDamat, u"*"}, {kTelefon, u"yok"}});
+    EXPECT_GT(Arama().Liste.satirlar.size(), 18U);
+    EXPECT_EQ(HazirDesen::Cozulen() - once, 2U) << "one for each field that is a pattern";
+}
+
 TEST_F(AramaTest, A_search_writes_nothing) {
     KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece");
     Prog();
     const std::string once = agac.Resim();
     Ara(kAd, u"ali");
     EXPECT_EQ(agac.Resim(), once);
+}
+
+TEST_F(AramaTest, A_long_record_is_found_by_what_stands_at_its_end) {
+    agac.KoyMetin(u"Salon B/2012/20.06.2012 - Gece",
+                  Degerler({{1, u"Nur"}, {7, Metin(200'000, u'ş')}, {14, u"4711"}}));
+    Ara(kSozlesmeNo, u"4711");
+    EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
+}
+
+TEST_F(AramaTest, A_new_search_marks_nothing) {
+    KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece", {.ad = u"Nur Ak"});
+    Ara(kAd, u"nur");
+    Isaretle(0);
+    Ara(kAd, u"ak");
+    EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
+    EXPECT_EQ(Arama().Liste.secili, -1);
 }
 
 } // namespace velora::test

@@ -159,7 +159,7 @@ TEST_F(KaydetmeTest,
     kullanici.Tablo().TutarDegistir = 1;
     KayitAc([&] {
         kullanici.SalonSec(u"Salon B");
-        Kayit().Tag += u"  ";
+        Kayit().Tag.insert(0, u"  "); // a path that isn't
         Gir(8, u"6000");
         OdemeAl(u"5");
         KaydeteBas();
@@ -312,6 +312,49 @@ TEST_F(KaydetmeTest, The_save_without_checks_leaves_payments_and_counter_of_an_e
     });
     EXPECT_EQ(OdemeBaytlari(), "\"01.01.2012\",\"10\",\"x\"\r\n");
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"57\"\r\n");
+}
+
+TEST_F(KaydetmeTest, A_record_without_a_day_is_not_saved_at_all_and_stays_as_it_was_typed) {
+    RezervasyonKoy(Metin(kGun), {.no = u"7"});
+    Prog();
+    const std::string once = agac.Resim();
+    const auto basar = [&] {
+        Doldur();
+        OdemeAl(u"5");
+        Kayit().Tarih = u" ";
+        KaydeteBas();
+        Kayit().Command11();
+        EXPECT_TRUE(Prog().FormKayit.Yuklu());
+        EXPECT_EQ(Kayit().Kay[AnaNo::AdiSoyadi].metin, u"ali usta");
+    };
+    YeniKayit(basar);
+    kullanici.Tablo().TutarDegistir = 1;
+    KayitAc(basar);
+    EXPECT_EQ(agac.Resim(), once);
+}
+
+TEST_F(KaydetmeTest, A_setting_for_no_numbers_that_is_neither_on_nor_off_gives_none_and_counts_none) {
+    AyarKoy(33, u"2");
+    YeniKayit([&] {
+        EXPECT_EQ(Kayit().Kay[AnaNo::SozlesmeNo].metin, u"");
+        Doldur();
+        KaydeteBas();
+    });
+    EXPECT_TRUE(AnaVar());
+    EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"57\"\r\n");
+}
+
+TEST_F(KaydetmeTest, Without_a_counter_and_without_numbers_the_field_is_empty_and_no_counter_is_made) {
+    AyarKoy(33, u"1");
+    std::filesystem::remove(agac.Yol(u"Count.dat"));
+    YeniKayit([&] {
+        EXPECT_EQ(Kayit().Kay[AnaNo::SozlesmeNo].metin, u"");
+        EXPECT_TRUE(Kayit().Kay[AnaNo::SozlesmeNo].kilitli);
+        Doldur();
+        KaydeteBas();
+    });
+    EXPECT_TRUE(AnaVar());
+    EXPECT_FALSE(agac.DosyaVar(u"Count.dat"));
 }
 
 } // namespace velora::test

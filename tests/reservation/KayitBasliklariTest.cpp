@@ -38,6 +38,7 @@ TEST_F(KayitBasliklariTest, Fields_of_the_first_page) {
         EXPECT_EQ(Kayit().Kay[no].sonra, no == 8 ? u"TL" : no == 13 ? u"(gün.ay.yıl)" : u"") << no;
     }
     Ayni({{Kayit().tarihBaslik, u"Rezervasyon Tarihi"},
+          {Kayit().SalonAdi.once, u"Salon"},
           {Kayit().Option1.baslik, u"Kesin Rezervasyon"},
           {Kayit().Option2.baslik, u"Ön Rezervasyon"},
           {Kayit().Check18.baslik, u"Yaklaşınca Hatırlat"},

@@ -157,4 +157,11 @@ TEST_F(NumaraTest, One_pass_over_the_folder_finds_what_the_told_loop_finds) {
     EXPECT_GT(reddedilen, 5);
 }
 
+TEST_F(NumaraTest, A_number_at_the_end_of_a_long_record_is_taken) {
+    Metin uzun = AnaMetni({.no = u"4711"});
+    uzun.insert(uzun.find(u"\"Düğün\"") + 1, 200'000, u'ş');
+    agac.KoyMetin(u"Salon A/2012/02.06.2012 - Gece", uzun);
+    EXPECT_TRUE(Red(u"4711"));
+}
+
 } // namespace velora::test

@@ -23,9 +23,11 @@ std::vector<ListeSatiri> ReferansAra(const Program& program, const std::vector<M
                     for (Metin& hedef : deger)
                         okuyucu.Oku(hedef);
                 }
-                if (!olcutler[0].empty() && DeseneUyar(Kucult(deger[0]), u"*" + Kucult(olcutler[0]) + u"*"))
+                if (!olcutler[0].empty() &&
+                    HazirDesen(u"*" + Kucult(olcutler[0]) + u"*").Uyar(Kucult(deger[0])))
                     ekle(salon, ad, yol);
-                if (!olcutler[1].empty() && DeseneUyar(Kucult(deger[2]), u"*" + Kucult(olcutler[1]) + u"*"))
+                if (!olcutler[1].empty() &&
+                    HazirDesen(u"*" + Kucult(olcutler[1]) + u"*").Uyar(Kucult(deger[2])))
                     ekle(salon, ad, yol);
                 if (!olcutler[2].empty() && Kucult(deger[4]) == Kucult(olcutler[2]))
                     ekle(salon, ad, yol);

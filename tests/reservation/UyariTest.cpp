@@ -152,6 +152,21 @@ TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     EXPECT_EQ(Tablo().Sene.Metni(), u"2013");
 }
 
+TEST_F(UyariTest, A_row_whose_hall_is_gone_or_renamed_opens_nothing_and_leaves_the_table_where_it_is) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    KayitKoy(agac, u"Salon B/2012/17.06.2012 - Gece");
+    Prog();
+    Tablo().Salon.ogeler[1] = u"Salon C";
+    Isaretle(0);
+    Tablo().Command8_Click();
+    EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    EXPECT_EQ(Tablo().Salon.Metni(), u"Salon A");
+    Tablo().Salon.ogeler[1] = u"Salon B";
+    Isaretle(0);
+    EkranBekle(EkranAdi::FormKayit, [&] { KapataBas(); });
+    Tablo().Command8_Click();
+}
+
 TEST_F(UyariTest, With_no_row_marked_nothing_opens) {
     RezervasyonKoy(u"16.06.2012 - Gece");
     Prog();
@@ -194,6 +209,16 @@ TEST_F(UyariTest, A_cancelled_reservation_keeps_its_row_until_the_panel_is_liste
     KutuBekle(Metin(kYok));
     Tablo().UyariGoster();
     UyarilarOlmali({});
+}
+
+TEST_F(UyariTest, A_record_with_both_states_gives_two_rows_on_purpose) {
+    RezervasyonKoy(u"17.06.2012 - Gece");
+    Metin detay = DetayMetni(false);
+    const Metin yazili = u"\"1\",\"0\"";
+    detay.replace(detay.find(yazili), yazili.size(), u"\"1\",\"1\"");
+    agac.KoyMetin(u"Salon A/2012/17.06.2012 - Gece-Detay", detay);
+    Prog();
+    UyarilarOlmali({u"17.06.2012 - Gece Kesin", u"17.06.2012 - Gece Ön"});
 }
 
 } // namespace velora::test

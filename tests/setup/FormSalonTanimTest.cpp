@@ -1,6 +1,9 @@
 #include "setup/FormSalonTanim.h"
 
+#include <algorithm>
+
 #include "access/Splash.h"
+#include "accounts/FormBakiye.h"
 #include "setup/SalonTest.h"
 
 namespace velora::test {
@@ -327,6 +330,54 @@ TEST_F(IlkSalon, Firm_with_a_hall_is_asked_nothing) {
     kullanici.ProgramiAc();
     IlkSalonuSor(kullanici.Prog());
     EXPECT_FALSE(kullanici.Prog().FormSalonTanim.Yuklu());
+}
+
+TEST_F(FormSalonTanimTest, An_empty_firm_says_so_where_halls_are_chosen_and_takes_that_for_no_name) {
+    kullanici.ProgramiAc();
+    const std::string once = agac.Resim();
+    EXPECT_EQ(Tablo().Salon.bosYazi, u"Salon tanımlı değil");
+    EXPECT_NE(Tablo().Salon.bosIpucu.find(u"Salon Tanımları"), Metin::npos);
+    EXPECT_EQ(Tablo().Salon.Metni(), u"");
+    EXPECT_EQ(kullanici.Prog().FormBakiye->Combo2.bosYazi, u"Salon tanımlı değil");
+    EXPECT_EQ(kullanici.Prog().FormBakiye->Combo2.Metni(), u"");
+    kullanici.SagTikla({20, 6, GunduzGece::Gece});
+    Ortam().Bekle(BeklenenKutu{u"Velora", u"Lütfen Önce Salon Tanımı yapınız!", Simge::Kritik});
+    Ortam().Bekle(BeklenenEkran{EkranAdi::FormSalonTanim});
+    kullanici.KomutSec(Komut::newkay);
+    EXPECT_EQ(agac.Resim(), once);
+    EXPECT_TRUE(std::ranges::none_of(std::filesystem::directory_iterator(agac.Kok()), [](const auto& giris) {
+        return giris.is_directory();
+    })) << "no folder of any name";
+}
+
+TEST_F(FormSalonTanimTest, Close_without_a_hall_takes_a_real_name_in_and_stays_open) {
+    kullanici.ProgramiAc();
+    Tanim();
+    Ortam().Bekle(BeklenenKutu{
+        u"Hata", u"Hiç salon tanımınız yok!\nSalon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!."});
+    Ortam().Bekle(BeklenenGirdi{u"Salon Tanımları", u"Lütfen salon adını giriniz!", u"çınar bahçe"});
+    kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
+    EXPECT_TRUE(kullanici.Prog().FormSalonTanim.Yuklu());
+    SalonlarOlmali({u"Çınar Bahçe"});
+    EXPECT_TRUE(agac.KlasorVar(u"Çınar Bahçe/2022"));
+    EXPECT_EQ(agac.Bayt(u"Salon.dat"), "\"\xC7\xFDnar Bah\xE7"
+                                       "e\"\r\n");
+    EXPECT_TRUE(Ortam().acilanlar.empty() || Ortam().acilanlar.back() != EkranAdi::FormWebteYayinla)
+        << "only a real close publishes";
+}
+
+TEST_F(FormSalonTanimTest, Close_publishes_when_the_screen_is_gone_already) {
+    agac.Koy(u"Salon.dat", "\"A\"\r\n");
+    kullanici.ProgramiAc();
+    kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
+    bool yuklu = true;
+    Ortam().acilinca = [&](EkranAdi ad) {
+        if (ad == EkranAdi::FormWebteYayinla)
+            yuklu = kullanici.Prog().FormSalonTanim.Yuklu();
+    };
+    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
+    EXPECT_FALSE(yuklu);
 }
 
 } // namespace velora::test

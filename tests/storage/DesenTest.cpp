@@ -14,7 +14,7 @@ struct Ornek {
 template <std::size_t Adet>
 void Dene(const Ornek (&ornekler)[Adet]) {
     for (const Ornek& ornek : ornekler)
-        EXPECT_EQ(DeseneUyar(ornek.metin, ornek.desen), ornek.uyar)
+        EXPECT_EQ(HazirDesen(ornek.desen).Uyar(ornek.metin), ornek.uyar)
             << ::testing::PrintToString(Metin(ornek.metin)) << " against "
             << ::testing::PrintToString(Metin(ornek.desen));
 }
@@ -104,8 +104,8 @@ TEST(Desen, Many_stars_over_a_long_text_that_does_not_fit_come_to_an_end) {
     Metin desen;
     for (int i = 0; i < 40; ++i)
         desen += u"*a";
-    EXPECT_FALSE(DeseneUyar(Metin(5000, u'a') + u"b", desen));
-    EXPECT_TRUE(DeseneUyar(Metin(5000, u'a') + u"b", desen + u"*"));
+    EXPECT_FALSE(HazirDesen(desen).Uyar(Metin(5000, u'a') + u"b"));
+    EXPECT_TRUE(HazirDesen(desen + u"*").Uyar(Metin(5000, u'a') + u"b"));
 }
 
 } // namespace velora

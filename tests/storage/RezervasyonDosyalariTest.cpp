@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "storage/DosyaAgaci.h"
+#include "storage/VeriAgaci.h"
 
 // What the writers put on the disk, byte for byte.
 namespace velora {
@@ -147,6 +148,31 @@ TEST(OdemeYaz, A_file_that_cannot_be_removed_is_emptied_so_that_no_payment_comes
     kok.dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Sil; };
     EXPECT_FALSE(OdemeYaz(kok.dosyalar, kok.TamYol(u"a-Odeme"), {}));
     EXPECT_EQ(kok.Oku(u"a-Odeme"), "");
+}
+
+TEST(RezervasyonDosyalari, Nothing_is_written_moved_or_taken_away_under_a_path_without_a_day) {
+    const DosyaAgaci kok;
+    for (const MetinBakis ad : {u"-Detay", u"-Odeme", u" -Odeme", u"gun", u"gun-Detay"})
+        kok.Koy(u"Gül/2026/" + Metin(ad), "dursun");
+    const std::string once = kok.Resim();
+    const Dosyalar& d = kok.dosyalar;
+    const Metin gun = kok.TamYol(u"Gül\\2026\\gun");
+    for (const MetinBakis bos : {u"", u"  "}) {
+        const Metin yol = kok.TamYol(u"Gül\\2026\\" + Metin(bos));
+        EXPECT_FALSE(AnaYaz(d, yol, OrnekAna()));
+        EXPECT_FALSE(DetayYaz(d, yol + Metin(kDetayEki), {}));
+        EXPECT_FALSE(OdemeYaz(d, yol + Metin(kOdemeEki), {{u"01.02.2026", u"5", u""}}));
+        EXPECT_FALSE(OdemeYaz(d, yol + Metin(kOdemeEki), {}));
+        EXPECT_FALSE(OdemeHazirla(d, yol + Metin(kOdemeEki)));
+        EXPECT_FALSE(RezervasyonSil(d, yol));
+        EXPECT_FALSE(RezervasyonTasi(d, yol, gun));
+        EXPECT_FALSE(RezervasyonTasi(d, gun, yol));
+    }
+    EXPECT_FALSE(AnaYaz(d, u"", OrnekAna()));
+    EXPECT_EQ(kok.Resim(), once);
+    EXPECT_TRUE(RezervasyonTasi(d, gun, kok.TamYol(u"Gül\\2026\\baska")));
+    EXPECT_EQ(kok.Bayt(u"Gül/2026/baska-Detay"), "dursun");
+    EXPECT_FALSE(kok.Var(u"Gül/2026/gun-Detay"));
 }
 
 } // namespace velora

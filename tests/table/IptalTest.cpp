@@ -155,4 +155,15 @@ TEST_F(Iptal, The_log_is_opened_in_the_users_own_program_there_or_not) {
     EXPECT_FALSE(agac.DosyaVar(u"IptalSebep.txt")) << "looking makes no file";
 }
 
+TEST_F(Iptal, A_log_that_is_missing_is_told_where_nothing_else_tells_it) {
+    kullanici.ProgramiAc();
+    kullanici.ortam.dosyaAcilir = false;
+    kullanici.ortam.Bekle(BeklenenKutu{.baslik = u"Velora", .metin = u"IptalSebep.txt bulunamadı."});
+    kullanici.KomutSec(Komut::iptalsebepss);
+    EXPECT_EQ(kullanici.ortam.acilanDosyalar.size(), 1U) << "the user's own program is asked first";
+    agac.Koy(u"IptalSebep.txt", "x");
+    kullanici.KomutSec(Komut::iptalsebepss);
+    EXPECT_EQ(kullanici.ortam.acilanDosyalar.size(), 2U);
+}
+
 } // namespace velora::test

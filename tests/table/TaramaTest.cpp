@@ -257,4 +257,22 @@ TEST_F(Hatirlatma, Scan_of_the_reservations_leaves_its_values_to_the_reminder_sc
     EXPECT_TRUE(kullanici.Tablo().Image3);
 }
 
+TEST_F(Tarama, A_record_as_long_as_it_may_get_shows_what_stands_at_its_end) {
+    Metin detay = DetayMetni(true);
+    const Metin bosNot = u"\"\"\r\n";
+    for (std::size_t yer = detay.find(bosNot), boy = 75; yer != Metin::npos; boy = yer > 1200 ? 5000 : 75) {
+        detay.insert(yer + 1, boy, u'ş');
+        yer = detay.find(bosNot, yer + boy + bosNot.size());
+    }
+    Metin ana = AnaMetni({.no = u"4711"});
+    ana.insert(ana.find(u"\"Düğün\"") + 1, 200'000, u'ç');
+    RezervasyonKoy(u"05.01.2012 - Gece");
+    agac.KoyMetin(u"Salon A/2012/05.01.2012 - Gece", ana);
+    agac.KoyMetin(u"Salon A/2012/05.01.2012 - Gece-Detay", detay);
+    ASSERT_GT(detay.size(), 6000U);
+    kullanici.ProgramiAc();
+    RenkOlmali(5, 1, kGece, 21, 22);
+    EXPECT_TRUE(kullanici.Goz(5, 1, kGece).tag.ends_with(u"|Ali Veli|4711|1"));
+}
+
 } // namespace velora::test

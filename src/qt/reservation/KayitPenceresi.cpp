@@ -112,20 +112,37 @@ void KayitPenceresi::AlanEkle(QFormLayout& form, int no) {
     form.addRow(etiket, satir);
 }
 
+/// Which day of which hall. A long name of a hall is broken and widens nothing.
+void KayitPenceresi::GunSatiri(QFormLayout& form) {
+    const auto yazi = [this](const QString& ad, const Metin& baslik, const Metin& metin) {
+        auto* etiket = new QLabel;
+        Adlandir(*etiket, ad, QMetin(baslik));
+        etiket->setTextFormat(Qt::PlainText);
+        QFont kalin = etiket->font();
+        kalin.setBold(true);
+        etiket->setFont(kalin);
+        Bag().Izle([etiket, &metin] { etiket->setText(QMetin(metin)); });
+        return etiket;
+    };
+    QLabel* tarih = yazi(QStringLiteral("Tarih"), Model().tarihBaslik, Model().Tarih);
+    QLabel* salon = yazi(QStringLiteral("SalonAdi"), Model().SalonAdi.once, Model().SalonAdi.baslik);
+    salon->setWordWrap(true);
+    auto* satir = new QHBoxLayout;
+    satir->setSpacing(kAralik);
+    satir->addWidget(tarih);
+    satir->addSpacing(kAralik);
+    satir->addWidget(EtiketYap(QMetin(Model().SalonAdi.once), *salon));
+    satir->addWidget(salon, 1);
+    form.addRow(EtiketYap(QMetin(Model().tarihBaslik), *tarih), satir);
+}
+
 QWidget* KayitPenceresi::GenelSayfasi() {
     auto* sayfa = new QWidget;
     auto* sutunlar = new QHBoxLayout(sayfa);
     sutunlar->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
     sutunlar->setSpacing(4 * kAralik);
     QFormLayout* sol = FormKur();
-    auto* tarih = new QLabel;
-    Adlandir(*tarih, QStringLiteral("Tarih"), QMetin(Model().tarihBaslik));
-    tarih->setTextFormat(Qt::PlainText);
-    QFont kalin = tarih->font();
-    kalin.setBold(true);
-    tarih->setFont(kalin);
-    Bag().Izle([this, tarih] { tarih->setText(QMetin(Model().Tarih)); });
-    sol->addRow(QMetin(Model().tarihBaslik), tarih);
+    GunSatiri(*sol);
     for (const int no : kSolAlanlar)
         AlanEkle(*sol, no);
     QFormLayout* sag = FormKur();

@@ -16,6 +16,7 @@ class KayitPenceresi : public EkranPenceresi<FormKayit> {
     explicit KayitPenceresi(Program& program);
 
   private:
+    void GunSatiri(QFormLayout& form);
     QWidget* GenelSayfasi();
     QWidget* OdemeSayfasi();
     QWidget* MenuSayfasi();

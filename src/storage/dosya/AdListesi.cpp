@@ -4,6 +4,7 @@
 #include <array>
 
 #include "storage/Harf.h"
+#include "storage/dosya/AdBicimi.h"
 #include "storage/dosya/Dosyalar.h"
 
 namespace velora {
@@ -40,6 +41,11 @@ std::uint64_t Anahtar(MetinBakis ad) {
 
 } // namespace
 
+bool AyniAd(MetinBakis bir, MetinBakis iki) {
+    return std::equal(bir.begin(), bir.end(), iki.begin(), iki.end(),
+                      [](char16_t x, char16_t y) { return x == y || Sira(x) == Sira(y); });
+}
+
 bool AdSirasi(MetinBakis bir, MetinBakis iki) {
     const auto [b, i] = std::mismatch(bir.begin(), bir.end(), iki.begin(), iki.end(),
                                       [](char16_t x, char16_t y) { return x == y || Sira(x) == Sira(y); });
@@ -48,14 +54,31 @@ bool AdSirasi(MetinBakis bir, MetinBakis iki) {
     return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
 }
 
-void AdListesi::Ekle(MetinBakis ad) {
-    adlar_.push_back({Anahtar(ad), harfler_.size(), ad.size()});
+AdListesi::Yer AdListesi::Sakla(MetinBakis ad) {
+    const Yer yer{harfler_.size(), ad.size()};
     harfler_ += ad;
+    return yer;
+}
+
+void AdListesi::Ekle(MetinBakis ad) {
+    const Yer diskteki = Sakla(ad);
+    gecici_ = ad;
+    const Yer yer = AdDuzelt(gecici_) ? Sakla(gecici_) : diskteki;
+    adlar_.push_back({Anahtar(gecici_), yer, diskteki});
 }
 
 void AdListesi::Sirala() {
     std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) {
-        return bir.anahtar != iki.anahtar ? bir.anahtar < iki.anahtar : AdSirasi(Bakis(bir), Bakis(iki));
+        if (bir.anahtar != iki.anahtar)
+            return bir.anahtar < iki.anahtar;
+        const MetinBakis x = Bakis(bir.ad);
+        const MetinBakis y = Bakis(iki.ad);
+        if (x != y)
+            return AdSirasi(x, y);
+        // The one that stands so on the disk comes first: a lookup takes it too.
+        const MetinBakis xDisk = Bakis(bir.diskteki);
+        const MetinBakis yDisk = Bakis(iki.diskteki);
+        return (xDisk == x) != (yDisk == y) ? xDisk == x : xDisk < yDisk;
     });
 }
 

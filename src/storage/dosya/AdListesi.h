@@ -11,23 +11,34 @@ namespace velora {
 /// each.
 class AdListesi {
   public:
+    /// Takes a name as it stands on the disk.
     void Ekle(MetinBakis ad);
 
-    /// Puts the names into the order of `AdSirasi`.
+    /// Puts the names into the order of `AdSirasi`. Of equal ones the one that stands so on the disk comes
+    /// first.
     void Sirala();
 
     std::size_t Sayi() const { return adlar_.size(); }
-    MetinBakis operator[](std::size_t i) const { return Bakis(adlar_[i]); }
+    /// In the form of the program's own names (`AdDuzelt`).
+    MetinBakis operator[](std::size_t i) const { return Bakis(adlar_[i].ad); }
+    /// As it stands on the disk.
+    MetinBakis Diskteki(std::size_t i) const { return Bakis(adlar_[i].diskteki); }
 
   private:
-    struct Ad {
-        std::uint64_t anahtar; ///< the first eight letters without their case; orders as the names do
+    struct Yer {
         std::size_t bas;
         std::size_t uzunluk;
     };
-    MetinBakis Bakis(const Ad& ad) const { return MetinBakis(harfler_).substr(ad.bas, ad.uzunluk); }
+    struct Ad {
+        std::uint64_t anahtar; ///< the first eight letters without their case; orders as the names do
+        Yer ad;
+        Yer diskteki;
+    };
+    Yer Sakla(MetinBakis ad);
+    MetinBakis Bakis(const Yer& yer) const { return MetinBakis(harfler_).substr(yer.bas, yer.uzunluk); }
 
     Metin harfler_;
+    Metin gecici_; // kept for its memory
     std::vector<Ad> adlar_;
 };
 

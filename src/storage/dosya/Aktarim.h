@@ -34,6 +34,20 @@ std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur o
     return dolu;
 }
 
+/// Reads a whole file as `Doldur` does. Nothing when it is longer than `enCok`. A short file, and that is
+/// every record, isn't asked for its length: `boyu()` is called only for what one buffer doesn't hold.
+template <class Boy, class Okur>
+std::optional<std::size_t> SinirliDoldur(std::string& tampon, std::size_t enCok, Boy boyu, Okur oku) {
+    bool ilk = true;
+    const auto okunan = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
+        const bool uygun = ilk || boyu().value_or(enCok + 1) <= enCok;
+        ilk = false;
+        return uygun ? oku(hedef, adet) : std::nullopt;
+    });
+    // Full to the limit by a first buffer that was as large: there may be more.
+    return okunan == enCok && boyu().value_or(enCok + 1) > enCok ? std::nullopt : okunan;
+}
+
 /// Reads an open file from its beginning, as `Doldur` does.
 template <class Dosya>
 std::optional<std::size_t> OkuHepsini(Dosya& dosya, std::size_t enCok, std::string& tampon) {

@@ -24,10 +24,6 @@ std::optional<std::filesystem::path> MetinYolu(MetinBakis metin) {
     return std::filesystem::path(std::move(bayt));
 }
 
-bool AyniAd(MetinBakis bir, MetinBakis iki) {
-    return bir == iki;
-}
-
 namespace sistem {
 namespace {
 
@@ -56,6 +52,10 @@ auto Sabirla(Cagri cagri) {
     while (sonuc < 0 && errno == EINTR)
         sonuc = cagri();
     return sonuc;
+}
+
+bool BuTur(Tur tur, const struct stat& bilgi) {
+    return tur == Tur::Dosya ? S_ISREG(bilgi.st_mode) : S_ISDIR(bilgi.st_mode);
 }
 
 int No(std::intptr_t tutamac) {
@@ -131,12 +131,12 @@ struct Klasor::Ic {
             ::closedir(akis);
     }
 
-    bool Duz(const dirent& kayit) const {
+    bool Bu(Tur tur, const dirent& kayit) const {
         if (kayit.d_type != DT_LNK && kayit.d_type != DT_UNKNOWN)
-            return kayit.d_type == DT_REG;
+            return kayit.d_type == (tur == Tur::Dosya ? DT_REG : DT_DIR);
         struct stat bilgi {};
         return ::fstatat(::dirfd(akis), static_cast<const char*>(kayit.d_name), &bilgi, 0) == 0 &&
-               S_ISREG(bilgi.st_mode);
+               BuTur(tur, bilgi);
     }
 };
 
@@ -146,9 +146,9 @@ Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
 
 Klasor::~Klasor() = default;
 
-bool Klasor::Sonraki(Metin& ad) {
+bool Klasor::Sonraki(Metin& ad, Tur tur) {
     while (const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr) {
-        if (!ic_->Duz(*kayit))
+        if (!ic_->Bu(tur, *kayit))
             continue;
         Utf8Coz(static_cast<const char*>(kayit->d_name), ad);
         return true;
@@ -169,17 +169,24 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
         int no;
         ~Kapatan() { ::close(no); }
     } const kapatan{no};
-    const auto boy = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
-        return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
-    });
+    const auto boy = SinirliDoldur(
+        tampon, enCok,
+        [no]() -> std::optional<std::uint64_t> {
+            struct stat bilgi {};
+            return ::fstat(no, &bilgi) == 0 ? std::optional(static_cast<std::uint64_t>(bilgi.st_size))
+                                            : std::nullopt;
+        },
+        [no](char* hedef, std::size_t adet) {
+            return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
+        });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);
 }
 
-bool DuzDosya(const std::filesystem::path& yol) {
+bool Var(const std::filesystem::path& yol, Tur tur) {
     struct stat bilgi {};
-    return ::stat(yol.c_str(), &bilgi) == 0 && S_ISREG(bilgi.st_mode);
+    return ::stat(yol.c_str(), &bilgi) == 0 && BuTur(tur, bilgi);
 }
 
 bool DosyaSil(const std::filesystem::path& yol) {

@@ -16,13 +16,6 @@ std::optional<std::filesystem::path> MetinYolu(MetinBakis metin) {
     return std::filesystem::path(std::wstring(metin.begin(), metin.end()));
 }
 
-bool AyniAd(MetinBakis bir, MetinBakis iki) {
-    const std::wstring a(bir.begin(), bir.end());
-    const std::wstring b(iki.begin(), iki.end());
-    return ::CompareStringOrdinal(a.c_str(), static_cast<int>(a.size()), b.c_str(),
-                                  static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
-}
-
 namespace sistem {
 namespace {
 
@@ -85,8 +78,9 @@ LARGE_INTEGER Buyuk(std::uint64_t sayi) {
     return buyuk;
 }
 
-bool DosyaMi(DWORD oznitelik) {
-    return oznitelik != INVALID_FILE_ATTRIBUTES && (oznitelik & FILE_ATTRIBUTE_DIRECTORY) == 0;
+bool BuTur(Tur tur, DWORD oznitelik) {
+    const bool klasor = (oznitelik & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return oznitelik != INVALID_FILE_ATTRIBUTES && klasor == (tur == Tur::Klasor);
 }
 
 } // namespace
@@ -165,15 +159,15 @@ Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
 
 Klasor::~Klasor() = default;
 
-bool Klasor::Sonraki(Metin& ad) {
+bool Klasor::Sonraki(Metin& ad, Tur tur) {
     while (ic_->var) {
-        const bool dosya = DosyaMi(ic_->bulunan.dwFileAttributes);
-        if (dosya) {
+        const bool uyan = BuTur(tur, ic_->bulunan.dwFileAttributes);
+        if (uyan) {
             const std::wstring_view bulunan(static_cast<const wchar_t*>(ic_->bulunan.cFileName));
             ad.assign(bulunan.begin(), bulunan.end());
         }
         ic_->var = ::FindNextFileW(ic_->arama, &ic_->bulunan) != 0;
-        if (dosya)
+        if (uyan)
             return true;
     }
     return false;
@@ -189,18 +183,26 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
         ~Kapatan() { ::CloseHandle(dosya); }
     } const kapatan{dosya};
     std::uint64_t konum = 0;
-    const auto boy = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
-        const auto gelen = KonumdanOku(dosya, konum, hedef, adet);
-        konum += gelen.value_or(0);
-        return gelen;
-    });
+    const auto boy = SinirliDoldur(
+        tampon, enCok,
+        [dosya]() -> std::optional<std::uint64_t> {
+            LARGE_INTEGER uzunluk{};
+            if (::GetFileSizeEx(dosya, &uzunluk) == 0)
+                return {};
+            return static_cast<std::uint64_t>(uzunluk.QuadPart);
+        },
+        [&](char* hedef, std::size_t adet) {
+            const auto gelen = KonumdanOku(dosya, konum, hedef, adet);
+            konum += gelen.value_or(0);
+            return gelen;
+        });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);
 }
 
-bool DuzDosya(const std::filesystem::path& yol) {
-    return DosyaMi(::GetFileAttributesW(UzunYol(yol).c_str()));
+bool Var(const std::filesystem::path& yol, Tur tur) {
+    return BuTur(tur, ::GetFileAttributesW(UzunYol(yol).c_str()));
 }
 
 bool DosyaSil(const std::filesystem::path& yol) {

@@ -15,9 +15,6 @@ using sistem::AcikDosya;
 using sistem::Acilis;
 using sistem::Kip;
 
-// Read whole, a longer file would only cost the memory of the machine.
-constexpr std::uint64_t kEnUzunOkuma = 256U << 20U;
-
 /// What a system throws is memory running out. That is a failed step as any other.
 template <class Is>
 auto Sessiz(Is is) noexcept -> decltype(is()) {
@@ -81,7 +78,7 @@ bool EskiVeyaYeni(const std::filesystem::path& yol, std::string_view bayt,
 AdListesi AdlariAl(sistem::Klasor& klasor) {
     AdListesi adlar;
     Metin ad;
-    while (klasor.Sonraki(ad))
+    while (klasor.Sonraki(ad, sistem::Tur::Dosya))
         adlar.Ekle(ad);
     adlar.Sirala();
     return adlar;
@@ -98,7 +95,8 @@ Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), ko
 std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& yol) const {
     if (ariza && ariza(is, yol))
         return {};
-    auto sonuc = SistemYolu(yol);
+    const bool klasor = is == DosyaIsi::Listele || is == DosyaIsi::KlasorYap;
+    auto sonuc = Bul(yol, klasor ? sistem::Tur::Klasor : sistem::Tur::Dosya);
     // The root itself can only be listed.
     if (sonuc == kokYolu_ && is != DosyaIsi::Listele)
         return {};
@@ -106,9 +104,13 @@ std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& y
 }
 
 std::optional<std::filesystem::path> Dosyalar::SistemYolu(const Metin& yol) const {
+    return Bul(yol, sistem::Tur::Dosya);
+}
+
+std::optional<std::filesystem::path> Dosyalar::Bul(const Metin& yol, sistem::Tur tur) const {
     if (!yol.starts_with(kok_))
         return {};
-    std::filesystem::path sonuc = kokYolu_;
+    std::vector<std::filesystem::path> adlar;
     MetinBakis kalan = MetinBakis(yol).substr(kok_.size());
     while (!kalan.empty()) {
         if (kalan.front() != kAyrac)
@@ -118,18 +120,27 @@ std::optional<std::filesystem::path> Dosyalar::SistemYolu(const Metin& yol) cons
         kalan.remove_prefix(ad.size());
         if (ad.empty())
             continue;
-        const auto parca = AdUygun(ad) ? MetinYolu(ad) : std::nullopt;
+        auto parca = AdUygun(ad) ? MetinYolu(ad) : std::nullopt;
         if (!parca)
             return {};
-        sonuc /= *parca;
+        adlar.push_back(std::move(*parca));
     }
-    return sonuc;
+    return arama_.Coz(kokYolu_, adlar, tur);
+}
+
+bool Dosyalar::AyniKlasor(const Metin& bir, const Metin& iki) const {
+    return Sessiz([&] {
+        const auto p = Bul(bir, sistem::Tur::Klasor);
+        const auto q = Bul(iki, sistem::Tur::Klasor);
+        std::error_code hata;
+        return p && q && std::filesystem::equivalent(*p, *q, hata);
+    });
 }
 
 bool Dosyalar::VarMi(const Metin& yol) const {
     return Sessiz([&] {
         const auto p = Cevir(DosyaIsi::VarMi, yol);
-        return p && sistem::DuzDosya(*p);
+        return p && sistem::Var(*p, sistem::Tur::Dosya);
     });
 }
 
@@ -166,8 +177,7 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
     });
 }
 
-void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
-                          const std::function<void(const OkunanDosya&)>& ver,
+void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                           const std::function<bool(MetinBakis ad)>& istenen) const {
     struct Okuma {
         explicit Okuma(const std::filesystem::path& yol) : klasor(yol) {}
@@ -190,7 +200,7 @@ void Dosyalar::KlasoruOku(const Metin& klasor, std::size_t enCok,
         const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
             if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
                 return {};
-            return okuma->klasor.Oku(ad, enCok, okuma->tampon);
+            return okuma->klasor.Oku(okuma->adlar.Diskteki(i), kEnUzunOkuma, okuma->tampon);
         });
         ver({ad, bayt.has_value(), bayt.value_or(std::string_view())});
     }

@@ -8,11 +8,20 @@
 #include <vector>
 
 #include "storage/Metin.h"
+#include "storage/dosya/AdArama.h"
 
 namespace velora {
 
 /// The separator of the paths inside the system. The file module turns it into the one of the machine.
 inline constexpr char16_t kAyrac = u'\\';
+
+namespace sistem {
+enum class Tur;
+}
+
+/// The longest file that any reader takes, in bytes. A longer one can't be read: whole it would only cost the
+/// memory of the machine.
+inline constexpr std::size_t kEnUzunOkuma = std::size_t{256} << 20U;
 
 enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 
@@ -23,8 +32,13 @@ enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 /// passed over.
 ///
 /// Nothing here throws and nothing is reported but by the return value: a failing step is passed over by its
-/// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows; bytes of a name that are no UTF-8 survive
-/// a listing and can be opened again.
+/// caller. A name's bytes are UTF-8 on Linux and UTF-16 on Windows.
+///
+/// A tree may have been made on another system. Each name of a path is looked up as Windows would: one that
+/// is there to the letter is taken, else the first in the order of listings that differs only in case, lies
+/// there in the bytes of Windows-1254, or with its letters apart from their marks (`AdAnahtari`). Only where
+/// none fits a new file or folder gets the name as it stands. Listings give all names in the program's own
+/// form, and what they give can be opened.
 class Dosyalar {
   public:
     explicit Dosyalar(const std::filesystem::path& kok);
@@ -32,28 +46,27 @@ class Dosyalar {
     /// The root, without a separator at its end.
     const Metin& Kok() const { return kok_; }
 
-    /// True when a plain file of exactly this name is there. A folder is none.
+    /// True when a plain file of this name is there. A folder is none.
     bool VarMi(const Metin& yol) const;
 
     /// Names of the plain files of a folder, sorted by name without regard to case. A folder that isn't there
     /// lists nothing.
     std::vector<Metin> Listele(const Metin& klasor) const;
 
-    /// The whole file, or nothing when it can't be opened or read. A file of more than 256 MiB can't be read.
+    /// The whole file, or nothing when it can't be opened or read. One longer than `kEnUzunOkuma` can't be
+    /// read.
     std::optional<std::string> Oku(const Metin& yol) const;
 
     /// One file of a folder, as `KlasoruOku` hands it over. The views last until `ver` returns.
     struct OkunanDosya {
         MetinBakis ad;
-        bool acildi;           ///< false: it is there but can't be opened or read; `bayt` is empty
-        std::string_view bayt; ///< at most `enCok` bytes from its beginning
+        bool acildi; ///< false: it is there but can't be opened or read; `bayt` is empty
+        std::string_view bayt;
     };
 
-    /// Lists a folder as `Listele` does and reads each of its files once, in that order. For scans: `enCok`
-    /// limits what is read of each file, so that a huge stray file costs neither memory nor time. A name that
-    /// `istenen` says no to is passed over and not opened.
-    void KlasoruOku(const Metin& klasor, std::size_t enCok,
-                    const std::function<void(const OkunanDosya&)>& ver,
+    /// Lists a folder as `Listele` does and reads each of its files once, in that order and as `Oku` does. A
+    /// name that `istenen` says no to is passed over and not opened.
+    void KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                     const std::function<bool(MetinBakis ad)>& istenen = {}) const;
 
     /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
@@ -79,6 +92,12 @@ class Dosyalar {
     /// refused.
     std::optional<std::filesystem::path> SistemYolu(const Metin& yol) const;
 
+    /// Whether two paths lead to one and the same folder. False when one isn't there.
+    bool AyniKlasor(const Metin& bir, const Metin& iki) const;
+
+    /// For tests: how many folders were listed to find a name that isn't there to the letter.
+    std::size_t AramadaListelenen() const { return arama_.Listelenen(); }
+
     /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
     /// disk.
     std::function<bool(DosyaIsi, const Metin& yol)> ariza;
@@ -86,14 +105,15 @@ class Dosyalar {
     std::optional<std::size_t> bosYer;
 
   private:
+    std::optional<std::filesystem::path> Bul(const Metin& yol, sistem::Tur tur) const;
     std::optional<std::filesystem::path> Cevir(DosyaIsi is, const Metin& yol) const;
 
     std::filesystem::path kokYolu_;
     Metin kok_;
+    mutable AdArama arama_; // remembers listings
 };
 
-/// True when two file names are the same name on this system: letter by letter, without regard to case on
-/// Windows.
+/// True when two names, in the form that listings give them, are the same but for their case.
 bool AyniAd(MetinBakis bir, MetinBakis iki);
 
 /// The order of listings: by name, without regard to case.

@@ -20,6 +20,9 @@ enum class Kip {
     Yeni      ///< writing a file that isn't there yet
 };
 
+/// What a name in a folder may stand for; all else counts as nothing.
+enum class Tur { Dosya, Klasor };
+
 enum class Acilis { Acildi, Yok, Olmadi };
 
 class AcikDosya {
@@ -63,11 +66,11 @@ class Klasor {
     Klasor& operator=(const Klasor&) = delete;
     ~Klasor();
 
-    /// The name of the next plain file, in the order of the disk. False after the last.
-    bool Sonraki(Metin& ad);
+    /// The name of the next entry of this kind, in the order of the disk. False after the last.
+    bool Sonraki(Metin& ad, Tur tur);
 
-    /// The bytes of a file of this folder, at most `enCok` of them, in `tampon`, which grows when it must and
-    /// is there to be used again. Nothing when the file can't be opened or read.
+    /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
+    /// again. Nothing when the file can't be opened or read, or is longer than `enCok`.
     std::optional<std::string_view> Oku(MetinBakis ad, std::size_t enCok, std::string& tampon);
 
   private:
@@ -75,7 +78,8 @@ class Klasor {
     std::unique_ptr<Ic> ic_;
 };
 
-bool DuzDosya(const std::filesystem::path& yol);
+/// Whether that is there, under a name that the system takes for this one.
+bool Var(const std::filesystem::path& yol, Tur tur);
 bool DosyaSil(const std::filesystem::path& yol);
 bool KlasorYap(const std::filesystem::path& yol);
 

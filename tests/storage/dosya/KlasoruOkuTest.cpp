@@ -14,9 +14,9 @@ struct Gorulen {
     bool operator==(const Gorulen&) const = default;
 };
 
-std::vector<Gorulen> Oku(const Dosyalar& dosyalar, const Metin& klasor, std::size_t enCok = 1U << 20U) {
+std::vector<Gorulen> Oku(const Dosyalar& dosyalar, const Metin& klasor) {
     std::vector<Gorulen> gorulenler;
-    dosyalar.KlasoruOku(klasor, enCok, [&](const Dosyalar::OkunanDosya& dosya) {
+    dosyalar.KlasoruOku(klasor, [&](const Dosyalar::OkunanDosya& dosya) {
         gorulenler.push_back({Metin(dosya.ad), dosya.acildi, std::string(dosya.bayt)});
     });
     return gorulenler;
@@ -55,13 +55,23 @@ TEST(KlasoruOku, A_long_file_among_short_ones_is_read_whole_and_leaves_nothing_i
               (std::vector<Gorulen>{{u"a", true, "1"}, {u"b", true, uzun}, {u"c", true, "3"}}));
 }
 
-TEST(KlasoruOku, A_huge_stray_file_gives_only_its_beginning) {
+TEST(KlasoruOku, Takes_files_up_to_the_length_that_every_reader_takes) {
     const DosyaAgaci kok;
-    kok.Koy(u"a", "abcdef");
-    std::filesystem::resize_file(kok.Yol(u"a"), 64ULL << 30U);
-    EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok(), 4), (std::vector<Gorulen>{{u"a", true, "abcd"}}));
-    EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok(), 0), (std::vector<Gorulen>{{u"a", true, ""}}));
-    EXPECT_EQ(Oku(kok.dosyalar, kok.dosyalar.Kok(), 100'000).at(0).bayt.size(), 100'000U);
+    const auto dene = [&](std::uintmax_t boy) {
+        kok.Koy(u"a", "abc");
+        std::filesystem::resize_file(kok.Yol(u"a"), boy);
+        const auto tek = kok.dosyalar.Oku(kok.TamYol(u"a"));
+        std::optional<std::size_t> toplu;
+        kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), [&](const Dosyalar::OkunanDosya& dosya) {
+            if (dosya.acildi)
+                toplu = dosya.bayt.size();
+        });
+        EXPECT_EQ(toplu.has_value(), tek.has_value());
+        return toplu.value_or(0);
+    };
+    EXPECT_EQ(dene(kEnUzunOkuma), kEnUzunOkuma);
+    EXPECT_EQ(dene(kEnUzunOkuma + 1), 0U);
+    EXPECT_EQ(dene(64ULL << 30U), 0U);
 }
 
 TEST(KlasoruOku, A_file_that_cannot_be_read_is_told_and_the_others_come) {
@@ -80,7 +90,7 @@ TEST(KlasoruOku, A_file_removed_while_the_folder_is_read_counts_as_one_that_cann
     kok.Koy(u"a", "x");
     kok.Koy(u"b", "x");
     std::vector<bool> acilanlar;
-    kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), 100, [&](const Dosyalar::OkunanDosya& dosya) {
+    kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), [&](const Dosyalar::OkunanDosya& dosya) {
         acilanlar.push_back(dosya.acildi);
         std::filesystem::remove(kok.Yol(u"b"));
     });
@@ -92,7 +102,7 @@ TEST(KlasoruOku, May_be_called_again_from_inside_itself) {
     kok.Koy(u"a", "1");
     kok.Koy(u"b", "2");
     std::string gorulen;
-    kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), 100, [&](const Dosyalar::OkunanDosya& dosya) {
+    kok.dosyalar.KlasoruOku(kok.dosyalar.Kok(), [&](const Dosyalar::OkunanDosya& dosya) {
         for (const Gorulen& ic : Oku(kok.dosyalar, kok.dosyalar.Kok()))
             gorulen += ic.bayt;
         gorulen += dosya.bayt;

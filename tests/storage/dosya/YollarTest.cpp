@@ -12,7 +12,7 @@ using test::DosyaAgaci;
 /// Tries every piece of work on the path; true when each of them refused it.
 bool HepsiReddetti(const Dosyalar& dosyalar, const Metin& yol) {
     bool okundu = false;
-    dosyalar.KlasoruOku(yol, 10, [&](const Dosyalar::OkunanDosya&) { okundu = true; });
+    dosyalar.KlasoruOku(yol, [&](const Dosyalar::OkunanDosya&) { okundu = true; });
     return !okundu && dosyalar.Listele(yol).empty() && !dosyalar.VarMi(yol) && !dosyalar.Oku(yol) &&
            !dosyalar.Yaz(yol, "x") && !dosyalar.Ekle(yol, "x") && !dosyalar.KlasorYap(yol) &&
            !dosyalar.Kopyala(dosyalar.Kok() + u"\\kaynak", yol) &&

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "storage/Metin.h"
+#include "storage/dosya/Sistem.h"
+
+namespace velora {
+
+/// Where the names of a path lie on a file system that tells case apart.
+///
+/// A name that is there to the letter is taken, and costs no listing. Otherwise the folder is looked through
+/// for one that `AdAnahtari` takes for the same; of several the first in the order of listings. Where none
+/// fits, the name stands as it is: that is the file or folder to be made.
+///
+/// Listings are kept as long as their folder tells that nothing in it has changed.
+class AdArama {
+  public:
+    /// The last name stands for a file or a folder, those before it for folders. What is of another kind
+    /// counts as not there.
+    std::filesystem::path Coz(const std::filesystem::path& kok,
+                              const std::vector<std::filesystem::path>& adlar, sistem::Tur tur);
+
+    /// How many folders have been listed so far.
+    std::size_t Listelenen() const { return listelenen_; }
+
+  private:
+    struct Ad {
+        Metin anahtar;
+        Metin diskteki;
+    };
+    struct Icerik {
+        std::optional<std::filesystem::file_time_type> degisim; ///< none: must be listed again
+        std::vector<Ad> adlar;                                  ///< by key
+    };
+
+    using Anahtar = std::pair<std::filesystem::path, sistem::Tur>;
+
+    std::optional<std::filesystem::path> Bul(const Anahtar& klasor, const std::filesystem::path& ad);
+    const std::vector<Ad>& Listesi(const Anahtar& klasor);
+
+    std::map<Anahtar, Icerik> icerikler_;
+    std::size_t listelenen_ = 0;
+};
+
+} // namespace velora
