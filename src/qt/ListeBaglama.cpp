@@ -16,7 +16,7 @@ namespace velora {
 namespace {
 
 bool AyniSatir(const ListeSatiri& bir, const ListeSatiri& iki) {
-    return bir.sutun == iki.sutun && bir.yazi == iki.yazi;
+    return bir.sutun == iki.sutun && bir.yazi == iki.yazi && bir.kalin == iki.kalin;
 }
 
 /// A row is one line: what stands on several lines in a file stands side by side in it.
@@ -44,6 +44,9 @@ void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
         for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
             ogeler.back()->setText(sutun, TekSatir(satir.sutun[static_cast<std::size_t>(sutun)]));
             ogeler.back()->setForeground(sutun, QRenk(satir.yazi));
+            QFont tip = liste.font();
+            tip.setBold(satir.kalin);
+            ogeler.back()->setFont(sutun, tip);
         }
         for (const int sutun : model.sayiSutunlari)
             ogeler.back()->setTextAlignment(sutun, kSaga);

@@ -91,9 +91,12 @@ struct AyResmi {
     Yer yer;
 };
 
+/// A frame about the two cells of one day.
 struct Cerceve {
     bool gorunur = false;
     Yer yer;
+    int ay = 0;  ///< the month of that day, 0 until the frame is placed
+    int gun = 0; ///< and its number
 };
 
 /// The main screen: for the hall selected in `Salon` and the year selected in `Sene`, a table of twelve
@@ -230,6 +233,9 @@ struct FormTablo {
     void SatirlariYerlestir();
     void BasliklariYerlestir();
     void BuGunYerlestir();
+    void YeniGun();
+    void CetvelYerlestir();
+    void PaneliYerlestir();
     void AyBasliklariniGoster();
     template <std::size_t Adet>
     void BasligiSec(BirTabanli<Etiket, Adet>& basliklar, int no, int& hizli);

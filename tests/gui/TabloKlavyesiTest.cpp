@@ -8,6 +8,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/table/TabloGorunumu.h"
 #include "setup/FormAyarlar.h"
 
@@ -161,6 +162,7 @@ class TabloKlavyesiTest : public QObject {
         const QPoint kenar(0, 0);
         const QPoint icerisi(4, 4);
         firma.Model().BuGun.gorunur = false;
+        Baglayici::HepsiniTazele();
         QCOMPARE(Renk(firma, MayisGece, 21, kenar), dolu);
         Tus(firma, Qt::Key_Right);
         QCOMPARE(Renk(firma, MayisGece, 21, kenar), QColor(32, 33, 36));

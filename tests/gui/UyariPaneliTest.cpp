@@ -28,14 +28,40 @@ class UyariPaneliTest : public QObject {
         auto& panel = firma.Bul<QWidget>("Picture1");
         QVERIFY(panel.isVisible());
         QVERIFY(firma.Tablo().rect().contains(panel.geometry()));
-        const int ortadan = panel.geometry().center().x() - firma.Tablo().rect().center().x();
-        QVERIFY2(std::abs(ortadan) <= 20, qPrintable(QString::number(ortadan)));
         auto& liste = firma.Bul<QTreeWidget>("Liste");
         QCOMPARE(liste.topLevelItemCount(), 1);
         QCOMPARE(liste.topLevelItem(0)->text(0), QStringLiteral("23.05.2026 - Gece"));
         QCOMPARE(liste.topLevelItem(0)->text(6), QStringLiteral("Kesin"));
         QCOMPARE(firma.Bul<QLabel>("UyariBaslik").text(), QStringLiteral("YAKLAŞAN REZERVASYON UYARILARI"));
         QCOMPARE(panel.palette().color(QPalette::Window), QColor(192, 0, 0));
+    }
+
+    void it_stands_in_the_very_middle_of_the_table_and_in_the_half_without_todays_month() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        for (const QSize boy : {QSize(1280, 720), QSize(1601, 903), QSize(1911, 1011)}) {
+            firma.Pencere().resize(boy);
+            QTRY_COMPARE(firma.Pencere().size(), boy);
+            const QRect panel = PaneldeYeri(firma);
+            const int sagda = firma.Tablo().width() - panel.x() - panel.width();
+            QVERIFY2(std::abs(panel.x() - sagda) <= 1, qPrintable(QString::number(panel.x() - sagda)));
+            const TabloDuzeni& duzen = firma.Tablo().Duzen();
+            QVERIFY(!panel.intersects(firma.Tablo().Mantiksal(duzen.AyHucreleri(5))));
+            QVERIFY(panel.intersects(firma.Tablo().Mantiksal(duzen.AyHucreleri(9))));
+        }
+    }
+
+    void a_pre_reservation_is_bold_and_a_firm_one_is_not() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", true);
+        firma.Rezervasyon(kSalonA, u"24.05.2026 - Gece", false);
+        firma.Ac();
+        const auto& liste = firma.Bul<QTreeWidget>("Liste");
+        for (int sutun = 0; sutun < 7; ++sutun) {
+            QVERIFY(liste.topLevelItem(0)->font(sutun).bold());
+            QVERIFY(!liste.topLevelItem(1)->font(sutun).bold());
+        }
     }
 
     void with_nothing_near_it_is_not_there() {

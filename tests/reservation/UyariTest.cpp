@@ -38,6 +38,7 @@ TEST_F(UyariTest, A_pre_reservation_is_near_by_its_own_number_of_days_and_green)
     Prog();
     UyarilarOlmali({u"22.06.2012 - Gündüz Ön"});
     EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 49152);
+    EXPECT_TRUE(Tablo().Liste.satirlar[0].kalin);
     EXPECT_EQ(Tablo().Liste.satirlar[0].tag, Yol(u"22.06.2012 - Gündüz"));
 }
 
@@ -52,6 +53,7 @@ TEST_F(UyariTest, A_row_tells_day_hall_customer_couple_telephones_and_kind) {
               (std::vector<Metin>{u"16.06.2012 - Gece", u"Salon A", u"Ali", u"Elif / Can", u"0212", u"0532",
                                   u"Kesin"}));
     EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 0);
+    EXPECT_FALSE(Tablo().Liste.satirlar[0].kalin);
     EXPECT_EQ(Tablo().Liste.basliklar, (std::vector<Metin>{u"Tarih", u"Salon", u"Ad Soyad", u"Gelin / Damat",
                                                            u"Telefon", u"Cep", u"Tipi"}));
 }

@@ -194,7 +194,7 @@ void TabloGirisi::Kimilda(const QMouseEvent& olay) {
     if (HucreMi(isabet))
         Uzerine(isabet);
     else
-        baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
+        Bosa();
 }
 
 void TabloGirisi::ImlecSekli(TabloIsabeti::Tur tur) {
@@ -206,11 +206,16 @@ void TabloGirisi::ImlecSekli(TabloIsabeti::Tur tur) {
 
 void TabloGirisi::Ayril() {
     if (!HoverKapali())
-        baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
+        Bosa();
+}
+
+void TabloGirisi::Bosa() {
+    uzerinde_ = {};
+    baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
 }
 
 void TabloGirisi::Uzerine(const TabloIsabeti& goz) {
-    imlec_ = goz;
+    imlec_ = uzerinde_ = goz;
     baglayici_.Calistir([this, goz] { program_.FormTablo->Hucre_MouseMove(goz.satir, goz.gun); });
 }
 

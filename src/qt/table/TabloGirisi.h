@@ -33,6 +33,9 @@ class TabloGirisi : public QObject {
     /// leads.
     TabloIsabeti OdakGozu() const;
 
+    /// The cell that the pointer is on, or that the keys have come to; bare when it has gone elsewhere.
+    const TabloIsabeti& UzerindekiGoz() const { return uzerinde_; }
+
     /// What a dragged cell carries.
     static std::unique_ptr<QMimeData> SuruklemeVerisi();
 
@@ -51,6 +54,7 @@ class TabloGirisi : public QObject {
     void Kimilda(const QMouseEvent& olay);
     void ImlecSekli(TabloIsabeti::Tur tur);
     void Ayril();
+    void Bosa();
     void Tikla(const TabloIsabeti& isabet);
     void Uzerine(const TabloIsabeti& goz);
     void MenuAc(const TabloIsabeti& goz, bool sagDugme, QPoint yer);
@@ -73,7 +77,8 @@ class TabloGirisi : public QObject {
     TabloGorunumu& gorunum_;
     EkranEtiketi* etiket_;
     QMenu* menu_;
-    TabloIsabeti imlec_;   // the pointer cell
+    TabloIsabeti imlec_; // the pointer cell
+    TabloIsabeti uzerinde_;
     TabloIsabeti basilan_; // where a click may end
     TabloIsabeti kaynak_;  // cell under a button, about to be dragged
     TabloIsabeti birakilan_;

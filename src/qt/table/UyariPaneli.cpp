@@ -97,9 +97,15 @@ void UyariPaneli::Tazele(const FormTablo& tablo) {
     const QSize boy = QSize(piksel(model.yer.genislik), piksel(model.yer.yukseklik))
                           .expandedTo(minimumSizeHint())
                           .boundedTo(parentWidget()->size());
-    const int sol = std::clamp(piksel(model.yer.sol), 0, parentWidget()->width() - boy.width());
-    const int ust = std::clamp(piksel(model.yer.ust), 0, parentWidget()->height() - boy.height());
-    setGeometry(QRect(QPoint(sol, ust), boy));
+    // The model's inner width is not the widget's, but the middle of the one is the middle of the other.
+    const double genislik = parentWidget()->width() * kTwipPikseli;
+    const double kayma = (TabloIcGenisligi(genislik) - genislik) / 2;
+    const QPoint orta(piksel(model.yer.sol + model.yer.genislik / 2 - kayma),
+                      piksel(model.yer.ust + model.yer.yukseklik / 2));
+    const QPoint kose = orta - QPoint(boy.width() / 2, boy.height() / 2);
+    setGeometry(QRect(QPoint(std::clamp(kose.x(), 0, parentWidget()->width() - boy.width()),
+                             std::clamp(kose.y(), 0, parentWidget()->height() - boy.height())),
+                      boy));
     show();
     raise();
 }
