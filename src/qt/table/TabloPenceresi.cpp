@@ -61,7 +61,6 @@ TabloPenceresi::TabloPenceresi(Program& program)
     gorunum_ = new TabloGorunumu(program, *baglayici_, orta);
     gorunum_->setObjectName(QStringLiteral("Picture4"));
     gorunum_->setAccessibleName(QStringLiteral("Yıl tablosu"));
-    new UyariPaneli(*tablo, *baglayici_, gorunum_);
     auto* cerceve = new QHBoxLayout;
     cerceve->setContentsMargins(kAralik / 2, 0, kAralik / 2, 0);
     cerceve->addWidget(gorunum_);
@@ -73,7 +72,9 @@ TabloPenceresi::TabloPenceresi(Program& program)
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
     setMinimumSize(1000, 560);
     resize(1280, 720);
+    // Only now they are in the window that the focus is one of.
     gorunum_->setFocus();
+    new UyariPaneli(*tablo, *baglayici_, gorunum_);
 }
 
 QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
