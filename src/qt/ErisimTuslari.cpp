@@ -8,7 +8,9 @@
 #include <vector>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QSet>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -166,6 +168,15 @@ void ErisimTuslariVer(QWidget& pencere) {
     for (const QWidget* sayfa : sayfalar)
         if (sayfa != nullptr)
             SayfayaVer(basliklar, sayfa);
+}
+
+void ErisimTuslariVer(QMenu& menu) {
+    std::vector<Baslik> girdiler;
+    for (QAction* girdi : menu.actions())
+        if (!girdi->isSeparator())
+            girdiler.push_back(
+                {girdi->text(), [girdi](const QString& metin) { girdi->setText(metin); }, nullptr});
+    SayfayaVer(girdiler, nullptr);
 }
 
 QString TusIsaretli(MetinBakis baslik, QChar tus) {

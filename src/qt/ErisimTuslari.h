@@ -4,6 +4,7 @@
 
 #include "storage/Metin.h"
 
+class QMenu;
 class QWidget;
 
 namespace velora {
@@ -15,6 +16,9 @@ namespace velora {
 /// is marked already keeps its mark, and one for which no letter is left gets none. Costs nothing where all
 /// are marked: meant to run after every refresh.
 void ErisimTuslariVer(QWidget& pencere);
+
+/// The same for the entries of a menu.
+void ErisimTuslariVer(QMenu& menu);
 
 /// A caption with its access key marked by hand: before the first `tus` in it, which must be there. For what
 /// stands on a window whose keys aren't given out.

@@ -3,12 +3,14 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <QWindow>
 
 #include "destek/Kayitlar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
 #include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
 #include "setup/FormAyarlar.h"
 
 using namespace velora;
@@ -151,6 +153,38 @@ class TabloKlavyesiTest : public QObject {
         QContextMenuEvent olay(QContextMenuEvent::Keyboard, {5, 5}, firma.Tablo().mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&firma.Tablo(), &olay);
         QTRY_VERIFY(menu.isVisible());
+        menu.close();
+        QTest::keyClick(firma.Pencere().windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+        QTRY_VERIFY(menu.isVisible());
+        menu.close();
+        QTest::keyClick(firma.Pencere().windowHandle(), Qt::Key_F10, Qt::ControlModifier);
+        QVERIFY(!menu.isVisible());
+    }
+
+    void no_key_works_a_day_that_the_panel_of_warnings_covers() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        const auto& panel = firma.Bul<QWidget>("Picture1");
+        const auto ortulu = [&](SatirAdi satir, int gun) {
+            return panel.geometry().contains(firma.Orta(firma.Tablo().Duzen().Hucre(satir, gun)));
+        };
+        QVERIFY(ortulu(MayisGece, 21));
+        QVERIFY(!ortulu(OcakGece, 21) && !ortulu(AralikGunduz, 21));
+        firma.Tablo().setFocus();
+        firma.Model().Hucre_MouseMove(MayisGece, 23);
+        const auto tuslar = [&] {
+            for (const auto tus : {Qt::Key_Return, Qt::Key_Menu})
+                Tus(firma, tus);
+        };
+        Pencerede(tuslar, {});
+        QVERIFY(!firma.Bul<QMenu>("Sagtus").isVisible());
+        SatirAdi alt = HaziranGece;
+        while (ortulu(alt, 21))
+            alt = static_cast<SatirAdi>(alt + 2);
+        Tus(firma, Qt::Key_PageDown);
+        QCOMPARE(firma.Model().SeciliTarih,
+                 Metin(u"21.") + IkiHane(static_cast<unsigned>(SatirAyi(alt))) + u".2026 - Gece");
     }
 
     void the_mark_of_the_pointer_cell_shows_for_the_keys_only_and_leaves_its_colour_to_be_seen() {

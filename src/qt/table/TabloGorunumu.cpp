@@ -149,7 +149,7 @@ void TabloGorunumu::paintEvent(QPaintEvent* olay) {
             QRectF(kirli.x() * olcek, kirli.y() * olcek, kirli.width() * olcek, kirli.height() * olcek)
                 .toAlignedRect();
         cizici_.Ciz(boyaci, *tablo, duzen_, bolge, program_.FormAyarlar->Renk(RenkNo::BuGunCercevesi));
-        if (const TabloIsabeti goz = giris_->OdakGozu(); goz.tur == TabloIsabeti::Tur::Hucre)
+        for (const TabloIsabeti& goz : giris_->IsaretliGozler())
             TabloCizici::OdakIsareti(boyaci, duzen_, duzen_.Hucre(goz.satir, goz.gun));
     });
 }
