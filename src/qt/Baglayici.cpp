@@ -216,7 +216,7 @@ void Baglayici::Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklan
     connect(&girdi, &QAction::triggered, this, [this, tiklandi] { Calistir(tiklandi); });
     Izle([&girdi, &model, konan = Metin()]() mutable {
         // The menu may have put an access key into the text.
-        if (konan != model.baslik)
+        if (konan != model.baslik && !girdi.isSeparator()) // a line would show its "-"
             girdi.setText(QMetin(model.baslik));
         konan = model.baslik;
         girdi.setEnabled(model.etkin);

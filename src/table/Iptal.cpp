@@ -7,8 +7,6 @@
 
 namespace velora {
 
-namespace {} // namespace
-
 void FormTablo::iptals_Click() {
     if (!Sor(program_, u"Seçili kaydı silmek istediğinizden emin misiniz?"))
         return;
