@@ -13,6 +13,7 @@
 #include "qt/Baglayici.h"
 #include "qt/table/EkranEtiketi.h"
 #include "qt/table/KomutMenuleri.h"
+#include "qt/table/TabloErisimi.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloKlavyesi.h"
 #include "qt/table/TabloTasimasi.h"
@@ -27,6 +28,7 @@ TabloGirisi::TabloGirisi(Program& program, Baglayici& baglayici, TabloGorunumu& 
     const auto tablo = program.FormTablo.Tut();
     ekran_ = tablo;
     MenuKur();
+    TabloErisiminiTanit();
     gorunum.setAcceptDrops(true);
     gorunum.installEventFilter(this);
     baglayici.Izle([this, t = tablo.get()] {
@@ -76,6 +78,9 @@ bool TabloGirisi::eventFilter(QObject* nesne, QEvent* olay) {
     case QEvent::FocusIn: {
         const auto neden = static_cast<QFocusEvent*>(olay)->reason();
         KlavyeAta(klavye_ || neden == Qt::TabFocusReason || neden == Qt::BacktabFocusReason);
+        // The toolkit now tells the focus of the table itself; that of its cell has to come behind it.
+        bildirilen_ = {};
+        QTimer::singleShot(0, this, [this] { OdakTazele(); });
         break;
     }
     case QEvent::FocusOut:
@@ -327,12 +332,22 @@ std::vector<TabloIsabeti> TabloGirisi::IsaretliGozler() const {
     if (sorulan_.HucreMi())
         return {sorulan_};
     std::vector<TabloIsabeti> gozler = tasima_->Isaretliler();
-    if (gozler.empty() && klavye_ && imlec_.HucreMi() && gorunum_.hasFocus() && !ekran_.expired())
-        gozler.push_back(imlec_);
+    if (const TabloIsabeti goz = TusGozu(); gozler.empty() && goz.HucreMi())
+        gozler.push_back(goz);
     return gozler;
 }
 
+TabloIsabeti TabloGirisi::TusGozu() const {
+    if (!klavye_ || !gorunum_.hasFocus() || ekran_.expired())
+        return {};
+    return tasima_->Tutuluyor() ? tasima_->Hedef() : imlec_;
+}
+
 void TabloGirisi::OdakTazele() {
+    if (const TabloIsabeti goz = TusGozu(); goz != bildirilen_) {
+        bildirilen_ = goz;
+        TabloOdaginiBildir(gorunum_, goz);
+    }
     std::vector<QRect> yeni;
     for (const TabloIsabeti& goz : IsaretliGozler())
         yeni.push_back(gorunum_.Mantiksal(gorunum_.Duzen().Hucre(goz.satir, goz.gun)));

@@ -34,6 +34,10 @@ class TabloGirisi : public QObject {
     /// The cells to be marked: the one that an open menu or window is about, those of a move, or else the one
     /// that the keys work on, unless the mouse leads.
     std::vector<TabloIsabeti> IsaretliGozler() const;
+    /// The cell that the keys work on; bare while there is none, or while the mouse leads.
+    TabloIsabeti TusGozu() const;
+    /// The screen, null when it is unloaded.
+    std::shared_ptr<FormTablo> Ekran() const { return ekran_.lock(); }
 
   protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;
@@ -79,6 +83,7 @@ class TabloGirisi : public QObject {
     QPoint imlecYeri_;
     QPoint fareYeri_;
     std::vector<QRect> isaretler_; // as they are painted
+    TabloIsabeti bildirilen_;      // the cell whose focus was told last
     bool klavye_ = false;          // the keys were used last
 };
 
