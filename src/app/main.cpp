@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "access/Baslangic.h"
+#include "qt/Dil.h"
 #include "qt/Ekranlar.h"
 #include "qt/Gorunum.h"
 #include "qt/Koruma.h"
@@ -14,6 +15,7 @@ static int Calistir(char** argv) {
     // The program has no command line: the toolkit sees none either.
     int argumanSayisi = 1;
     const QApplication uygulama(argumanSayisi, argv);
+    velora::DiliKur();
     velora::GorunumuKur();
     velora::QtOrtam disDunya;
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());

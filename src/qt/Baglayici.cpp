@@ -10,12 +10,14 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTimer>
 
 #include "qt/Ceviri.h"
 #include "qt/Gorunum.h"
+#include "screen/Bayrak.h"
 
 namespace velora {
 
@@ -70,11 +72,41 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
     const auto ekran = ekran_.lock();
     if (!ekran || !isleyici || Durum().tazeleniyor)
         return;
+    const QPointer<Baglayici> kendisi = this;
+    ++derinlik_;
     {
         const IsSayaci sayac;
         Koru(isleyici);
     }
+    if (kendisi != nullptr && --derinlik_ == 0 && birakildi_)
+        parent()->deleteLater();
     HepsiniTazele();
+}
+
+void Baglayici::Bas(const Isleyici& isleyici) {
+    if (basildi_)
+        return;
+    // The handler may unload the screen, but the window stands until it has returned.
+    Calistir([this, &isleyici] {
+        const Bayrak basilis(basildi_);
+        if (isleyici)
+            isleyici();
+    });
+}
+
+bool Baglayici::Duruyor() const {
+    return !birakildi_ && !ekran_.expired();
+}
+
+void Baglayici::Sil(QWidget& pencere) {
+    const auto& canlilar = Durum().canlilar;
+    const auto yer = std::ranges::find(canlilar, &pencere, [](const Baglayici* b) { return b->parent(); });
+    if (yer != canlilar.end()) {
+        (*yer)->birakildi_ = true;
+        if ((*yer)->derinlik_ > 0)
+            return;
+    }
+    pencere.deleteLater();
 }
 
 namespace {
@@ -145,6 +177,13 @@ bool Baglayici::eventFilter(QObject* nesne, QEvent* olay) {
     return true;
 }
 
+/// A field that the wheel would change takes it only when it has the focus already. The toolkit's own way is
+/// to give it the focus first.
+void Baglayici::TekeriBagla(QWidget& parca) {
+    parca.setFocusPolicy(Qt::StrongFocus);
+    parca.installEventFilter(this);
+}
+
 void Baglayici::Bagla(QCheckBox& kutu, OnayKutusu& model) {
     connect(&kutu, &QCheckBox::clicked, this,
             [this, &model] { Calistir([&model] { model.Ata(model.deger == 0 ? 1 : 0); }); });
@@ -163,7 +202,7 @@ void Baglayici::Bagla(QCheckBox& kutu, OnayKutusu& model) {
 void Baglayici::Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tiklandi) {
     connect(&dugme, &QAbstractButton::clicked, this, [this, &dugme, tiklandi] {
         dugme.setFocus(Qt::OtherFocusReason);
-        Calistir(tiklandi);
+        Bas(tiklandi);
     });
     Izle([&dugme, &model, konan = Metin()]() mutable {
         // The window may have put an access key into the text.
@@ -191,7 +230,7 @@ void Baglayici::Bagla(QRadioButton& dugme, OnayKutusu& model) {
 }
 
 void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
-    kutu.installEventFilter(this);
+    TekeriBagla(kutu);
     connect(&kutu, &QComboBox::activated, this,
             [this, &model](int sira) { Calistir([&model, sira] { model.Tikla(sira); }); });
     Izle([&kutu, &model, konan = std::vector<Metin>()]() mutable {
@@ -213,7 +252,7 @@ void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
 }
 
 void Baglayici::Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi) {
-    connect(&girdi, &QAction::triggered, this, [this, tiklandi] { Calistir(tiklandi); });
+    connect(&girdi, &QAction::triggered, this, [this, tiklandi] { Bas(tiklandi); });
     Izle([&girdi, &model, konan = Metin()]() mutable {
         // The menu may have put an access key into the text.
         if (konan != model.baslik && !girdi.isSeparator()) // a line would show its "-"

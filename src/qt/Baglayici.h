@@ -21,6 +21,7 @@ class QListWidget;
 class QPlainTextEdit;
 class QRadioButton;
 class QTreeWidget;
+class QWidget;
 
 namespace velora {
 
@@ -83,6 +84,16 @@ class Baglayici : public QObject {
 
     /// Runs a handler: under the guard, with the screen kept alive, and all widgets refreshed afterwards.
     void Calistir(const Isleyici& isleyici);
+    /// The same for what the user presses. While such a handler of this window runs, no other one does: a
+    /// press that comes in the middle of it is dropped.
+    void Bas(const Isleyici& isleyici);
+
+    /// False once the screen is unloaded or the window dropped. What a window does behind a handler asks
+    /// first.
+    bool Duruyor() const;
+
+    /// Deletes a window as soon as none of its handlers runs any more.
+    static void Sil(QWidget& pencere);
 
     /// All widgets of all windows take what their models hold.
     static void HepsiniTazele();
@@ -109,9 +120,13 @@ class Baglayici : public QObject {
 
   private:
     void Tazele();
+    void TekeriBagla(QWidget& parca);
     void OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyici& odakGitti);
 
     std::weak_ptr<const void> ekran_;
+    int derinlik_ = 0;       // its handlers that run, one inside the other
+    bool basildi_ = false;   // one of them was pressed by the user
+    bool birakildi_ = false; // the window is to be deleted
     std::vector<Isleyici> tazeleyenler_;
     std::unordered_map<const QObject*, Isleyici> odaklananlar_; // what runs when a field is left
 };

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -12,7 +13,22 @@
 
 namespace velora {
 
-Diyalog::Diyalog(std::weak_ptr<const void> ekran) : baglayici_(new Baglayici(std::move(ekran), this)) {}
+Diyalog::Diyalog(std::weak_ptr<const void> ekran) : baglayici_(new Baglayici(std::move(ekran), this)) {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* yeni) { OdagiIzle(yeni); });
+}
+
+void Diyalog::OdagiIzle(QWidget* odak) {
+    if (odak != nullptr && odak->window() == this && qobject_cast<QAbstractButton*>(odak) == nullptr)
+        sonAlan_ = odak;
+}
+
+void Diyalog::keyPressEvent(QKeyEvent* olay) {
+    const bool enter = olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter;
+    // The toolkit would press the default button: nobody who looks at a row means that.
+    if (enter && focusWidget() != enterListesi_ && qobject_cast<QAbstractItemView*>(focusWidget()) != nullptr)
+        return;
+    QDialog::keyPressEvent(olay);
+}
 
 QPushButton* Diyalog::DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi) {
     auto* dugme = new QPushButton(this);
@@ -23,12 +39,19 @@ QPushButton* Diyalog::DugmeYap(const char* ad, Dugme& model, const std::function
 
 void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede) {
     dugme.setDefault(true);
-    connect(qApp, &QApplication::focusChanged, &dugme, [&](const QWidget* eski, const QWidget* yeni) {
-        if (yeni == &liste)
-            listede.setDefault(true);
-        else if (eski == &liste && qobject_cast<const QPushButton*>(yeni) == nullptr)
-            dugme.setDefault(true);
-    });
+    enterListesi_ = &liste;
+    const auto sec = [&dugme, &liste, &listede] {
+        const QWidget* odak = QApplication::focusWidget();
+        // Another window's, or a button's own: the toolkit sees to that.
+        if (odak == nullptr || odak->window() != dugme.window() ||
+            qobject_cast<const QPushButton*>(odak) != nullptr)
+            return;
+        QPushButton& istenen = odak == &liste && listede.isEnabled() ? listede : dugme;
+        if (!istenen.isDefault())
+            istenen.setDefault(true);
+    };
+    connect(qApp, &QApplication::focusChanged, &dugme, sec);
+    baglayici_->Izle(sec);
 }
 
 QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
@@ -56,8 +79,24 @@ void Diyalog::IlkOdak(const char* ad) {
     findChild<QWidget*>(QString::fromLatin1(ad))->setFocus();
 }
 
+void Diyalog::Ardindan(QPushButton& dugme, const std::function<void()>& is) {
+    connect(&dugme, &QPushButton::clicked, this, [this, is] {
+        if (baglayici_->Duruyor())
+            is();
+    });
+}
+
+void Diyalog::BulunanaGotur(QPushButton& dugme, QTreeWidget& liste) {
+    Ardindan(dugme, [this, &liste] {
+        if (liste.topLevelItemCount() > 0)
+            liste.setFocus();
+        else if (sonAlan_ != nullptr)
+            sonAlan_->setFocus();
+    });
+}
+
 void Diyalog::OdagiListeyeVer(QPushButton& dugme, QWidget& liste) {
-    connect(&dugme, &QPushButton::clicked, &liste, [&dugme, &liste] {
+    Ardindan(dugme, [&dugme, &liste] {
         if (!dugme.isEnabled())
             liste.setFocus();
     });
@@ -77,7 +116,7 @@ void Diyalog::reject() {
 void Diyalog::showEvent(QShowEvent* olay) {
     // Only now all captions are there, and they may change while the window stands.
     if (!std::exchange(tuslandi_, true))
-        baglayici_->Izle([this] { ErisimTuslariVer(*this); });
+        baglayici_->Izle([this] { ErisimTuslariVer(*this, iptal_); });
     QDialog::showEvent(olay);
 }
 

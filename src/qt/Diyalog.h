@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QFormLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 
 #include "qt/Baglayici.h"
@@ -55,22 +56,33 @@ class Diyalog : public QDialog {
     /// A button under the name of its control, bound to it.
     QPushButton* DugmeYap(const char* ad, Dugme& model, const std::function<void()>& tiklandi);
     void IptalDugmesi(QPushButton* dugme) { iptal_ = dugme; }
-    /// What Enter presses: `dugme` from any field, `listede` while the list has the focus. Another button
-    /// that has the focus comes before both.
+    /// What Enter presses: `dugme` from any field, `listede` while the list has the focus and the button can
+    /// be pressed. Another button that has the focus comes before both.
     void VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushButton& listede);
     /// The control of that name has the focus when the window comes.
     void IlkOdak(const char* ad);
 
+    /// What the window does when the handler of a button has ended: nothing, when that unloaded the screen
+    /// or closed the window. The button has to be bound already.
+    void Ardindan(QPushButton& dugme, const std::function<void()>& is);
+    /// Behind a button that fills the list: the list has the focus, and the next arrow key marks its first
+    /// row. With no row the focus goes back to the field in which it was before the button took it.
+    void BulunanaGotur(QPushButton& dugme, QTreeWidget& liste);
     /// Where the button can't be pressed any more after its work, the list has the focus again.
     void OdagiListeyeVer(QPushButton& dugme, QWidget& liste);
 
     void closeEvent(QCloseEvent* olay) override;
+    void keyPressEvent(QKeyEvent* olay) override;
     void showEvent(QShowEvent* olay) override;
 
   private:
+    void OdagiIzle(QWidget* odak);
+
     Baglayici* baglayici_;
     QPushButton* iptal_ = nullptr;
-    bool tuslandi_ = false; // the captions have their access keys
+    QPointer<QWidget> sonAlan_;             // what had the focus last and is no button
+    const QWidget* enterListesi_ = nullptr; // the list on which Enter presses a button
+    bool tuslandi_ = false;                 // the captions have their access keys
 };
 
 } // namespace velora

@@ -53,13 +53,13 @@ class EkranPenceresi : public Diyalog {
     }
 
     /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
-    /// Enter adds.
+    /// Enter adds, and on a marked row it edits.
     QHBoxLayout* ListeDugmeleri(QWidget& liste) {
         auto* ekle = DugmeYap({"Command1", &Ekran::Command1, &Ekran::Command1_Click});
         auto* duzenle = DugmeYap({"Command4", &Ekran::Command4, &Ekran::Command4_Click});
         auto* sil = DugmeYap({"Command2", &Ekran::Command2, &Ekran::Command2_Click});
         auto* kapat = DugmeYap({"Command3", &Ekran::Command3, &Ekran::Command3_Click});
-        ekle->setDefault(true);
+        VarsayilanDugme(*ekle, liste, *duzenle);
         IptalDugmesi(kapat);
         for (QPushButton* dugme : {duzenle, sil})
             OdagiListeyeVer(*dugme, liste);

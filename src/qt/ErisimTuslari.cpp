@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QSet>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -23,11 +24,20 @@ namespace {
 
 constexpr QChar kNoktaliBuyukI = u'İ'; // its key brings "i" and never this sign
 
+// Saves in every window that saves, and does nothing in the others: a hand that is used to it throws nothing
+// away.
+constexpr QChar kKaydetTusu = u'K';
+constexpr QStringView kKaydet = u"Kaydet";
+
+/// Who chooses its key first.
+enum class Oncelik { Varsayilan, Digerleri, Iptal };
+
 /// A caption on the display.
 struct Baslik {
     QString metin;
     std::function<void(const QString&)> koy;
     QWidget* sayfa; // the page that it is seen on, null for every page
+    Oncelik oncelik = Oncelik::Digerleri;
 };
 
 using Tuslar = QSet<QChar>;
@@ -61,15 +71,22 @@ bool AlanAdi(const QLabel& etiket) {
     return etiket.buddy() != nullptr && etiket.buddy()->focusPolicy() != Qt::NoFocus;
 }
 
+Oncelik DugmeninOnceligi(const QAbstractButton& dugme, const QAbstractButton* iptal) {
+    const auto* basmali = qobject_cast<const QPushButton*>(&dugme);
+    if (basmali != nullptr && basmali->isDefault())
+        return Oncelik::Varsayilan;
+    return &dugme == iptal ? Oncelik::Iptal : Oncelik::Digerleri;
+}
+
 /// All captions of a window.
-std::vector<Baslik> Basliklar(const QWidget& pencere) {
+std::vector<Baslik> Basliklar(const QWidget& pencere, const QAbstractButton* iptal) {
     std::vector<Baslik> basliklar;
     for (QWidget* parca : pencere.findChildren<QWidget*>()) {
         if (parca->window() != &pencere)
             continue;
         if (auto* dugme = qobject_cast<QAbstractButton*>(parca); dugme != nullptr && !dugme->text().isEmpty())
-            basliklar.push_back(
-                {dugme->text(), [dugme](const QString& metin) { dugme->setText(metin); }, Sayfasi(parca)});
+            basliklar.push_back({dugme->text(), [dugme](const QString& metin) { dugme->setText(metin); },
+                                 Sayfasi(parca), DugmeninOnceligi(*dugme, iptal)});
         else if (auto* etiket = qobject_cast<QLabel*>(parca); etiket != nullptr && AlanAdi(*etiket))
             basliklar.push_back(
                 {etiket->text(), [etiket](const QString& metin) { etiket->setText(metin); }, Sayfasi(parca)});
@@ -85,6 +102,7 @@ std::vector<qsizetype> Adaylar(const QString& metin, const Tuslar& dolu) {
     for (const bool basta : {true, false})
         for (qsizetype i = 0; i < metin.size(); ++i)
             if (metin[i].isLetter() && metin[i] != kNoktaliBuyukI && !dolu.contains(Tus(metin[i])) &&
+                (Tus(metin[i]) != kKaydetTusu || metin == kKaydet) &&
                 basta == (i == 0 || !metin[i - 1].isLetter()))
                 yerler.push_back(i);
     return yerler;
@@ -142,15 +160,16 @@ class Dagitim {
     Tuslar denenen_;                  // keys that the caption at hand can't get from their owners
 };
 
-/// The captions of one page that have no mark yet get one; null: those that are seen with every page.
-void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa) {
+/// The captions of one page and one order that have no mark yet get one; no page: those that are seen with
+/// every page.
+void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa, Oncelik oncelik) {
     std::vector<Baslik*> isaretsizler;
     Tuslar dolu;
     for (Baslik& baslik : basliklar) {
         const bool birlikte = sayfa == nullptr || baslik.sayfa == nullptr || baslik.sayfa == sayfa;
         if (const QChar tus = VarolanTus(baslik.metin); !tus.isNull() && birlikte)
             dolu.insert(tus);
-        if (baslik.sayfa == sayfa && !baslik.metin.contains(u'&'))
+        if (baslik.sayfa == sayfa && baslik.oncelik == oncelik && !baslik.metin.contains(u'&'))
             isaretsizler.push_back(&baslik);
     }
     if (!isaretsizler.empty())
@@ -159,15 +178,14 @@ void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa) {
 
 } // namespace
 
-void ErisimTuslariVer(QWidget& pencere) {
-    std::vector<Baslik> basliklar = Basliklar(pencere);
-    std::set<QWidget*> sayfalar;
+void ErisimTuslariVer(QWidget& pencere, const QAbstractButton* iptal) {
+    std::vector<Baslik> basliklar = Basliklar(pencere, iptal);
+    std::set<QWidget*> sayfalar{nullptr}; // that are seen with every page come first
     for (const Baslik& baslik : basliklar)
         sayfalar.insert(baslik.sayfa);
-    SayfayaVer(basliklar, nullptr);
     for (const QWidget* sayfa : sayfalar)
-        if (sayfa != nullptr)
-            SayfayaVer(basliklar, sayfa);
+        for (const auto oncelik : {Oncelik::Varsayilan, Oncelik::Digerleri, Oncelik::Iptal})
+            SayfayaVer(basliklar, sayfa, oncelik);
 }
 
 void ErisimTuslariVer(QMenu& menu) {
@@ -176,7 +194,7 @@ void ErisimTuslariVer(QMenu& menu) {
         if (!girdi->isSeparator())
             girdiler.push_back(
                 {girdi->text(), [girdi](const QString& metin) { girdi->setText(metin); }, nullptr});
-    SayfayaVer(girdiler, nullptr);
+    SayfayaVer(girdiler, nullptr, Oncelik::Digerleri);
 }
 
 QString TusIsaretli(MetinBakis baslik, QChar tus) {

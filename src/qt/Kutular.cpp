@@ -48,11 +48,15 @@ Cevap MesajGoster(QWidget* ust, const MesajKutusu& kutu) {
     pencere.setText(QMetin(kutu.metin));
     pencere.setIcon(KutuSimgesi(kutu.simge));
     const bool soru = kutu.dugmeler == KutuDugmeleri::EvetHayir;
-    QPushButton* olumlu = pencere.addButton(soru ? QStringLiteral("Evet") : QStringLiteral("Tamam"),
+    QPushButton* olumlu = pencere.addButton(soru ? QStringLiteral("&Evet") : QStringLiteral("&Tamam"),
                                             soru ? QMessageBox::YesRole : QMessageBox::AcceptRole);
     pencere.setDefaultButton(olumlu);
-    if (soru)
-        pencere.setEscapeButton(pencere.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole));
+    if (soru) {
+        QPushButton* olumsuz = pencere.addButton(QStringLiteral("&Hayır"), QMessageBox::NoRole);
+        pencere.setEscapeButton(olumsuz);
+        if (kutu.baslangic == Cevap::Hayir)
+            pencere.setDefaultButton(olumsuz);
+    }
     pencere.exec();
     if (!soru)
         return Cevap::Tamam;
@@ -65,8 +69,8 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     pencere.setWindowTitle(QMetin(kutu.baslik));
     pencere.setLabelText(QMetin(kutu.metin));
     pencere.setTextValue(QMetin(kutu.baslangic));
-    pencere.setOkButtonText(QStringLiteral("Tamam"));
-    pencere.setCancelButtonText(QStringLiteral("İptal"));
+    pencere.setOkButtonText(QStringLiteral("&Tamam"));
+    pencere.setCancelButtonText(QStringLiteral("İ&ptal"));
     auto* satir = pencere.findChild<QLineEdit*>();
     GirdiyiDenetle(*satir);
     // The dialog takes its own smallest size from what stands in it.

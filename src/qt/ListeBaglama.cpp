@@ -117,7 +117,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     kalin.setBold(true);
     liste.header()->setFont(kalin);
     IsaretiDinle(*this, liste, model, secildi);
-    connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Calistir(ciftTiklandi); });
+    connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Bas(ciftTiklandi); });
     Izle([&liste, &model, konan = ListeGorunumu()]() mutable {
         const QSignalBlocker sus(&liste);
         if (konan.basliklar != model.basliklar)

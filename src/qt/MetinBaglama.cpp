@@ -149,8 +149,8 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
     kutu.setCompleter(nullptr);
     for (const Metin& oge : model.ogeler)
         kutu.addItem(QMetin(oge));
-    kutu.installEventFilter(this); // the wheel
-    TuslariSuz(kutu);              // its field gets the keys from it, past all filters of its own
+    TekeriBagla(kutu);
+    TuslariSuz(kutu); // its field gets the keys from it, past all filters of its own
     connect(&kutu, &QComboBox::activated, this, [this, &kutu, &model](int sira) {
         Calistir([&] { model.metin = MetinYap(kutu.itemText(sira)); });
     });
@@ -165,6 +165,7 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
 }
 
 void Baglayici::Bagla(QDateEdit& kutu, TarihSecici& model) {
+    TekeriBagla(kutu);
     kutu.setCalendarPopup(true);
     kutu.setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
     connect(&kutu, &QDateEdit::dateChanged, this, [this, &model](QDate gun) {

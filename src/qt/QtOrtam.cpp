@@ -56,7 +56,7 @@ void OlaylariIsle() {
 
 void QtOrtam::SonraSil::operator()(QWidget* pencere) const {
     pencere->hide();
-    pencere->deleteLater();
+    Baglayici::Sil(*pencere);
 }
 
 Ortam QtOrtam::Ver() {

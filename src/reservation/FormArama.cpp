@@ -71,6 +71,8 @@ void FormArama::Command3_Click() {
         Soyle(program_, u"Lütfen geçerli bir sözleşme numarası giriniz!");
         return;
     }
+    // No row of the new list has been clicked yet.
+    Liste.secimDugmeleri.Ac(false);
     Liste.Temizle();
     Ara();
     if (Liste.satirlar.empty())

@@ -138,10 +138,10 @@ void FormKayit::Activate() {
 void FormKayit::Command2_Click() {
     Program& p = program_;
     if (KayitAc == 0 && Basildi == 0 &&
-        !Sor(p,
-             u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
-             u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
-             u"Uyarı", Simge::Uyari))
+        !SilmeyiSor(p,
+                    u"Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
+                    u"Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?",
+                    u"Uyarı", Simge::Uyari))
         return;
     p.FormKayit.Bosalt();
 }

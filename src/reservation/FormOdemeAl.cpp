@@ -27,9 +27,12 @@ void FormOdemeAl::Text1_Change() {
 
 void FormOdemeAl::Command1_Click() {
     Program& p = program_;
-    if (const double tutar = SayisalDeger(Text1.metin); tutar > 0)
+    if (const double tutar = SayisalDeger(Text1.metin); tutar > 0) {
         p.FormKayit->Liste.satirlar.push_back(
             {{TarihMetni(DTPicker1.deger), DuzMetin(tutar), Aciklama.metin}, {}, 0});
+        // The next Enter saves, not takes one more payment.
+        p.ortam.odak.ver(EkranAdi::FormKayit, u"Command1");
+    }
     p.FormOdemeAl.Bosalt();
 }
 

@@ -44,9 +44,8 @@ void DetayiYerlestir(FormKayit& kayit, const DetayDegerler& detay) {
         kayit.Option2.Ata(1);
 }
 
-} // namespace
-
-void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& tarih) {
+/// Fills the screen from the files. False when it isn't to be shown.
+bool KayitDoldur(Program& program, const Metin& yol, const std::optional<Metin>& tarih) {
     // First of all: the loading of the screen lets events run, and the pointer may move on to another day.
     const Metin gun = tarih ? *tarih : program.FormTablo->SeciliTarih;
     const auto kayit = program.FormKayit.Tut();
@@ -57,30 +56,37 @@ void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& 
     }
     kayit->Tarih = gun;
     const Metin detayYolu = yol + Metin(kDetayEki);
-    if (!program.dosyalar.VarMi(detayYolu)) {
-        // Never shown, never closed: left loaded it would pass its flags on to the next new record.
-        program.FormKayit.Bosalt();
-        return;
-    }
+    if (!program.dosyalar.VarMi(detayYolu))
+        return false;
     DetayDegerler detay;
     DetayOku(program.dosyalar, detayYolu, detay);
     DetayiYerlestir(*kayit, detay);
     kayit->Tag = yol;
     kayit->Command10(); // the payments
-    program.FormKayit.GosterModal();
+    return true;
+}
+
+} // namespace
+
+void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& tarih) {
+    // Never shown, never closed: left loaded it would pass its flags on to the next new record.
+    program.FormKayit.GosterModal([&] { return KayitDoldur(program, yol, tarih); });
 }
 
 void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil) {
     if (satir.sutun.front().empty())
         return;
-    program.FormTablo->Salon.Sec(salon);
-    if (!yil.empty())
-        program.FormTablo->Sene.Sec(yil);
-    program.OlaylariIsle();
-    program.FormKayit->KayitAc = 1;
-    program.FormKayit->Tag = satir.tag;
-    // Under the row's own day: its payments are read and written there.
-    KayitYukle(program, satir.tag, satir.sutun.front());
+    // The table's way to the hall and the year lets events run as well: it belongs to the opening.
+    program.FormKayit.GosterModal([&] {
+        program.FormTablo->Salon.Sec(salon);
+        if (!yil.empty())
+            program.FormTablo->Sene.Sec(yil);
+        program.OlaylariIsle();
+        program.FormKayit->KayitAc = 1;
+        program.FormKayit->Tag = satir.tag;
+        // Under the row's own day: its payments are read and written there.
+        return KayitDoldur(program, satir.tag, satir.sutun.front());
+    });
 }
 
 } // namespace velora

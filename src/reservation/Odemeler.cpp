@@ -42,7 +42,7 @@ void FormKayit::Command7_Click() {
         Soyle(program_, u"Alınan ödemeleri silmeye yetkiniz yok!");
         return;
     }
-    if (!Sor(program_, u"Ödeme kaydını silmek istediğinizden emin misiniz?"))
+    if (!SilmeyiSor(program_, u"Ödeme kaydını silmek istediğinizden emin misiniz?"))
         return;
     Liste.SeciliyiSil();
     Command12(); // the totals

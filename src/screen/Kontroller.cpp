@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "screen/Bayrak.h"
+
 namespace velora {
 
 namespace {
@@ -83,13 +85,7 @@ void ListeGorunumu::SeciliyiSil() {
 void Zamanlayici::Calis() {
     if (icinde_ || aralik == 0 || !tik)
         return;
-    struct Icinde {
-        bool& bayrak;
-        explicit Icinde(bool& b) : bayrak(b) { bayrak = true; }
-        ~Icinde() { bayrak = false; }
-        Icinde(const Icinde&) = delete;
-        Icinde& operator=(const Icinde&) = delete;
-    } icinde(icinde_);
+    const Bayrak icinde(icinde_);
     tik();
 }
 

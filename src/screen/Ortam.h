@@ -19,6 +19,7 @@ struct MesajKutusu {
     Metin baslik = u"Velora";
     Simge simge = Simge::Bilgi;
     KutuDugmeleri dugmeler = KutuDugmeleri::Tamam;
+    Cevap baslangic = Cevap::Evet; ///< of a question: the answer that Enter gives at once
 };
 
 struct GirdiKutusu {

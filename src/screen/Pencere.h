@@ -54,8 +54,13 @@ class Pencere {
 
     /// Shows the screen beside the others and returns.
     void Goster();
-    /// Shows the screen over the others and returns when it has closed.
-    void GosterModal();
+    /// Shows the screen over the others and returns when it has closed. `hazirla` runs before: it loads and
+    /// fills the screen and tells whether it is to be shown; a screen that isn't is unloaded.
+    ///
+    /// One opening at a time: loading and filling let events run, so a second request can come in the middle
+    /// of the first one. From there until the screen has closed it does nothing, and its `hazirla` doesn't
+    /// run.
+    void GosterModal(const std::function<bool()>& hazirla = {});
     /// Unloads the screen and closes its window.
     void Bosalt();
 
@@ -65,6 +70,7 @@ class Pencere {
     Program& program_;
     EkranAdi ad_;
     std::shared_ptr<Ekran> ekran_;
+    bool aciliyor_ = false; // an opening over the others goes on
 };
 
 } // namespace velora

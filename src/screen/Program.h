@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screen/Bayrak.h"
 #include "screen/Ortam.h"
 #include "screen/Pencere.h"
 #include "storage/Tarih.h"
@@ -51,7 +52,15 @@ void Pencere<Ekran>::Goster() {
 }
 
 template <class Ekran>
-void Pencere<Ekran>::GosterModal() {
+void Pencere<Ekran>::GosterModal(const std::function<bool()>& hazirla) {
+    if (aciliyor_)
+        return;
+    const Bayrak acilis(aciliyor_);
+    if (hazirla && !hazirla())
+        return Bosalt();
+    // Filled and gone again: a fresh one would be empty.
+    if (hazirla && !Yuklu())
+        return;
     Tut();
     program_.yigin.Koy(ad_, [this] { Etkinlestir(); });
     program_.ortam.goster.modal(ad_, [this] { Etkinlestir(); });

@@ -8,6 +8,11 @@ bool Sor(const Program& program, const Metin& metin, const Metin& baslik, Simge 
     return program.ortam.sor.mesaj({metin, baslik, simge, KutuDugmeleri::EvetHayir}) == Cevap::Evet;
 }
 
+bool SilmeyiSor(const Program& program, const Metin& metin, const Metin& baslik, Simge simge) {
+    return program.ortam.sor.mesaj({metin, baslik, simge, KutuDugmeleri::EvetHayir, Cevap::Hayir}) ==
+           Cevap::Evet;
+}
+
 void Soyle(const Program& program, const Metin& metin, const Metin& baslik, Simge simge) {
     program.ortam.sor.mesaj({metin, baslik, simge, KutuDugmeleri::Tamam});
 }

@@ -10,6 +10,10 @@ struct Program;
 bool Sor(const Program& program, const Metin& metin, const Metin& baslik = u"Velora",
          Simge simge = Simge::Soru);
 
+/// The same for what deletes, cancels or throws away: it starts on the no, so that Enter loses nothing.
+bool SilmeyiSor(const Program& program, const Metin& metin, const Metin& baslik = u"Velora",
+                Simge simge = Simge::Soru);
+
 /// Tells something, and waits until it has been read.
 void Soyle(const Program& program, const Metin& metin, const Metin& baslik = u"Velora",
            Simge simge = Simge::Bilgi);

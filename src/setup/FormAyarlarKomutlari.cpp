@@ -8,12 +8,12 @@
 namespace velora {
 
 void FormAyarlar::Renk_Click(int n) {
-    {
+    program_.FormRenk.GosterModal([&] {
         const auto secici = program_.FormRenk.Tut();
         secici->picColorBox.zemin = Renk(n);
         secici->Tag = SayiMetni(n);
-    }
-    program_.FormRenk.GosterModal();
+        return true;
+    });
 }
 
 void FormAyarlar::Command4_Click() {

@@ -41,15 +41,17 @@ void FormMenuAyar::Liste_DblClick() {
 }
 
 void FormMenuAyar::Command1_Click() {
-    program_.FormMenuEkle->Tag.clear();
-    program_.FormMenuEkle.GosterModal();
+    program_.FormMenuEkle.GosterModal([this] {
+        program_.FormMenuEkle->Tag.clear();
+        return true;
+    });
 }
 
 void FormMenuAyar::Command4_Click() {
     const ListeSatiri* satir = Liste.Secili();
     if (satir == nullptr)
         return;
-    {
+    program_.FormMenuEkle.GosterModal([&] {
         const auto ekle = program_.FormMenuEkle.Tut();
         const SutunMetinleri& sutun = satir->sutun;
         ekle->Text1.metin = sutun[0];
@@ -58,13 +60,13 @@ void FormMenuAyar::Command4_Click() {
         ekle->Tag = SayiMetni(Liste.secili);
         ekle->baslik = u"Menü Düzenle";
         ekle->Command4.baslik = u"Değiştir";
-    }
-    program_.FormMenuEkle.GosterModal();
+        return true;
+    });
 }
 
 void FormMenuAyar::Command2_Click() {
     Liste.secimDugmeleri.Ac(false);
-    if (!Sor(program_, u"Seçili menüyü silmek istediğinizden emin misiniz?"))
+    if (!SilmeyiSor(program_, u"Seçili menüyü silmek istediğinizden emin misiniz?"))
         return;
     Liste.SeciliyiSil();
     Kaydet_Click();

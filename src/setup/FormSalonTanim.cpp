@@ -78,8 +78,8 @@ void FormSalonTanim::Ekle(const Metin& salon) {
 
 void FormSalonTanim::Command2_Click() {
     List1.secimDugmeleri.Ac(false);
-    if (!Sor(program_, u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\n"
-                       u"Seçili salonu silmek istediğinize emin misiniz?"))
+    if (!SilmeyiSor(program_, u"Seçili salonu silerseniz bu salona ait rezervasyonları göremezsiniz!\n"
+                              u"Seçili salonu silmek istediğinize emin misiniz?"))
         return;
     const auto tablo = program_.FormTablo.Tut();
     tablo->Salon.Sil(List1.secili);
@@ -89,12 +89,12 @@ void FormSalonTanim::Command2_Click() {
 }
 
 void FormSalonTanim::Command4_Click() {
-    {
+    program_.FormSalonTanimAd.GosterModal([this] {
         const auto ad = program_.FormSalonTanimAd.Tut();
         ad->Label2.baslik = SayiMetni(List1.secili);
         ad->Tag = ad->Text1.metin = List1.Metni();
-    }
-    program_.FormSalonTanimAd.GosterModal();
+        return true;
+    });
 }
 
 void FormSalonTanim::Command3_Click() {
@@ -123,8 +123,10 @@ void IlkSalonuSor(Program& program) {
              u"Salon Tanımı"))
         Soyle(program, Satirlar(kTanimsizOlmaz, u"Lütfen önce salon tanımı yapınız!"), u"Velora",
               Simge::Kritik);
-    program.FormSalonTanim->Command3.etkin = false;
-    program.FormSalonTanim.GosterModal();
+    program.FormSalonTanim.GosterModal([&program] {
+        program.FormSalonTanim->Command3.etkin = false;
+        return true;
+    });
 }
 
 } // namespace velora

@@ -76,14 +76,14 @@ void FormTablo::newkay_Click() {
         program_.FormSalonTanim.GosterModal();
         return;
     }
-    {
+    program_.FormKayit.GosterModal([&] {
         const auto kayit = program_.FormKayit.Tut();
         kayit->Tarih = gun;
         kayit->Kay[AnaNo::ToplamUcret].kilitli = false;
         kayit->Kay[AnaNo::BaslamaSaati].metin =
             AnahtarDilimi(gun) == velora::GunduzGece::Gunduz ? kGunduzBaslangici : kGeceBaslangici;
-    }
-    program_.FormKayit.GosterModal();
+        return true;
+    });
 }
 
 } // namespace velora

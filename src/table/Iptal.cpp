@@ -8,7 +8,7 @@
 namespace velora {
 
 void FormTablo::iptals_Click() {
-    if (!Sor(program_, u"Seçili kaydı silmek istediğinizden emin misiniz?"))
+    if (!SilmeyiSor(program_, u"Seçili kaydı silmek istediğinizden emin misiniz?"))
         return;
     const Metin sebep = program_.ortam.sor.girdi(
         {.metin = u"İptal sebebini yazınız!", .baslik = u"İptal Sebebi", .baslangic = u""});

@@ -89,6 +89,8 @@ std::optional<Tur> SahteOrtam::SiradanAl(const std::string& gelen) {
 }
 
 Cevap SahteOrtam::MesajSor(const MesajKutusu& kutu) {
+    if (kutu.baslangic == Cevap::Hayir)
+        hayirdaBaslayanlar.push_back(kutu.metin);
     const auto beklenen = SiradanAl<BeklenenKutu>("the box " + Tirnakli(kutu.metin));
     if (!beklenen)
         return kutu.dugmeler == KutuDugmeleri::EvetHayir ? Cevap::Hayir : Cevap::Tamam;

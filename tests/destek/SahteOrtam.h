@@ -65,6 +65,7 @@ class SahteOrtam {
     std::vector<EkranAdi> acilanlar; ///< shown, beside the others or over them
     std::vector<EkranAdi> gizlenenler;
     std::vector<std::filesystem::path> acilanDosyalar; ///< given to the user's own programs
+    std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
 
   private:

@@ -1,5 +1,6 @@
 #include <stdexcept>
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
-#include <QWheelEvent>
 
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
@@ -175,15 +175,26 @@ class BaglayiciTest : public QObject {
         QCOMPARE(kutu.palette().color(QPalette::PlaceholderText), kutu.palette().color(QPalette::Text));
     }
 
-    void the_wheel_over_a_list_without_the_focus_changes_nothing() {
+    void a_press_in_the_middle_of_a_press_is_dropped_also_on_another_button() {
         Sahne sahne;
-        QComboBox kutu(&sahne.pencere);
-        sahne.baglayici.Bagla(kutu, sahne.ekran->liste);
-        QWheelEvent olay({5, 5}, {5, 5}, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                         Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&kutu, &olay);
-        QCOMPARE(sahne.ekran->liste.secili, 0);
-        QCOMPARE(kutu.currentIndex(), 0);
+        QPushButton bir(&sahne.pencere);
+        QPushButton iki(&sahne.pencere);
+        QAction girdi(&sahne.pencere);
+        MenuGirdisi model;
+        const auto say = [&] { ++sahne.sayi; };
+        sahne.baglayici.Bagla(iki, sahne.ekran->dugme, say);
+        sahne.baglayici.Bagla(girdi, model, say);
+        sahne.baglayici.Bagla(bir, sahne.ekran->dugme, [&] {
+            say();
+            bir.click();
+            iki.click();
+            girdi.trigger();
+        });
+        bir.click();
+        QCOMPARE(sahne.sayi, 1);
+        iki.click();
+        girdi.trigger();
+        QCOMPARE(sahne.sayi, 3);
     }
 
     void a_list_view_shows_columns_and_marks_rows_both_ways() {

@@ -120,6 +120,25 @@ class BakiyePenceresiTest : public QObject {
         });
     }
 
+    void enter_lists_again_after_the_focus_went_from_the_list_over_a_button_to_a_field() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Ac();
+        Raporda(firma, [&](QDialog& pencere) {
+            Parcasi<QPushButton>(pencere, "ListeleGun").click();
+            auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+            QVERIFY(liste.hasFocus());
+            SatiraTikla(liste, 0);
+            QVERIFY(Parcasi<QPushButton>(pencere, "Command6").isDefault());
+            Parcasi<QPushButton>(pencere, "Command1").setFocus();
+            Parcasi<QWidget>(pencere, "Combo1").setFocus();
+            QVERIFY(Parcasi<QPushButton>(pencere, "ListeleGun").isDefault());
+            firma.Rezervasyon(kSalonA, u"11.05.2026 - Gece", true);
+            Tusla(Qt::Key_Return);
+            QCOMPARE(liste.topLevelItemCount(), 2);
+        });
+    }
+
     void a_row_marked_with_the_keys_opens_by_the_button() {
         GuiFirma firma;
         firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);

@@ -21,6 +21,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
 #include "reservation/FormKayit.h"
@@ -179,6 +180,38 @@ class DiyalogKlavyesiTest : public QObject {
                         }
                         QVERIFY(yazilabilen > 0);
                     }});
+    }
+
+    void the_key_k_saves_wherever_something_is_saved_and_belongs_to_nothing_else() {
+        GuiFirma firma;
+        firma.Ac();
+        int kaydedenler = 0;
+        for (const bool eski : {false, true}) // a record that is there already says "Kaydet", a new one
+                                              // doesn't
+            for (const Diyalog& diyalog : kDiyaloglar)
+                Diyalogda(firma, diyalog, [&](QDialog& pencere) {
+                    if (eski && diyalog.ekran == EkranAdi::FormKayit) {
+                        SorusuzKapansin(firma.program);
+                        firma.program.FormKayit->Activate();
+                        Baglayici::HepsiniTazele();
+                    }
+                    for (const QString& yazi : Yazilar(pencere)) {
+                        QCOMPARE(yazi.contains(QStringLiteral("&K")), yazi == QStringLiteral("&Kaydet"));
+                        QVERIFY2(!yazi.contains(QStringLiteral("&k")), qPrintable(yazi));
+                        kaydedenler += yazi == QStringLiteral("&Kaydet") ? 1 : 0;
+                    }
+                });
+        QCOMPARE(kaydedenler, 3); // the record once, the settings twice
+    }
+
+    void the_button_of_enter_has_its_first_letter() {
+        GuiFirma firma;
+        firma.Ac();
+        for (const Diyalog& diyalog : kDiyaloglar)
+            Diyalogda(firma, diyalog, [&](QDialog& pencere) {
+                const QString yazi = Parcasi<QPushButton>(pencere, diyalog.dolu).text();
+                QVERIFY2(yazi.startsWith(u'&'), qPrintable(yazi));
+            });
     }
 
     void the_captions_of_the_screens_know_no_marks() {

@@ -28,9 +28,36 @@ GuiFirma::~GuiFirma() {
     disDunya.PencereleriBirak();
 }
 
+void GuiFirma::AradaCalis() const {
+    // A copy: what runs may take itself out.
+    if (const auto is = arada)
+        is();
+}
+
 Ortam GuiFirma::Dis() {
     Ortam ortam = disDunya.Ver();
     ortam.zaman.simdi = [this] { return simdi; };
+    ortam.olaylar.isle = [this, isle = ortam.olaylar.isle] {
+        isle();
+        AradaCalis();
+    };
+    ortam.sor.mesaj = [this, sor = ortam.sor.mesaj](const MesajKutusu& kutu) {
+        if (!hazirCevap)
+            return sor(kutu);
+        AradaCalis();
+        return *hazirCevap;
+    };
+    ortam.sor.girdi = [this, sor = ortam.sor.girdi](const GirdiKutusu& kutu) {
+        if (!hazirCevap)
+            return sor(kutu);
+        AradaCalis();
+        return Metin(u"Yeni");
+    };
+    ortam.goster.modal = [this, modal = ortam.goster.modal](EkranAdi ekran, const auto& gorununce) {
+        if (!hazirCevap)
+            return modal(ekran, gorununce);
+        AradaCalis();
+    };
     return ortam;
 }
 

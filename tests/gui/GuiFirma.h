@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <optional>
+
 #include "destek/GeciciAgac.h"
 #include "qt/QtOrtam.h"
 #include "screen/Program.h"
@@ -40,6 +43,13 @@ class GuiFirma {
     /// The middle of a part of the table, in logical pixels, from its place in device pixels.
     QPoint Orta(const QRect& yer);
 
+    /// Runs behind each "let pending events run", each answered box and each shown screen: where something
+    /// else can come in between.
+    std::function<void()> arada;
+    /// While set, boxes aren't shown but answered so, and screens aren't shown over others but closed at
+    /// once.
+    std::optional<Cevap> hazirCevap;
+
     GeciciAgac agac;
     QtOrtam disDunya;
     std::chrono::local_seconds simdi;
@@ -48,6 +58,7 @@ class GuiFirma {
   private:
     QWidget& PencereParcasi();
     Ortam Dis();
+    void AradaCalis() const;
 };
 
 inline constexpr MetinBakis kSalonA = u"Gül Salonu";

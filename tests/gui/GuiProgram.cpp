@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QTest>
 
+#include "qt/Dil.h"
 #include "qt/Gorunum.h"
 
 namespace velora::test {
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication uygulama(argc, argv);
+    velora::DiliKur();
     velora::GorunumuKur();
     std::vector<char*> kalanlar(argv, argv + argc);
     kalanlar.erase(kalanlar.begin() + 1);

@@ -119,7 +119,8 @@ class KayitPenceresiTest : public QObject {
                           QCOMPARE(kutu.text(),
                                    QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\n"
                                                   "Bu Rezervasyon kaydı oluşturulmayacak emin misiniz?"));
-                          QTest::keyClick(kutu.defaultButton(), Qt::Key_Return);
+                          QTest::keyClick(&kutu, Qt::Key_E);
+                          Kapanincaya(kutu);
                       })});
         });
         QVERIFY(!firma.program.FormKayit.Yuklu());

@@ -88,7 +88,7 @@ Is Mesaj(const QString& metin, const QString& dugme) {
     return Kutuda<QMessageBox>([=](QMessageBox& kutu) {
         QCOMPARE(kutu.text(), metin);
         for (QAbstractButton* aday : kutu.buttons())
-            if (aday->text() == dugme)
+            if (Isaretsiz(aday->text()) == dugme)
                 return QTest::mouseClick(aday, Qt::LeftButton);
         QFAIL("the box has no such button");
     });
@@ -126,6 +126,16 @@ void MenudenSec(GuiFirma& firma, const char* girdi) {
     QTest::mouseClick(&serit, Qt::LeftButton, {}, serit.actionGeometry(menu.menuAction()).center());
     QVERIFY(menu.isVisible());
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&firma.Bul<QAction>(girdi)).center());
+}
+
+void TekeriCevir(QWidget& parca) {
+    constexpr int kDis = -120; // towards the user
+    const QPoint orta = parca.rect().center();
+    QWheelEvent olay(orta, parca.mapToGlobal(orta), {}, {0, kDis}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&olay);
+    QWidget* alt = parca.childAt(orta);
+    QCoreApplication::instance()->notify(alt == nullptr ? &parca : alt, &olay);
 }
 
 void Tikla(QWidget& pencere, const char* ad) {

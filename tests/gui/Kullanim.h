@@ -68,6 +68,10 @@ void YeniKayitta(GuiFirma& firma, MetinBakis gun, const std::vector<Is>& isler);
 /// Clicks on an entry of the menu "Ayarlar" of the main screen, by the name of its control.
 void MenudenSec(GuiFirma& firma, const char* girdi);
 
+/// One notch of the wheel over the middle of a widget, as the system sends it: the toolkit may give the focus
+/// to what lies there before anything else happens.
+void TekeriCevir(QWidget& parca);
+
 /// Clicks on the middle of a widget of a window, by the name of its control.
 void Tikla(QWidget& pencere, const char* ad);
 

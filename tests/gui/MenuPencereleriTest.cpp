@@ -9,6 +9,7 @@
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
 #include "setup/FormMenuAyar.h"
+#include "setup/FormMenuEkle.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -43,6 +44,32 @@ class MenuPencereleriTest : public QObject {
     }
 
   private slots:
+    void enter_on_a_marked_menu_edits_it_and_on_none_adds_one() {
+        GuiFirma firma;
+        firma.agac.Koy(u"Menuler.dat", kIkiMenu);
+        firma.Ac();
+        Menulerde(firma, [&](QDialog& pencere) {
+            QCOMPARE(Odaktaki(), QStringLiteral("Liste"));
+            const auto acilan = [](QString& baslik) -> Is {
+                return [&baslik](QDialog& ekle) { baslik = ekle.windowTitle(); };
+            };
+            QString baslik;
+            Pencerede([] { Tusla(Qt::Key_Return); }, {acilan(baslik)});
+            QCOMPARE(baslik, QStringLiteral("Menü Ekle"));
+            firma.program.FormMenuEkle.Bosalt();
+            pencere.activateWindow();
+            Liste(pencere).setFocus();
+            QTRY_VERIFY(Liste(pencere).hasFocus());
+            Tusla(Qt::Key_Down);
+            Tusla(Qt::Key_Down);
+            Pencerede([] { Tusla(Qt::Key_Return); }, {[&](QDialog& duzenle) {
+                          QCOMPARE(duzenle.windowTitle(), QStringLiteral("Menü Düzenle"));
+                          QCOMPARE(Parcasi<QLineEdit>(duzenle, "Text1").text(), QStringLiteral("Kına"));
+                      }});
+            firma.program.FormMenuEkle.Bosalt();
+        });
+    }
+
     void a_menu_that_is_typed_stands_in_the_list_and_on_the_disk() {
         GuiFirma firma;
         firma.Ac();

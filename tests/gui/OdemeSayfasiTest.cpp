@@ -75,6 +75,36 @@ class OdemeSayfasiTest : public QObject {
         });
     }
 
+    void enter_saves_after_a_payment_was_added_and_not_after_none_was() {
+        GuiFirma firma;
+        Odemelerde(firma, [&](QDialog& pencere) {
+            Pencerede([&] { Tikla(pencere, "Command8"); }, {TusBas(Qt::Key_Escape)});
+            QCOMPARE(pencere.focusWidget()->objectName(), QStringLiteral("Command8"));
+            Ekle(pencere, [](QDialog&) {
+                Yaz(QStringLiteral("730"));
+                Tusla(Qt::Key_Return);
+            });
+            pencere.activateWindow();
+            QTRY_COMPARE(Odaktaki(), QStringLiteral("Command1"));
+            Tusla(Qt::Key_Return);
+            QVERIFY(!firma.program.FormKayit.Yuklu());
+        });
+        QVERIFY(firma.agac.Bayt(Metin(kSalonA) + u"/2026/" + Metin(kGun) + u"-Odeme").find("\"730\"") !=
+                std::string::npos);
+    }
+
+    void enter_on_a_payment_saves_nothing() {
+        GuiFirma firma;
+        Odemelerde(firma, [&](QDialog& pencere) {
+            SatiraTikla(Liste(pencere), 1);
+            QVERIFY(Liste(pencere).hasFocus());
+            for (const Qt::Key tus : {Qt::Key_Return, Qt::Key_Enter})
+                Tusla(tus);
+            QVERIFY(firma.program.FormKayit.Yuklu());
+            QVERIFY(pencere.isVisible());
+        });
+    }
+
     void ok_waits_for_an_amount_and_escape_closes_without_a_row() {
         GuiFirma firma;
         Odemelerde(firma, [](QDialog& pencere) {

@@ -7,11 +7,11 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include "destek/Kayitlar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
@@ -107,16 +107,20 @@ class TabloPenceresiTest : public QObject {
         QVERIFY(!firma.Model().BuGun.gorunur);
     }
 
-    void the_wheel_over_a_list_after_a_choice_changes_nothing() {
+    void the_wheel_over_the_lists_changes_neither_hall_nor_year_at_the_start_nor_after_a_choice() {
         GuiFirma firma;
         firma.Ac();
+        firma.Tablo().setFocus();
         auto& sene = firma.Bul<QComboBox>("Sene");
+        TekeriCevir(firma.Bul<QComboBox>("Salon"));
+        TekeriCevir(sene);
+        QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonA));
+        QCOMPARE(firma.Model().Sene.Metni(), Metin(u"2026"));
         sene.setFocus();
         QTest::keyClick(&sene, Qt::Key_Down);
-        QWheelEvent olay({5, 5}, sene.mapToGlobal(QPointF(5, 5)), {0, -120}, {0, -120}, Qt::NoButton,
-                         Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&sene, &olay);
+        TekeriCevir(sene);
         QCOMPARE(firma.Model().Sene.Metni(), Metin(u"2027"));
+        QVERIFY(!firma.agac.KlasorVar(Metin(kSalonA) + u"/2028"));
     }
 
     void a_quick_scan_shows_only_its_end() {

@@ -41,6 +41,22 @@ TEST_F(AramaKayit, Detaylar_opens_the_record_of_the_row) {
     EXPECT_FALSE(Prog().FormKayit.Yuklu()) << "nothing loads it once more behind that";
 }
 
+TEST_F(AramaKayit, A_second_Enter_while_a_record_is_opening_does_nothing) {
+    Ara(kAd, u"şükran");
+    int araya = 0;
+    KayitBekle([&] {
+        kullanici.ortam.olayda = {};
+        EXPECT_EQ(Kayit().Kay[1].metin, u"Şükran Öz");
+    });
+    Isaretle(0);
+    kullanici.ortam.olayda = [&](int) {
+        ++araya;
+        Arama().Command1_Click();
+    };
+    VELORA_BAS(Prog().FormArama, Command1);
+    EXPECT_GE(araya, 3) << "the table's way to the hall lets events run";
+}
+
 TEST_F(AramaKayit, A_double_click_opens_only_while_Detaylar_is_enabled) {
     AramaAcikken([&] {
         Ara(kAd, u"şükran");

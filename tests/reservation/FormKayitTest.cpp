@@ -266,6 +266,7 @@ TEST_F(FormKayitTest, An_unsaved_new_record_closes_only_after_a_yes) {
         KutuBekle(soru, Cevap::Evet, Simge::Uyari, u"Uyarı");
         KapataBas();
         EXPECT_FALSE(Prog().FormKayit.Yuklu());
+        EXPECT_EQ(kullanici.ortam.hayirdaBaslayanlar, (std::vector<Metin>{soru, soru}));
         EXPECT_EQ(agac.Resim(), once);
     });
 }

@@ -16,6 +16,7 @@ class OdemelerTest : public KayitTest {
             OdemeSec(0);
             SilmeSorusuBekle(Cevap::Evet);
             VELORA_BAS(Prog().FormKayit, Command7);
+            EXPECT_EQ(kullanici.ortam.hayirdaBaslayanlar.size(), 1U);
             sonra();
         });
     }

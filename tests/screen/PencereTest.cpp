@@ -128,6 +128,57 @@ TEST_F(PencereTest, Screen_unloaded_by_its_own_Activate_is_not_activated_again) 
     EXPECT_EQ(Gunluk(), (std::vector<std::string>{"üst öne geldi", "alt gitti"}));
 }
 
+TEST_F(PencereTest, What_fills_a_screen_runs_before_it_is_shown) {
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormTablo, [this] { EXPECT_EQ(alt->alan, 9); }});
+    alt.GosterModal([this] {
+        alt->alan = 9;
+        return true;
+    });
+}
+
+TEST_F(PencereTest, A_screen_that_could_not_be_filled_is_unloaded_and_not_shown) {
+    alt.GosterModal([this] {
+        alt->alan = 9;
+        return false;
+    });
+    EXPECT_FALSE(alt.Yuklu());
+    EXPECT_TRUE(ortam.acilanlar.empty());
+}
+
+TEST_F(PencereTest, A_second_opening_does_nothing_while_the_first_one_fills_the_screen_or_it_stands) {
+    int ikinciler = 0;
+    const auto ikinci = [&] {
+        ++ikinciler;
+        alt.GosterModal([] {
+            ADD_FAILURE() << "the second opening filled the screen";
+            return false;
+        });
+    };
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormTablo, ikinci});
+    alt.GosterModal([&] {
+        ikinci();
+        alt->alan = 9;
+        ikinci();
+        return true;
+    });
+    EXPECT_EQ(ikinciler, 3);
+    EXPECT_EQ(alt->alan, 9);
+    EXPECT_EQ(ortam.acilanlar, std::vector<EkranAdi>{EkranAdi::FormTablo});
+    alt.Bosalt();
+    ortam.Bekle(BeklenenEkran{EkranAdi::FormTablo}); // the next one opens it again
+    alt.GosterModal();
+}
+
+TEST_F(PencereTest, A_screen_that_went_while_it_was_filled_is_not_shown_empty) {
+    alt.GosterModal([this] {
+        alt->alan = 9;
+        alt.Bosalt();
+        return true;
+    });
+    EXPECT_FALSE(alt.Yuklu());
+    EXPECT_TRUE(ortam.acilanlar.empty());
+}
+
 TEST_F(PencereTest, Today_comes_from_the_outside_world) {
     EXPECT_EQ(TarihMetni(program.Bugun()), u"15.06.2012");
 }

@@ -49,6 +49,7 @@ class MenuTest : public ::testing::Test {
         ortam.Bekle(BeklenenKutu{u"Velora", u"Seçili menüyü silmek istediğinizden emin misiniz?", Simge::Soru,
                                  cevap});
         VELORA_BAS(program.FormMenuAyar, Command2);
+        EXPECT_EQ(ortam.hayirdaBaslayanlar.back(), u"Seçili menüyü silmek istediğinizden emin misiniz?");
     }
 
     GeciciAgac agac;

@@ -44,6 +44,7 @@ class SalonTest : public ::testing::Test {
                          u"salonu silmek istediğinize emin misiniz?",
                          Simge::Soru, cevap});
         VELORA_BAS(kullanici.Prog().FormSalonTanim, Command2);
+        EXPECT_TRUE(Ortam().hayirdaBaslayanlar.back().starts_with(u"Seçili salonu silerseniz"));
     }
     /// The dialogue of a hall's name is expected next; `is` is done while it stands.
     void AdAcikken(std::function<void()> is) {

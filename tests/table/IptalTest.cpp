@@ -37,6 +37,8 @@ TEST_F(Iptal, Removes_the_three_files_and_logs_one_line_with_the_reason) {
                                             "admin - Vazge\xE7ti, \"\xFEimdilik\"\r\n");
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "7\r\n");
     RenkOlmali(20, 6, kGunduz, 2, 3);
+    EXPECT_EQ(kullanici.ortam.hayirdaBaslayanlar,
+              std::vector<Metin>{u"Seçili kaydı silmek istediğinizden emin misiniz?"});
 }
 
 TEST_F(Iptal, Cancel_in_the_reason_box_still_cancels_and_the_line_ends_in_the_separator_on_purpose) {

@@ -33,6 +33,35 @@ TEST_F(KayitAcma, Double_click_opens_the_reservation_of_the_cell_with_its_day_as
     kullanici.CiftTikla({20, 6, kGece});
 }
 
+TEST_F(KayitAcma, A_second_opening_does_nothing_wherever_it_comes_into_the_load_of_the_first) {
+    RezervasyonKoy(u"20.06.2012 - Gece", {.ad = u"Şükran Öz"});
+    RezervasyonKoy(u"22.07.2012 - Gündüz", {.ad = u"Başkası"});
+    kullanici.ProgramiAc();
+    int araya = 0;
+    const auto herOlayda = [&](int) {
+        ++araya;
+        kullanici.Tablo().SeciliTarih = u"23.08.2012 - Gece";
+        kullanici.Tablo().newkay_Click();
+        kullanici.CiftTikla({22, 7, kGunduz});
+    };
+    for (const bool yeni : {true, false}) {
+        AcilincaBak([&](const FormKayit& kayit) {
+            kullanici.ortam.olayda = {};
+            EXPECT_EQ(kayit.Tarih, yeni ? u"24.09.2012 - Gündüz" : u"20.06.2012 - Gece");
+            EXPECT_EQ(kayit.Kay[AnaNo::AdiSoyadi].metin, yeni ? u"" : u"Şükran Öz");
+        });
+        if (yeni) {
+            ASSERT_TRUE(kullanici.SagTikla({24, 9, kGunduz}));
+        }
+        kullanici.ortam.olayda = herOlayda;
+        if (yeni)
+            kullanici.KomutSec(Komut::newkay);
+        else
+            kullanici.CiftTikla({20, 6, kGece});
+    }
+    EXPECT_GE(araya, 2) << "nothing came in between";
+}
+
 TEST_F(KayitAcma, Double_click_on_a_free_cell_does_nothing) {
     RezervasyonKoy(u"20.06.2012 - Gece");
     kullanici.ProgramiAc();

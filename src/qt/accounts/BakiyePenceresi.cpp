@@ -34,13 +34,15 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
     auto* suzgecler = new QGridLayout;
     sutun->addLayout(suzgecler);
     SuzgecleriKur(*suzgecler);
-    QWidget* liste = ListeYap(kBakiyeSutunEnleri, &FormBakiye::Liste_Click, &FormBakiye::Liste_DblClick);
+    QTreeWidget* liste = ListeYap(kBakiyeSutunEnleri, &FormBakiye::Liste_Click, &FormBakiye::Liste_DblClick);
     sutun->addWidget(liste, 1);
     sutun->addWidget(Toplamlar());
     auto* detay = DugmeYap({"Command6", &FormBakiye::Command6, &FormBakiye::Command6_Click});
     auto* kapat = DugmeYap({"Command1", &FormBakiye::Command1, &FormBakiye::Command1_Click});
     IptalDugmesi(kapat);
-    VarsayilanDugme(*findChild<QPushButton*>(QStringLiteral("ListeleGun")), *liste, *detay);
+    auto* listele = findChild<QPushButton*>(QStringLiteral("ListeleGun"));
+    VarsayilanDugme(*listele, *liste, *detay);
+    BulunanaGotur(*listele, *liste);
     OdagiListeyeVer(*detay, *liste);
     sutun->addLayout(DugmeSeridi({detay, kapat}));
     resize(1080, 600);

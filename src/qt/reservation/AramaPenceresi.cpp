@@ -36,11 +36,12 @@ AramaPenceresi::AramaPenceresi(Program& program) : EkranPenceresi(program.FormAr
     sutun->addWidget(liste, 1);
     auto* detaylar = DugmeYap({"Command1", &FormArama::Command1, &FormArama::Command1_Click});
     // Back to the list: "Detaylar" is disabled behind it, and "Kapat" would come next.
-    connect(detaylar, &QPushButton::clicked, liste, [liste] { liste->setFocus(); });
+    Ardindan(*detaylar, [liste] { liste->setFocus(); });
     auto* kapat = DugmeYap({"Command2", &FormArama::Command2, &FormArama::Command2_Click});
     IptalDugmesi(kapat);
     sutun->addLayout(DugmeSeridi({detaylar, kapat}));
     VarsayilanDugme(*ara, *liste, *detaylar);
+    BulunanaGotur(*ara, *liste);
     resize(940, 580);
     IlkOdak("Text1");
 }
