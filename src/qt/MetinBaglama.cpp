@@ -55,6 +55,29 @@ class OdaktaSecen : public QObject {
     }
 };
 
+/// A click into a date chooses the part that it falls on: what is typed next takes its place. The toolkit
+/// only sets its cursor into the digits, where no other digit finds room.
+class BolumSecen : public QObject {
+  public:
+    explicit BolumSecen(QDateEdit& kutu) : QObject(&kutu), kutu_(kutu) {
+        kutu.findChild<QLineEdit*>()->installEventFilter(this);
+    }
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() == QEvent::MouseButtonRelease)
+            QMetaObject::invokeMethod(
+                &kutu_, [this] { Sec(); }, Qt::QueuedConnection);
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    void Sec() const {
+        if (!kutu_.findChild<QLineEdit*>()->hasSelectedText())
+            kutu_.setSelectedSection(kutu_.currentSection());
+    }
+
+    QDateEdit& kutu_;
+};
+
 QDate QGun(const Gun& gun) {
     return {static_cast<int>(gun.year()), static_cast<int>(static_cast<unsigned>(gun.month())),
             static_cast<int>(static_cast<unsigned>(gun.day()))};
@@ -168,6 +191,7 @@ void Baglayici::Bagla(QDateEdit& kutu, TarihSecici& model) {
     TekeriBagla(kutu);
     kutu.setCalendarPopup(true);
     kutu.setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
+    new BolumSecen(kutu);
     connect(&kutu, &QDateEdit::dateChanged, this, [this, &model](QDate gun) {
         Calistir([&model, gun] {
             model.deger =

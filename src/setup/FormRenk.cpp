@@ -33,6 +33,10 @@ int Bilesen(const MetinKutusu& kutu) {
 FormRenk::FormRenk(Program& program) : program_(program) {
     for (MetinKutusu* kutu : {&txtRed, &txtGreen, &txtBlue, &txtWeb, &txtHex, &txtTers})
         kutu->metin = u"0";
+    for (MetinKutusu* kutu : {&txtWeb, &txtHex, &txtTers}) {
+        kutu->kilitli = true;
+        kutu->beyazZemin = false;
+    }
     picColorBox.once = u"Seçilen renk";
     txtRed.baslik = u"R";
     txtGreen.baslik = u"G";
@@ -66,13 +70,25 @@ void FormRenk::Sec(RenkDegeri renk) {
     const int kirmizi = std::max(hamKirmizi, 0);
     const int yesil = std::max(static_cast<int>(hamYesil), 0);
     const int mavi = std::max(hamMavi, 0);
-    picColorBox.zemin = kirmizi + kTaban * yesil + kMavi * mavi;
     txtRed.metin = SayiMetni(kirmizi);
     txtGreen.metin = SayiMetni(yesil);
     txtBlue.metin = SayiMetni(mavi);
-    const Metin k = OnAlti(kirmizi, 2);
-    const Metin y = OnAlti(yesil, 2);
-    const Metin m = OnAlti(mavi, 2);
+    Goster(kirmizi + kTaban * yesil + kMavi * mavi);
+}
+
+RenkDegeri FormRenk::Yazilan() const {
+    return Bilesen(txtRed) + kTaban * Bilesen(txtGreen) + kMavi * Bilesen(txtBlue);
+}
+
+void FormRenk::Bilesen_Change() {
+    Goster(Yazilan());
+}
+
+void FormRenk::Goster(RenkDegeri renk) {
+    picColorBox.zemin = renk;
+    const Metin k = OnAlti(renk % kTaban, 2);
+    const Metin y = OnAlti(renk / kTaban % kTaban, 2);
+    const Metin m = OnAlti(renk / kMavi, 2);
     txtWeb.metin = u'#' + k + y + m;
     txtTers.metin = u"&H" + m + y + k + u'&';
     txtHex.metin = OnAlti(picColorBox.zemin, 1);
@@ -80,7 +96,7 @@ void FormRenk::Sec(RenkDegeri renk) {
 
 void FormRenk::Command1_Click() {
     Program& p = program_;
-    const RenkDegeri renk = Bilesen(txtRed) + kTaban * Bilesen(txtGreen) + kMavi * Bilesen(txtBlue);
+    const RenkDegeri renk = Yazilan();
     if (const double no = SayisalDeger(Tag); no >= 0 && no < kRenkSayisi)
         p.FormAyarlar->renkler[static_cast<std::size_t>(no)] = renk;
     p.FormRenk.Bosalt();

@@ -18,7 +18,11 @@ struct FormRenk {
     void Picture1_MouseMove(RenkDegeri renk);
     void Picture1_MouseUp();
 
-    /// "Tamam": the slot takes the colour of the three component texts, which the sample need not show.
+    /// A component was typed: the sample and the three other values follow.
+    void Bilesen_Change();
+
+    /// "Tamam": the slot takes the colour of the three component texts. Until a colour is picked or a
+    /// component typed, the sample shows the slot's own colour instead.
     void Command1_Click();
     void Command2_Click(); ///< "İptal"
 
@@ -29,6 +33,7 @@ struct FormRenk {
     MetinKutusu txtRed;
     MetinKutusu txtGreen;
     MetinKutusu txtBlue;
+    // These three only show the colour: they can't be typed into.
     MetinKutusu txtWeb;  ///< "#", then red, green, blue
     MetinKutusu txtHex;  ///< the colour's value, unpadded: blue, green, red
     MetinKutusu txtTers; ///< "&H", then blue, green, red, "&"
@@ -37,6 +42,8 @@ struct FormRenk {
 
   private:
     void Sec(RenkDegeri renk);
+    RenkDegeri Yazilan() const;
+    void Goster(RenkDegeri renk);
 
     Program& program_;
     bool basili_ = false;

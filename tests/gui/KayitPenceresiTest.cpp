@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -96,6 +97,51 @@ class KayitPenceresiTest : public QObject {
             QCoreApplication::processEvents();
             QVERIFY(!not3.isEnabled());
             QVERIFY(QApplication::focusWidget() != &not3);
+        });
+    }
+
+    void a_service_ticked_by_the_space_bar_leaves_the_focus_where_it_is_on_purpose() {
+        GuiFirma firma;
+        Kayitta(firma, [&](QDialog& pencere) {
+            Parcasi<QTabWidget>(pencere, "SSTab1").setCurrentIndex(3);
+            auto& kutu = Parcasi<QCheckBox>(pencere, "Check3");
+            kutu.setFocus();
+            QTest::keyClick(&kutu, Qt::Key_Space);
+            QTest::qWait(20);
+            QVERIFY(Parcasi<QLineEdit>(pencere, "TT3").isEnabled());
+            QCOMPARE(QApplication::focusWidget(), &kutu);
+        });
+    }
+
+    void a_click_with_the_mouse_selects_all_that_a_field_holds() {
+        GuiFirma firma;
+        Kayitta(firma, [&](QDialog& pencere) {
+            auto& saat = Parcasi<QLineEdit>(pencere, "Kay12");
+            QVERIFY(!saat.hasFocus());
+            QTest::mouseClick(&saat, Qt::LeftButton, {}, {saat.width() / 2, saat.height() / 2});
+            QCoreApplication::processEvents();
+            QCOMPARE(saat.selectedText(), QStringLiteral("20:00"));
+            QTest::qWait(QApplication::doubleClickInterval() + 50);
+            QTest::mouseClick(&saat, Qt::LeftButton, {}, {saat.width() / 2, saat.height() / 2});
+            QCoreApplication::processEvents();
+            QVERIFY2(!saat.hasSelectedText(), "a second click sets the cursor");
+        });
+    }
+
+    void wishes_and_the_address_have_many_lines_and_amounts_stand_at_the_right() {
+        GuiFirma firma;
+        Kayitta(firma, [&](QDialog& pencere) {
+            for (const char* ad : {"Kay7", "Kay11", "Label20", "Aciklamalar"})
+                QVERIFY2(pencere.findChild<QPlainTextEdit*>(QString::fromLatin1(ad)) != nullptr, ad);
+            QVERIFY(Parcasi<QLineEdit>(pencere, "Kay8").alignment().testFlag(Qt::AlignRight));
+            QVERIFY(!Parcasi<QLineEdit>(pencere, "Kay1").alignment().testFlag(Qt::AlignRight));
+            for (const char* ad : {"Kayam9", "Kayam10"})
+                QVERIFY2(Parcasi<QLabel>(pencere, ad).alignment().testFlag(Qt::AlignRight), ad);
+            firma.program.FormKayit->Kay[AnaNo::AdiSoyadi].metin = u"Ali";
+            firma.program.FormKayit->Kay[AnaNo::ToplamUcret].metin = u"5000";
+            Pencerede([&] { firma.program.FormKayit->Command8_Click(); }, {[](QDialog& odeme) {
+                          QVERIFY(Parcasi<QLineEdit>(odeme, "Text1").alignment().testFlag(Qt::AlignRight));
+                      }});
         });
     }
 

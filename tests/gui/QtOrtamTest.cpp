@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -69,6 +70,31 @@ class QtOrtamTest : public QObject {
                       QTest::keyClick(&kutu, Qt::Key_Return);
                   })});
         QCOMPARE(cevap, Cevap::Tamam);
+    }
+
+    void each_kind_of_box_has_its_own_icon() {
+        const std::pair<Simge, QMessageBox::Icon> simgeler[]{{Simge::Bilgi, QMessageBox::Information},
+                                                             {Simge::Soru, QMessageBox::Question},
+                                                             {Simge::Uyari, QMessageBox::Warning},
+                                                             {Simge::Kritik, QMessageBox::Critical}};
+        for (const auto& [simge, icon] : simgeler)
+            Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = simge}); },
+                      {Kutuda<QMessageBox>([&](QMessageBox& kutu) { QCOMPARE(kutu.icon(), icon); })});
+    }
+
+    void an_input_box_says_what_it_asks_for_under_its_title() {
+        const auto ac = [&] {
+            ortam_.sor.girdi(
+                {.metin = u"İptal sebebini yazınız!", .baslik = u"İptal Sebebi", .baslangic = {}});
+        };
+        Pencerede(ac, {Kutuda<QInputDialog>([](QInputDialog& kutu) {
+                      QCOMPARE(kutu.labelText(), QStringLiteral("İptal sebebini yazınız!"));
+                      QCOMPARE(kutu.windowTitle(), QStringLiteral("İptal Sebebi"));
+                      const auto etiketler = kutu.findChildren<QLabel*>();
+                      QVERIFY(std::ranges::any_of(etiketler, [&](const QLabel* etiket) {
+                          return etiket->isVisible() && etiket->text() == kutu.labelText();
+                      }));
+                  })});
     }
 
     void a_question_has_turkish_buttons_and_answers_by_the_one_pressed() {

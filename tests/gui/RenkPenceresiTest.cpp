@@ -68,6 +68,22 @@ class RenkPenceresiTest : public QObject {
         });
     }
 
+    void the_sample_follows_what_is_typed_and_what_is_only_shown_takes_no_key() {
+        GuiFirma firma;
+        firma.Ac();
+        RenkKutusunda(firma, "Renk8", [](QDialog& pencere) {
+            AlanaYaz(pencere, "txtGreen", QStringLiteral("200"));
+            AlanaYaz(pencere, "txtBlue", QStringLiteral("9"));
+            QCOMPARE(Ornek(pencere), QColor(0, 200, 9));
+            QCOMPARE(AlanYazisi(pencere, "txtWeb"), QStringLiteral("#00C809"));
+            for (const char* ad : {"txtWeb", "txtHex", "txtTers"}) {
+                const QString once = AlanYazisi(pencere, ad);
+                AlanaYaz(pencere, ad, QStringLiteral("7"));
+                QCOMPARE(AlanYazisi(pencere, ad), once);
+            }
+        });
+    }
+
     void a_press_and_a_move_with_the_button_held_pick_and_a_move_without_does_not() {
         GuiFirma firma;
         firma.Ac();

@@ -1,6 +1,8 @@
 #include <memory>
 
+#include <QApplication>
 #include <QDateEdit>
+#include <QLineEdit>
 #include <QTest>
 
 #include "gui/GuiProgram.h"
@@ -45,6 +47,30 @@ class TarihBaglamaTest : public QObject {
         QCOMPARE(kutu.text(), QStringLiteral("17.02.2025"));
         QTest::keyClick(&kutu, Qt::Key_Tab);
         QVERIFY(sahne.model.deger == std::chrono::year(2025) / 2 / 17);
+    }
+
+    void digits_typed_into_a_date_that_was_clicked_take_the_place_of_the_part_under_the_pointer() {
+        TarihSahnesi sahne;
+        QDateEdit& kutu = sahne.kutu;
+        sahne.model.deger = std::chrono::year(2026) / 6 / 21;
+        sahne.baglayici.Bagla(kutu, sahne.model);
+        kutu.resize(160, 30);
+        sahne.pencere.show();
+        QVERIFY(QTest::qWaitForWindowActive(&sahne.pencere));
+        auto* satir = kutu.findChild<QLineEdit*>();
+        const auto tikla = [&](const QString& onceki) {
+            const int x = satir->fontMetrics().horizontalAdvance(onceki) + 6;
+            QTest::mouseClick(satir, Qt::LeftButton, {}, {x, satir->height() / 2});
+            QCoreApplication::processEvents();
+        };
+        tikla(QStringLiteral("21."));
+        QTest::keyClicks(&kutu, QStringLiteral("112025"));
+        QCOMPARE(kutu.text(), QStringLiteral("21.11.2025"));
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        tikla(QString());
+        QTest::keyClicks(&kutu, QStringLiteral("0308"));
+        QTest::keyClick(&kutu, Qt::Key_Tab);
+        QVERIFY(sahne.model.deger == std::chrono::year(2025) / 8 / 3);
     }
 
     void a_day_and_limits_that_the_screen_sets_are_shown_at_the_next_refresh() {

@@ -69,6 +69,23 @@ TEST_F(FormRenkTest, Every_component_is_split_right) {
     }
 }
 
+TEST_F(FormRenkTest, The_sample_and_the_other_values_follow_what_is_typed) {
+    const AlanOlaylari olaylar{.degisti = [this] { Secici().Bilesen_Change(); }};
+    AlanaYaz(Secici().txtRed, u"18", olaylar);
+    AlanaYaz(Secici().txtGreen, u"7", olaylar);
+    AlanaYaz(Secici().txtBlue, u"300", olaylar);
+    EXPECT_EQ(Secici().picColorBox.zemin, 0xFF0712);
+    MetinlerOlmali({u"18", u"7", u"300", u"#1207FF", u"&HFF0712&", u"FF0712"});
+}
+
+TEST_F(FormRenkTest, What_no_colour_is_made_from_cannot_be_typed_into) {
+    for (const MetinKutusu* kutu : {&Secici().txtWeb, &Secici().txtHex, &Secici().txtTers}) {
+        EXPECT_TRUE(kutu->kilitli);
+        EXPECT_FALSE(kutu->beyazZemin);
+    }
+    EXPECT_FALSE(Secici().txtRed.kilitli);
+}
+
 TEST_F(FormRenkTest, Place_outside_the_chart_is_black) {
     Tikla(0xFFFFFF);
     Tikla(-1);

@@ -97,8 +97,9 @@ QFormLayout* RenkPenceresi::Degerler() {
         std::pair{"txtBlue", &Model().txtBlue}, std::pair{"txtWeb", &Model().txtWeb},
         std::pair{"txtHex", &Model().txtHex},
     };
+    const Baglayici::AlanIsleri isler{.degisti = Isle(&FormRenk::Bilesen_Change), .odakGitti = {}};
     for (const auto& [ad, model] : alanlar)
-        SatirEkle<QLineEdit>(*form, QString::fromLatin1(ad), *model)->setFixedWidth(kDegerEni);
+        SatirEkle<QLineEdit>(*form, QString::fromLatin1(ad), *model, isler)->setFixedWidth(kDegerEni);
     // The last one stands without its caption.
     auto* ters = ParcaYap<QLineEdit>(QStringLiteral("txtTers"), Model().txtTers);
     ters->setFixedWidth(kDegerEni);
