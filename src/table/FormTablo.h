@@ -220,6 +220,11 @@ struct FormTablo {
 
     /// Where a cell stands, shown or not.
     Yer HucreYeri(SatirAdi satir, int gun) const;
+    /// What the hover label says of a cell.
+    Metin EtiketMetni(SatirAdi satir, int gun) const;
+    /// What a cell is called where it isn't seen: day, slot, and the state that its colour shows. Empty for a
+    /// cell that isn't shown.
+    Metin GozAdi(SatirAdi satir, int gun) const;
     /// True when the year in `Sene` is the year of today.
     bool BuYil() const;
 
@@ -243,6 +248,7 @@ struct FormTablo {
     bool BosRenkte(SatirAdi satir, int gun) const;
     bool DoluRenkte(SatirAdi satir, int gun) const;
     Metin GozAnahtari(SatirAdi satir, int gun) const;
+    Metin GozTarihi(SatirAdi satir, int gun) const;
     void RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi);
     void IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep);
 

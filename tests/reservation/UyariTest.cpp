@@ -134,6 +134,15 @@ TEST_F(UyariTest, Asked_for_with_nothing_near_a_box_says_so_and_the_panel_stays_
     EXPECT_FALSE(Tablo().Picture1.gorunur);
 }
 
+TEST_F(UyariTest, The_box_of_an_empty_list_comes_with_the_panel_hidden_too) {
+    Prog();
+    Tablo().Activate();
+    ASSERT_FALSE(Tablo().Picture1.gorunur);
+    KutuBekle(Metin(kYok));
+    Tablo().UyariGoster();
+    EXPECT_FALSE(Tablo().Picture1.gorunur);
+}
+
 TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);

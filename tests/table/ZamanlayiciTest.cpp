@@ -93,6 +93,19 @@ TEST_F(TabloZamanlayici, Running_timer_shows_nothing_in_another_year_and_brings_
     EXPECT_TRUE(BuGunGorunur());
 }
 
+TEST_F(TabloZamanlayici, Todays_slots_are_looked_for_in_the_folder_of_the_selected_year_on_purpose) {
+    agac.KoyMetin(u"Salon A/2013/15.06.2012 - Gece", AnaMetni());
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 0);
+    kullanici.YilSec(u"2013");
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 300);
+    kullanici.YilSec(u"2014");
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 0);
+}
+
 // After a save in another year the frame shows until the next bare pointer move.
 TEST_F(TabloZamanlayici, Asking_whether_today_is_taken_shows_the_frame_in_another_year_too_on_purpose) {
     kullanici.ProgramiAc();

@@ -17,6 +17,7 @@ struct TabloIsabeti {
     int gun = 0; ///< of a cell and of a day's head
     SatirAdi satir = OcakGunduz;
 
+    bool HucreMi() const { return tur == Tur::Hucre; }
     bool operator==(const TabloIsabeti&) const = default;
 };
 

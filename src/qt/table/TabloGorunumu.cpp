@@ -97,7 +97,7 @@ void TabloGorunumu::paintEvent(QPaintEvent* olay) {
             QRectF(kirli.x() * olcek, kirli.y() * olcek, kirli.width() * olcek, kirli.height() * olcek)
                 .toAlignedRect();
         cizici_.Ciz(boyaci, goruntu_, bolge);
-        if (const TabloIsabeti goz = giris_->OdakGozu(); goz.tur == TabloIsabeti::Tur::Hucre)
+        for (const TabloIsabeti& goz : giris_->IsaretliGozler())
             TabloCizici::OdakIsareti(boyaci, Duzen(), Duzen().Hucre(goz.satir, goz.gun));
     });
 }

@@ -20,6 +20,7 @@ class TabloGorunumu : public QWidget {
   public:
     TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* ust);
 
+    const TabloGirisi& Giris() const { return *giris_; }
     /// Where the parts of the table stand now.
     const TabloDuzeni& Duzen() const { return goruntu_.duzen; }
     /// What lies at a place; the place of a hidden cell is bare.

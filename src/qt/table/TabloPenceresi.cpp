@@ -30,7 +30,7 @@ constexpr int kSalonEni = 220;
 constexpr int kSeneEni = 96;
 constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
-constexpr QSize kPencereBoyu(1280, 720);
+constexpr QSize kIlkBoy(1280, 720);
 constexpr QSize kEnKucukBoy(1000, 560); // where the screen has room for it
 constexpr int kPencereEni = 16;         // what the system puts about a window, both sides together
 constexpr int kPencereBoyu = 40;        // its title too
@@ -67,7 +67,6 @@ TabloPenceresi::TabloPenceresi(Program& program)
     gorunum_ = new TabloGorunumu(program, *baglayici_, orta);
     gorunum_->setObjectName(QStringLiteral("Picture4"));
     gorunum_->setAccessibleName(QStringLiteral("Yıl tablosu"));
-    new UyariPaneli(*tablo, *baglayici_, gorunum_);
     auto* cerceve = new QHBoxLayout;
     cerceve->setContentsMargins(kAralik / 2, 0, kAralik / 2, 0);
     cerceve->addWidget(gorunum_);
@@ -79,8 +78,10 @@ TabloPenceresi::TabloPenceresi(Program& program)
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
     const QSize ekran = screen()->availableSize() - QSize(kPencereEni, kPencereBoyu);
     setMinimumSize(kEnKucukBoy.boundedTo(ekran));
-    resize(kPencereBoyu.boundedTo(ekran));
+    resize(kIlkBoy.boundedTo(ekran));
     gorunum_->setFocus();
+    // Only now the table is in the window whose focus the panel takes.
+    new UyariPaneli(*tablo, *baglayici_, gorunum_);
 }
 
 void TabloPenceresi::BosYeriIzle(QWidget& parca) {
