@@ -71,6 +71,32 @@ void ListeKutusu::Sil(int sira) {
     SiradanSil(ogeler, secili, sira);
 }
 
+SatirListesi& SatirListesi::operator=(SatirListesi oteki) {
+    satirlar_ = std::move(oteki.satirlar_);
+    ++degisme_;
+    return *this;
+}
+
+void SatirListesi::push_back(ListeSatiri satir) {
+    satirlar_.push_back(std::move(satir));
+    ++degisme_;
+}
+
+void SatirListesi::erase(std::size_t sira) {
+    satirlar_.erase(satirlar_.begin() + static_cast<std::ptrdiff_t>(sira));
+    ++degisme_;
+}
+
+void SatirListesi::clear() {
+    satirlar_.clear();
+    ++degisme_;
+}
+
+void SatirListesi::Degistir(std::size_t sira, ListeSatiri satir) {
+    satirlar_.at(sira) = std::move(satir);
+    ++degisme_;
+}
+
 void ListeGorunumu::Temizle() {
     satirlar.clear();
     secili = -1;
@@ -78,7 +104,7 @@ void ListeGorunumu::Temizle() {
 
 void ListeGorunumu::SeciliyiSil() {
     if (Secili() != nullptr)
-        satirlar.erase(satirlar.begin() + secili);
+        satirlar.erase(static_cast<std::size_t>(secili));
     secili = -1;
 }
 

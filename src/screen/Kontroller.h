@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -185,9 +186,46 @@ struct ListeSatiri {
     RenkDegeri yazi = 0;
 };
 
+/// The rows of a list. They count their changes: a window shows thousands of them and asks many times a
+/// second whether it still shows the right ones.
+class SatirListesi {
+  public:
+    using value_type = ListeSatiri;
+    using const_iterator = std::vector<ListeSatiri>::const_iterator;
+
+    SatirListesi() = default;
+    SatirListesi(std::initializer_list<ListeSatiri> satirlar) : satirlar_(satirlar) {}
+    SatirListesi(std::vector<ListeSatiri> satirlar) : satirlar_(std::move(satirlar)) {}
+    SatirListesi(const SatirListesi&) = default;
+    SatirListesi(SatirListesi&&) = default;
+    ~SatirListesi() = default;
+    /// Other rows, also when they are equal to those before: one change.
+    SatirListesi& operator=(SatirListesi oteki);
+
+    std::size_t size() const { return satirlar_.size(); }
+    bool empty() const { return satirlar_.empty(); }
+    const ListeSatiri& operator[](std::size_t sira) const { return satirlar_[sira]; }
+    const ListeSatiri& at(std::size_t sira) const { return satirlar_.at(sira); }
+    const_iterator begin() const { return satirlar_.begin(); }
+    const_iterator end() const { return satirlar_.end(); }
+
+    void push_back(ListeSatiri satir);
+    void erase(std::size_t sira);
+    void clear();
+    /// Puts another row in the place of one.
+    void Degistir(std::size_t sira, ListeSatiri satir);
+
+    /// How often they have changed: the same number, the same rows.
+    std::uint64_t Degisme() const { return degisme_; }
+
+  private:
+    std::vector<ListeSatiri> satirlar_;
+    std::uint64_t degisme_ = 0;
+};
+
 struct ListeGorunumu {
     std::vector<Metin> basliklar;
-    std::vector<ListeSatiri> satirlar;
+    SatirListesi satirlar;
     int secili = -1;                  ///< index of the marked row, -1 for none
     std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
     Metin baslik{};                   ///< its label

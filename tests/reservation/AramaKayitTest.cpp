@@ -118,7 +118,9 @@ TEST_F(AramaKayit, A_save_writes_the_payments_into_the_hall_of_the_record) {
 
 TEST_F(AramaKayit, A_row_whose_hall_is_not_listed_any_more_opens_nothing_and_leaves_the_table_as_it_is) {
     Ara(kAd, u"şükran");
-    Arama().Liste.satirlar[0].sutun[1] = u"Salon C";
+    ListeSatiri satir = Arama().Liste.satirlar[0];
+    satir.sutun[1] = u"Salon C";
+    Arama().Liste.satirlar.Degistir(0, satir);
     DetaylaraBas(0);
     EXPECT_FALSE(Prog().FormKayit.Yuklu()) << "its payments would be another hall's";
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon A");
