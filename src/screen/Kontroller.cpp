@@ -97,6 +97,32 @@ void SatirListesi::Degistir(std::size_t sira, ListeSatiri satir) {
     ++degisme_;
 }
 
+Metin ListeGorunumu::Ozeti(MetinBakis yil) const {
+    return SayiMetni(static_cast<long long>(satirlar.size())) + u" kayıt · " + Metin(yil);
+}
+
+std::optional<IsaretliSatir> ListeGorunumu::Isaretli() const {
+    const ListeSatiri* satir = Secili();
+    if (satir == nullptr || satir->sutun.empty())
+        return {};
+    IsaretliSatir isaretli{satir->tag, satir->sutun.front()};
+    isaretli.oncekiler = std::count_if(satirlar.begin(), satirlar.begin() + secili,
+                                       [&](const ListeSatiri& s) { return isaretli.Bu(s); });
+    return isaretli;
+}
+
+void ListeGorunumu::YenidenIsaretle(const std::optional<IsaretliSatir>& satir) {
+    secili = -1;
+    if (!satir)
+        return;
+    auto kalan = satir->oncekiler;
+    for (auto yer = satirlar.begin(); yer != satirlar.end() && kalan >= 0; ++yer)
+        if (satir->Bu(*yer)) {
+            secili = static_cast<int>(yer - satirlar.begin());
+            --kalan;
+        }
+}
+
 void ListeGorunumu::Temizle() {
     satirlar.clear();
     secili = -1;

@@ -223,6 +223,17 @@ class SatirListesi {
     std::uint64_t degisme_ = 0;
 };
 
+/// A row that was marked, as it is known again in rows made anew.
+struct IsaretliSatir {
+    Metin tag;
+    Metin ilkSutun;
+    std::ptrdiff_t oncekiler = 0; ///< rows of the same tag and column before it
+
+    bool Bu(const ListeSatiri& satir) const {
+        return satir.tag == tag && !satir.sutun.empty() && satir.sutun.front() == ilkSutun;
+    }
+};
+
 struct ListeGorunumu {
     std::vector<Metin> basliklar;
     SatirListesi satirlar;
@@ -236,6 +247,14 @@ struct ListeGorunumu {
         const auto sira = static_cast<std::size_t>(secili);
         return secili >= 0 && sira < satirlar.size() ? &satirlar[sira] : nullptr;
     }
+    /// The line under the list: "12 kayıt · 2026".
+    Metin Ozeti(MetinBakis yil) const;
+    /// Marks the row that `satir` was before the rows were made anew: the one with its tag and its first
+    /// column, and of several such rows the one that stands as far among them. Without one, or without
+    /// `satir`, nothing is marked.
+    void YenidenIsaretle(const std::optional<IsaretliSatir>& satir);
+    /// What `YenidenIsaretle` finds the marked row by; none when none is marked.
+    std::optional<IsaretliSatir> Isaretli() const;
     /// Takes all rows out, and the mark.
     void Temizle();
     /// Takes the marked row out, if there is one. Nothing is marked then.

@@ -205,6 +205,26 @@ TEST(ListeGorunumuTest, The_marked_row_goes_and_nothing_is_marked_then) {
     }
 }
 
+TEST(ListeGorunumuTest, A_marked_row_is_found_again_by_tag_and_first_column_and_by_its_place_among_equals) {
+    ListeGorunumu liste;
+    liste.satirlar = {{{u"1"}, u"x", 0}, {{u"2"}, u"y", 0}, {{u"1"}, u"x", 0}, {{u"1"}, u"y", 0}};
+    EXPECT_FALSE(liste.Isaretli());
+    liste.secili = 2;
+    const auto isaretli = liste.Isaretli();
+    liste.satirlar = {{{u"1"}, u"y", 0}, {{u"1", u"a"}, u"x", 0}, {{u"2"}, u"x", 0}, {{u"1", u"b"}, u"x", 0}};
+    liste.YenidenIsaretle(isaretli);
+    EXPECT_EQ(liste.secili, 3);
+    liste.satirlar.erase(3);
+    liste.YenidenIsaretle(isaretli);
+    EXPECT_EQ(liste.secili, 1) << "one of them has gone";
+    liste.satirlar.erase(1);
+    liste.YenidenIsaretle(isaretli);
+    EXPECT_EQ(liste.secili, -1);
+    liste.secili = 1;
+    liste.YenidenIsaretle({});
+    EXPECT_EQ(liste.secili, -1);
+}
+
 TEST(ListeGorunumuTest, An_emptied_list_has_no_mark) {
     ListeGorunumu liste;
     liste.satirlar = {{{u"bir"}, {}, 0}};
