@@ -26,15 +26,27 @@ void TumTablonunBoyanmasi(benchmark::State& durum) {
     Program program(OlcumOrtami(OlcumAgaci::Bugun()), agac.Kok());
     FormTablo& tablo = *program.FormTablo.Tut();
     tablo.Resize(TabloIcGenisligi(kGenislik * kTwip), TabloIcYuksekligi(kYukseklik * kTwip));
-    const TabloDuzeni duzen(tablo, 1);
+    const TabloGoruntusu goruntu(tablo, *program.FormAyarlar.Tut(), 1);
     TabloCizici cizici(QApplication::font(), {});
     QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);
     while (durum.KeepRunning()) {
         QPainter boyaci(&resim);
-        cizici.Ciz(boyaci, tablo, duzen, resim.rect(), program.FormAyarlar->Renk(RenkNo::BuGunCercevesi));
+        cizici.Ciz(boyaci, goruntu, resim.rect());
     }
 }
 BENCHMARK(TumTablonunBoyanmasi)->Unit(benchmark::kMillisecond);
+
+/// What each refresh costs while nothing on the table has changed: a frame that blinks asks for it.
+void GoruntununKarsilastirilmasi(benchmark::State& durum) {
+    const OlcumAgaci agac;
+    Program program(OlcumOrtami(OlcumAgaci::Bugun()), agac.Kok());
+    FormTablo& tablo = *program.FormTablo.Tut();
+    tablo.Resize(TabloIcGenisligi(kGenislik * kTwip), TabloIcYuksekligi(kYukseklik * kTwip));
+    const TabloGoruntusu eski(tablo, *program.FormAyarlar.Tut(), 1);
+    while (durum.KeepRunning())
+        benchmark::DoNotOptimize(TabloGoruntusu(tablo, *program.FormAyarlar.Tut(), 1) == eski);
+}
+BENCHMARK(GoruntununKarsilastirilmasi)->Unit(benchmark::kMicrosecond);
 
 void AyniResminDoldurulmasi(benchmark::State& durum) {
     QImage resim(kGenislik, kYukseklik, QImage::Format_ARGB32_Premultiplied);

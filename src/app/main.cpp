@@ -8,6 +8,7 @@
 #include "qt/Gorunum.h"
 #include "qt/Koruma.h"
 #include "qt/QtOrtam.h"
+#include "qt/TusTekrari.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
@@ -16,6 +17,7 @@ static int Calistir(char** argv) {
     int argumanSayisi = 1;
     const QApplication uygulama(argumanSayisi, argv);
     velora::DiliKur();
+    velora::TusTekrariniKes();
     velora::GorunumuKur();
     velora::QtOrtam disDunya;
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());

@@ -286,8 +286,11 @@ void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
 
 void Baglayici::Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi) {
     connect(&girdi, &QAction::triggered, this, [this, tiklandi] { Bas(tiklandi); });
-    Izle([&girdi, &model] {
-        girdi.setText(QMetin(model.baslik));
+    Izle([&girdi, &model, konan = Metin()]() mutable {
+        // The menu may have put an access key into the text.
+        if (konan != model.baslik && !girdi.isSeparator()) // a line would show its "-"
+            girdi.setText(QMetin(model.baslik));
+        konan = model.baslik;
         girdi.setEnabled(model.etkin);
         girdi.setVisible(model.gorunur);
     });

@@ -56,8 +56,15 @@ void Diyalog::VarsayilanDugme(QPushButton& dugme, const QWidget& liste, QPushBut
 
 QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
     auto* etiket = new QLabel(this);
-    Adlandir(*etiket, ad, QMetin(model.once));
+    etiket->setObjectName(ad);
     baglayici_->Bagla(*etiket, model);
+    // The name stands in for the text where that isn't seen.
+    baglayici_->Izle([etiket, &model] {
+        const QString tumu = QMetin(model.once + u" " + model.baslik + u" " + model.sonra).simplified();
+        if (const QString isim = QString(tumu).replace(QStringLiteral(" :"), QStringLiteral(":"));
+            isim != etiket->accessibleName())
+            etiket->setAccessibleName(isim);
+    });
     return etiket;
 }
 

@@ -46,7 +46,7 @@ class Diyalog : public QDialog {
         form.addRow(EtiketYap(QMetin(model.baslik), *parca), parca);
         return parca;
     }
-    /// The text of a label that changes, called by what stands before it.
+    /// The text of a label that changes, called by it and what stands before and behind it.
     QLabel* DegerYap(const QString& ad, Etiket& model);
 
     /// The quiet line that says what a list holds, on the window's own ground.

@@ -8,7 +8,9 @@
 #include <vector>
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QSet>
 #include <QStackedWidget>
@@ -184,6 +186,15 @@ void ErisimTuslariVer(QWidget& pencere, const QAbstractButton* iptal) {
     for (const QWidget* sayfa : sayfalar)
         for (const auto oncelik : {Oncelik::Varsayilan, Oncelik::Digerleri, Oncelik::Iptal})
             SayfayaVer(basliklar, sayfa, oncelik);
+}
+
+void ErisimTuslariVer(QMenu& menu) {
+    std::vector<Baslik> girdiler;
+    for (QAction* girdi : menu.actions())
+        if (!girdi->isSeparator())
+            girdiler.push_back(
+                {girdi->text(), [girdi](const QString& metin) { girdi->setText(metin); }, nullptr});
+    SayfayaVer(girdiler, nullptr, Oncelik::Digerleri);
 }
 
 QString TusIsaretli(MetinBakis baslik, QChar tus) {

@@ -5,6 +5,7 @@
 #include "storage/Metin.h"
 
 class QAbstractButton;
+class QMenu;
 class QWidget;
 
 namespace velora {
@@ -19,6 +20,9 @@ namespace velora {
 /// is marked already keeps its mark, and one for which no letter is left gets none. Costs nothing where all
 /// are marked: meant to run after every refresh.
 void ErisimTuslariVer(QWidget& pencere, const QAbstractButton* iptal = nullptr);
+
+/// The same for the entries of a menu.
+void ErisimTuslariVer(QMenu& menu);
 
 /// A caption with its access key marked by hand: before the first `tus` in it, which must be there. For what
 /// stands on a window whose keys aren't given out.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 #include <QApplication>
@@ -26,7 +27,7 @@ constexpr std::array<std::pair<QPalette::ColorRole, QRgb>, 18> kRenkler{{
     {QPalette::Base, qRgb(255, 255, 255)},
     {QPalette::AlternateBase, qRgb(246, 248, 246)},
     {QPalette::Text, qRgb(32, 33, 36)},
-    {QPalette::PlaceholderText, qRgb(120, 124, 128)},
+    {QPalette::PlaceholderText, qRgb(112, 116, 120)},
     {QPalette::Button, qRgb(238, 239, 241)},
     {QPalette::ButtonText, qRgb(32, 33, 36)},
     {QPalette::BrightText, qRgb(255, 255, 255)},
@@ -34,7 +35,7 @@ constexpr std::array<std::pair<QPalette::ColorRole, QRgb>, 18> kRenkler{{
     {QPalette::ToolTipText, qRgb(32, 33, 36)},
     {QPalette::Light, qRgb(255, 255, 255)},
     {QPalette::Midlight, qRgb(230, 232, 234)},
-    {QPalette::Mid, qRgb(190, 194, 198)},
+    {QPalette::Mid, qRgb(120, 124, 128)},
     {QPalette::Dark, qRgb(160, 164, 168)},
     {QPalette::Highlight, kVurgu},
     {QPalette::HighlightedText, qRgb(255, 255, 255)},
@@ -42,7 +43,23 @@ constexpr std::array<std::pair<QPalette::ColorRole, QRgb>, 18> kRenkler{{
 }};
 
 constexpr std::array kSolgunlar{QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
-constexpr QRgb kSolgun = qRgb(150, 154, 158);
+constexpr QRgb kSolgun = qRgb(128, 132, 136);
+
+// The style takes the edges of fields from the colour of the window, which makes them too pale to be seen
+// well.
+constexpr QRgb kAlanKenari = qRgb(168, 174, 179);
+
+/// Draws with edges that are dark enough, for options of this kind; false for others.
+template <class Secenek>
+bool KoyuKenarla(const QStyleOption* secenek, const auto& ciz) {
+    const auto* bizim = qstyleoption_cast<const Secenek*>(secenek);
+    if (bizim == nullptr)
+        return false;
+    Secenek koyu = *bizim;
+    koyu.palette.setColor(QPalette::Window, QColor(kAlanKenari));
+    ciz(&koyu);
+    return true;
+}
 
 constexpr int kSatirPayi = 6;           // what a row of a list is higher than its text
 constexpr int kHucrePayi = 6;           // what a cell of a list keeps free on either side
@@ -66,9 +83,18 @@ class Bicim : public QProxyStyle {
         QProxyStyle::drawControl(parca, &dolu, firca, widget);
     }
 
-    /// The frame of lists and of fields of many lines: whole at every scale, and it shows the focus.
+    /// The edges of fields, and the frame of lists and of fields of many lines: whole at every scale, and it
+    /// shows the focus.
     void drawPrimitive(PrimitiveElement parca, const QStyleOption* secenek, QPainter* firca,
                        const QWidget* widget) const override {
+        const auto ciz = [&](const QStyleOption* koyu) {
+            QProxyStyle::drawPrimitive(parca, koyu, firca, widget);
+        };
+        if (parca == PE_FrameLineEdit && KoyuKenarla<QStyleOptionFrame>(secenek, ciz))
+            return;
+        if ((parca == PE_IndicatorCheckBox || parca == PE_IndicatorRadioButton) &&
+            KoyuKenarla<QStyleOptionButton>(secenek, ciz))
+            return;
         if (parca != PE_Frame || qobject_cast<const QFrame*>(widget) == nullptr ||
             widget->inherits("QComboBoxPrivateContainer"))
             return QProxyStyle::drawPrimitive(parca, secenek, firca, widget);
@@ -79,6 +105,16 @@ class Bicim : public QProxyStyle {
         firca->fillRect(yer.left(), yer.bottom(), yer.width(), 1, renk);
         firca->fillRect(yer.left(), yer.top(), 1, yer.height(), renk);
         firca->fillRect(yer.right(), yer.top(), 1, yer.height(), renk);
+    }
+
+    void drawComplexControl(ComplexControl parca, const QStyleOptionComplex* secenek, QPainter* firca,
+                            const QWidget* widget) const override {
+        const auto ciz = [&](const QStyleOptionComplex* koyu) {
+            QProxyStyle::drawComplexControl(parca, koyu, firca, widget);
+        };
+        if (!KoyuKenarla<QStyleOptionComboBox>(secenek, ciz) &&
+            !KoyuKenarla<QStyleOptionSpinBox>(secenek, ciz))
+            ciz(secenek);
     }
 
     /// Buttons of boxes are words, as all others are.
@@ -119,6 +155,18 @@ void GorunumuKur() {
     for (const QPalette::ColorRole rol : kSolgunlar)
         palet.setColor(QPalette::Disabled, rol, QColor(kSolgun));
     QApplication::setPalette(palet);
+}
+
+double Karsitlik(const QColor& bir, const QColor& iki) {
+    const auto isik = [](const QColor& renk) {
+        const auto dogrusal = [](double b) {
+            return b <= 0.04045 ? b / 12.92 : std::pow((b + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * dogrusal(renk.redF()) + 0.7152 * dogrusal(renk.greenF()) +
+               0.0722 * dogrusal(renk.blueF()) + 0.05;
+    };
+    const auto [koyu, acik] = std::minmax({isik(bir), isik(iki)});
+    return acik / koyu;
 }
 
 void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk) {

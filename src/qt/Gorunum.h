@@ -12,6 +12,9 @@ inline constexpr int kAralik = 8;
 /// One look for all windows on all systems: style, colours, and the system's interface font at its own size.
 void GorunumuKur();
 
+/// How well two colours are told apart, from 1 for equal ones to 21 for black and white.
+double Karsitlik(const QColor& bir, const QColor& iki);
+
 /// Gives a widget a colour of its own; nothing happens when it has it.
 void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk);
 

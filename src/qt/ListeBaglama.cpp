@@ -1,8 +1,8 @@
 // The binder's list view: it rebuilds its rows only when the model has others, or they are to be seen in
 // another order.
 #include <algorithm>
+#include <memory>
 #include <optional>
-#include <tuple>
 #include <utility>
 
 #include <QHeaderView>
@@ -70,6 +70,9 @@ void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model, const SatirSir
         for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
             ogeler.back()->setText(sutun, TekSatir(satir.sutun[static_cast<std::size_t>(sutun)]));
             ogeler.back()->setForeground(sutun, QRenk(satir.yazi));
+            QFont tip = liste.font();
+            tip.setBold(satir.kalin);
+            ogeler.back()->setFont(sutun, tip);
         }
         for (const int sutun : model.sayiSutunlari)
             ogeler.back()->setTextAlignment(sutun, kSaga);

@@ -189,6 +189,7 @@ void Baglayici::Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri
 
 void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
     kutu.setEditable(true);
+    kutu.lineEdit()->setAccessibleName(kutu.accessibleName());
     kutu.setInsertPolicy(QComboBox::NoInsert);
     kutu.setCompleter(nullptr);
     for (const Metin& oge : model.ogeler)

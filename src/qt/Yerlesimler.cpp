@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
 
@@ -66,6 +67,7 @@ void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler) {
 }
 
 void SayfaTuslari(QTabWidget& sayfalar) {
+    sayfalar.tabBar()->setAccessibleName(QStringLiteral("Sayfalar"));
     const std::array tuslar{
         std::pair{QKeySequence(Qt::CTRL | Qt::Key_Tab), 1},
         std::pair{QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1},

@@ -37,7 +37,7 @@ inline constexpr int kKalanEn = 0;
 void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler);
 
 /// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever
-/// field.
+/// field. The row of its tabs gets a name.
 void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.

@@ -17,18 +17,20 @@ struct UyariTuru {
     double UyariSuresi::*sure;
     bool sifirCiftsiz; ///< a couple that is just "0" isn't listed
     RenkDegeri renk;
+    bool kalin;
 };
 /// The question about the couple is asked of firm reservations alone, as is meant.
 constexpr std::array<UyariTuru, 2> kTurler{
-    {{u"Kesin", DetayNo::KesinRezervasyon, &UyariSuresi::kesin, true, 0},
-     {u"Ön", DetayNo::OnRezervasyon, &UyariSuresi::on, false, kOnUyariRengi}}};
+    {{u"Kesin", DetayNo::KesinRezervasyon, &UyariSuresi::kesin, true, 0, false},
+     {u"Ön", DetayNo::OnRezervasyon, &UyariSuresi::on, false, kOnUyariRengi, true}}};
 
 ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const AnaDegerler& ana,
                      const UyariTuru& tur) {
     return {{ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
              ana.No(AnaNo::Cep), Metin(tur.ad)},
             yol,
-            tur.renk};
+            tur.renk,
+            tur.kalin};
 }
 
 } // namespace

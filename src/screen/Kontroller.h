@@ -31,6 +31,7 @@ class BirTabanli {
     auto end() { return ogeler_.end(); }
     auto begin() const { return ogeler_.begin(); }
     auto end() const { return ogeler_.end(); }
+    bool operator==(const BirTabanli&) const = default;
 
   private:
     static std::size_t Sira(int no) {
@@ -184,6 +185,7 @@ struct ListeSatiri {
     std::vector<Metin> sutun; ///< column texts
     Metin tag;
     RenkDegeri yazi = 0;
+    bool kalin = false; ///< in bold: what only its colour would tell
 };
 
 /// The rows of a list. They count their changes: a window shows thousands of them and asks many times a

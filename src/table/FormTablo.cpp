@@ -14,8 +14,8 @@ constexpr std::array<MetinBakis, kAySayisi> kAyAdlari{u"OCAK",  u"ŞUBAT",   u"M
                                                       u"MAYIS", u"HAZİRAN", u"TEMMUZ", u"AĞUSTOS",
                                                       u"EYLÜL", u"EKİM",    u"KASIM",  u"ARALIK"};
 
-constexpr Yer kPanelYeri{0, 1500, 13200, 4200}; // of the panel of warnings; it is centred later
-constexpr int kYilPayi = 10;                    // years that `Sene` offers before and after the current one
+constexpr double kPanelGenisligi = 13200; // of the panel of warnings
+constexpr int kYilPayi = 10;              // years that `Sene` offers before and after the current one
 constexpr int kSaatsayAraligi = 50'000;
 constexpr int kDuyuruAraligi = 2'500;
 constexpr int kHatirlatmaAraligi = 500;
@@ -33,7 +33,7 @@ FormTablo::FormTablo(Program& program) : program_(program) {
     UyariBaslik.baslik = u"YAKLAŞAN REZERVASYON UYARILARI";
     Liste.basliklar = {u"Tarih", u"Salon", u"Ad Soyad", u"Gelin / Damat", u"Telefon", u"Cep", u"Tipi"};
     Liste.secimDugmeleri.dugmeler = {&Command8};
-    Picture1.yer = kPanelYeri;
+    Picture1.yer.genislik = kPanelGenisligi;
     Picture1.gorunur = Ekran.gorunur = false;
     Salon.baslik = u"Salon";
     Salon.bosYazi = u"Salon tanımlı değil";
@@ -119,6 +119,7 @@ void FormTablo::Activate() {
 }
 
 void FormTablo::Command6() {
+    YeniGun();
     const Gun bugun = program_.Bugun();
     bool dolu = false;
     for (const auto dilim : {velora::GunduzGece::Gunduz, velora::GunduzGece::Gece}) {
@@ -152,7 +153,19 @@ void FormTablo::OzelHatirlatTimer_Tick() {
     Image3a = !Image3a;
 }
 
+void FormTablo::YeniGun() {
+    const Gun bugun = program_.Bugun();
+    if (!yerlesti_ || (BuGun.ay == static_cast<int>(unsigned(bugun.month())) &&
+                       BuGun.gun == static_cast<int>(unsigned(bugun.day()))))
+        return;
+    BuGunYerlestir();
+    // That it blinks was said of yesterday. Nobody has asked about the new day yet, as at the start.
+    GunTimer.aralik = 0;
+    BuGun.gorunur = BuYil();
+}
+
 void FormTablo::Saatsay_Tick() {
+    YeniGun();
     if (Dklabel == kDuyuruTiki) {
         DuyuruKontrol.aralik = kDuyuruAraligi;
         Dklabel = 0;

@@ -91,9 +91,12 @@ struct AyResmi {
     Yer yer;
 };
 
+/// A frame about the two cells of one day.
 struct Cerceve {
     bool gorunur = false;
     Yer yer;
+    int ay = 0;  ///< the month of that day, 0 until the frame is placed
+    int gun = 0; ///< and its number
 };
 
 /// The main screen: for the hall selected in `Salon` and the year selected in `Sene`, a table of twelve
@@ -217,6 +220,11 @@ struct FormTablo {
 
     /// Where a cell stands, shown or not.
     Yer HucreYeri(SatirAdi satir, int gun) const;
+    /// What the hover label says of a cell.
+    Metin EtiketMetni(SatirAdi satir, int gun) const;
+    /// What a cell is called where it isn't seen: day, slot, and the state that its colour shows. Empty for a
+    /// cell that isn't shown.
+    Metin GozAdi(SatirAdi satir, int gun) const;
     /// True when the year in `Sene` is the year of today.
     bool BuYil() const;
 
@@ -230,6 +238,9 @@ struct FormTablo {
     void SatirlariYerlestir();
     void BasliklariYerlestir();
     void BuGunYerlestir();
+    void YeniGun();
+    void CetvelYerlestir();
+    void PaneliYerlestir();
     void AyBasliklariniGoster();
     template <std::size_t Adet>
     void BasligiSec(BirTabanli<Etiket, Adet>& basliklar, int no, int& hizli);
@@ -237,6 +248,7 @@ struct FormTablo {
     bool BosRenkte(SatirAdi satir, int gun) const;
     bool DoluRenkte(SatirAdi satir, int gun) const;
     Metin GozAnahtari(SatirAdi satir, int gun) const;
+    Metin GozTarihi(SatirAdi satir, int gun) const;
     void RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi);
     void IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep);
 

@@ -45,9 +45,7 @@ void FormTablo::Hucre_MouseMove(SatirAdi satir, int gun) {
     const Yer goz = HucreYeri(satir, gun);
     Ekran.yer.sol = goz.Sag() - kEkranPayi;
     Ekran.yer.ust = goz.Alt() - kEkranPayi;
-    const Metin tarih =
-        IkiHane(static_cast<unsigned>(gun)) + AyEki(static_cast<unsigned>(SatirAyi(satir))) + Sene.Metni();
-    Ekran.baslik = tarih + u"\n " + Bicimle(tarih, u"dddd") + Metin(DilimEki(SatirDilimi(satir))) + u" ";
+    Ekran.baslik = EtiketMetni(satir, gun);
     if (program_.FormAyarlar->Check6.deger == 1 && tasimamoducheck == 0)
         Ekran.gorunur = true;
     SeciliTarih = GozAnahtari(satir, gun);

@@ -1,5 +1,7 @@
 #include "table/Yerlesim.h"
 
+#include <algorithm>
+
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
 #include "table/FormTablo.h"
@@ -17,6 +19,7 @@ constexpr double kAyArasi = 20;     // by so much a month starts above the lower
 constexpr double kBaslikArasi = 30; // between the heads and January
 constexpr double kKenar = 60;       // free margin at the edges
 constexpr double kResimGenisligi = 330;
+constexpr double kPanelYuksekligi = 4200; // of the panel of warnings, where half of the table has room for it
 
 /// What the slot order changes in the layout.
 struct SiraOlcusu {
@@ -77,6 +80,8 @@ void FormTablo::Resize(double icGenislik, double icYukseklik) {
     AyBasliklariniGoster();
     Command4(); // days that the months don't have
     BuGunYerlestir();
+    CetvelYerlestir();
+    PaneliYerlestir();
     if (!yerlesti_ && BuYil())
         BuGun.gorunur = true;
     yerlesti_ = true;
@@ -140,6 +145,18 @@ void FormTablo::BuGunYerlestir() {
     const TabloSatiri& ilk = satirlar[static_cast<std::size_t>(Satir(ay, IlkDilim(gunduzUstte)))];
     BuGun.yer = {Gunler[gun].yer.sol, ilk.ust + Olcu(gunduzUstte).buGunPayi, Gunler[1].yer.genislik + 10,
                  2 * satirlar[OcakGunduz].yukseklik};
+    BuGun.ay = ay;
+    BuGun.gun = gun;
+}
+
+void FormTablo::PaneliYerlestir() {
+    // In the half of the table that today's month doesn't stand in.
+    constexpr int yarisi = kAySayisi / 2;
+    const int ilk = BuGun.ay <= yarisi ? yarisi + 1 : 1;
+    const double ust = AyZemin[ilk].yer.ust;
+    const double alt = AyZemin[ilk + yarisi - 1].yer.Alt();
+    Picture1.yer.yukseklik = std::min(kPanelYuksekligi, alt - ust);
+    Picture1.yer.ust = (ust + alt - Picture1.yer.yukseklik) / 2;
 }
 
 } // namespace velora

@@ -64,6 +64,8 @@ class BakiyePenceresiTest : public QObject {
             QCOMPARE(Yazi(pencere, "DTop1"), QStringLiteral(": 10.000 TL"));
             QCOMPARE(Yazi(pencere, "DTop8"), QStringLiteral(": 0 TL"));
             QCOMPARE(Yazi(pencere, "Toplam"), QStringLiteral(": 10.000 TL"));
+            QCOMPARE(Parcasi<QLabel>(pencere, "Toplam").accessibleName(),
+                     QStringLiteral("Genel Toplam: 10.000 TL"));
             QCOMPARE(Yazi(pencere, "Alinan"), QStringLiteral(": 2.000 TL"));
             QCOMPARE(Yazi(pencere, "Kalan"), QStringLiteral(": 8.000 TL"));
             QCOMPARE(Yazi(pencere, "Label14"), QStringLiteral(": 0"));
@@ -89,7 +91,11 @@ class BakiyePenceresiTest : public QObject {
                                      std::pair{"Label18", "Ön Rezervasyon"},
                                      std::pair{"Label19", "Toplam Rezervasyon"}};
             for (const auto& [ad, yazi] : yazilar) {
-                QCOMPARE(Parcasi<QWidget>(pencere, ad).accessibleName(), QString::fromUtf8(yazi));
+                const auto& parca = Parcasi<QWidget>(pencere, ad);
+                // A value is called by its caption and by what it is.
+                const auto* deger = qobject_cast<const QLabel*>(&parca);
+                QCOMPARE(parca.accessibleName(),
+                         QString::fromUtf8(yazi) + (deger == nullptr ? QString() : deger->text()));
                 QVERIFY2(EtiketVar(pencere, QString::fromUtf8(yazi)), yazi);
             }
             QVERIFY(!Parcasi<QWidget>(pencere, "Liste").accessibleName().isEmpty());

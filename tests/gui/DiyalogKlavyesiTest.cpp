@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDateEdit>
 #include <QKeyEvent>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -162,6 +164,22 @@ class DiyalogKlavyesiTest : public QObject {
                     TuslariAyriOlmali(pencere);
                 }
             });
+    }
+
+    void the_row_of_the_tabs_and_the_field_of_an_editable_list_have_names_too() {
+        GuiFirma firma;
+        YeniKayitta(firma, u"11.09.2026 - Gece", {[](QDialog& pencere) {
+                        QCOMPARE(pencere.findChild<QTabBar*>()->accessibleName(), QStringLiteral("Sayfalar"));
+                        int yazilabilen = 0;
+                        for (const auto* liste : pencere.findChildren<QComboBox*>()) {
+                            if (!liste->isEditable())
+                                continue;
+                            ++yazilabilen;
+                            QVERIFY(!liste->accessibleName().isEmpty());
+                            QCOMPARE(liste->lineEdit()->accessibleName(), liste->accessibleName());
+                        }
+                        QVERIFY(yazilabilen > 0);
+                    }});
     }
 
     void the_key_k_saves_wherever_something_is_saved_and_belongs_to_nothing_else() {

@@ -1,7 +1,15 @@
+#include <algorithm>
+
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
 #include "gui/GuiProgram.h"
@@ -29,6 +37,17 @@ QList<QColor> Kenarlar(QWidget& parca, double olcek) {
             resim.pixelColor(sag / 2, alt)};
 }
 
+/// How well the left edge of a widget, in the middle of its height, is told from the window.
+double KenarKarsitligi(QWidget& parca) {
+    const QImage resim = parca.grab().toImage();
+    double enCok = 1;
+    for (int x = 0; x < 4; ++x) {
+        const QColor renk = resim.pixelColor(x, resim.height() / 2);
+        enCok = std::max(enCok, velora::Karsitlik(renk, QApplication::palette().color(QPalette::Window)));
+    }
+    return enCok;
+}
+
 } // namespace
 
 class GorunumTest : public QObject {
@@ -51,6 +70,35 @@ class GorunumTest : public QObject {
         const QPushButton dugme(QStringLiteral("Varsayılan Ayarlar"));
         const int yazi = dugme.fontMetrics().horizontalAdvance(dugme.text());
         QVERIFY(dugme.sizeHint().width() >= yazi + 2 * velora::kAralik);
+    }
+
+    void texts_and_edges_can_be_told_from_what_lies_under_them() {
+        const QPalette palet = QApplication::palette();
+        for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            for (const auto zemin : {QPalette::Window, QPalette::Base, QPalette::Button})
+                QVERIFY(velora::Karsitlik(palet.color(QPalette::Disabled, rol), palet.color(zemin)) >= 3);
+        QLineEdit satir;
+        QComboBox liste;
+        QComboBox yazilan;
+        yazilan.setEditable(true);
+        QDateEdit tarih;
+        tarih.setCalendarPopup(true);
+        QPlainTextEdit metin;
+        QListWidget secim;
+        QCheckBox onay;
+        QRadioButton secenek;
+        for (QWidget* parca : std::initializer_list<QWidget*>{&satir, &liste, &yazilan, &tarih, &metin,
+                                                              &secim, &onay, &secenek}) {
+            parca->resize(parca->sizeHint());
+            const QString tur = QString::fromLatin1(parca->metaObject()->className());
+            QVERIFY2(KenarKarsitligi(*parca) >= 3, qPrintable(tur));
+        }
+    }
+
+    void contrast_goes_from_one_to_twenty_one() {
+        QCOMPARE(velora::Karsitlik(Qt::black, Qt::white), 21.0);
+        QCOMPARE(velora::Karsitlik(QColor(9, 99, 199), QColor(9, 99, 199)), 1.0);
+        QVERIFY(qAbs(velora::Karsitlik(QColor(0, 255, 0), Qt::white) - 1.37) < 0.01);
     }
 
     void the_frame_of_a_list_is_whole_at_every_scale_and_shows_the_focus() {

@@ -1,5 +1,6 @@
 #include <QMenu>
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
@@ -10,6 +11,7 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/table/KomutMenuleri.h"
+#include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
 
 using namespace velora;
@@ -55,6 +57,44 @@ class KomutMenuleriTest : public QObject {
         for (const QAction* menu : firma.Pencere().menuBar()->actions())
             basliklar << menu->text();
         QCOMPARE(basliklar, (QStringList{"&Dosya", "&Raporlar", "&Ayarlar"}));
+    }
+
+    void the_entries_of_a_menu_have_access_keys_each_its_own() {
+        GuiFirma firma;
+        firma.Ac();
+        for (const MenuTanimi& tanim : kMenuler) {
+            QSet<QChar> tuslar;
+            int girdiler = 0;
+            for (const QAction* girdi : firma.Bul<QMenu>(qPrintable(QMetin(tanim.ad))).actions()) {
+                if (girdi->isSeparator()) {
+                    QCOMPARE(girdi->text(), QString()); // else it stands written in the line
+                    continue;
+                }
+                ++girdiler;
+                QCOMPARE(girdi->text().count(u'&'), 1);
+                tuslar << girdi->text()[girdi->text().indexOf(u'&') + 1].toUpper();
+            }
+            QVERIFY(girdiler > 0);
+            QCOMPARE(tuslar.size(), girdiler);
+            QVERIFY(!tuslar.contains(u'İ'));
+        }
+    }
+
+    void an_access_key_of_the_context_menu_begins_its_entry_and_a_refresh_leaves_the_marks() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        auto& girdi = firma.Bul<QAction>("TasimaModuAc");
+        const QSignalSpy degisti(&girdi, &QAction::changed);
+        Baglayici::HepsiniTazele();
+        QCOMPARE(degisti.size(), 0);
+        QTest::keyClick(&firma.Tablo(), Qt::Key_Right);
+        QTest::keyClick(&firma.Tablo(), Qt::Key_Menu);
+        auto& menu = firma.Bul<QMenu>("Sagtus");
+        QTRY_VERIFY(menu.isVisible());
+        QCOMPARE(girdi.text(), QStringLiteral("&Taşıma Modunu Aç"));
+        QTest::keyClick(&menu, Qt::Key_T);
+        QTRY_COMPARE(firma.Model().tasimamoducheck, 1);
     }
 
     void keys_are_those_of_the_table() {

@@ -91,9 +91,9 @@ class QtOrtamTest : public QObject {
                                                              {Simge::Soru, QMessageBox::Question},
                                                              {Simge::Uyari, QMessageBox::Warning},
                                                              {Simge::Kritik, QMessageBox::Critical}};
-        for (const auto& [simge, icon] : simgeler)
-            Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = simge}); },
-                      {Kutuda<QMessageBox>([&](QMessageBox& kutu) { QCOMPARE(kutu.icon(), icon); })});
+        for (const auto& biri : simgeler)
+            Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = biri.first}); },
+                      {Kutuda<QMessageBox>([&](QMessageBox& kutu) { QCOMPARE(kutu.icon(), biri.second); })});
     }
 
     void an_input_box_says_what_it_asks_for_under_its_title() {

@@ -38,6 +38,12 @@ void SirayiKur(GuiFirma& firma, bool gunduzUstte) {
                         AyarMetni(30, gunduzUstte ? u"\"Gündüz / Gece\"" : u"\"Gece / Gündüz\""));
 }
 
+/// True when the middle of a place of the model lies on these cells.
+bool Ortasi(const QRect& cift, const Yer& yer, double olcek = 1) {
+    const QPointF orta(yer.sol + yer.genislik / 2, yer.ust + yer.yukseklik / 2);
+    return cift.contains((orta / kTwipPikseli * olcek).toPoint());
+}
+
 } // namespace
 
 class TabloDuzeniTest : public QObject {
@@ -77,7 +83,7 @@ class TabloDuzeniTest : public QObject {
         QVERIFY(cihaz.height() - son.bottom() <= 20 * olcek);
     }
 
-    void todays_frame_stands_about_todays_pair_on_every_day_of_the_year() {
+    void todays_frame_belongs_to_todays_pair_and_lies_about_it_on_every_day_of_the_year() {
         for (const bool gunduzUstte : {true, false}) {
             GuiFirma firma;
             SirayiKur(firma, gunduzUstte);
@@ -86,26 +92,31 @@ class TabloDuzeniTest : public QObject {
                     std::chrono::local_days(std::chrono::year(2026) / 1 / 1) + std::chrono::days(gun);
                 const TabloDuzeni duzen = Duzen(firma.Model(), {1280, 640}, 1);
                 const Gun bugun = firma.program.Bugun();
-                QCOMPARE(duzen.CerceveninCifti(firma.Model().BuGun.yer),
-                         duzen.HucreCifti(int(unsigned(bugun.month())), int(unsigned(bugun.day()))));
+                const Cerceve& cerceve = firma.Model().BuGun;
+                QCOMPARE(cerceve.ay, int(unsigned(bugun.month())));
+                QCOMPARE(cerceve.gun, int(unsigned(bugun.day())));
+                QVERIFY(Ortasi(duzen.HucreCifti(cerceve.ay, cerceve.gun), cerceve.yer));
             }
         }
     }
 
-    void the_rulers_frame_stands_about_the_pair_where_month_and_day_cross_data() { SiralarVeBoylar(); }
-    void the_rulers_frame_stands_about_the_pair_where_month_and_day_cross() {
+    void the_rulers_frame_belongs_to_the_crossing_and_follows_each_resize_data() { SiralarVeBoylar(); }
+    void the_rulers_frame_belongs_to_the_crossing_and_follows_each_resize() {
         QFETCH(bool, gunduzUstte);
         QFETCH(QSize, boy);
         QFETCH(double, olcek);
         GuiFirma firma;
         SirayiKur(firma, gunduzUstte);
         FormTablo& tablo = firma.Model();
-        const TabloDuzeni duzen = Duzen(tablo, boy, olcek);
         for (int ay = 1; ay <= kAySayisi; ++ay)
-            for (int gun = 1; gun <= kGunSayisi; ++gun) {
+            for (const int gun : {1, 2, 17, 30, 31}) {
+                Duzen(tablo, {1600, 900}, olcek);
                 tablo.AyAdi_Click(ay);
                 tablo.ALabel_Click(gun);
-                QCOMPARE(duzen.CerceveninCifti(tablo.HizliSecim.yer), duzen.HucreCifti(ay, gun));
+                const TabloDuzeni duzen = Duzen(tablo, boy, olcek);
+                QCOMPARE(tablo.HizliSecim.ay, ay);
+                QCOMPARE(tablo.HizliSecim.gun, gun);
+                QVERIFY(Ortasi(duzen.HucreCifti(ay, gun), tablo.HizliSecim.yer, olcek));
             }
     }
 

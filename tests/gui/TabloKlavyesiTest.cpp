@@ -3,12 +3,15 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <QWindow>
 
 #include "destek/Kayitlar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
 #include "setup/FormAyarlar.h"
 
 using namespace velora;
@@ -151,6 +154,47 @@ class TabloKlavyesiTest : public QObject {
         QContextMenuEvent olay(QContextMenuEvent::Keyboard, {5, 5}, firma.Tablo().mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(&firma.Tablo(), &olay);
         QTRY_VERIFY(menu.isVisible());
+        menu.close();
+        QTest::keyClick(firma.Pencere().windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+        QTRY_VERIFY(menu.isVisible());
+        menu.close();
+        QTest::keyClick(firma.Pencere().windowHandle(), Qt::Key_F10, Qt::ControlModifier);
+        QVERIFY(!menu.isVisible());
+    }
+
+    void no_key_works_a_day_that_the_panel_of_warnings_covers() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Rezervasyon(kSalonA, u"21.09.2026 - Gece", false);
+        firma.Ac();
+        const auto& panel = firma.Bul<QWidget>("Picture1");
+        const auto orta = [&](SatirAdi satir, int gun) {
+            return firma.Orta(firma.Tablo().Duzen().Hucre(satir, gun));
+        };
+        const auto ortulu = [&](SatirAdi satir) { return panel.geometry().contains(orta(satir, 21)); };
+        QVERIFY(ortulu(EylulGece));
+        QVERIFY(!ortulu(MayisGece) && !ortulu(HaziranGece));
+        // The pointer was there before the panel came.
+        firma.Model().Command2_Click();
+        Baglayici::HepsiniTazele();
+        QTest::mouseMove(&firma.Tablo(), orta(EylulGece, 21));
+        QCOMPARE(firma.Model().SeciliTarih, Metin(u"21.09.2026 - Gece"));
+        firma.Model().UyariGoster();
+        Baglayici::HepsiniTazele();
+        QVERIFY(panel.isVisible());
+        firma.Tablo().setFocus();
+        const auto tuslar = [&] {
+            for (const auto tus : {Qt::Key_Return, Qt::Key_Menu})
+                Tus(firma, tus);
+        };
+        Pencerede(tuslar, {});
+        QVERIFY(!firma.Bul<QMenu>("Sagtus").isVisible());
+        SatirAdi ust = EylulGece;
+        while (ortulu(ust))
+            ust = static_cast<SatirAdi>(ust - 2);
+        Tus(firma, Qt::Key_PageUp);
+        QCOMPARE(firma.Model().SeciliTarih,
+                 Metin(u"21.") + IkiHane(static_cast<unsigned>(SatirAyi(ust))) + u".2026 - Gece");
     }
 
     void the_mark_of_the_pointer_cell_shows_for_the_keys_only_and_leaves_its_colour_to_be_seen() {
@@ -161,6 +205,7 @@ class TabloKlavyesiTest : public QObject {
         const QPoint kenar(0, 0);
         const QPoint icerisi(4, 4);
         firma.Model().BuGun.gorunur = false;
+        Baglayici::HepsiniTazele();
         QCOMPARE(Renk(firma, MayisGece, 21, kenar), dolu);
         Tus(firma, Qt::Key_Right);
         QCOMPARE(Renk(firma, MayisGece, 21, kenar), QColor(32, 33, 36));

@@ -1,12 +1,12 @@
+#include <algorithm>
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
-#include <QToolTip>
 
 #include "destek/Kayitlar.h"
 #include "gui/GuiFirma.h"
@@ -45,13 +45,6 @@ QColor PencereRengi(GuiFirma& firma, SatirAdi satir, int gun) {
     return firma.Tablo().grab().toImage().pixelColor(yer.x() + 1, yer.center().y());
 }
 
-QString IpucuMetni(GuiFirma& firma, const QRect& yer) {
-    const QPoint nokta = firma.Orta(yer);
-    QHelpEvent olay(QEvent::ToolTip, nokta, firma.Tablo().mapToGlobal(nokta));
-    QApplication::sendEvent(&firma.Tablo(), &olay);
-    return QToolTip::isVisible() ? QToolTip::text() : QString();
-}
-
 } // namespace
 
 class TabloPenceresiTest : public QObject {
@@ -68,6 +61,20 @@ class TabloPenceresiTest : public QObject {
         QCOMPARE(firma.Bul<QComboBox>("Sene").currentText(), QStringLiteral("2026"));
         QCOMPARE(firma.Bul<QLabel>("Tarih").text(), QStringLiteral("21.05.2026"));
         QCOMPARE(firma.Bul<QLabel>("Saat").text(), QStringLiteral("10:30"));
+    }
+
+    void the_two_lists_have_their_captions_beside_them() {
+        GuiFirma firma;
+        firma.Ac();
+        for (const auto& [ad, baslik] : {std::pair{"Salon", "Salon"}, {"Sene", "Çalışma Yılı"}}) {
+            auto& kutu = firma.Bul<QComboBox>(ad);
+            const auto etiketler = firma.Pencere().findChildren<QLabel*>();
+            const auto etiket = std::ranges::find(etiketler, &kutu, &QLabel::buddy);
+            QVERIFY(etiket != etiketler.end());
+            QCOMPARE(Isaretsiz((*etiket)->text()), QString::fromUtf8(baslik));
+            QVERIFY((*etiket)->isVisible());
+            QVERIFY((*etiket)->geometry().right() < kutu.x());
+        }
     }
 
     void every_control_has_a_name_for_those_who_cannot_see_it() {
@@ -196,6 +203,42 @@ class TabloPenceresiTest : public QObject {
         QTRY_VERIFY(firma.Model().BuGun.gorunur);
     }
 
+    void the_strip_beside_the_lists_and_the_status_bar_are_bare_ground_too() {
+        GuiFirma firma;
+        firma.Ac();
+        QWindow* pencere = firma.Pencere().windowHandle();
+        const auto git = [&](const QWidget& parca, QPoint nokta) {
+            QTest::mouseMove(pencere, parca.mapTo(&firma.Pencere(), nokta));
+            QCoreApplication::processEvents();
+        };
+        const auto getirir = [&](const QWidget& parca, QPoint nokta) {
+            git(parca, nokta); // leaves the place before
+            firma.Model().BuGun.gorunur = false;
+            firma.Model().Ekran.gorunur = true;
+            git(parca, nokta + QPoint(3, 1));
+            return firma.Model().BuGun.gorunur && !firma.Model().Ekran.gorunur;
+        };
+        const auto& sene = firma.Bul<QComboBox>("Sene");
+        const auto& durum = firma.Bul<QLabel>("Tarih");
+        QVERIFY(getirir(*sene.parentWidget(), {sene.geometry().right() + 10, sene.geometry().center().y()}));
+        QVERIFY(getirir(*durum.parentWidget(), {durum.x() - 200, durum.geometry().center().y()}));
+        QVERIFY(getirir(durum, durum.rect().center()));
+    }
+
+    void the_whole_table_fits_on_a_small_screen() {
+        GuiFirma firma;
+        const QSize ekran = QGuiApplication::primaryScreen()->availableSize();
+        QVERIFY2(ekran.width() < 1000, "the platform's screen is to be a small one");
+        firma.program.FormTablo.Goster();
+        QVERIFY(QTest::qWaitForWindowActive(&firma.Pencere()));
+        QCoreApplication::processEvents();
+        QVERIFY(firma.Pencere().width() <= ekran.width());
+        QVERIFY(firma.Pencere().height() <= ekran.height());
+        const QRect son = firma.Tablo().Mantiksal(firma.Tablo().Duzen().HucreCifti(12, 31));
+        QVERIFY(firma.Tablo().rect().contains(son));
+        QVERIFY(firma.Pencere().rect().contains(firma.Tablo().mapTo(&firma.Pencere(), son.bottomRight())));
+    }
+
     void heads_show_a_hand_and_cells_an_arrow() {
         GuiFirma firma;
         firma.Ac();
@@ -227,16 +270,6 @@ class TabloPenceresiTest : public QObject {
         QVERIFY(firma.Model().Gunler[1].yer.genislik > 0);
         QVERIFY(firma.Model().BuGun.gorunur);
         QCOMPARE(firma.Model().Check1, 1);
-    }
-
-    void a_holiday_tells_its_name_in_a_tool_tip_and_other_cells_tell_nothing() {
-        GuiFirma firma;
-        firma.agac.KoyMetin(u"Tatiller.dll", u"\"29.10.1923\",\"Cumhuriyet Bayramı\",\"Evet\",\"Genel\"\r\n");
-        firma.Ac();
-        const TabloDuzeni& duzen = firma.Tablo().Duzen();
-        QCOMPARE(IpucuMetni(firma, duzen.Hucre(EkimGece, 29)), QStringLiteral("Cumhuriyet Bayramı"));
-        QTRY_VERIFY(IpucuMetni(firma, duzen.Hucre(EkimGece, 28)).isEmpty());
-        QVERIFY(IpucuMetni(firma, duzen.GunBasligi(29)).isEmpty());
     }
 
     void the_bell_is_seen_only_when_a_reminder_falls_on_today() {

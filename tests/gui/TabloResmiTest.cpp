@@ -6,6 +6,7 @@
 #include "gui/GuiProgram.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloCizici.h"
+#include "table/HucreRenkleri.h"
 #include "table/Yerlesim.h"
 
 using namespace velora;
@@ -14,6 +15,7 @@ using namespace velora::test;
 namespace {
 
 constexpr QColor kZemin(243, 244, 245);
+constexpr QColor kKoyu(32, 33, 36); // edges, marks and outlines
 
 /// The table of a firm painted into a picture.
 struct Tablo {
@@ -25,13 +27,14 @@ struct Tablo {
     }
 
     void Ciz(GuiFirma& firma, QSize boy = {1280, 640}, double olcek = 1) {
-        duzen = TabloDuzeni(firma.Model(), olcek);
+        const TabloGoruntusu goruntu(firma.Model(), *firma.program.FormAyarlar.Tut(), olcek);
+        duzen = goruntu.duzen;
         resim = QImage(boy * olcek, QImage::Format_ARGB32_Premultiplied);
         resim.setDevicePixelRatio(olcek);
         resim.fill(Qt::magenta);
         TabloCizici cizici(QGuiApplication::font(), {.zemin = kZemin});
         QPainter boyaci(&resim);
-        cizici.Ciz(boyaci, firma.Model(), duzen, resim.rect(), firma.program.FormAyarlar->Renk(16));
+        cizici.Ciz(boyaci, goruntu, resim.rect());
     }
 
     /// The colour just inside the left edge of a place, where no letter stands.
@@ -171,10 +174,85 @@ class TabloResmiTest : public QObject {
         QCOMPARE(tablo.resim.pixelColor(cift.right() + 1, cift.center().y()), mavi);
         QCOMPARE(tablo.resim.pixelColor(cift.center().x(), cift.top() - 1), mavi);
         QCOMPARE(tablo.resim.pixelColor(cift.center().x(), cift.bottom() + 1), mavi);
-        QVERIFY(tablo.resim.pixelColor(cift.left() - 3, cift.center().y()) != mavi);
+        for (const int x : {cift.left() - 3, cift.left() + 1, cift.right() - 1, cift.right() + 3})
+            QCOMPARE(tablo.resim.pixelColor(x, cift.center().y()), kKoyu);
+        for (const int y : {cift.top() - 3, cift.top() + 1, cift.bottom() - 1, cift.bottom() + 3})
+            QCOMPARE(tablo.resim.pixelColor(cift.center().x(), y), kKoyu);
         firma.Model().BuGun.gorunur = false;
         tablo.Ciz(firma);
         QVERIFY(!tablo.Iceriyor(cift.adjusted(-4, -4, 4, 4), mavi));
+    }
+
+    void the_rulers_frame_is_painted_about_the_crossing() {
+        GuiFirma firma;
+        firma.Model().AyAdi_Click(10);
+        firma.Model().ALabel_Click(17);
+        Tablo tablo(firma);
+        const QRect cift = tablo.duzen.HucreCifti(10, 17);
+        const QColor turuncu(255, 128, 0);
+        for (const int x : {cift.left() - 1, cift.right() + 1})
+            QCOMPARE(tablo.resim.pixelColor(x, cift.center().y()), turuncu);
+        for (const int y : {cift.top() - 1, cift.bottom() + 1})
+            QCOMPARE(tablo.resim.pixelColor(cift.center().x(), y), turuncu);
+        firma.Model().CetvelTimer_Tick();
+        tablo.Ciz(firma);
+        QVERIFY(!tablo.Iceriyor(cift.adjusted(-4, -4, 4, 4), turuncu));
+    }
+
+    void a_pre_reservation_carries_a_light_mark_with_dark_edges_and_nothing_else_does() {
+        for (const double olcek : {1.0, 2.0}) {
+            GuiFirma firma;
+            firma.Rezervasyon(kSalonA, u"06.06.2026 - Gündüz", true);
+            firma.Rezervasyon(kSalonA, u"07.06.2026 - Gece", true);
+            firma.Rezervasyon(kSalonA, u"06.06.2026 - Gece", false);
+            const Tablo tablo(firma, {1280, 640}, olcek);
+            const auto isaretli = [&](SatirAdi satir, int gun) {
+                const QRect yer = tablo.duzen.Hucre(satir, gun);
+                const int cizgi = tablo.duzen.Cizgi();
+                return tablo.resim.pixelColor(yer.right(), yer.top()) == kKoyu &&
+                       tablo.resim.pixelColor(yer.right() - cizgi, yer.top() + cizgi) == QColor(Qt::white);
+            };
+            for (int no = 0; no < kSatirSayisi; ++no)
+                for (int gun = 1; gun <= kGunSayisi; ++gun) {
+                    const auto satir = static_cast<SatirAdi>(no);
+                    const bool beklenen =
+                        (satir == HaziranGunduz && gun == 6) || (satir == HaziranGece && gun == 7);
+                    QCOMPARE(isaretli(satir, gun), beklenen);
+                }
+        }
+    }
+
+    void the_mark_goes_by_the_colour_that_is_painted() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"06.06.2026 - Gündüz", true);
+        FormTablo& model = firma.Model();
+        const auto ayarlar = firma.program.FormAyarlar.Tut();
+        const auto isaretli = [&](SatirAdi satir, int gun) {
+            return TabloGoruntusu(model, *ayarlar, 1).Gozu(satir, gun).on;
+        };
+        QVERIFY(isaretli(HaziranGunduz, 6));
+        model.Gozu(HaziranGunduz, 6).zemin = ayarlar->Renk(RenkNo::GecmisZemini);
+        QVERIFY(!isaretli(HaziranGunduz, 6));
+        model.Gozu(EkimGece, 9).zemin = ayarlar->Renk(RenkNo::GeceOnZemini);
+        QVERIFY(isaretli(EkimGece, 9));
+        // One colour for two states tells nothing of either.
+        ayarlar->renkler[RenkNo::GeceKesinZemini] = ayarlar->Renk(RenkNo::GeceOnZemini);
+        QVERIFY(!isaretli(EkimGece, 9));
+    }
+
+    void light_captions_on_a_weak_ground_have_a_dark_outline_and_others_none() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"08.06.2026 - Gündüz", false); // white on red, 4.0
+        firma.Rezervasyon(kSalonA, u"08.06.2026 - Gece", false);   // white on dark red, 6.5
+        const Tablo tablo(firma, {1912, 1008});
+        const auto konturlu = [&](const QRect& yer) {
+            return tablo.Iceriyor(yer.adjusted(1, 1, -1, -1), kKoyu);
+        };
+        QVERIFY(konturlu(tablo.duzen.Hucre(HaziranGunduz, 8)));
+        QVERIFY(tablo.Iceriyor(tablo.duzen.Hucre(HaziranGunduz, 8), Qt::white));
+        QVERIFY(!konturlu(tablo.duzen.Hucre(HaziranGece, 8)));
+        QVERIFY(!konturlu(tablo.duzen.Hucre(HaziranGece, 9))); // black on white
+        QVERIFY(!konturlu(tablo.duzen.GunBasligi(28)));        // white on green, 5.1
     }
 
     void painting_a_part_gives_the_same_pixels_as_painting_all() {
@@ -186,7 +264,7 @@ class TabloResmiTest : public QObject {
         boyaci.setClipRect(bolge);
         boyaci.fillRect(bolge, Qt::magenta);
         TabloCizici cizici(QGuiApplication::font(), {.zemin = kZemin});
-        cizici.Ciz(boyaci, firma.Model(), tumu.duzen, bolge, firma.program.FormAyarlar->Renk(16));
+        cizici.Ciz(boyaci, {firma.Model(), *firma.program.FormAyarlar.Tut(), 1}, bolge);
         boyaci.end();
         QCOMPARE(parca, tumu.resim);
     }

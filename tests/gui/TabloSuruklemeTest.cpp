@@ -9,8 +9,8 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
-#include "qt/table/TabloGirisi.h"
 #include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloTasimasi.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -44,9 +44,26 @@ bool Birak(QWidget& alttaki, QPoint yer, const QMimeData& veri) {
 }
 
 /// The same with a cell of this table, over a place of it.
-bool Birak(GuiFirma& firma, QPoint yer, const QMimeData& veri = *TabloGirisi::SuruklemeVerisi()) {
+bool Birak(GuiFirma& firma, QPoint yer, const QMimeData& veri = *TabloTasimasi::SuruklemeVerisi()) {
     return Birak(firma.Tablo(), yer, veri);
 }
+
+/// Does something once, when a widget is painted for the next time.
+class Cizince : public QObject {
+  public:
+    Cizince(QWidget& parca, std::function<void()> is) : is_(std::move(is)) { parca.installEventFilter(this); }
+    bool Oldu() const { return is_ == nullptr; }
+
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() == QEvent::Paint)
+            if (const auto is = std::exchange(is_, nullptr))
+                is();
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    std::function<void()> is_;
+};
 
 } // namespace
 
@@ -115,7 +132,7 @@ class TabloSuruklemeTest : public QObject {
         QVERIFY(panel.isVisible());
         firma.Model().TasimaModuAc_Click();
         firma.Model().Hucre_MouseMove(MayisGece, 23);
-        const auto veri = TabloGirisi::SuruklemeVerisi();
+        const auto veri = TabloTasimasi::SuruklemeVerisi();
         auto& liste = *panel.findChild<QTreeWidget*>(QStringLiteral("Liste"));
         const auto birak = [&] {
             for (QWidget* yuzey : {&panel, liste.viewport()})
@@ -150,6 +167,48 @@ class TabloSuruklemeTest : public QObject {
         };
         Pencerede(birak, {Mesaj(QStringLiteral(
                              "Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!"))});
+    }
+
+    void a_drop_waits_for_the_end_of_its_drag_also_when_events_run_inside_that() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        firma.Model().TasimaModuAc_Click();
+        const QPoint bas = GozYeri(firma, EylulGunduz, 10);
+        QTest::mousePress(&firma.Tablo(), Qt::LeftButton, {}, bas);
+        // The drag takes a picture of its cell: from there on it goes on.
+        Cizince cizince(firma.Tablo(), [&] {
+            QVERIFY(Birak(firma, GozYeri(firma, KasimGece, 20)));
+            QCoreApplication::processEvents();
+            QVERIFY2(firma.Model().tasimamoducheck == 1, "no box while the toolkit is still in its drag");
+        });
+        const auto birak = [&] {
+            Cek(firma, bas + QPoint(QApplication::startDragDistance() + 1, 0));
+            QTRY_COMPARE(firma.Model().tasimamoducheck, 0);
+        };
+        Pencerede(birak, {Mesaj(QStringLiteral("Seçili rezervasyonu taşımak istediğinizden emin misiniz?"),
+                                QStringLiteral("Evet"))});
+        QVERIFY(cizince.Oldu());
+        QVERIFY(firma.agac.DosyaVar(Dosya(u"20.11.2026 - Gece")));
+    }
+
+    void a_cell_dragged_here_from_another_running_copy_is_no_drop() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gündüz", false);
+        firma.Ac();
+        firma.Model().TasimaModuAc_Click();
+        firma.Model().Hucre_MouseMove(EylulGunduz, 10);
+        const auto bizim = TabloTasimasi::SuruklemeVerisi();
+        QCOMPARE(bizim->formats().size(), 1);
+        QMimeData baskasinin;
+        baskasinin.setData(bizim->formats().front(),
+                           QByteArray::number(QCoreApplication::applicationPid() + 1));
+        const auto birak = [&] {
+            QVERIFY(!Birak(firma, GozYeri(firma, KasimGece, 20), baskasinin));
+            QCoreApplication::processEvents();
+        };
+        Pencerede(birak, {});
+        QVERIFY(firma.agac.DosyaVar(Dosya(u"10.09.2026 - Gündüz")));
     }
 
     void what_another_program_drags_here_is_no_drop() {

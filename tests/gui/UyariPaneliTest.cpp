@@ -1,4 +1,5 @@
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
@@ -28,14 +29,40 @@ class UyariPaneliTest : public QObject {
         auto& panel = firma.Bul<QWidget>("Picture1");
         QVERIFY(panel.isVisible());
         QVERIFY(firma.Tablo().rect().contains(panel.geometry()));
-        const int ortadan = panel.geometry().center().x() - firma.Tablo().rect().center().x();
-        QVERIFY2(std::abs(ortadan) <= 20, qPrintable(QString::number(ortadan)));
         auto& liste = firma.Bul<QTreeWidget>("Liste");
         QCOMPARE(liste.topLevelItemCount(), 1);
         QCOMPARE(liste.topLevelItem(0)->text(0), QStringLiteral("23.05.2026 - Gece"));
         QCOMPARE(liste.topLevelItem(0)->text(6), QStringLiteral("Kesin"));
         QCOMPARE(firma.Bul<QLabel>("UyariBaslik").text(), QStringLiteral("YAKLAŞAN REZERVASYON UYARILARI"));
         QCOMPARE(panel.palette().color(QPalette::Window), QColor(192, 0, 0));
+    }
+
+    void it_stands_in_the_very_middle_of_the_table_and_in_the_half_without_todays_month() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        for (const QSize boy : {QSize(1280, 720), QSize(1601, 903), QSize(1911, 1011)}) {
+            firma.Pencere().resize(boy);
+            QTRY_COMPARE(firma.Pencere().size(), boy);
+            const QRect panel = PaneldeYeri(firma);
+            const int sagda = firma.Tablo().width() - panel.x() - panel.width();
+            QVERIFY2(std::abs(panel.x() - sagda) <= 1, qPrintable(QString::number(panel.x() - sagda)));
+            const TabloDuzeni& duzen = firma.Tablo().Duzen();
+            QVERIFY(!panel.intersects(firma.Tablo().Mantiksal(duzen.AyHucreleri(5))));
+            QVERIFY(panel.intersects(firma.Tablo().Mantiksal(duzen.AyHucreleri(9))));
+        }
+    }
+
+    void a_pre_reservation_is_bold_and_a_firm_one_is_not() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", true);
+        firma.Rezervasyon(kSalonA, u"24.05.2026 - Gece", false);
+        firma.Ac();
+        const auto& liste = firma.Bul<QTreeWidget>("Liste");
+        for (int sutun = 0; sutun < 7; ++sutun) {
+            QVERIFY(liste.topLevelItem(0)->font(sutun).bold());
+            QVERIFY(!liste.topLevelItem(1)->font(sutun).bold());
+        }
     }
 
     void with_nothing_near_it_is_not_there() {
@@ -68,6 +95,60 @@ class UyariPaneliTest : public QObject {
         QVERIFY(panel.isVisible());
         QTest::mouseClick(&firma.Bul<QPushButton>("Command2"), Qt::LeftButton);
         QVERIFY(!panel.isVisible());
+    }
+
+    void its_list_has_the_focus_while_it_is_up_and_the_table_when_it_is_closed() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonB, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        auto& panel = firma.Bul<QWidget>("Picture1");
+        auto& kapat = firma.Bul<QPushButton>("Command2");
+        const std::vector<std::function<void()>> kapatmalar{
+            [] { Tusla(Qt::Key_Escape); },
+            [&] { QTest::mouseClick(&kapat, Qt::LeftButton); },
+            [&] {
+                kapat.setFocus();
+                Tusla(Qt::Key_Return);
+            },
+        };
+        for (const auto& kapatma : kapatmalar) {
+            QCOMPARE(Odaktaki(), QStringLiteral("Liste"));
+            kapatma();
+            QVERIFY(!panel.isVisible());
+            QCOMPARE(Odaktaki(), QStringLiteral("Picture4"));
+            Tusla(Qt::Key_Down);
+            QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonA));
+            firma.Model().Picture1.gorunur = true;
+            Baglayici::HepsiniTazele();
+        }
+    }
+
+    void a_panel_that_closes_beside_the_focus_leaves_it_where_it_is() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonB, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        firma.Bul<QWidget>("Sene").setFocus();
+        firma.Model().Command2_Click();
+        Baglayici::HepsiniTazele();
+        QCOMPARE(Odaktaki(), QStringLiteral("Sene"));
+    }
+
+    void its_keys_never_work_the_table_under_it_and_enter_opens_the_marked_row() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonB, u"23.05.2026 - Gece", false);
+        firma.Rezervasyon(kSalonB, u"25.05.2026 - Gündüz", false);
+        firma.Ac();
+        const auto enter = [] { Tusla(Qt::Key_Return); };
+        Pencerede(enter, {}); // no row is marked yet
+        for (const auto tus : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Left, Qt::Key_Menu})
+            Tusla(tus);
+        QCOMPARE(firma.Model().SeciliTarih, Metin());
+        QVERIFY(!firma.Bul<QMenu>("Sagtus").isVisible());
+        Pencerede(enter, {[&](QDialog& pencere) {
+                      QCOMPARE(firma.program.FormKayit->Tarih, Metin(u"25.05.2026 - Gündüz"));
+                      QTest::keyClick(&pencere, Qt::Key_Escape);
+                  }});
+        QCOMPARE(Odaktaki(), QStringLiteral("Liste"));
     }
 
     void a_clicked_row_opens_by_its_button_and_by_a_double_click() {

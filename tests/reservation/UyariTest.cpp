@@ -38,6 +38,7 @@ TEST_F(UyariTest, A_pre_reservation_is_near_by_its_own_number_of_days_and_green)
     Prog();
     UyarilarOlmali({u"22.06.2012 - Gündüz Ön"});
     EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 49152);
+    EXPECT_TRUE(Tablo().Liste.satirlar[0].kalin);
     EXPECT_EQ(Tablo().Liste.satirlar[0].tag, Yol(u"22.06.2012 - Gündüz"));
 }
 
@@ -63,6 +64,7 @@ TEST_F(UyariTest, A_row_tells_day_hall_customer_couple_telephones_and_kind) {
               (std::vector<Metin>{u"16.06.2012 - Gece", u"Salon A", u"Ali", u"Elif / Can", u"0212", u"0532",
                                   u"Kesin"}));
     EXPECT_EQ(Tablo().Liste.satirlar[0].yazi, 0);
+    EXPECT_FALSE(Tablo().Liste.satirlar[0].kalin);
     EXPECT_EQ(Tablo().Liste.basliklar, (std::vector<Metin>{u"Tarih", u"Salon", u"Ad Soyad", u"Gelin / Damat",
                                                            u"Telefon", u"Cep", u"Tipi"}));
 }
@@ -140,6 +142,15 @@ TEST_F(UyariTest, Asked_for_with_nothing_near_a_box_says_so_and_the_panel_stays_
     Tablo().UyariGoster();
     EXPECT_TRUE(Tablo().Picture1.gorunur);
     Tablo().Activate();
+    EXPECT_FALSE(Tablo().Picture1.gorunur);
+}
+
+TEST_F(UyariTest, The_box_of_an_empty_list_comes_with_the_panel_hidden_too) {
+    Prog();
+    Tablo().Activate();
+    ASSERT_FALSE(Tablo().Picture1.gorunur);
+    KutuBekle(Metin(kYok));
+    Tablo().UyariGoster();
     EXPECT_FALSE(Tablo().Picture1.gorunur);
 }
 

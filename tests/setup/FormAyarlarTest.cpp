@@ -122,6 +122,33 @@ TEST_F(FormAyarlarTest, Word_in_any_other_number_gives_all_defaults) {
     }
 }
 
+TEST_F(FormAyarlarTest, What_a_damaged_file_held_before_its_damage_gives_way_to_the_defaults) {
+    // Every value but the last one is another than its default.
+    agac.KoyMetin(u"Settings.dll",
+                  u"100,101,102,103,104,105,106,107,108,109,110,111,112,113,114,115,116,117,118,119,120,"
+                  u"121,122,123,124,\"6\",\"7\",1,0,\"Gündüz / Gece\",0,0,\"abc\"\r\n");
+    agac.Koy(u"Visible.dll", kHepsiAcik);
+    VarsayilanOlmali();
+}
+
+TEST_F(FormAyarlarTest, A_word_among_the_months_gives_all_defaults) {
+    for (const char* aylar : {"abc,0,0,0,0,0,0,0,0,0,0,0,0\r\n", "0,0,0,0,0,0,0,0,0,0,0,\"x\",0\r\n",
+                              "0,0,0,0,0,0,0,0,0,0,0,0,abc\r\n"}) {
+        agac.KoyMetin(u"Settings.dll", AyarMetni(28, u"1"));
+        agac.Koy(u"Visible.dll", aylar);
+        program.FormAyarlar.Bosalt();
+        VarsayilanOlmali();
+    }
+}
+
+TEST_F(FormAyarlarTest, A_month_flag_of_two_is_not_on_and_no_error_on_purpose) {
+    agac.KoyMetin(u"Settings.dll", AyarMetni(1, u"77"));
+    agac.Koy(u"Visible.dll", "1,2,1,1,1,1,1,1,1,1,1,1,1\r\n");
+    EXPECT_EQ(Ayarlar().Renk(0), 77);
+    EXPECT_TRUE(Ayarlar().AyGorunur(1));
+    EXPECT_FALSE(Ayarlar().AyGorunur(2));
+}
+
 TEST_F(FormAyarlarTest, Quoted_numbers_count_as_numbers) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(31, u"\"0\""));
     agac.Koy(u"Visible.dll", "\"1\",0,1,1,1,1,1,1,1,1,1,1,1\r\n");

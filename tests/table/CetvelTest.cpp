@@ -42,6 +42,30 @@ TEST_F(Cetvel, Frame_is_thirty_lower_with_the_day_slot_on_top) {
               2 * kullanici.Tablo().HucreYeri(OcakGunduz, 1).yukseklik);
 }
 
+TEST_F(Cetvel, Frame_follows_its_crossing_at_each_layout) {
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(10);
+    kullanici.GunBasligina(27);
+    for (const auto& [genislik, yukseklik] : {std::pair{1701, 803}, {1003, 571}}) {
+        const Yer once = kullanici.Tablo().HizliSecim.yer;
+        kullanici.Boyutla(genislik, yukseklik);
+        const FormTablo& tablo = kullanici.Tablo();
+        const Yer hucre = tablo.HucreYeri(OcakGunduz, 1);
+        EXPECT_EQ(tablo.HizliSecim.yer, (Yer{tablo.ALabel[27].yer.sol + 20, tablo.AyZemin[10].yer.ust,
+                                             hucre.genislik + 10, 2 * hucre.yukseklik + 30}));
+        EXPECT_NE(tablo.HizliSecim.yer, once);
+        EXPECT_TRUE(tablo.HizliSecim.gorunur);
+    }
+}
+
+TEST_F(Cetvel, Layout_shows_no_frame_for_one_pick) {
+    kullanici.ProgramiAc();
+    kullanici.AyBasligina(10);
+    kullanici.Boyutla(1701, 803);
+    EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur);
+    EXPECT_EQ(kullanici.Tablo().HizliSecim.yer, Yer());
+}
+
 TEST_F(Cetvel, Second_click_on_the_same_head_changes_nothing) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);
@@ -99,6 +123,24 @@ INSTANTIATE_TEST_SUITE_P(CellHallOrYear, CetvelSonu,
                          ::testing::Values([](Kullanici& k) { k.Goze(); },
                                            [](Kullanici& k) { k.SalonSec(u"Salon B"); },
                                            [](Kullanici& k) { k.YilSec(u"2013"); }));
+
+// What is picked while the ruler goes starts its timer again: it is stopped twice for that reason.
+TEST_F(Cetvel, Pick_that_comes_in_between_leaves_the_timer_off_on_purpose) {
+    for (int nokta = 1; nokta <= 2; ++nokta) {
+        kullanici.ProgramiAc();
+        kullanici.AyBasligina(3);
+        kullanici.GunBasligina(5);
+        const int ilk = kullanici.ortam.olaySayisi;
+        kullanici.ortam.olayda = [&](int sira) {
+            if (sira == ilk + nokta)
+                kullanici.GunBasligina(6);
+        };
+        kullanici.Tablo().CetvelSil();
+        kullanici.ortam.olayda = nullptr;
+        EXPECT_EQ(kullanici.Tablo().CetvelTimer.aralik, 0) << nokta;
+        EXPECT_FALSE(kullanici.Tablo().HizliSecim.gorunur) << nokta;
+    }
+}
 
 // A tick that was already on its way shows the frame once more; the ruler hides it twice for that reason.
 TEST_F(Cetvel, Tick_that_comes_in_between_leaves_the_frame_hidden_on_purpose) {

@@ -137,6 +137,12 @@ TEST_F(Iptal, Text_outside_the_code_page_is_logged_as_a_question_mark) {
     EXPECT_TRUE(agac.Bayt(u"IptalSebep.txt").ends_with(" - ?!\r\n"));
 }
 
+TEST_F(Iptal, The_scan_comes_first_and_then_the_look_at_today) {
+    RezervasyonKoy(u"20.06.2012 - Gündüz");
+    kullanici.ProgramiAc();
+    EXPECT_EQ(DiskteSirasi([&] { IptalEt({20, 6, kGunduz}, u"x"); }), "dddlbb");
+}
+
 TEST_F(Iptal, Todays_frame_is_tested_again) {
     RezervasyonKoy(u"15.06.2012 - Gündüz");
     kullanici.ProgramiAc();

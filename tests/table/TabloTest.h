@@ -37,6 +37,24 @@ class TabloTest : public ::testing::Test {
         EXPECT_EQ(kullanici.Goz(gun, ay, dilim).yazi, ayarlar->Renk(yazi)) << gun << '.' << ay;
     }
 
+    /// What a deed does on the disk to tell whether a scan came before the look at today, by its first
+    /// letters: "d"eleting, "l"isting the year, "b"eing asked for one of today's files.
+    std::string DiskteSirasi(const std::function<void()>& is) {
+        std::string sira;
+        kullanici.Prog().dosyalar.ariza = [&](DosyaIsi isi, const Metin& yol) {
+            if (isi == DosyaIsi::Sil)
+                sira += 'd';
+            else if (isi == DosyaIsi::Listele)
+                sira += 'l';
+            else if (isi == DosyaIsi::VarMi && yol.find(u"15.06.2012") != Metin::npos)
+                sira += 'b';
+            return false;
+        };
+        is();
+        kullanici.Prog().dosyalar.ariza = nullptr;
+        return sira;
+    }
+
     GeciciAgac agac;
     Kullanici kullanici{agac, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
 };

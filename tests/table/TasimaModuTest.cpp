@@ -148,6 +148,14 @@ TEST_F(TasimaModu, Todays_frame_is_tested_again_after_a_move) {
     EXPECT_EQ(kullanici.Tablo().GunTimer.aralik, 300);
 }
 
+TEST_F(TasimaModu, After_a_move_the_scan_comes_first_and_then_the_look_at_today) {
+    UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
+    kullanici.ProgramiAc();
+    kullanici.KomutSec(Komut::TasimaModuAc);
+    SoruBekle(Cevap::Evet);
+    EXPECT_EQ(DiskteSirasi([&] { kullanici.Surukle({20, 6, kGunduz}, {1, 7, kGece}); }), "dddlbb");
+}
+
 TEST_F(TasimaModu, Reservation_without_payments_moves_without_them_in_silence) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     std::filesystem::remove(agac.Yol(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));

@@ -163,6 +163,31 @@ TEST_F(Yerlesim, Warning_panel_is_centred) {
     EXPECT_DOUBLE_EQ(kullanici.Tablo().Picture1.yer.sol, kIcGenislik / 2 - 3000);
 }
 
+TEST_F(Yerlesim, Warning_panel_stands_in_the_half_without_todays_month) {
+    for (const unsigned ay : {1U, 6U, 7U, 12U}) {
+        kullanici.ortam.simdi = std::chrono::local_days(
+            Gun{std::chrono::year{2012}, std::chrono::month{ay}, std::chrono::day{9}});
+        kullanici.ProgramiAc();
+        kullanici.Tablo().Resize(kIcGenislik, 2 * kIcYukseklik);
+        const FormTablo& tablo = kullanici.Tablo();
+        const Yer& panel = tablo.Picture1.yer;
+        EXPECT_EQ(panel.ust >= tablo.AyZemin[7].yer.ust, ay <= 6) << ay;
+        EXPECT_EQ(panel.Alt() <= tablo.AyZemin[6].yer.Alt(), ay > 6) << ay;
+        EXPECT_GE(panel.ust, tablo.AyZemin[1].yer.ust);
+        EXPECT_LE(panel.Alt(), tablo.AyZemin[12].yer.Alt());
+        EXPECT_DOUBLE_EQ(panel.yukseklik, 4200);
+    }
+}
+
+TEST_F(Yerlesim, Warning_panel_is_no_higher_than_half_of_a_low_table) {
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Resize(kIcGenislik, kIcYukseklik / 2);
+    const FormTablo& tablo = kullanici.Tablo();
+    EXPECT_DOUBLE_EQ(tablo.Picture1.yer.yukseklik, tablo.AyZemin[12].yer.Alt() - tablo.AyZemin[7].yer.ust);
+    kullanici.Tablo().Resize(kIcGenislik, 2 * kIcYukseklik);
+    EXPECT_DOUBLE_EQ(tablo.Picture1.yer.yukseklik, 4200);
+}
+
 TEST_F(Yerlesim, Inner_lengths_that_are_asked_for_fill_the_given_ones) {
     for (const MetinBakis sira : {u"\"Gündüz / Gece\"", u"\"Gece / Gündüz\""}) {
         AyarKoy(30, sira);

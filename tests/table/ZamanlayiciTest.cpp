@@ -93,6 +93,19 @@ TEST_F(TabloZamanlayici, Running_timer_shows_nothing_in_another_year_and_brings_
     EXPECT_TRUE(BuGunGorunur());
 }
 
+TEST_F(TabloZamanlayici, Todays_slots_are_looked_for_in_the_folder_of_the_selected_year_on_purpose) {
+    agac.KoyMetin(u"Salon A/2013/15.06.2012 - Gece", AnaMetni());
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 0);
+    kullanici.YilSec(u"2013");
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 300);
+    kullanici.YilSec(u"2014");
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 0);
+}
+
 // After a save in another year the frame shows until the next bare pointer move.
 TEST_F(TabloZamanlayici, Asking_whether_today_is_taken_shows_the_frame_in_another_year_too_on_purpose) {
     kullanici.ProgramiAc();
@@ -101,6 +114,82 @@ TEST_F(TabloZamanlayici, Asking_whether_today_is_taken_shows_the_frame_in_anothe
     EXPECT_TRUE(BuGunGorunur());
     kullanici.ImleciBosaGotur();
     EXPECT_FALSE(BuGunGorunur());
+}
+
+class GeceYarisi : public TabloZamanlayici {
+  protected:
+    void YarinOlsun(int gun = 1) { kullanici.ortam.simdi += std::chrono::days(gun); }
+    void CerceveOlmali(int ay, int gun) {
+        const FormTablo& tablo = kullanici.Tablo();
+        EXPECT_EQ(tablo.BuGun.ay, ay);
+        EXPECT_EQ(tablo.BuGun.gun, gun);
+        EXPECT_EQ(tablo.BuGun.yer.sol, tablo.Gunler[gun].yer.sol);
+        EXPECT_EQ(tablo.BuGun.yer.ust, tablo.satirlar[Satir(ay, kGece)].ust + 10);
+    }
+};
+
+TEST_F(GeceYarisi, The_slow_clock_notices_the_new_day_and_places_the_frame_anew) {
+    kullanici.ProgramiAc();
+    kullanici.ZamanGecir(50'000);
+    CerceveOlmali(6, 15);
+    YarinOlsun(16);
+    CerceveOlmali(6, 15);
+    kullanici.ZamanGecir(50'000);
+    CerceveOlmali(7, 1);
+    EXPECT_TRUE(BuGunGorunur());
+}
+
+TEST_F(GeceYarisi, The_colours_of_cells_stay_until_the_next_scan_on_purpose) {
+    AyarKoy(28, u"1"); // past days are painted
+    kullanici.ProgramiAc();
+    const RenkDegeri once = kullanici.Goz(15, 6, kGece).zemin;
+    YarinOlsun();
+    kullanici.ZamanGecir(50'000);
+    EXPECT_EQ(kullanici.Goz(15, 6, kGece).zemin, once);
+    kullanici.Tablo().Command1();
+    EXPECT_NE(kullanici.Goz(15, 6, kGece).zemin, once);
+}
+
+TEST_F(GeceYarisi, A_frame_that_blinked_for_yesterday_is_steady_on_the_new_day) {
+    RezervasyonKoy(u"15.06.2012 - Gece");
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Command6();
+    kullanici.ZamanGecir(300);
+    EXPECT_FALSE(BuGunGorunur());
+    YarinOlsun();
+    kullanici.Tablo().Saatsay.Calis();
+    EXPECT_EQ(GunAraligi(), 0);
+    EXPECT_TRUE(BuGunGorunur());
+}
+
+TEST_F(GeceYarisi, The_same_day_leaves_a_blinking_frame_alone) {
+    RezervasyonKoy(u"15.06.2012 - Gece");
+    kullanici.ProgramiAc();
+    kullanici.Tablo().Command6();
+    kullanici.ZamanGecir(300);
+    kullanici.Tablo().Saatsay.Calis();
+    EXPECT_EQ(GunAraligi(), 300);
+    EXPECT_FALSE(BuGunGorunur());
+}
+
+TEST_F(GeceYarisi, A_change_that_comes_before_the_tick_blinks_the_right_day) {
+    RezervasyonKoy(u"16.06.2012 - Gündüz");
+    kullanici.ProgramiAc();
+    YarinOlsun();
+    kullanici.Tablo().DegisikligiGoster();
+    CerceveOlmali(6, 16);
+    EXPECT_EQ(GunAraligi(), 300);
+}
+
+TEST_F(GeceYarisi, On_New_Year_the_table_of_the_old_year_has_no_frame_any_more) {
+    kullanici.ProgramiAc();
+    YarinOlsun(200);
+    kullanici.ZamanGecir(50'000);
+    EXPECT_FALSE(BuGunGorunur());
+    kullanici.YilSec(u"2013");
+    kullanici.ImleciBosaGotur();
+    EXPECT_TRUE(BuGunGorunur());
+    CerceveOlmali(1, 1);
 }
 
 TEST_F(TabloZamanlayici, Pointer_on_the_bare_screen_hides_the_hover_label) {

@@ -5,10 +5,12 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QToolBar>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/ErisimTuslari.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
@@ -26,7 +28,42 @@ QAction* GirdiYap(QObject& ust, const QString& ad, MenuGirdisi& model, bool cizg
     return girdi;
 }
 
+/// Keeps from a menu what the mouse does before its first press on it.
+class BasmaSuzgeci : public QObject {
+  public:
+    explicit BasmaSuzgeci(QMenu& menu) : QObject(&menu) { menu.installEventFilter(this); }
+
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        switch (olay->type()) {
+        case QEvent::Show:
+            basildi_ = false;
+            break;
+        case QEvent::MouseButtonPress:
+            basildi_ = true;
+            break;
+        case QEvent::MouseMove:
+            if (!basildi_ && dynamic_cast<QMouseEvent&>(*olay).buttons() != Qt::NoButton)
+                return true;
+            break;
+        case QEvent::MouseButtonRelease:
+            if (!basildi_)
+                return true;
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    bool basildi_ = false;
+};
+
 } // namespace
+
+void KendiBasmasiyla(QMenu& menu) {
+    new BasmaSuzgeci(menu);
+}
 
 void MenuyuDoldur(QMenu& parca, Menu menu, Program& program, Baglayici& baglayici,
                   std::span<const KomutTanimi> komutlar) {
@@ -40,6 +77,7 @@ void MenuyuDoldur(QMenu& parca, Menu menu, Program& program, Baglayici& baglayic
         girdi->setShortcut(QKeySequence(QMetin(komut.tus), QKeySequence::PortableText));
         parca.addAction(girdi);
     }
+    baglayici.Izle([&parca] { ErisimTuslariVer(parca); });
 }
 
 void MenuleriKur(QMenuBar& serit, Program& program, Baglayici& baglayici,

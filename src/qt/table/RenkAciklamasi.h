@@ -9,10 +9,12 @@
 namespace velora {
 
 class Baglayici;
+struct FormAyarlar;
 struct Program;
 
-/// What the colours of the cells mean: one small sample for each state, day and evening slot one over the
-/// other, in the colours of the settings. Where it is too narrow for all, the last ones are left out.
+/// What the colours of the cells mean: which half of a day is which slot, then one small sample for each
+/// state, the two slots one over the other as on the table, in the colours of the settings. Where it is too
+/// narrow for all, the last ones are left out; its tool tip names them all.
 class RenkAciklamasi : public QWidget {
   public:
     RenkAciklamasi(Program& program, Baglayici& baglayici, QWidget* ust);
@@ -25,12 +27,16 @@ class RenkAciklamasi : public QWidget {
 
   private:
     struct Ornek {
+        enum class Tur { Yazi, Renkler, OnRenkleri, Cerceve };
+        Tur tur = Tur::Renkler;
         QString ad;
-        RenkDegeri ust = 0;
+        RenkDegeri ust = 0; ///< of a frame, its colour
         RenkDegeri alt = 0;
         bool operator==(const Ornek&) const = default;
     };
+    static std::vector<Ornek> Ornekler(const FormAyarlar& ayarlar);
     int Genislik(const Ornek& ornek) const;
+    void OrnekCiz(QPainter& boyaci, const Ornek& ornek, const QRect& kutu) const;
 
     std::vector<Ornek> ornekler_;
 };

@@ -9,28 +9,23 @@
 #include <QPainter>
 
 #include "qt/Ceviri.h"
+#include "qt/Gorunum.h"
 #include "qt/Simgeler.h"
 
 namespace velora {
 
 namespace {
 
-constexpr int kYaziPayi = 4;       // logical pixels that a text leaves free in its place, both sides together
-constexpr int kEnKucukYazi = 6;    // device pixels
-constexpr double kCerceveEni = 3;  // logical pixels
-constexpr double kCerceveDisi = 1; // of that, what reaches into the neighbours
-constexpr int kPictogramBoyu = 16; // logical pixels
+constexpr int kYaziPayi = 4;      // logical pixels that a text leaves free in its place, both sides together
+constexpr int kEnKucukYazi = 6;   // device pixels
+constexpr double kCerceveEni = 3; // logical pixels, without the dark lines on both sides
+constexpr double kOnBoyu = 8;     // logical pixels of the mark of a pre-reservation
+constexpr double kEnAzKarsitlik = 4.5;  // of a caption to its back; a lower one gets an outline
+constexpr int kPictogramBoyu = 16;      // logical pixels
 constexpr double kPictogramOrani = 0.8; // of the height of its row at most
 
 constexpr double kOdakEni = 2; // logical pixels of the dark ring
 constexpr QColor kOdakTonu(32, 33, 36);
-
-void Halka(QPainter& boyaci, const QRect& r, int kalinlik, const QColor& ton) {
-    boyaci.fillRect(QRect(r.x(), r.y(), r.width(), kalinlik), ton);
-    boyaci.fillRect(QRect(r.x(), r.y() + r.height() - kalinlik, r.width(), kalinlik), ton);
-    boyaci.fillRect(QRect(r.x(), r.y(), kalinlik, r.height()), ton);
-    boyaci.fillRect(QRect(r.x() + r.width() - kalinlik, r.y(), kalinlik, r.height()), ton);
-}
 
 /// The texts of a list of labels or cells, each once.
 QStringList AyriMetinler(const auto& parcalar) {
@@ -43,17 +38,28 @@ QStringList AyriMetinler(const auto& parcalar) {
     return liste;
 }
 
-QStringList GunAdlari(const FormTablo& tablo) {
+QStringList GunAdlari(const TabloGoruntusu& tablo) {
     QStringList adlar;
-    for (const TabloSatiri& satir : tablo.satirlar)
-        adlar += AyriMetinler(satir.gun);
+    for (const auto& satir : tablo.satirlar)
+        adlar += AyriMetinler(satir);
     adlar.removeDuplicates();
     return adlar;
 }
 
 /// A month that is shown has all the weekday names.
-bool GunAdiVar(const FormTablo& tablo) {
-    return std::ranges::any_of(tablo.satirlar, [](const TabloSatiri& satir) { return satir.gun[1].gorunur; });
+bool GunAdiVar(const TabloGoruntusu& tablo) {
+    return std::ranges::any_of(tablo.satirlar, [](const auto& satir) { return satir[1].gorunur; });
+}
+
+/// The back of a head: a lit one is lighter, or darker where it is light already.
+RenkDegeri BaslikZemini(const TabloGoruntusu::Baslik& baslik) {
+    constexpr int kYuzde = 35; // of the way
+    if (!baslik.vurgulu)
+        return baslik.zemin;
+    const QColor renk = QRenk(baslik.zemin);
+    const int hedef = renk.lightness() > 170 ? 0 : 255;
+    const auto kar = [hedef](int bilesen) { return bilesen + (hedef - bilesen) * kYuzde / 100; };
+    return kar(renk.red()) | kar(renk.green()) << 8 | kar(renk.blue()) << 16;
 }
 
 } // namespace
@@ -66,7 +72,7 @@ void TabloCizici::HazirMetinler::Kur(const QFont& tip) {
     metinler_.clear();
 }
 
-const TabloCizici::HazirMetin& TabloCizici::HazirMetinler::Bul(MetinBakis metin) {
+TabloCizici::HazirMetin& TabloCizici::HazirMetinler::Bul(MetinBakis metin) {
     const auto [yer, yeni] = metinler_.try_emplace(Metin(metin));
     HazirMetin& hazir = yer->second;
     if (!yeni)
@@ -98,76 +104,119 @@ QFont TabloCizici::SiganTip(const QStringList& metinler, QSize yer, bool kalin) 
     return tip;
 }
 
-void TabloCizici::OlculeriKur(const FormTablo& tablo, const TabloDuzeni& duzen) {
+void TabloCizici::OlculeriKur(const TabloGoruntusu& tablo) {
+    const TabloDuzeni& duzen = tablo.duzen;
     const Olcu yeni{duzen.Olcek(), duzen.Hucre(OcakGunduz, 1).size(), duzen.AyAdi(1).size(),
                     GunAdiVar(tablo)};
     if (yeni == olcu_)
         return;
     olcu_ = yeni;
+    cizgi_ = duzen.Cizgi();
     hucreMetinleri_.Kur(SiganTip(GunAdlari(tablo), yeni.hucre, false));
-    baslikMetinleri_.Kur(SiganTip(AyriMetinler(tablo.ALabel), yeni.hucre, true));
-    ayMetinleri_.Kur(SiganTip(AyriMetinler(tablo.AyAdi), yeni.ay, true));
+    baslikMetinleri_.Kur(SiganTip(AyriMetinler(tablo.gunler), yeni.hucre, true));
+    ayMetinleri_.Kur(SiganTip(AyriMetinler(tablo.aylar), yeni.ay, true));
     pictogramBoyu_ = std::min(static_cast<int>(std::lround(kPictogramBoyu * yeni.olcek)),
                               static_cast<int>(yeni.hucre.height() * kPictogramOrani));
     for (auto& pictogramlar : pictogramlar_)
         pictogramlar.clear();
 }
 
-void TabloCizici::Ciz(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, const QRect& bolge,
-                      RenkDegeri bugunRengi) {
-    OlculeriKur(tablo, duzen);
+void TabloCizici::Ciz(QPainter& boyaci, const TabloGoruntusu& tablo, const QRect& bolge) {
+    const TabloDuzeni& duzen = tablo.duzen;
+    OlculeriKur(tablo);
     boyaci.save();
     boyaci.scale(1 / duzen.Olcek(), 1 / duzen.Olcek());
     boyaci.fillRect(bolge, tonlar_.zemin);
-    GunBasliklari(boyaci, tablo, duzen, bolge);
+    GunBasliklari(boyaci, tablo, bolge);
     for (int ay = 1; ay <= kAySayisi; ++ay) {
-        if (tablo.AyZemin[ay].gorunur && duzen.AyBasligi(ay).intersects(bolge))
-            AyBasligi(boyaci, tablo, duzen, ay);
+        if (tablo.aylar[ay].gorunur && duzen.AyBasligi(ay).intersects(bolge))
+            AyBasligi(boyaci, tablo, ay);
         if (duzen.AyHucreleri(ay).intersects(bolge))
-            AyHucreleri(boyaci, tablo, duzen, ay, bolge);
+            AyHucreleri(boyaci, tablo, ay, bolge);
     }
-    Cerceve(boyaci, duzen, tablo.BuGun, QRenk(bugunRengi));
-    Cerceve(boyaci, duzen, tablo.HizliSecim, tonlar_.cetvel);
+    Cerceve(boyaci, duzen, tablo.buGun);
+    Cerceve(boyaci, duzen, tablo.cetvel);
     boyaci.restore();
 }
 
-void TabloCizici::Ortala(QPainter& boyaci, const QRect& yer, const HazirMetin& hazir, RenkDegeri renk) {
-    const QPointF orta(yer.x() + yer.width() / 2.0, yer.y() + yer.height() / 2.0);
-    boyaci.setPen(QRenk(renk));
-    boyaci.drawStaticText((orta - hazir.pay).toPoint(), hazir.metin);
+bool TabloCizici::Konturlu(RenkDegeri yazi, RenkDegeri zemin) {
+    const std::uint64_t ikisi =
+        std::uint64_t{static_cast<std::uint32_t>(yazi)} << 32U | static_cast<std::uint32_t>(zemin);
+    const auto [yer, yeni] = konturlular_.try_emplace(ikisi);
+    if (yeni) // a dark caption would only grow by a dark outline
+        yer->second = Karsitlik(QRenk(yazi), QRenk(zemin)) < kEnAzKarsitlik &&
+                      Karsitlik(QRenk(yazi), tonlar_.koyu) >= kEnAzKarsitlik;
+    return yer->second;
 }
 
-void TabloCizici::GunBasliklari(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen,
-                                const QRect& bolge) {
+const QPixmap& TabloCizici::KonturluMetin(HazirMetin& hazir, const QFont& tip, RenkDegeri yazi) const {
+    const auto [yer, yeni] = hazir.konturlu.try_emplace(yazi);
+    if (!yeni)
+        return yer->second;
+    yer->second = QPixmap(hazir.metin.size().toSize() + QSize(2 * cizgi_ + 1, 2 * cizgi_ + 1));
+    yer->second.fill(Qt::transparent);
+    QPainter boyaci(&yer->second);
+    boyaci.setFont(tip);
+    boyaci.setPen(tonlar_.koyu);
+    for (const int x : {0, cizgi_, 2 * cizgi_})
+        for (const int y : {0, cizgi_, 2 * cizgi_})
+            boyaci.drawStaticText(x, y, hazir.metin);
+    boyaci.setPen(QRenk(yazi));
+    boyaci.drawStaticText(cizgi_, cizgi_, hazir.metin);
+    return yer->second;
+}
+
+void TabloCizici::Ortala(QPainter& boyaci, const QRect& yer, HazirMetin& hazir, RenkDegeri yazi,
+                         RenkDegeri zemin) {
+    const QPointF orta(yer.x() + yer.width() / 2.0, yer.y() + yer.height() / 2.0);
+    const QPoint kose = (orta - hazir.pay).toPoint();
+    if (Konturlu(yazi, zemin))
+        return boyaci.drawPixmap(kose - QPoint(cizgi_, cizgi_), KonturluMetin(hazir, boyaci.font(), yazi));
+    boyaci.setPen(QRenk(yazi));
+    boyaci.drawStaticText(kose, hazir.metin);
+}
+
+void TabloCizici::GunBasliklari(QPainter& boyaci, const TabloGoruntusu& tablo, const QRect& bolge) {
     boyaci.setFont(baslikMetinleri_.Tip());
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
-        const QRect yer = duzen.GunBasligi(gun);
+        const QRect yer = tablo.duzen.GunBasligi(gun);
         if (!yer.intersects(bolge))
             continue;
-        boyaci.fillRect(yer, QRenk(tablo.Gunler[gun].zemin));
-        Ortala(boyaci, yer, baslikMetinleri_.Bul(tablo.ALabel[gun].baslik), tablo.ALabel[gun].yazi);
+        const TabloGoruntusu::Baslik& baslik = tablo.gunler[gun];
+        const RenkDegeri zemin = BaslikZemini(baslik);
+        boyaci.fillRect(yer, QRenk(zemin));
+        Ortala(boyaci, yer, baslikMetinleri_.Bul(baslik.baslik), baslik.yazi, zemin);
     }
 }
 
-void TabloCizici::AyBasligi(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, int ay) {
-    const Etiket& ad = tablo.AyAdi[ay];
-    boyaci.fillRect(duzen.AyBasligi(ay), QRenk(tablo.AyZemin[ay].zemin));
+void TabloCizici::AyBasligi(QPainter& boyaci, const TabloGoruntusu& tablo, int ay) {
+    const TabloDuzeni& duzen = tablo.duzen;
+    const TabloGoruntusu::AyBasligi& baslik = tablo.aylar[ay];
+    const RenkDegeri zemin = BaslikZemini(baslik);
+    boyaci.fillRect(duzen.AyBasligi(ay), QRenk(zemin));
     boyaci.setFont(ayMetinleri_.Tip());
-    if (ad.gorunur)
-        Ortala(boyaci, duzen.AyAdi(ay), ayMetinleri_.Bul(ad.baslik), ad.yazi);
-    if (!tablo.GunduzGece[ay].gorunur)
+    if (baslik.adGorunur)
+        Ortala(boyaci, duzen.AyAdi(ay), ayMetinleri_.Bul(baslik.baslik), baslik.yazi, zemin);
+    if (!baslik.resimGorunur)
         return;
-    const bool gunduzUstte = tablo.GunduzGece[ay].resim == SiraResmi::Image1;
     for (const bool ust : {true, false}) {
-        const QPixmap& resim = Pictogram(ust == gunduzUstte ? GunduzGece::Gunduz : GunduzGece::Gece, ad.yazi);
+        const QPixmap& resim =
+            Pictogram(ust == baslik.gunduzUstte ? GunduzGece::Gunduz : GunduzGece::Gece, baslik.yazi);
         QRect yer = resim.rect();
         yer.moveCenter(duzen.ResimYeri(ay, ust).center());
         boyaci.drawPixmap(yer, resim);
     }
 }
 
-void TabloCizici::AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const TabloDuzeni& duzen, int ay,
-                              const QRect& bolge) {
+void TabloCizici::GozCiz(QPainter& boyaci, const QRect& yer, const TabloGoruntusu::Goz& goz) {
+    boyaci.fillRect(yer, QRenk(goz.zemin));
+    if (goz.on)
+        OnIsareti(boyaci, yer, static_cast<int>(std::lround(kOnBoyu * olcu_.olcek)), cizgi_, tonlar_.koyu);
+    Ortala(boyaci, yer, hucreMetinleri_.Bul(goz.baslik), goz.yazi, goz.zemin);
+}
+
+void TabloCizici::AyHucreleri(QPainter& boyaci, const TabloGoruntusu& tablo, int ay, const QRect& bolge) {
+    const TabloDuzeni& duzen = tablo.duzen;
     boyaci.setFont(hucreMetinleri_.Tip());
     const int cizgi = duzen.Cizgi();
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
@@ -177,13 +226,11 @@ void TabloCizici::AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const Ta
         bool gorunur = false;
         for (const auto dilim : {GunduzGece::Gunduz, GunduzGece::Gece}) {
             const SatirAdi satir = Satir(ay, dilim);
-            const Hucre& hucre = tablo.satirlar[static_cast<std::size_t>(satir)].gun[gun];
-            if (!hucre.gorunur)
+            const TabloGoruntusu::Goz& goz = tablo.Gozu(satir, gun);
+            if (!goz.gorunur)
                 continue;
             gorunur = true;
-            const QRect yer = duzen.Hucre(satir, gun);
-            boyaci.fillRect(yer, QRenk(hucre.zemin));
-            Ortala(boyaci, yer, hucreMetinleri_.Bul(hucre.baslik), hucre.yazi);
+            GozCiz(boyaci, duzen.Hucre(satir, gun), goz);
         }
         if (!gorunur)
             continue;
@@ -192,20 +239,34 @@ void TabloCizici::AyHucreleri(QPainter& boyaci, const FormTablo& tablo, const Ta
     }
 }
 
-QRect TabloCizici::CerceveBolgesi(const TabloDuzeni& duzen, const QRect& cift) {
-    // Mostly outside, over the thin lines, so that it leaves room for the captions.
-    const int dis = duzen.Cizgi() + static_cast<int>(std::lround(kCerceveDisi * duzen.Olcek()));
-    return cift.adjusted(-dis, -dis, dis, dis);
+void TabloCizici::Cerceve(QPainter& boyaci, const TabloDuzeni& duzen,
+                          const TabloGoruntusu::Cerceve& cerceve) const {
+    if (!cerceve.gorunur || cerceve.ay == 0)
+        return;
+    const int cizgi = duzen.Cizgi();
+    const int en = static_cast<int>(std::lround(kCerceveEni * duzen.Olcek()));
+    QRect yer = CerceveBolgesi(duzen, duzen.HucreCifti(cerceve.ay, cerceve.gun));
+    Halka(boyaci, yer, cizgi, tonlar_.koyu);
+    yer.adjust(cizgi, cizgi, -cizgi, -cizgi);
+    Halka(boyaci, yer, en, QRenk(cerceve.renk));
+    Halka(boyaci, yer.adjusted(en, en, -en, -en), cizgi, tonlar_.koyu);
 }
 
-void TabloCizici::Cerceve(QPainter& boyaci, const TabloDuzeni& duzen, const velora::Cerceve& cerceve,
-                          const QColor& renk) const {
-    if (!cerceve.gorunur)
-        return;
-    const int en = static_cast<int>(std::lround(kCerceveEni * duzen.Olcek()));
-    const QRect dis = CerceveBolgesi(duzen, duzen.CerceveninCifti(cerceve.yer));
-    Halka(boyaci, dis, en, renk);
-    Halka(boyaci, dis.adjusted(en, en, -en, -en), duzen.Cizgi(), tonlar_.cerceveIci);
+void OnIsareti(QPainter& boyaci, const QRect& yer, int boy, int cizgi, const QColor& koyu) {
+    const int sag = yer.x() + yer.width();
+    for (int sira = 0; sira < boy; ++sira) {
+        const int en = boy - sira;
+        boyaci.fillRect(QRect(sag - en, yer.y() + sira, en, 1), koyu);
+        if (const int ic = en - 3 * cizgi; sira >= cizgi && ic > 0)
+            boyaci.fillRect(QRect(sag - cizgi - ic, yer.y() + sira, ic, 1), Qt::white);
+    }
+}
+
+void Halka(QPainter& boyaci, const QRect& yer, int kalinlik, const QColor& ton) {
+    boyaci.fillRect(QRect(yer.x(), yer.y(), yer.width(), kalinlik), ton);
+    boyaci.fillRect(QRect(yer.x(), yer.y() + yer.height() - kalinlik, yer.width(), kalinlik), ton);
+    boyaci.fillRect(QRect(yer.x(), yer.y(), kalinlik, yer.height()), ton);
+    boyaci.fillRect(QRect(yer.x() + yer.width() - kalinlik, yer.y(), kalinlik, yer.height()), ton);
 }
 
 void TabloCizici::OdakIsareti(QPainter& boyaci, const TabloDuzeni& duzen, const QRect& hucre) {

@@ -111,17 +111,6 @@ QRect TabloDuzeni::AyHucreleri(int ay) const {
     return Dikdortgen(gunler_[1].bas, aylar_[ay].bas, gunler_[kGunSayisi].son, aylar_[ay].son);
 }
 
-QRect TabloDuzeni::CerceveninCifti(const Yer& yer) const {
-    // The model's frame is about as large as its pair of cells: the nearest pair is the one it stands about.
-    const int x = Piksel(yer.sol + yer.genislik / 2);
-    const int y = Piksel(yer.ust + yer.yukseklik / 2);
-    const auto enYakin = [](const auto& araliklar, int orta) {
-        const auto uzak = [orta](const Aralik& aralik) { return std::abs(aralik.Orta() - orta); };
-        return static_cast<int>(std::ranges::min_element(araliklar, {}, uzak) - araliklar.begin()) + 1;
-    };
-    return HucreCifti(enYakin(aylar_, y), enYakin(gunler_, x));
-}
-
 TabloIsabeti TabloDuzeni::Bul(QPointF yer) const {
     const int x = static_cast<int>(std::floor(yer.x() * olcek_));
     const int y = static_cast<int>(std::floor(yer.y() * olcek_));

@@ -17,6 +17,7 @@ struct TabloIsabeti {
     int gun = 0; ///< of a cell and of a day's head
     SatirAdi satir = OcakGunduz;
 
+    bool HucreMi() const { return tur == Tur::Hucre; }
     bool operator==(const TabloIsabeti&) const = default;
 };
 
@@ -47,20 +48,20 @@ class TabloDuzeni {
     QRect OrtaCizgi(int ay, int gun) const;
     /// The two cells of one day.
     QRect HucreCifti(int ay, int gun) const;
-    /// The two cells that a frame of the model stands about.
-    QRect CerceveninCifti(const Yer& yer) const;
     /// All the cells of one month.
     QRect AyHucreleri(int ay) const;
 
     /// What lies at a place, given in logical pixels. A cell's place counts whether the cell is shown or not.
     TabloIsabeti Bul(QPointF yer) const;
 
+    bool operator==(const TabloDuzeni&) const = default;
+
   private:
     struct Aralik {
         int bas = 0;
         int son = 0; // behind the last pixel
-        int Orta() const { return (bas + son) / 2; }
         bool Icinde(int yer) const { return yer >= bas && yer < son; }
+        bool operator==(const Aralik&) const = default;
     };
 
     int Piksel(double twip) const;

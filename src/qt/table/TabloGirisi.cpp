@@ -4,63 +4,57 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDrag>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QPointer>
 #include <QTimer>
 
 #include "qt/Baglayici.h"
 #include "qt/table/EkranEtiketi.h"
 #include "qt/table/KomutMenuleri.h"
+#include "qt/table/TabloErisimi.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloKlavyesi.h"
+#include "qt/table/TabloTasimasi.h"
 #include "screen/Program.h"
 
 namespace velora {
 
-namespace {
-
-bool HucreMi(const TabloIsabeti& isabet) {
-    return isabet.tur == TabloIsabeti::Tur::Hucre;
-}
-
-QString SuruklemeBicimi() {
-    return QStringLiteral("application/x-velora-gun");
-}
-
-/// A cell of this very program.
-bool BizimMi(const QDropEvent& olay) {
-    return olay.mimeData()->data(SuruklemeBicimi()) == QByteArray::number(QCoreApplication::applicationPid());
-}
-
-} // namespace
-
 TabloGirisi::TabloGirisi(Program& program, Baglayici& baglayici, TabloGorunumu& gorunum)
     : QObject(&gorunum), program_(program), baglayici_(baglayici), gorunum_(gorunum),
-      etiket_(new EkranEtiketi(&gorunum)), menu_(new QMenu(&gorunum)) {
+      etiket_(new EkranEtiketi(&gorunum)), menu_(new QMenu(&gorunum)),
+      tasima_(new TabloTasimasi(program, baglayici, gorunum, [this] { OdakTazele(); })) {
     const auto tablo = program.FormTablo.Tut();
     ekran_ = tablo;
-    menu_->setObjectName(QStringLiteral("Sagtus"));
-    MenuyuDoldur(*menu_, Menu::Sagtus, program, baglayici, Komutlar());
+    MenuKur();
+    TabloErisiminiTanit();
     gorunum.setAcceptDrops(true);
     gorunum.installEventFilter(this);
     baglayici.Izle([this, t = tablo.get()] {
         const QRect goz = gorunum_.Mantiksal(gorunum_.Duzen().Hucre(imlec_.satir, std::max(1, imlec_.gun)));
         etiket_->Goster(t->Ekran, goz, imlecYeri_);
+        ImlecSekli();
         OdakTazele();
     });
 }
 
-bool TabloGirisi::HoverKapali() const {
-    return suruklemede_ || menu_->isVisible() || QApplication::activeModalWidget() != nullptr;
+void TabloGirisi::MenuKur() {
+    menu_->setObjectName(QStringLiteral("Sagtus"));
+    MenuyuDoldur(*menu_, Menu::Sagtus, program_, baglayici_, Komutlar());
+    KendiBasmasiyla(*menu_);
+    // An entry's work begins behind the closing of the menu, and ends before the menu tells of it.
+    connect(menu_, &QMenu::aboutToHide, this,
+            [this] { QTimer::singleShot(0, this, [this] { MenuBitti(); }); });
+    connect(menu_, &QMenu::triggered, this, [this] { MenuBitti(); });
 }
 
-bool TabloGirisi::Suruklenir(const TabloIsabeti& isabet) const {
-    const auto tablo = ekran_.lock();
-    return tablo && HucreMi(isabet) && tablo->Gozu(isabet.satir, isabet.gun).otomatikSurukleme;
+bool TabloGirisi::HoverKapali() const {
+    return tasima_->Suruyor() || menu_->isVisible() || QApplication::activeModalWidget() != nullptr;
+}
+
+bool TabloGirisi::Ortulu(const TabloIsabeti& goz) const {
+    return gorunum_.childAt(GozOrtasi(goz)) != nullptr;
 }
 
 QPoint TabloGirisi::GozOrtasi(const TabloIsabeti& goz) const {
@@ -68,19 +62,12 @@ QPoint TabloGirisi::GozOrtasi(const TabloIsabeti& goz) const {
 }
 
 bool TabloGirisi::eventFilter(QObject* nesne, QEvent* olay) {
-    if (FareOlayi(*olay))
+    if (FareOlayi(*olay) || tasima_->Olay(*olay))
         return true;
     switch (olay->type()) {
     case QEvent::Leave:
         Ayril();
         break;
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-        UzerindenGecir(*static_cast<QDropEvent*>(olay));
-        return true;
-    case QEvent::Drop:
-        Birak(*static_cast<QDropEvent*>(olay));
-        return true;
     case QEvent::KeyPress:
         return TusBas(*static_cast<QKeyEvent*>(olay));
     case QEvent::ContextMenu:
@@ -91,9 +78,13 @@ bool TabloGirisi::eventFilter(QObject* nesne, QEvent* olay) {
     case QEvent::FocusIn: {
         const auto neden = static_cast<QFocusEvent*>(olay)->reason();
         KlavyeAta(klavye_ || neden == Qt::TabFocusReason || neden == Qt::BacktabFocusReason);
+        // The toolkit now tells the focus of the table itself; that of its cell has to come behind it.
+        bildirilen_ = {};
+        QTimer::singleShot(0, this, [this] { OdakTazele(); });
         break;
     }
     case QEvent::FocusOut:
+        tasima_->Vazgec();
         OdakTazele();
         break;
     default:
@@ -126,26 +117,27 @@ bool TabloGirisi::FareOlayi(QEvent& olay) {
 
 void TabloGirisi::Bas(const QMouseEvent& olay) {
     KlavyeAta(false);
-    imlecYeri_ = olay.position().toPoint();
+    imlecYeri_ = fareYeri_ = olay.position().toPoint();
     const TabloIsabeti isabet = gorunum_.Isabet(olay.position());
-    basilan_ = kaynak_ = {};
-    if (HucreMi(isabet))
+    basilan_ = {};
+    tasima_->Kaldir();
+    tasima_->Vazgec();
+    if (isabet.HucreMi())
         Uzerine(isabet);
-    if (Suruklenir(isabet)) {
-        kaynak_ = isabet;
-        basYeri_ = imlecYeri_;
-        return;
+    if (tasima_->Suruklenir(isabet)) {
+        tasima_->Bas(isabet, imlecYeri_);
+        return ImlecSekli();
     }
     if (olay.button() == Qt::LeftButton)
         basilan_ = isabet;
-    if (HucreMi(isabet))
+    if (isabet.HucreMi())
         MenuAc(isabet, olay.button() == Qt::RightButton, olay.globalPosition().toPoint());
 }
 
 void TabloGirisi::CiftTikla(const QMouseEvent& olay) {
     const TabloIsabeti isabet = gorunum_.Isabet(olay.position());
     // A quick second click on a head is a click of its own.
-    if (!HucreMi(isabet) || Suruklenir(isabet) || olay.button() != Qt::LeftButton)
+    if (!isabet.HucreMi() || tasima_->Suruklenir(isabet) || olay.button() != Qt::LeftButton)
         return Bas(olay);
     KlavyeAta(false);
     imlecYeri_ = olay.position().toPoint();
@@ -153,7 +145,8 @@ void TabloGirisi::CiftTikla(const QMouseEvent& olay) {
 }
 
 void TabloGirisi::Kaldir(const QMouseEvent& olay) {
-    kaynak_ = {};
+    tasima_->Kaldir();
+    ImlecSekli();
     if (olay.button() != Qt::LeftButton)
         return;
     const TabloIsabeti basilan = std::exchange(basilan_, {});
@@ -178,130 +171,148 @@ void TabloGirisi::Tikla(const TabloIsabeti& isabet) {
 }
 
 void TabloGirisi::Kimilda(const QMouseEvent& olay) {
-    imlecYeri_ = olay.position().toPoint();
-    if (olay.buttons() != Qt::NoButton) {
-        // What was pressed keeps the pointer until it is let go.
-        if (HucreMi(kaynak_) &&
-            (imlecYeri_ - basYeri_).manhattanLength() >= QApplication::startDragDistance())
-            Surukle();
-        return;
-    }
-    const TabloIsabeti isabet = gorunum_.Isabet(olay.position());
-    ImlecSekli(isabet.tur);
+    fareYeri_ = olay.position().toPoint();
+    // What was pressed keeps the pointer until it is let go.
+    if (olay.buttons() != Qt::NoButton)
+        return tasima_->Cek(fareYeri_);
+    ImlecSekli();
     if (HoverKapali())
         return;
+    const TabloIsabeti isabet = gorunum_.Isabet(olay.position());
+    imlecYeri_ = fareYeri_;
+    MenuBitti();
     KlavyeAta(false);
-    if (HucreMi(isabet))
+    if (isabet.HucreMi())
         Uzerine(isabet);
     else
-        baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
+        Bosa();
 }
 
-void TabloGirisi::ImlecSekli(TabloIsabeti::Tur tur) {
-    const bool baslik = tur == TabloIsabeti::Tur::GunBasligi || tur == TabloIsabeti::Tur::AyBasligi;
-    const Qt::CursorShape imlec = baslik ? Qt::PointingHandCursor : Qt::ArrowCursor;
+void TabloGirisi::ImlecSekli() {
+    const TabloIsabeti isabet = gorunum_.Isabet(fareYeri_);
+    const bool baslik =
+        isabet.tur == TabloIsabeti::Tur::GunBasligi || isabet.tur == TabloIsabeti::Tur::AyBasligi;
+    const Qt::CursorShape imlec = tasima_->Basili()             ? Qt::ClosedHandCursor
+                                  : tasima_->Suruklenir(isabet) ? Qt::OpenHandCursor
+                                  : baslik                      ? Qt::PointingHandCursor
+                                                                : Qt::ArrowCursor;
     if (gorunum_.cursor().shape() != imlec)
         gorunum_.setCursor(imlec);
 }
 
 void TabloGirisi::Ayril() {
     if (!HoverKapali())
-        baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
+        Bosa();
+}
+
+void TabloGirisi::Bosa() {
+    uzerinde_ = {};
+    baglayici_.Calistir([this] { program_.FormTablo->MouseMove(); });
 }
 
 void TabloGirisi::Uzerine(const TabloIsabeti& goz) {
-    imlec_ = goz;
+    imlec_ = uzerinde_ = goz;
     baglayici_.Calistir([this, goz] { program_.FormTablo->Hucre_MouseMove(goz.satir, goz.gun); });
 }
 
 void TabloGirisi::MenuAc(const TabloIsabeti& goz, bool sagDugme, QPoint yer) {
     bool ac = false;
     baglayici_.Calistir([&] { ac = program_.FormTablo->Hucre_MouseDown(goz.satir, goz.gun, sagDugme); });
-    if (ac)
-        menu_->popup(yer);
+    if (!ac)
+        return;
+    sorulan_ = goz;
+    OdakTazele();
+    menu_->popup(yer);
+}
+
+void TabloGirisi::MenuBitti() {
+    // The entry may be at work still, and have opened a window.
+    if (menu_->isVisible() || Baglayici::IsSuruyor() || QApplication::activeModalWidget() != nullptr)
+        return;
+    sorulan_ = {};
+    OdakTazele();
 }
 
 void TabloGirisi::Ac(const TabloIsabeti& goz) {
     Uzerine(goz);
-    baglayici_.Calistir([this, goz] { program_.FormTablo->Hucre_DblClick(goz.satir, goz.gun); });
-}
-
-std::unique_ptr<QMimeData> TabloGirisi::SuruklemeVerisi() {
-    auto veri = std::make_unique<QMimeData>();
-    veri->setData(SuruklemeBicimi(), QByteArray::number(QCoreApplication::applicationPid()));
-    return veri;
-}
-
-void TabloGirisi::Surukle() {
-    const TabloIsabeti kaynak = std::exchange(kaynak_, {});
-    const QRect yer = gorunum_.Mantiksal(gorunum_.Duzen().Hucre(kaynak.satir, kaynak.gun));
-    auto* surukleme = new QDrag(&gorunum_); // the toolkit deletes it
-    surukleme->setMimeData(SuruklemeVerisi().release());
-    surukleme->setPixmap(gorunum_.grab(yer));
-    surukleme->setHotSpot(basYeri_ - yer.topLeft());
+    sorulan_ = goz;
+    OdakTazele();
     const QPointer<TabloGirisi> ben(this);
-    suruklemede_ = true;
-    surukleme->exec(Qt::MoveAction);
-    if (!ben)
-        return;
-    suruklemede_ = false;
-    BirakilaniIsle();
-}
-
-void TabloGirisi::UzerindenGecir(QDropEvent& olay) const {
-    // Entering is accepted anywhere: only then do the movements over the cells arrive.
-    if (BizimMi(olay) && (olay.type() == QEvent::DragEnter || HucreMi(gorunum_.Isabet(olay.position()))))
-        olay.acceptProposedAction();
-    else
-        olay.ignore();
-}
-
-void TabloGirisi::Birak(QDropEvent& olay) {
-    UzerindenGecir(olay);
-    if (!olay.isAccepted())
-        return;
-    birakilan_ = gorunum_.Isabet(olay.position());
-    // The boxes of a drop wait until the toolkit has left its drag.
-    QTimer::singleShot(0, this, [this] { BirakilaniIsle(); });
-}
-
-void TabloGirisi::BirakilaniIsle() {
-    if (suruklemede_)
-        return;
-    if (const TabloIsabeti hedef = std::exchange(birakilan_, {}); HucreMi(hedef))
-        baglayici_.Calistir([this, hedef] { program_.FormTablo->Hucre_DragDrop(hedef.satir, hedef.gun); });
+    baglayici_.Calistir([this, goz] { program_.FormTablo->Hucre_DblClick(goz.satir, goz.gun); });
+    if (ben)
+        MenuBitti();
 }
 
 bool TabloGirisi::TusBas(const QKeyEvent& olay) {
     const int tus = olay.key();
-    const bool ac = tus == Qt::Key_Return || tus == Qt::Key_Enter;
-    if ((olay.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+    const auto ekTuslar = olay.modifiers() & ~Qt::KeypadModifier;
+    const bool menuTusu = tus == Qt::Key_Menu || (tus == Qt::Key_F10 && ekTuslar == Qt::ShiftModifier);
+    if (ekTuslar != Qt::NoModifier && !menuTusu)
         return false;
-    if (tus == Qt::Key_Menu) {
+    if (tasima_->Tutuluyor())
+        return TasimaTusu(tus);
+    if (menuTusu) {
         KlavyedenMenu();
         return true;
     }
-    if (!ac && !GezinmeTusu(tus))
+    const bool bilinen = tus == Qt::Key_Return || tus == Qt::Key_Enter || tus == Qt::Key_Space;
+    if (!bilinen && !GezinmeTusu(tus))
         return false;
-    const bool ilk = !HucreMi(imlec_);
-    const auto tablo = ekran_.lock();
-    if (!tablo || !ImlecHazirla(*tablo))
-        return true;
-    if (ac && !Suruklenir(imlec_)) {
-        Ac(imlec_);
-    } else if (!ac) {
+    const bool ilk = !imlec_.HucreMi();
+    if (const auto tablo = ekran_.lock(); tablo && ImlecHazirla(*tablo))
+        GozdeTus(*tablo, tus, ilk);
+    return true;
+}
+
+void TabloGirisi::GozdeTus(const FormTablo& tablo, int tus, bool ilk) {
+    if (GezinmeTusu(tus)) {
         // The first key only brings the pointer cell to where it starts.
-        const TabloIsabeti hedef = ilk ? imlec_ : TusunGozu(*tablo, imlec_, tus);
+        const TabloIsabeti hedef = ilk && !Ortulu(imlec_) ? imlec_ : Gezin(tablo, imlec_, tus);
         imlecYeri_ = GozOrtasi(hedef);
-        Uzerine(hedef);
+        return Uzerine(hedef);
+    }
+    if (Ortulu(imlec_))
+        return;
+    const bool suruklenir = tasima_->Suruklenir(imlec_);
+    if (tus == Qt::Key_Space && suruklenir) {
+        Uzerine(imlec_);
+        tasima_->Tut(imlec_);
+    } else if (tus != Qt::Key_Space && !suruklenir) {
+        Ac(imlec_);
+    }
+}
+
+bool TabloGirisi::TasimaTusu(int tus) {
+    const auto tablo = ekran_.lock();
+    if (tablo && GezinmeTusu(tus)) {
+        tasima_->Gotur(Gezin(*tablo, tasima_->Hedef(), tus));
+    } else if (tus == Qt::Key_Escape) {
+        tasima_->Vazgec();
+    } else if (tus == Qt::Key_Space) {
+        const TabloIsabeti hedef = tasima_->Hedef();
+        const QPointer<TabloGirisi> ben(this);
+        tasima_->TutulaniBirak();
+        if (ben) {
+            imlecYeri_ = GozOrtasi(hedef);
+            Uzerine(hedef);
+        }
     }
     return true;
 }
 
+TabloIsabeti TabloGirisi::Gezin(const FormTablo& tablo, const TabloIsabeti& goz, int tus) const {
+    TabloIsabeti hedef = TusunGozu(tablo, goz, tus);
+    for (TabloIsabeti onceki = goz; Ortulu(hedef);
+         onceki = std::exchange(hedef, TusunGozu(tablo, hedef, tus)))
+        if (hedef == onceki)
+            return goz;
+    return hedef;
+}
+
 bool TabloGirisi::ImlecHazirla(const FormTablo& tablo) {
-    if (!HucreMi(imlec_) || !tablo.Gozu(imlec_.satir, imlec_.gun).gorunur)
+    if (!imlec_.HucreMi() || !tablo.Gozu(imlec_.satir, imlec_.gun).gorunur)
         imlec_ = IlkGoz(tablo, program_.Bugun());
-    if (!HucreMi(imlec_))
+    if (!imlec_.HucreMi())
         return false;
     imlecYeri_ = GozOrtasi(imlec_);
     KlavyeAta(true);
@@ -310,10 +321,10 @@ bool TabloGirisi::ImlecHazirla(const FormTablo& tablo) {
 
 void TabloGirisi::KlavyedenMenu() {
     const auto tablo = ekran_.lock();
-    if (!tablo || menu_->isVisible() || !ImlecHazirla(*tablo))
+    if (!tablo || menu_->isVisible() || tasima_->Tutuluyor() || !ImlecHazirla(*tablo) || Ortulu(imlec_))
         return;
     Uzerine(imlec_);
-    if (!Suruklenir(imlec_))
+    if (!tasima_->Suruklenir(imlec_))
         MenuAc(imlec_, true, gorunum_.mapToGlobal(GozOrtasi(imlec_)));
 }
 
@@ -322,18 +333,35 @@ void TabloGirisi::KlavyeAta(bool klavye) {
     OdakTazele();
 }
 
-TabloIsabeti TabloGirisi::OdakGozu() const {
-    return !ekran_.expired() && klavye_ && gorunum_.hasFocus() ? imlec_ : TabloIsabeti();
+std::vector<TabloIsabeti> TabloGirisi::IsaretliGozler() const {
+    if (sorulan_.HucreMi())
+        return {sorulan_};
+    std::vector<TabloIsabeti> gozler = tasima_->Isaretliler();
+    if (const TabloIsabeti goz = TusGozu(); gozler.empty() && goz.HucreMi())
+        gozler.push_back(goz);
+    return gozler;
+}
+
+TabloIsabeti TabloGirisi::TusGozu() const {
+    if (!klavye_ || !gorunum_.hasFocus() || ekran_.expired())
+        return {};
+    return tasima_->Tutuluyor() ? tasima_->Hedef() : imlec_;
 }
 
 void TabloGirisi::OdakTazele() {
-    const TabloIsabeti goz = OdakGozu();
-    const QRect yer = HucreMi(goz) ? gorunum_.Mantiksal(gorunum_.Duzen().Hucre(goz.satir, goz.gun)) : QRect();
-    if (yer == odakYeri_)
+    if (const TabloIsabeti goz = TusGozu(); goz != bildirilen_) {
+        bildirilen_ = goz;
+        TabloOdaginiBildir(gorunum_, goz);
+    }
+    std::vector<QRect> yeni;
+    for (const TabloIsabeti& goz : IsaretliGozler())
+        yeni.push_back(gorunum_.Mantiksal(gorunum_.Duzen().Hucre(goz.satir, goz.gun)));
+    if (yeni == isaretler_)
         return;
-    gorunum_.update(odakYeri_);
-    gorunum_.update(yer);
-    odakYeri_ = yer;
+    for (const auto* yerler : {&isaretler_, &yeni})
+        for (const QRect& yer : *yerler)
+            gorunum_.update(yer);
+    isaretler_ = std::move(yeni);
 }
 
 } // namespace velora

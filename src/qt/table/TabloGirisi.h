@@ -1,16 +1,16 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include <QObject>
 #include <QPoint>
 
 #include "qt/table/TabloDuzeni.h"
 
-class QDropEvent;
 class QKeyEvent;
 class QMenu;
-class QMimeData;
 class QMouseEvent;
 
 namespace velora {
@@ -18,30 +18,37 @@ namespace velora {
 class Baglayici;
 class EkranEtiketi;
 class TabloGorunumu;
+class TabloTasimasi;
 struct Program;
 
 /// What the user does on the year table, by mouse and by keys: it turns the toolkit's events into the events
-/// of the screen's cells and heads, opens `Sagtus`, drags cells, and shows the hover label.
+/// of the screen's cells and heads, opens `Sagtus`, moves cells (`TabloTasimasi`), and shows the hover label.
 ///
 /// The pointer cell is the cell last moved over; the keys move it too. While `Sagtus` or a box is open, or a
-/// drag goes on, no hover reaches the cells. A press is always preceded by a hover of its own cell.
+/// cell is on its way to another, no hover reaches the cells. A press is always preceded by a hover of its
+/// own cell. No key works a cell that something on the table covers.
 class TabloGirisi : public QObject {
   public:
     TabloGirisi(Program& program, Baglayici& baglayici, TabloGorunumu& gorunum);
 
-    /// The cell to be marked as the one that the keys work on; bare while there is none, or while the mouse
-    /// leads.
-    TabloIsabeti OdakGozu() const;
+    /// The cells to be marked: the one that an open menu or window is about, those of a move, or else the one
+    /// that the keys work on, unless the mouse leads.
+    std::vector<TabloIsabeti> IsaretliGozler() const;
+    /// The cell that the keys work on; bare while there is none, or while the mouse leads.
+    TabloIsabeti TusGozu() const;
+    /// The screen, null when it is unloaded.
+    std::shared_ptr<FormTablo> Ekran() const { return ekran_.lock(); }
 
-    /// What a dragged cell carries.
-    static std::unique_ptr<QMimeData> SuruklemeVerisi();
+    /// The cell that the pointer is on, or that the keys have come to; bare when it has gone elsewhere.
+    const TabloIsabeti& UzerindekiGoz() const { return uzerinde_; }
 
   protected:
     bool eventFilter(QObject* nesne, QEvent* olay) override;
 
   private:
+    void MenuKur();
     bool HoverKapali() const;
-    bool Suruklenir(const TabloIsabeti& isabet) const;
+    bool Ortulu(const TabloIsabeti& goz) const;
     QPoint GozOrtasi(const TabloIsabeti& goz) const;
 
     bool FareOlayi(QEvent& olay);
@@ -49,19 +56,19 @@ class TabloGirisi : public QObject {
     void CiftTikla(const QMouseEvent& olay);
     void Kaldir(const QMouseEvent& olay);
     void Kimilda(const QMouseEvent& olay);
-    void ImlecSekli(TabloIsabeti::Tur tur);
+    void ImlecSekli();
     void Ayril();
+    void Bosa();
     void Tikla(const TabloIsabeti& isabet);
     void Uzerine(const TabloIsabeti& goz);
     void MenuAc(const TabloIsabeti& goz, bool sagDugme, QPoint yer);
+    void MenuBitti();
     void Ac(const TabloIsabeti& goz);
 
-    void Surukle();
-    void UzerindenGecir(QDropEvent& olay) const;
-    void Birak(QDropEvent& olay);
-    void BirakilaniIsle();
-
     bool TusBas(const QKeyEvent& olay);
+    bool TasimaTusu(int tus);
+    void GozdeTus(const FormTablo& tablo, int tus, bool ilk);
+    TabloIsabeti Gezin(const FormTablo& tablo, const TabloIsabeti& goz, int tus) const;
     void KlavyedenMenu();
     bool ImlecHazirla(const FormTablo& tablo);
     void KlavyeAta(bool klavye);
@@ -73,15 +80,16 @@ class TabloGirisi : public QObject {
     TabloGorunumu& gorunum_;
     EkranEtiketi* etiket_;
     QMenu* menu_;
-    TabloIsabeti imlec_;   // the pointer cell
+    TabloTasimasi* tasima_;
+    TabloIsabeti imlec_; // the pointer cell
+    TabloIsabeti uzerinde_;
     TabloIsabeti basilan_; // where a click may end
-    TabloIsabeti kaynak_;  // cell under a button, about to be dragged
-    TabloIsabeti birakilan_;
+    TabloIsabeti sorulan_; // what an open menu or window is about
     QPoint imlecYeri_;
-    QPoint basYeri_;
-    QRect odakYeri_;
-    bool suruklemede_ = false;
-    bool klavye_ = false; // the keys were used last
+    QPoint fareYeri_;
+    std::vector<QRect> isaretler_; // as they are painted
+    TabloIsabeti bildirilen_;      // the cell whose focus was told last
+    bool klavye_ = false;          // the keys were used last
 };
 
 } // namespace velora

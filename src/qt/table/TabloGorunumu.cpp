@@ -1,10 +1,13 @@
 #include "qt/table/TabloGorunumu.h"
 
-#include <functional>
+#include <algorithm>
+#include <utility>
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QToolTip>
 
 #include "qt/Baglayici.h"
@@ -19,56 +22,9 @@ namespace velora {
 
 namespace {
 
-class Iz {
-  public:
-    void Ekle(std::uint64_t sayi) {
-        deger_ = (deger_ ^ sayi) * std::uint64_t{0x100000001B3} + (deger_ >> 29U);
-    }
-    void Ekle(const Metin& metin) { Ekle(std::hash<Metin>()(metin)); }
-    void EkleTwip(double sayi) { Ekle(std::hash<double>()(sayi)); }
-    void Ekle(RenkDegeri zemin, RenkDegeri yazi, bool gorunur) {
-        Ekle((std::uint64_t{static_cast<std::uint32_t>(zemin)} << 32U | static_cast<std::uint32_t>(yazi)) ^
-             (gorunur ? std::uint64_t{1} << 63U : 0));
-    }
-    void Ekle(const Yer& yer) {
-        for (const double sayi : {yer.sol, yer.ust, yer.genislik, yer.yukseklik})
-            EkleTwip(sayi);
-    }
-    void Ekle(const Etiket& etiket) {
-        Ekle(etiket.zemin, etiket.yazi, etiket.gorunur);
-        Ekle(etiket.baslik);
-        Ekle(etiket.yer);
-    }
-    std::uint64_t Deger() const { return deger_; }
-
-  private:
-    std::uint64_t deger_ = 0xCBF29CE484222325;
-};
+constexpr int kIpucuPayi = 4; // logical pixels between a cell and its tool tip
 
 } // namespace
-
-std::uint64_t TabloIzi(const FormTablo& tablo) {
-    Iz iz;
-    for (const TabloSatiri& satir : tablo.satirlar) {
-        iz.EkleTwip(satir.ust);
-        iz.EkleTwip(satir.yukseklik);
-        for (const Hucre& hucre : satir.gun) {
-            iz.Ekle(hucre.zemin, hucre.yazi, hucre.gorunur);
-            iz.Ekle(hucre.baslik);
-        }
-    }
-    for (const auto* basliklar : {&tablo.Gunler, &tablo.ALabel})
-        for (const Etiket& etiket : *basliklar)
-            iz.Ekle(etiket);
-    for (const auto* basliklar : {&tablo.AyZemin, &tablo.AyAdi})
-        for (const Etiket& etiket : *basliklar)
-            iz.Ekle(etiket);
-    for (const AyResmi& resim : tablo.GunduzGece) {
-        iz.Ekle(static_cast<std::uint64_t>(resim.resim) * 2U + (resim.gorunur ? 1U : 0U));
-        iz.Ekle(resim.yer);
-    }
-    return iz.Deger();
-}
 
 TabloGorunumu::TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* ust)
     : QWidget(ust), program_(program), baglayici_(baglayici), ekran_(program.FormTablo.Tut()),
@@ -85,11 +41,12 @@ QSize TabloGorunumu::sizeHint() const {
 }
 
 QSize TabloGorunumu::minimumSizeHint() const {
-    return {880, 440};
+    return {640, 300};
 }
 
-void TabloGorunumu::DuzeniKur(const FormTablo& tablo) {
-    duzen_ = TabloDuzeni(tablo, devicePixelRatioF());
+TabloGoruntusu TabloGorunumu::GoruntuAl(const FormTablo& tablo) const {
+    return {tablo, *program_.FormAyarlar.Tut(), devicePixelRatioF(),
+            giris_ != nullptr ? giris_->UzerindekiGoz() : TabloIsabeti()};
 }
 
 void TabloGorunumu::Yerlestir() {
@@ -106,27 +63,18 @@ void TabloGorunumu::Tazele() {
     const auto tablo = ekran_.lock();
     if (!tablo || Baglayici::IsSuruyor())
         return;
-    if (const std::uint64_t iz = TabloIzi(*tablo); iz != iz_) {
-        iz_ = iz;
-        DuzeniKur(*tablo);
-        update();
-    }
-    CerceveTazele(buGun_, tablo->BuGun);
-    CerceveTazele(cetvel_, tablo->HizliSecim);
-}
-
-void TabloGorunumu::CerceveTazele(CerceveGoruntusu& eski, const velora::Cerceve& cerceve) {
-    const CerceveGoruntusu yeni{cerceve.gorunur,
-                                TabloCizici::CerceveBolgesi(duzen_, duzen_.CerceveninCifti(cerceve.yer))};
-    if (yeni == eski)
+    TabloGoruntusu yeni = GoruntuAl(*tablo);
+    if (yeni == goruntu_)
         return;
-    update(Mantiksal(eski.bolge));
-    update(Mantiksal(yeni.bolge));
-    eski = yeni;
+    const TabloGoruntusu eski = std::exchange(goruntu_, std::move(yeni));
+    if (goruntu_.GozlerFarkli(eski))
+        return update();
+    for (const QRect& parca : goruntu_.Farki(eski))
+        update(Mantiksal(parca));
 }
 
 QRect TabloGorunumu::Mantiksal(const QRect& bolge) const {
-    const double olcek = duzen_.Olcek();
+    const double olcek = Duzen().Olcek();
     return QRectF(bolge.x() / olcek, bolge.y() / olcek, bolge.width() / olcek, bolge.height() / olcek)
         .toAlignedRect();
 }
@@ -141,16 +89,16 @@ void TabloGorunumu::paintEvent(QPaintEvent* olay) {
         const auto tablo = ekran_.lock();
         if (!tablo)
             return;
-        if (duzen_.Olcek() != devicePixelRatioF())
-            DuzeniKur(*tablo);
+        if (Duzen().Olcek() != devicePixelRatioF())
+            goruntu_ = GoruntuAl(*tablo);
         const QRect kirli = olay->rect();
-        const double olcek = duzen_.Olcek();
+        const double olcek = Duzen().Olcek();
         const QRect bolge =
             QRectF(kirli.x() * olcek, kirli.y() * olcek, kirli.width() * olcek, kirli.height() * olcek)
                 .toAlignedRect();
-        cizici_.Ciz(boyaci, *tablo, duzen_, bolge, program_.FormAyarlar->Renk(RenkNo::BuGunCercevesi));
-        if (const TabloIsabeti goz = giris_->OdakGozu(); goz.tur == TabloIsabeti::Tur::Hucre)
-            TabloCizici::OdakIsareti(boyaci, duzen_, duzen_.Hucre(goz.satir, goz.gun));
+        cizici_.Ciz(boyaci, goruntu_, bolge);
+        for (const TabloIsabeti& goz : giris_->IsaretliGozler())
+            TabloCizici::OdakIsareti(boyaci, Duzen(), Duzen().Hucre(goz.satir, goz.gun));
     });
 }
 
@@ -158,7 +106,7 @@ TabloIsabeti TabloGorunumu::Isabet(QPointF yer) const {
     const auto tablo = ekran_.lock();
     if (!tablo)
         return {};
-    const TabloIsabeti isabet = duzen_.Bul(yer);
+    const TabloIsabeti isabet = Duzen().Bul(yer);
     const auto gizli = [&] {
         switch (isabet.tur) {
         case TabloIsabeti::Tur::Hucre:
@@ -185,8 +133,22 @@ void TabloGorunumu::IpucuGoster(const QHelpEvent& olay) {
     if (!tablo || isabet.tur != TabloIsabeti::Tur::Hucre)
         return QToolTip::hideText();
     const Hucre& hucre = tablo->satirlar[static_cast<std::size_t>(isabet.satir)].gun[isabet.gun];
-    QToolTip::showText(olay.globalPos(), QIpucu(hucre.ipucu), this,
-                       Mantiksal(duzen_.Hucre(isabet.satir, isabet.gun)));
+    const QRect goz = Mantiksal(Duzen().Hucre(isabet.satir, isabet.gun));
+    QToolTip::showText(olay.globalPos(), QIpucu(hucre.ipucu), this, goz);
+    // The toolkit puts it below the pointer, where the hover label mostly stands.
+    for (QWidget* pencere : QApplication::topLevelWidgets())
+        if (pencere->isVisible() && pencere->inherits("QTipLabel"))
+            pencere->move(IpucuYeri(pencere->size(), {mapToGlobal(goz.topLeft()), goz.size()}));
+}
+
+QPoint TabloGorunumu::IpucuYeri(QSize boy, const QRect& goz) const {
+    const auto* etiket = findChild<QWidget*>(QStringLiteral("Ekran"));
+    const bool etiketUstte =
+        etiket != nullptr && etiket->isVisible() && etiket->mapToGlobal(QPoint()).y() < goz.top();
+    const QRect ekran = screen()->availableGeometry();
+    const int y = etiketUstte ? goz.y() + goz.height() + kIpucuPayi : goz.y() - kIpucuPayi - boy.height();
+    return {std::clamp(goz.x(), ekran.x(), std::max(ekran.x(), ekran.x() + ekran.width() - boy.width())),
+            std::clamp(y, ekran.y(), std::max(ekran.y(), ekran.y() + ekran.height() - boy.height()))};
 }
 
 } // namespace velora

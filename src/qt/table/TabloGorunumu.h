@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 
 #include <QWidget>
@@ -21,8 +20,9 @@ class TabloGorunumu : public QWidget {
   public:
     TabloGorunumu(Program& program, Baglayici& baglayici, QWidget* ust);
 
+    const TabloGirisi& Giris() const { return *giris_; }
     /// Where the parts of the table stand now.
-    const TabloDuzeni& Duzen() const { return duzen_; }
+    const TabloDuzeni& Duzen() const { return goruntu_.duzen; }
     /// What lies at a place; the place of a hidden cell is bare.
     TabloIsabeti Isabet(QPointF yer) const;
     /// Device pixels of the layout as logical pixels of the widget.
@@ -37,31 +37,19 @@ class TabloGorunumu : public QWidget {
     bool event(QEvent* olay) override;
 
   private:
-    /// What a frame looks like: only its surroundings are painted when nothing else has changed.
-    struct CerceveGoruntusu {
-        bool gorunur = false;
-        QRect bolge; // device pixels
-        bool operator==(const CerceveGoruntusu&) const = default;
-    };
-
     void Yerlestir();
     void Tazele();
-    void CerceveTazele(CerceveGoruntusu& eski, const velora::Cerceve& cerceve);
-    void DuzeniKur(const FormTablo& tablo);
+    TabloGoruntusu GoruntuAl(const FormTablo& tablo) const;
     void IpucuGoster(const QHelpEvent& olay);
+    /// Where the tool tip of a cell stands: over it, or under it when the hover label is over it.
+    QPoint IpucuYeri(QSize boy, const QRect& goz) const;
 
     Program& program_;
     Baglayici& baglayici_;
     std::weak_ptr<FormTablo> ekran_;
     TabloCizici cizici_;
-    TabloDuzeni duzen_;
-    TabloGirisi* giris_;
-    std::uint64_t iz_ = 0;
-    CerceveGoruntusu buGun_;
-    CerceveGoruntusu cetvel_;
+    TabloGoruntusu goruntu_; // what is painted
+    TabloGirisi* giris_ = nullptr;
 };
-
-/// A number that changes whenever the table, apart from its frames, has to be painted anew.
-std::uint64_t TabloIzi(const FormTablo& tablo);
 
 } // namespace velora

@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMouseEvent>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -28,6 +30,10 @@ constexpr int kSalonEni = 220;
 constexpr int kSeneEni = 96;
 constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
+constexpr QSize kIlkBoy(1280, 720);
+constexpr QSize kEnKucukBoy(1000, 560); // where the screen has room for it
+constexpr int kPencereEni = 16;         // what the system puts about a window, both sides together
+constexpr int kPencereBoyu = 40;        // its title too
 
 /// A drop-down under the name of its control, with its caption before it.
 QComboBox* EtiketliListe(QHBoxLayout& serit, const AcilirListe& model, QChar tus, const QString& ad) {
@@ -61,7 +67,6 @@ TabloPenceresi::TabloPenceresi(Program& program)
     gorunum_ = new TabloGorunumu(program, *baglayici_, orta);
     gorunum_->setObjectName(QStringLiteral("Picture4"));
     gorunum_->setAccessibleName(QStringLiteral("Yıl tablosu"));
-    new UyariPaneli(*tablo, *baglayici_, gorunum_);
     auto* cerceve = new QHBoxLayout;
     cerceve->setContentsMargins(kAralik / 2, 0, kAralik / 2, 0);
     cerceve->addWidget(gorunum_);
@@ -71,9 +76,26 @@ TabloPenceresi::TabloPenceresi(Program& program)
     DurumSeridiKur();
     ZamanlayicilariBagla(*tablo);
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
-    setMinimumSize(1000, 560);
-    resize(1280, 720);
+    const QSize ekran = screen()->availableSize() - QSize(kPencereEni, kPencereBoyu);
+    setMinimumSize(kEnKucukBoy.boundedTo(ekran));
+    resize(kIlkBoy.boundedTo(ekran));
     gorunum_->setFocus();
+    // Only now the table is in the window whose focus the panel takes.
+    new UyariPaneli(*tablo, *baglayici_, gorunum_);
+}
+
+void TabloPenceresi::BosYeriIzle(QWidget& parca) {
+    parca.setMouseTracking(true);
+    parca.installEventFilter(this);
+    // What only shows something lets the moves over it through. What can be worked on isn't bare.
+    for (QWidget* cocuk : parca.findChildren<QWidget*>())
+        cocuk->setMouseTracking(cocuk->focusPolicy() == Qt::NoFocus);
+}
+
+bool TabloPenceresi::eventFilter(QObject* nesne, QEvent* olay) {
+    if (olay->type() == QEvent::MouseMove && static_cast<QMouseEvent*>(olay)->buttons() == Qt::NoButton)
+        baglayici_->Calistir([this] { program_.FormTablo->MouseMove(); });
+    return QMainWindow::eventFilter(nesne, olay);
 }
 
 QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
@@ -92,6 +114,7 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     serit->addWidget(ZilKur(tablo));
     serit->addStretch(1);
     serit->addWidget(new RenkAciklamasi(program_, *baglayici_, parca));
+    BosYeriIzle(*parca);
     return parca;
 }
 
@@ -119,6 +142,7 @@ void TabloPenceresi::DurumSeridiKur() {
         panel->setContentsMargins(kAralik, 0, kAralik, 0);
         statusBar()->addPermanentWidget(panel);
     }
+    BosYeriIzle(*statusBar());
     auto* saat = new QTimer(this);
     connect(saat, &QTimer::timeout, this, [this] { Koru([this] { SaatiGoster(); }); });
     saat->start(kSaatAraligi);

@@ -22,8 +22,10 @@ class TabloPenceresi : public QMainWindow {
 
   protected:
     void closeEvent(QCloseEvent* olay) override;
+    bool eventFilter(QObject* nesne, QEvent* olay) override;
 
   private:
+    void BosYeriIzle(QWidget& parca);
     QWidget* UstSerit(FormTablo& tablo);
     QLabel* ZilKur(FormTablo& tablo);
     void DurumSeridiKur();

@@ -47,18 +47,23 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
     baslik->setFont(kalin);
     baslik->setAlignment(Qt::AlignCenter);
     sutun->addWidget(baslik);
-    auto* liste = new QTreeWidget;
-    Adlandir(*liste, QStringLiteral("Liste"), QMetin(tablo.UyariBaslik.baslik));
+    liste_ = new QTreeWidget;
+    Adlandir(*liste_, QStringLiteral("Liste"), QMetin(tablo.UyariBaslik.baslik));
     baglayici.Bagla(
-        *liste, tablo.Liste, [&tablo] { tablo.Liste_Click(); }, [&tablo] { tablo.Liste_DblClick(); });
-    liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    sutun->addWidget(liste, 1);
+        *liste_, tablo.Liste, [&tablo] { tablo.Liste_Click(); }, [&tablo] { tablo.Liste_DblClick(); });
+    liste_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    sutun->addWidget(liste_, 1);
     detaylar_ = DugmeYap(*this, baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); });
     kapat_ = DugmeYap(*this, baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
     // Beside the keys of the window that the panel stands in.
     detaylar_->setText(TusIsaretli(tablo.Command8.baslik, u't'));
-    kapat_->setText(TusIsaretli(tablo.Command2.baslik, u'K'));
+    kapat_->setText(TusIsaretli(tablo.Command2.baslik, u'p'));
     sutun->addLayout(DugmeSeridi({detaylar_, kapat_}));
+    // The record that it opened is closed again: the keys go on in the list.
+    connect(detaylar_, &QPushButton::clicked, this, [this] {
+        if (isVisible())
+            liste_->setFocus();
+    });
     hide();
     baglayici.Izle([this, &tablo, baslik] {
         baslik->setText(QMetin(tablo.UyariBaslik.baslik));
@@ -91,17 +96,33 @@ void UyariPaneli::dropEvent(QDropEvent* olay) {
 void UyariPaneli::Tazele(const FormTablo& tablo) {
     const Etiket& model = tablo.Picture1;
     if (!model.gorunur)
-        return hide();
+        return Gizle();
     RenkVer(*this, QPalette::Window, QRenk(model.zemin));
     const auto piksel = [](double twip) { return qRound(twip / kTwipPikseli); };
     const QSize boy = QSize(piksel(model.yer.genislik), piksel(model.yer.yukseklik))
                           .expandedTo(minimumSizeHint())
                           .boundedTo(parentWidget()->size());
-    const int sol = std::clamp(piksel(model.yer.sol), 0, parentWidget()->width() - boy.width());
-    const int ust = std::clamp(piksel(model.yer.ust), 0, parentWidget()->height() - boy.height());
-    setGeometry(QRect(QPoint(sol, ust), boy));
+    // The model's inner width is not the widget's, but the middle of the one is the middle of the other.
+    const double genislik = parentWidget()->width() * kTwipPikseli;
+    const double kayma = (TabloIcGenisligi(genislik) - genislik) / 2;
+    const QPoint orta(piksel(model.yer.sol + model.yer.genislik / 2 - kayma),
+                      piksel(model.yer.ust + model.yer.yukseklik / 2));
+    const QPoint kose = orta - QPoint(boy.width() / 2, boy.height() / 2);
+    setGeometry(QRect(QPoint(std::clamp(kose.x(), 0, parentWidget()->width() - boy.width()),
+                             std::clamp(kose.y(), 0, parentWidget()->height() - boy.height())),
+                      boy));
+    const bool yeni = isHidden();
     show();
     raise();
+    if (yeni)
+        liste_->setFocus();
+}
+
+void UyariPaneli::Gizle() {
+    // Before it hides: the toolkit would hand its focus to the first field of the window.
+    if (isAncestorOf(window()->focusWidget()))
+        parentWidget()->setFocus();
+    hide();
 }
 
 } // namespace velora

@@ -3,6 +3,7 @@
 #include <QFrame>
 
 class QPushButton;
+class QTreeWidget;
 
 namespace velora {
 
@@ -10,7 +11,7 @@ class Baglayici;
 struct FormTablo;
 
 /// The panel of warnings over the table: the reservations that are near. It stands where the model says, and
-/// within the table.
+/// within the table. Its list has the focus when it comes, and the table when it goes.
 class UyariPaneli : public QFrame {
   public:
     UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust);
@@ -25,7 +26,9 @@ class UyariPaneli : public QFrame {
 
   private:
     void Tazele(const FormTablo& tablo);
+    void Gizle();
 
+    QTreeWidget* liste_;
     QPushButton* detaylar_;
     QPushButton* kapat_;
 };
