@@ -1,5 +1,7 @@
 // After the save: whatever stands open shows the saved record.
 #include <algorithm>
+#include <array>
+#include <filesystem>
 
 #include "access/Splash.h"
 #include "accounts/FormBakiye.h"
