@@ -119,7 +119,9 @@ void FormBakiye::ListeleGun() {
     Liste.Temizle();
     listelenenYil_ = program_.FormTablo->Sene.Metni();
     Toplamlar toplamlar{};
-    if (!Tara(toplamlar))
+    const bool tamam = Tara(toplamlar);
+    Ozet.baslik = Liste.Ozeti(listelenenYil_); // of what is seen, also where the scan had to stop
+    if (!tamam)
         return;
     ToplamlariGoster(toplamlar);
     Say();

@@ -44,6 +44,7 @@ struct FormBakiye {
     AcilirListe Combo1;    ///< "Rezervasyon Tipi"
     Dugme Listele{u"Listele", {}};
     ListeGorunumu Liste; ///< a row's tag is the path of the main file
+    Etiket Ozet;         ///< how many rows there are, and of what year; empty before the first listing
 
     BirTabanli<Etiket, kBakiyeTurleri.size()> DTop; ///< totals of the kinds
     Etiket Toplam;                                  ///< "Genel Toplam"

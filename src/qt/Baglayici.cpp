@@ -1,6 +1,7 @@
 #include "qt/Baglayici.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include <QAbstractButton>
@@ -13,6 +14,7 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 #include <QTimer>
 
 #include "qt/Ceviri.h"
@@ -229,16 +231,43 @@ void Baglayici::Bagla(QRadioButton& dugme, OnayKutusu& model) {
     });
 }
 
+namespace {
+
+constexpr int kEnGenisSecim = 26; // letters that a drop-down makes room for: names of halls may be longer
+
+/// As wide as its entries want, up to a limit. A longer one is told by its tip, here and in the open list.
+void SecimleriKoy(QComboBox& kutu, const AcilirListe& model) {
+    kutu.clear();
+    int en = kutu.fontMetrics().horizontalAdvance(QMetin(model.bosYazi));
+    for (const Metin& oge : model.ogeler) {
+        kutu.addItem(QMetin(oge));
+        kutu.setItemData(kutu.count() - 1, QIpucu(oge), Qt::ToolTipRole);
+        en = std::max(en, kutu.fontMetrics().horizontalAdvance(QMetin(oge)));
+    }
+    const int harf = kutu.fontMetrics().horizontalAdvance(u'X');
+    kutu.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    kutu.setMinimumContentsLength(std::min(en / harf + 1, kEnGenisSecim));
+}
+
+/// The chosen text, where the field shows only a part of it.
+QString KesikSecim(const QComboBox& kutu, MetinBakis metin) {
+    QStyleOptionComboBox secenek;
+    secenek.initFrom(&kutu);
+    const QRect alan =
+        kutu.style()->subControlRect(QStyle::CC_ComboBox, &secenek, QStyle::SC_ComboBoxEditField, &kutu);
+    return kutu.fontMetrics().horizontalAdvance(QMetin(metin)) > alan.width() ? QIpucu(metin) : QString();
+}
+
+} // namespace
+
 void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
     TekeriBagla(kutu);
     connect(&kutu, &QComboBox::activated, this,
             [this, &model](int sira) { Calistir([&model, sira] { model.Tikla(sira); }); });
-    Izle([&kutu, &model, konan = std::vector<Metin>()]() mutable {
+    Izle([&kutu, &model, konan = std::optional<std::vector<Metin>>()]() mutable {
         const QSignalBlocker sus(&kutu);
         if (konan != model.ogeler) {
-            kutu.clear();
-            for (const Metin& oge : model.ogeler)
-                kutu.addItem(QMetin(oge));
+            SecimleriKoy(kutu, model);
             konan = model.ogeler;
         }
         kutu.setCurrentIndex(model.secili);
@@ -248,7 +277,8 @@ void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
             RenkVer(kutu, QPalette::PlaceholderText, kutu.palette().color(QPalette::Text));
             kutu.setPlaceholderText(QMetin(bos ? model.bosYazi : model.serbest));
         }
-        if (const QString ipucu = bos ? QMetin(model.bosIpucu) : QString(); kutu.toolTip() != ipucu)
+        const QString ipucu = bos ? QMetin(model.bosIpucu) : KesikSecim(kutu, model.Metni());
+        if (kutu.toolTip() != ipucu)
             kutu.setToolTip(ipucu);
         kutu.setEnabled(model.etkin);
     });

@@ -70,6 +70,8 @@ class Baglayici : public QObject {
     void Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi);
     /// `secildi` runs when the user marks a row, also on a press on the one that is marked already; a press
     /// on another row runs it twice. `ciftTiklandi` runs on a double click. Only the model takes a mark away.
+    /// A click on a head sorts what is seen; marks are of the model's rows all the same. Where the window
+    /// lets several rows be chosen, the mark is the last one that was reached.
     void Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& secildi = {},
                const Isleyici& ciftTiklandi = {});
     /// A plain list; `secildi` as above.

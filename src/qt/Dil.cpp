@@ -7,8 +7,21 @@
 
 namespace velora {
 
+namespace {
+
+QLocale Turkce() {
+    return {QLocale::Turkish, QLocale::Turkey};
+}
+
+} // namespace
+
+MetinSirasi TurkceSirasi(const QString& metin) {
+    static const QCollator siralayici(Turkce());
+    return siralayici.sortKey(metin);
+}
+
 void DiliKur() {
-    const QLocale turkce(QLocale::Turkish, QLocale::Turkey);
+    const QLocale turkce = Turkce();
     QLocale::setDefault(turkce);
     auto* ceviri = new QTranslator(QCoreApplication::instance());
     if (ceviri->load(turkce, QStringLiteral("qtbase"), QStringLiteral("_"),

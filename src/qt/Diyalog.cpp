@@ -68,6 +68,15 @@ QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
     return etiket;
 }
 
+QLabel* Diyalog::OzetYap(const Etiket& model) {
+    auto* etiket = new QLabel(this);
+    etiket->setObjectName(QStringLiteral("Ozet"));
+    etiket->setTextFormat(Qt::PlainText);
+    etiket->setForegroundRole(QPalette::PlaceholderText);
+    baglayici_->Izle([etiket, &model] { etiket->setText(QMetin(model.baslik)); });
+    return etiket;
+}
+
 QTreeWidget* Diyalog::ListeYap(ListeGorunumu& model, std::span<const int> enler,
                                const Baglayici::Isleyici& secildi, const Baglayici::Isleyici& ciftTiklandi) {
     auto* liste = ParcaYap<QTreeWidget>(QStringLiteral("Liste"), model, secildi, ciftTiklandi);

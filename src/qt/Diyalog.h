@@ -49,6 +49,8 @@ class Diyalog : public QDialog {
     /// The text of a label that changes, called by it and what stands before and behind it.
     QLabel* DegerYap(const QString& ad, Etiket& model);
 
+    /// The quiet line that says what a list holds, on the window's own ground.
+    QLabel* OzetYap(const Etiket& model);
     /// The list of a screen, its columns in these widths.
     QTreeWidget* ListeYap(ListeGorunumu& model, std::span<const int> enler,
                           const Baglayici::Isleyici& secildi, const Baglayici::Isleyici& ciftTiklandi);

@@ -1,23 +1,27 @@
-// The binder's list view: it rebuilds its rows only when the model has others.
+// The binder's list view: it rebuilds its rows only when the model has others, or they are to be seen in
+// another order.
 #include <algorithm>
+#include <memory>
+#include <optional>
 #include <utility>
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/ListeSiralama.h"
+#include "qt/Pano.h"
 
 namespace velora {
 
 namespace {
-
-bool AyniSatir(const ListeSatiri& bir, const ListeSatiri& iki) {
-    return bir.sutun == iki.sutun && bir.yazi == iki.yazi && bir.kalin == iki.kalin;
-}
 
 /// A row is one line: what stands on several lines in a file stands side by side in it.
 QString TekSatir(const Metin& metin) {
@@ -36,10 +40,32 @@ void BasliklariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
         liste.headerItem()->setTextAlignment(sutun, kSaga);
 }
 
-void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
+/// Where the rows of a list are seen, beside their places in the model: the same, unless it is sorted.
+class SatirSirasi {
+  public:
+    void Koy(std::vector<int> modeldeki) {
+        modeldeki_ = std::move(modeldeki);
+        gorunen_.resize(modeldeki_.size());
+        for (std::size_t i = 0; i < modeldeki_.size(); ++i)
+            gorunen_[static_cast<std::size_t>(modeldeki_[i])] = static_cast<int>(i);
+    }
+    const std::vector<int>& Hepsi() const { return modeldeki_; }
+    int Modeldeki(int gorunen) const { return Karsilik(modeldeki_, gorunen); }
+    int Gorunen(int modeldeki) const { return Karsilik(gorunen_, modeldeki); }
+
+  private:
+    static int Karsilik(const std::vector<int>& sira, int yer) {
+        return yer >= 0 && yer < static_cast<int>(sira.size()) ? sira[static_cast<std::size_t>(yer)] : yer;
+    }
+    std::vector<int> modeldeki_;
+    std::vector<int> gorunen_;
+};
+
+void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model, const SatirSirasi& sira) {
     liste.clear();
     QList<QTreeWidgetItem*> ogeler;
-    for (const ListeSatiri& satir : model.satirlar) {
+    for (const int yer : sira.Hepsi()) {
+        const ListeSatiri& satir = model.satirlar[static_cast<std::size_t>(yer)];
         ogeler << new QTreeWidgetItem;
         for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
             ogeler.back()->setText(sutun, TekSatir(satir.sutun[static_cast<std::size_t>(sutun)]));
@@ -54,32 +80,58 @@ void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     liste.addTopLevelItems(ogeler);
 }
 
-/// Marks a row, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that the model
-/// still has.
-void Isaretle(QAbstractItemView& liste, int secili) {
-    const QModelIndex satir = liste.model()->index(secili, 0);
+/// Marks a row as it is seen, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that
+/// the model still has. Where several rows can be chosen the user's choice stays as long as the marked row is
+/// one of them, or none is marked.
+void Isaretle(QAbstractItemView& liste, int gorunen, bool yeniSatirlar) {
+    const QModelIndex satir = liste.model()->index(gorunen, 0);
     if (!satir.isValid()) {
+        if (!yeniSatirlar && !liste.currentIndex().isValid() &&
+            liste.selectionMode() == QAbstractItemView::ExtendedSelection)
+            return;
         // Told in so many words that it has no row, the view doesn't take its first one when it gets the
         // focus.
         liste.setCurrentIndex({});
         liste.clearSelection();
-    } else if (!liste.selectionModel()->isSelected(satir) || liste.currentIndex().row() != secili) {
+    } else if (!liste.selectionModel()->isSelected(satir) || liste.currentIndex().row() != gorunen) {
         liste.selectionModel()->setCurrentIndex(satir, QItemSelectionModel::ClearAndSelect |
                                                            QItemSelectionModel::Rows);
     }
 }
 
-/// The space bar on a row is a press on it: the marked row can be chosen again without the mouse.
-class BoslukTusu : public QObject {
+/// The chosen rows as they are seen, for a spreadsheet or a letter.
+QString SeciliMetin(const QAbstractItemView& liste) {
+    QModelIndexList satirlar = liste.selectionModel()->selectedRows();
+    std::ranges::sort(satirlar, {}, [](const QModelIndex& satir) { return satir.row(); });
+    QStringList yazilar;
+    for (const QModelIndex& satir : satirlar) {
+        QStringList gozler;
+        for (int sutun = 0; sutun < liste.model()->columnCount(); ++sutun)
+            gozler << satir.siblingAtColumn(sutun).data().toString().replace(u'\t', u' ');
+        yazilar << gozler.join(u'\t');
+    }
+    return yazilar.join(u'\n');
+}
+
+/// The keys of a list. The space bar on a row is a press on it: the marked row can be chosen again without
+/// the mouse. Ctrl+C copies whole rows, not the one cell that the toolkit would.
+class ListeTuslari : public QObject {
   public:
-    BoslukTusu(QAbstractItemView& liste, Baglayici::Isleyici basildi)
+    ListeTuslari(QAbstractItemView& liste, Baglayici::Isleyici basildi)
         : QObject(&liste), liste_(liste), basildi_(std::move(basildi)) {
         liste.installEventFilter(this);
     }
 
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        if (olay->type() != QEvent::KeyPress || dynamic_cast<QKeyEvent&>(*olay).key() != Qt::Key_Space ||
-            !liste_.currentIndex().isValid())
+        if (olay->type() != QEvent::KeyPress)
+            return QObject::eventFilter(nesne, olay);
+        const auto& tus = dynamic_cast<QKeyEvent&>(*olay);
+        if (tus.matches(QKeySequence::Copy)) {
+            if (liste_.selectionModel()->hasSelection())
+                PanoyaKoy(SeciliMetin(liste_));
+            return true;
+        }
+        if (tus.key() != Qt::Key_Space || !liste_.currentIndex().isValid())
             return QObject::eventFilter(nesne, olay);
         basildi_();
         return true;
@@ -90,24 +142,68 @@ class BoslukTusu : public QObject {
     Baglayici::Isleyici basildi_;
 };
 
+/// The tip of a cell that shows only a part of its text: all of it.
+class KesikGozIpucu : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool helpEvent(QHelpEvent* olay, QAbstractItemView* liste, const QStyleOptionViewItem& secenek,
+                   const QModelIndex& goz) override {
+        if (olay->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(olay, liste, secenek, goz);
+        const QRect gorunen = liste->visualRect(goz).intersected(liste->viewport()->rect());
+        if (sizeHint(secenek, goz).width() > gorunen.width())
+            QToolTip::showText(olay->globalPos(), QIpucu(MetinYap(goz.data().toString())), liste->viewport(),
+                               gorunen);
+        else
+            QToolTip::hideText();
+        return true;
+    }
+};
+
 /// What the user does to the marks of a list, of either kind.
 template <class Liste, class Model>
-void IsaretiDinle(Baglayici& baglayici, Liste& liste, Model& model, const Baglayici::Isleyici& secildi) {
-    const auto isaretlendi = [&baglayici, &liste, &model, secildi] {
-        baglayici.Calistir([&liste, &model, &secildi] {
-            model.secili = liste.currentIndex().row();
+void IsaretiDinle(Baglayici& baglayici, Liste& liste, Model& model, const Baglayici::Isleyici& secildi,
+                  const std::shared_ptr<const SatirSirasi>& sira) {
+    const auto isaretlendi = [&baglayici, &liste, &model, secildi, sira] {
+        baglayici.Calistir([&] {
+            model.secili = sira->Modeldeki(liste.currentIndex().row());
             if (secildi)
                 secildi();
         });
     };
     QObject::connect(&liste, &Liste::currentItemChanged, &baglayici, isaretlendi);
     QObject::connect(&liste, &Liste::itemPressed, &baglayici, isaretlendi);
-    new BoslukTusu(liste, isaretlendi);
+    new ListeTuslari(liste, isaretlendi);
+    liste.setItemDelegate(new KesikGozIpucu(&liste));
     QObject::connect(&liste, &Liste::itemSelectionChanged, &baglayici, [&liste] {
         if (!liste.selectionModel()->hasSelection())
             Baglayici::HepsiniTazele();
     });
 }
+
+/// A click on a head sorts by it, another one turns the order round, and a third one brings the order of the
+/// model back.
+void BasliklariKur(Baglayici& baglayici, QHeaderView& basliklar) {
+    QFont kalin = basliklar.font();
+    kalin.setBold(true);
+    basliklar.setFont(kalin);
+    basliklar.setSectionsClickable(true);
+    basliklar.setHighlightSections(false);
+    basliklar.setSortIndicatorShown(true);
+    basliklar.setSortIndicatorClearable(true);
+    basliklar.setSortIndicator(-1, Qt::AscendingOrder);
+    QObject::connect(&basliklar, &QHeaderView::sortIndicatorChanged, &baglayici,
+                     [] { Baglayici::HepsiniTazele(); });
+}
+
+/// What rows of a model a list shows, and in what order.
+struct KonanSatirlar {
+    std::uint64_t degisme;
+    int sutun;
+    Qt::SortOrder yon;
+    bool operator==(const KonanSatirlar&) const = default;
+};
 
 } // namespace
 
@@ -116,33 +212,40 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
-    QFont kalin = liste.header()->font();
-    kalin.setBold(true);
-    liste.header()->setFont(kalin);
-    IsaretiDinle(*this, liste, model, secildi);
+    BasliklariKur(*this, *liste.header());
+    const auto sira = std::make_shared<SatirSirasi>();
+    IsaretiDinle(*this, liste, model, secildi, sira);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Bas(ciftTiklandi); });
-    Izle([&liste, &model, konan = ListeGorunumu()]() mutable {
+    Izle([&liste, &model, sira, basliklar = std::vector<Metin>(),
+          konan = std::optional<KonanSatirlar>()]() mutable {
         const QSignalBlocker sus(&liste);
-        if (konan.basliklar != model.basliklar)
+        if (basliklar != model.basliklar)
             BasliklariKoy(liste, model);
-        if (!std::ranges::equal(konan.satirlar, model.satirlar, AyniSatir))
-            SatirlariKoy(liste, model);
-        konan = model;
-        Isaretle(liste, model.secili);
+        basliklar = model.basliklar;
+        const KonanSatirlar istenen{model.satirlar.Degisme(), liste.header()->sortIndicatorSection(),
+                                    liste.header()->sortIndicatorOrder()};
+        const bool yeni = konan != istenen;
+        if (yeni) {
+            sira->Koy(GorunenSira(model, istenen.sutun, istenen.yon));
+            SatirlariKoy(liste, model, *sira);
+            konan = istenen;
+        }
+        Isaretle(liste, sira->Gorunen(model.secili), yeni);
     });
 }
 
 void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi) {
-    IsaretiDinle(*this, liste, model, secildi);
+    IsaretiDinle(*this, liste, model, secildi, std::make_shared<SatirSirasi>());
     Izle([&liste, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&liste);
-        if (konan != model.ogeler) {
+        const bool yeni = konan != model.ogeler;
+        if (yeni) {
             liste.clear();
             for (const Metin& oge : model.ogeler)
                 liste.addItem(QMetin(oge));
             konan = model.ogeler;
         }
-        Isaretle(liste, model.secili);
+        Isaretle(liste, model.secili, yeni);
     });
 }
 

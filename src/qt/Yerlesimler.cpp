@@ -35,7 +35,7 @@ QFormLayout* FormKur() {
 }
 
 QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
-                         std::initializer_list<QPushButton*> soldakiler) {
+                         std::initializer_list<QPushButton*> soldakiler, QWidget* yazi) {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
     QPushButton* onceki = nullptr;
@@ -46,6 +46,8 @@ QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
         onceki = dugme;
     };
     std::ranges::for_each(soldakiler, ekle);
+    if (yazi != nullptr)
+        serit->addWidget(yazi);
     serit->addStretch(1);
     std::ranges::for_each(sagdakiler, ekle);
     return serit;

@@ -24,10 +24,10 @@ QVBoxLayout* SutunKur(QWidget& parca);
 /// Labels in one aligned column, fields beside them.
 QFormLayout* FormKur();
 
-/// A row of buttons of one window, at the lower right, with some of them at the left end, if any. Tab walks
-/// them from left to right.
+/// A row of buttons of one window, at the lower right, with some of them at the left end, if any, and a text
+/// behind these. Tab walks them from left to right.
 QHBoxLayout* DugmeSeridi(std::initializer_list<QPushButton*> sagdakiler,
-                         std::initializer_list<QPushButton*> soldakiler = {});
+                         std::initializer_list<QPushButton*> soldakiler = {}, QWidget* yazi = nullptr);
 
 /// In the widths of a list's columns: shares with the others of its kind what is left.
 inline constexpr int kKalanEn = 0;

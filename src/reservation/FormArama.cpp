@@ -82,6 +82,7 @@ void FormArama::Command3_Click() {
     Liste.secimDugmeleri.Ac(false);
     Liste.Temizle();
     Ara();
+    Ozet.baslik = Liste.Ozeti(program_.FormTablo->Sene.Metni());
     if (Liste.satirlar.empty())
         Soyle(program_, u"Hiç kayıt bulunamadı!");
 }

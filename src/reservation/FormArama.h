@@ -33,6 +33,7 @@ struct FormArama {
     /// The criteria. An empty one takes no part.
     BirTabanli<MetinKutusu, kOlcutSayisi> Text;
     ListeGorunumu Liste; ///< what was found; the tag of a row is the full path that was opened
+    Etiket Ozet; ///< how many rows the last search gave, and the year it looked in; empty before the first
     Dugme Command1{u"Detaylar", {}, false};
     Dugme Command2{u"Kapat", {}};
     Dugme Command3{u"Ara", {}};

@@ -29,15 +29,24 @@ constexpr std::array<AlanKontrolu, 6> kKontroller{{
     {AnaNo::HatirlatmaTarihi, kBosTarih, u"Lütfen bu tarihte hatırlatın tarihini giriniz!"},
 }};
 
+/// Lists anew on a screen, which a box that this brings may unload. The marked row is marked again where it
+/// is still there; its buttons wait for a mark by the user.
+template <class Ekran>
+void YenidenListele(const std::shared_ptr<Ekran>& ekran, void (Ekran::*listele)()) {
+    const std::optional<IsaretliSatir> isaretli = ekran->Liste.Isaretli();
+    (ekran.get()->*listele)();
+    ekran->Liste.YenidenIsaretle(isaretli);
+}
+
 /// What stands open shows the saved record: the lists with the messages they bring, then the table.
 void AcikEkranlariTazele(Program& p) {
     if (p.FormBakiye.Yuklu() && p.FormBakiye->acikmi == 1)
-        p.FormBakiye->ListeleGun();
+        YenidenListele(p.FormBakiye.Tut(), &FormBakiye::ListeleGun);
     if (p.FormArama.Yuklu() && p.FormArama->acikmi == 1)
-        p.FormArama->Command3_Click();
+        YenidenListele(p.FormArama.Tut(), &FormArama::Command3_Click);
     const auto tablo = p.FormTablo.Tut();
     if (tablo->Picture1.gorunur)
-        tablo->UyariGoster();
+        YenidenListele(tablo, &FormTablo::UyariGoster);
     tablo->DegisikligiGoster([&p] { p.OlaylariIsle(); });
 }
 

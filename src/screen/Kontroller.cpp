@@ -71,6 +71,58 @@ void ListeKutusu::Sil(int sira) {
     SiradanSil(ogeler, secili, sira);
 }
 
+SatirListesi& SatirListesi::operator=(SatirListesi oteki) {
+    satirlar_ = std::move(oteki.satirlar_);
+    ++degisme_;
+    return *this;
+}
+
+void SatirListesi::push_back(ListeSatiri satir) {
+    satirlar_.push_back(std::move(satir));
+    ++degisme_;
+}
+
+void SatirListesi::erase(std::size_t sira) {
+    satirlar_.erase(satirlar_.begin() + static_cast<std::ptrdiff_t>(sira));
+    ++degisme_;
+}
+
+void SatirListesi::clear() {
+    satirlar_.clear();
+    ++degisme_;
+}
+
+void SatirListesi::Degistir(std::size_t sira, ListeSatiri satir) {
+    satirlar_.at(sira) = std::move(satir);
+    ++degisme_;
+}
+
+Metin ListeGorunumu::Ozeti(MetinBakis yil) const {
+    return SayiMetni(static_cast<long long>(satirlar.size())) + u" kayıt · " + Metin(yil);
+}
+
+std::optional<IsaretliSatir> ListeGorunumu::Isaretli() const {
+    const ListeSatiri* satir = Secili();
+    if (satir == nullptr || satir->sutun.empty())
+        return {};
+    IsaretliSatir isaretli{satir->tag, satir->sutun.front()};
+    isaretli.oncekiler = std::count_if(satirlar.begin(), satirlar.begin() + secili,
+                                       [&](const ListeSatiri& s) { return isaretli.Bu(s); });
+    return isaretli;
+}
+
+void ListeGorunumu::YenidenIsaretle(const std::optional<IsaretliSatir>& satir) {
+    secili = -1;
+    if (!satir)
+        return;
+    auto kalan = satir->oncekiler;
+    for (auto yer = satirlar.begin(); yer != satirlar.end() && kalan >= 0; ++yer)
+        if (satir->Bu(*yer)) {
+            secili = static_cast<int>(yer - satirlar.begin());
+            --kalan;
+        }
+}
+
 void ListeGorunumu::Temizle() {
     satirlar.clear();
     secili = -1;
@@ -78,7 +130,7 @@ void ListeGorunumu::Temizle() {
 
 void ListeGorunumu::SeciliyiSil() {
     if (Secili() != nullptr)
-        satirlar.erase(satirlar.begin() + secili);
+        satirlar.erase(static_cast<std::size_t>(secili));
     secili = -1;
 }
 

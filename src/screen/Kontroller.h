@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -187,9 +188,57 @@ struct ListeSatiri {
     bool kalin = false; ///< in bold: what only its colour would tell
 };
 
+/// The rows of a list. They count their changes: a window shows thousands of them and asks many times a
+/// second whether it still shows the right ones.
+class SatirListesi {
+  public:
+    using value_type = ListeSatiri;
+    using const_iterator = std::vector<ListeSatiri>::const_iterator;
+
+    SatirListesi() = default;
+    SatirListesi(std::initializer_list<ListeSatiri> satirlar) : satirlar_(satirlar) {}
+    SatirListesi(std::vector<ListeSatiri> satirlar) : satirlar_(std::move(satirlar)) {}
+    SatirListesi(const SatirListesi&) = default;
+    SatirListesi(SatirListesi&&) = default;
+    ~SatirListesi() = default;
+    /// Other rows, also when they are equal to those before: one change.
+    SatirListesi& operator=(SatirListesi oteki);
+
+    std::size_t size() const { return satirlar_.size(); }
+    bool empty() const { return satirlar_.empty(); }
+    const ListeSatiri& operator[](std::size_t sira) const { return satirlar_[sira]; }
+    const ListeSatiri& at(std::size_t sira) const { return satirlar_.at(sira); }
+    const_iterator begin() const { return satirlar_.begin(); }
+    const_iterator end() const { return satirlar_.end(); }
+
+    void push_back(ListeSatiri satir);
+    void erase(std::size_t sira);
+    void clear();
+    /// Puts another row in the place of one.
+    void Degistir(std::size_t sira, ListeSatiri satir);
+
+    /// How often they have changed: the same number, the same rows.
+    std::uint64_t Degisme() const { return degisme_; }
+
+  private:
+    std::vector<ListeSatiri> satirlar_;
+    std::uint64_t degisme_ = 0;
+};
+
+/// A row that was marked, as it is known again in rows made anew.
+struct IsaretliSatir {
+    Metin tag;
+    Metin ilkSutun;
+    std::ptrdiff_t oncekiler = 0; ///< rows of the same tag and column before it
+
+    bool Bu(const ListeSatiri& satir) const {
+        return satir.tag == tag && !satir.sutun.empty() && satir.sutun.front() == ilkSutun;
+    }
+};
+
 struct ListeGorunumu {
     std::vector<Metin> basliklar;
-    std::vector<ListeSatiri> satirlar;
+    SatirListesi satirlar;
     int secili = -1;                  ///< index of the marked row, -1 for none
     std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
     Metin baslik{};                   ///< its label
@@ -200,6 +249,14 @@ struct ListeGorunumu {
         const auto sira = static_cast<std::size_t>(secili);
         return secili >= 0 && sira < satirlar.size() ? &satirlar[sira] : nullptr;
     }
+    /// The line under the list: "12 kayıt · 2026".
+    Metin Ozeti(MetinBakis yil) const;
+    /// Marks the row that `satir` was before the rows were made anew: the one with its tag and its first
+    /// column, and of several such rows the one that stands as far among them. Without one, or without
+    /// `satir`, nothing is marked.
+    void YenidenIsaretle(const std::optional<IsaretliSatir>& satir);
+    /// What `YenidenIsaretle` finds the marked row by; none when none is marked.
+    std::optional<IsaretliSatir> Isaretli() const;
     /// Takes all rows out, and the mark.
     void Temizle();
     /// Takes the marked row out, if there is one. Nothing is marked then.

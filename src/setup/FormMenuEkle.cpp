@@ -33,7 +33,7 @@ void FormMenuEkle::Command4_Click() {
     if (Kirp(Tag).empty())
         satirlar.push_back({{Text1.metin, Text2.metin}, {}, 0});
     else if (const double sira = SayisalDeger(Tag); sira >= 0 && sira < static_cast<double>(satirlar.size()))
-        satirlar[static_cast<std::size_t>(sira)].sutun = {Text1.metin, Text2.metin};
+        satirlar.Degistir(static_cast<std::size_t>(sira), {{Text1.metin, Text2.metin}, {}, 0});
     menuler->Kaydet_Click();
     p.FormMenuEkle.Bosalt();
 }

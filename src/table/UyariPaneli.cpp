@@ -28,6 +28,7 @@ void FormTablo::UyariGoster() {
                                                             SayisalDeger(ayarlar->UyariGun2.metin)});
     }
     Liste.secili = -1;
+    Liste.secimDugmeleri.Ac(false); // no row of the new list has been clicked yet
     if (!Liste.satirlar.empty())
         Picture1.gorunur = true;
     else if (Check1 == 1)

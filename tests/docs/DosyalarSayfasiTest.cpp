@@ -86,7 +86,7 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
         agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
     EXPECT_EQ(program.FormKayit->Kay[14].metin, u"18");
     EXPECT_EQ(program.FormTablo->Salon.ogeler, std::vector<Metin>{u"Gül Salonu"});
-    EXPECT_EQ(program.FormMenuAyar->Liste.satirlar.front().sutun,
+    EXPECT_EQ(program.FormMenuAyar->Liste.satirlar.at(0).sutun,
               (std::vector<Metin>{u"Klasik", u"Çorba\r\nTatlı"}));
     EXPECT_EQ(program.FormAyarlar->UyariGun.metin, u"7");
     EXPECT_TRUE(program.FormAyarlar->GunduzUstte());

@@ -15,6 +15,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
@@ -179,6 +180,41 @@ class AramaPenceresiTest : public QObject {
             QTRY_VERIFY(liste.hasFocus());
             Parcasi<QLineEdit>(pencere, "Text1").setFocus();
             QVERIFY(Parcasi<QPushButton>(pencere, "Command3").isDefault());
+        });
+    }
+
+    void a_line_under_the_list_tells_how_many_rows_and_of_what_year_behind_a_search() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gece", false);
+        firma.Rezervasyon(kSalonB, u"11.09.2026 - Gece", false);
+        Aramada(firma, [&](QDialog& pencere) {
+            const auto& ozet = Parcasi<QLabel>(pencere, "Ozet");
+            QCOMPARE(ozet.text(), QString());
+            YazVeAra(QStringLiteral("ali"));
+            QCOMPARE(ozet.text(), QStringLiteral("2 kayıt · 2026"));
+            QVERIFY(ozet.isVisible());
+            Parcasi<QLineEdit>(pencere, "Text1").setFocus();
+            Pencerede([] { YazVeAra(QStringLiteral("yok")); },
+                      {Mesaj(QStringLiteral("Hiç kayıt bulunamadı!"))});
+            QCOMPARE(ozet.text(), QStringLiteral("0 kayıt · 2026"));
+        });
+    }
+
+    void all_rows_stay_chosen_while_the_timers_of_the_table_tick() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.09.2026 - Gece", false);
+        firma.Rezervasyon(kSalonB, u"11.09.2026 - Gece", false);
+        Aramada(firma, [&](QDialog& pencere) {
+            YazVeAra(QStringLiteral("ali"));
+            auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+            firma.Model().GunTimer.aralik = 20;
+            int tik = 0;
+            firma.Model().GunTimer.tik = [&tik] { ++tik; };
+            Baglayici::HepsiniTazele();
+            QTest::keyClick(&liste, Qt::Key_A, Qt::ControlModifier);
+            QTRY_VERIFY(tik > 3);
+            QCOMPARE(liste.selectedItems().size(), 2);
+            QCOMPARE(firma.program.FormArama->Liste.secili, -1);
         });
     }
 

@@ -206,6 +206,37 @@ class BakiyePenceresiTest : public QObject {
         });
     }
 
+    void a_line_under_the_list_tells_how_many_rows_and_of_what_year_behind_a_listing() {
+        GuiFirma firma;
+        for (const MetinBakis gun : {u"10.05.2026 - Gece", u"11.05.2026 - Gece", u"12.05.2026 - Gece"})
+            firma.Rezervasyon(kSalonA, gun, true);
+        firma.Ac();
+        Raporda(firma, [&](QDialog& pencere) {
+            const auto& ozet = Parcasi<QLabel>(pencere, "Ozet");
+            QCOMPARE(ozet.text(), QString());
+            Parcasi<QPushButton>(pencere, "ListeleGun").click();
+            QCOMPARE(ozet.text(), QStringLiteral("3 kayıt · 2026"));
+        });
+    }
+
+    void a_long_name_of_a_hall_does_not_widen_the_window_and_is_told_by_a_tip() {
+        GuiFirma firma;
+        const Metin uzun(150, u'W');
+        firma.Ac();
+        int onceki = 0;
+        Raporda(firma, [&](QDialog& pencere) { onceki = pencere.minimumSizeHint().width(); });
+        firma.Model().Salon.ogeler.push_back(uzun);
+        firma.Model().Salon.secili = static_cast<int>(firma.Model().Salon.ogeler.size()) - 1;
+        Raporda(firma, [&](QDialog& pencere) {
+            const auto& salon = Parcasi<QComboBox>(pencere, "Combo2");
+            QCOMPARE(salon.currentText().size(), 150);
+            QVERIFY(pencere.minimumSizeHint().width() < onceki + 200);
+            QCOMPARE(salon.toolTip(), QIpucu(uzun));
+            QCOMPARE(salon.itemData(0, Qt::ToolTipRole).toString(), QIpucu(kSalonA));
+        });
+        QVERIFY(firma.Bul<QComboBox>("Salon").sizeHint().width() < 600);
+    }
+
     void escape_closes_it() {
         GuiFirma firma;
         firma.Ac();

@@ -104,6 +104,26 @@ class ListeBaglamaTest : public QObject {
             QVERIFY(!liste.currentIndex().isValid());
         });
     }
+
+    void rows_are_made_anew_when_the_model_changed_them_and_only_then() {
+        ListeSahnesi sahne;
+        SatirListesi& satirlar = sahne.ekran->sutunlu.satirlar;
+        const auto yeni = [&] {
+            Baglayici::HepsiniTazele();
+            const bool yapildi = sahne.sutunlu.topLevelItem(0)->toolTip(0) != QStringLiteral("iz");
+            sahne.sutunlu.topLevelItem(0)->setToolTip(0, QStringLiteral("iz"));
+            return yapildi;
+        };
+        yeni();
+        QVERIFY(!yeni());
+        satirlar.Degistir(2, {{u"Beş"}, {}, 0});
+        QVERIFY(yeni());
+        QCOMPARE(sahne.sutunlu.topLevelItem(2)->text(0), QStringLiteral("Beş"));
+        const SatirListesi ayni = satirlar;
+        satirlar = ayni;
+        QVERIFY(yeni()); // nobody compares thousands of rows
+        QVERIFY(!yeni());
+    }
 };
 
 VELORA_GUI_TEST(ListeBaglamaTest)

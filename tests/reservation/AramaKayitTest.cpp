@@ -118,7 +118,9 @@ TEST_F(AramaKayit, A_save_writes_the_payments_into_the_hall_of_the_record) {
 
 TEST_F(AramaKayit, A_hall_that_is_not_listed_any_more_leaves_the_table_as_it_is) {
     Ara(kAd, u"şükran");
-    Arama().Liste.satirlar[0].sutun[1] = u"Salon C";
+    ListeSatiri satir = Arama().Liste.satirlar[0];
+    satir.sutun[1] = u"Salon C";
+    Arama().Liste.satirlar.Degistir(0, satir);
     Detaylar(0, [&] { EXPECT_EQ(Kayit().Kay[1].metin, u"Şükran Öz"); });
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon A");
 }

@@ -1,5 +1,7 @@
 // After the save: whatever stands open shows the saved record.
 #include <algorithm>
+#include <array>
+#include <filesystem>
 
 #include "access/Splash.h"
 #include "accounts/FormBakiye.h"
@@ -88,6 +90,36 @@ TEST_F(TazelemeTest, Lists_that_still_find_the_record_show_it_as_it_was_saved_an
     EXPECT_EQ(Prog().FormBakiye->Liste.satirlar.at(0).sutun[1], u"Ayşe Veli");
     EXPECT_EQ(Prog().FormArama->Liste.satirlar.at(0).sutun[2], u"Ayşe Veli");
     EXPECT_EQ(kullanici.Tablo().Liste.satirlar.at(0).sutun[2], u"Ayşe Veli");
+}
+
+TEST_F(TazelemeTest, The_marked_row_is_marked_again_behind_a_save_and_its_buttons_wait_for_another_mark) {
+    RezervasyonKoy(u"19.06.2012 - Gece", {.ad = u"Veli Can", .no = u"8"}, true);
+    Prog().FormBakiye.Goster();
+    Prog().FormBakiye->ListeleGun();
+    AlanaYaz(Prog().FormArama->Text[1], u"veli");
+    Prog().FormArama.Goster();
+    VELORA_BAS(Prog().FormArama, Command3);
+    const std::array listeler{&Prog().FormBakiye->Liste, &Prog().FormArama->Liste, &kullanici.Tablo().Liste};
+    Prog().FormBakiye->Liste_Click();
+    Prog().FormArama->Liste_ItemClick();
+    kullanici.Tablo().Liste_Click();
+    for (ListeGorunumu* liste : listeler) {
+        ASSERT_EQ(liste->satirlar.size(), 2U);
+        liste->secili = 1;
+    }
+    KayitAc([&] {
+        // A name that is new, and a row before the marked one that goes.
+        Gir(1, u"Ayşe Veli");
+        std::filesystem::remove(agac.Yol(u"Salon A/2012/19.06.2012 - Gece"));
+        std::filesystem::remove(agac.Yol(u"Salon A/2012/19.06.2012 - Gece-Detay"));
+        KaydeteBas();
+    });
+    for (const ListeGorunumu* liste : listeler) {
+        EXPECT_EQ(liste->satirlar.size(), 1U);
+        EXPECT_EQ(liste->secili, 0);
+        for (const Dugme* dugme : liste->secimDugmeleri.dugmeler)
+            EXPECT_FALSE(dugme->etkin);
+    }
 }
 
 TEST_F(TazelemeTest, A_save_loads_neither_report_nor_search) {

@@ -42,6 +42,17 @@ TEST_F(UyariTest, A_pre_reservation_is_near_by_its_own_number_of_days_and_green)
     EXPECT_EQ(Tablo().Liste.satirlar[0].tag, Yol(u"22.06.2012 - Gündüz"));
 }
 
+TEST_F(UyariTest, No_row_of_a_new_list_has_been_clicked_so_its_button_waits) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    RezervasyonKoy(u"17.06.2012 - Gece");
+    Prog();
+    Isaretle(1);
+    EXPECT_TRUE(Tablo().Command8.etkin);
+    Tablo().UyariGoster();
+    EXPECT_FALSE(Tablo().Command8.etkin);
+    EXPECT_EQ(Tablo().Liste.secili, -1);
+}
+
 TEST_F(UyariTest, A_row_tells_day_hall_customer_couple_telephones_and_kind) {
     agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece",
                   u"\"Ali\",\"Bolu\",\"Elif / Can\",\"Düğün\",\"0212\",\"0532\",\"\",\"\",\"\",\"\",\"\","

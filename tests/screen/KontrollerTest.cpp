@@ -205,6 +205,26 @@ TEST(ListeGorunumuTest, The_marked_row_goes_and_nothing_is_marked_then) {
     }
 }
 
+TEST(ListeGorunumuTest, A_marked_row_is_found_again_by_tag_and_first_column_and_by_its_place_among_equals) {
+    ListeGorunumu liste;
+    liste.satirlar = {{{u"1"}, u"x", 0}, {{u"2"}, u"y", 0}, {{u"1"}, u"x", 0}, {{u"1"}, u"y", 0}};
+    EXPECT_FALSE(liste.Isaretli());
+    liste.secili = 2;
+    const auto isaretli = liste.Isaretli();
+    liste.satirlar = {{{u"1"}, u"y", 0}, {{u"1", u"a"}, u"x", 0}, {{u"2"}, u"x", 0}, {{u"1", u"b"}, u"x", 0}};
+    liste.YenidenIsaretle(isaretli);
+    EXPECT_EQ(liste.secili, 3);
+    liste.satirlar.erase(3);
+    liste.YenidenIsaretle(isaretli);
+    EXPECT_EQ(liste.secili, 1) << "one of them has gone";
+    liste.satirlar.erase(1);
+    liste.YenidenIsaretle(isaretli);
+    EXPECT_EQ(liste.secili, -1);
+    liste.secili = 1;
+    liste.YenidenIsaretle({});
+    EXPECT_EQ(liste.secili, -1);
+}
+
 TEST(ListeGorunumuTest, An_emptied_list_has_no_mark) {
     ListeGorunumu liste;
     liste.satirlar = {{{u"bir"}, {}, 0}};
@@ -212,6 +232,40 @@ TEST(ListeGorunumuTest, An_emptied_list_has_no_mark) {
     liste.Temizle();
     EXPECT_TRUE(liste.satirlar.empty());
     EXPECT_EQ(liste.secili, -1);
+}
+
+TEST(SatirListesiTest, Each_change_moves_the_counter_and_reading_does_not) {
+    SatirListesi satirlar{{{u"bir"}, u"1", 5}, {{u"iki"}, u"2", 6}};
+    auto onceki = satirlar.Degisme();
+    const auto degisti = [&] { return std::exchange(onceki, satirlar.Degisme()) != satirlar.Degisme(); };
+    EXPECT_EQ(satirlar.at(1).tag, u"2");
+    EXPECT_EQ(satirlar.begin()->sutun[0], u"bir");
+    EXPECT_FALSE(degisti());
+    satirlar.push_back({{u"üç"}, u"3", 7});
+    EXPECT_TRUE(degisti());
+    satirlar.Degistir(0, {{u"sıfır"}, u"0", 4});
+    EXPECT_TRUE(degisti());
+    EXPECT_EQ(satirlar[0].sutun[0], u"sıfır");
+    satirlar.erase(1);
+    EXPECT_TRUE(degisti());
+    ASSERT_EQ(satirlar.size(), 2U);
+    EXPECT_EQ(satirlar[1].tag, u"3");
+    const SatirListesi ayni = satirlar;
+    satirlar = ayni;
+    EXPECT_TRUE(degisti()) << "rows as those before are a change too";
+    EXPECT_EQ(satirlar.size(), 2U);
+    satirlar.clear();
+    EXPECT_TRUE(degisti());
+    EXPECT_TRUE(satirlar.empty());
+}
+
+TEST(SatirListesiTest, A_whole_list_that_is_put_in_the_place_of_another_moves_the_counter) {
+    ListeGorunumu liste;
+    liste.satirlar = {{{u"bir"}, {}, 0}};
+    const auto onceki = liste.satirlar.Degisme();
+    liste = ListeGorunumu{{u"Ad"}, {{{u"iki"}, {}, 0}}, 0};
+    EXPECT_NE(liste.satirlar.Degisme(), onceki);
+    EXPECT_EQ(liste.satirlar[0].sutun[0], u"iki");
 }
 
 TEST(SecimDugmeleriTest, All_of_them_go_on_and_off_together_and_no_other) {

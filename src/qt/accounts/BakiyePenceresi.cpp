@@ -35,6 +35,7 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
     sutun->addLayout(suzgecler);
     SuzgecleriKur(*suzgecler);
     QTreeWidget* liste = ListeYap(kBakiyeSutunEnleri, &FormBakiye::Liste_Click, &FormBakiye::Liste_DblClick);
+    liste->setSelectionMode(QAbstractItemView::ExtendedSelection);
     sutun->addWidget(liste, 1);
     sutun->addWidget(Toplamlar());
     auto* detay = DugmeYap({"Command6", &FormBakiye::Command6, &FormBakiye::Command6_Click});
@@ -44,7 +45,7 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
     VarsayilanDugme(*listele, *liste, *detay);
     BulunanaGotur(*listele, *liste);
     OdagiListeyeVer(*detay, *liste);
-    sutun->addLayout(DugmeSeridi({detay, kapat}));
+    sutun->addLayout(DugmeSeridi({detay, kapat}, {}, OzetYap(Model().Ozet)));
     resize(1080, 600);
     IlkOdak("Combo2");
 }

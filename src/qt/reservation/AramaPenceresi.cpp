@@ -31,6 +31,7 @@ AramaPenceresi::AramaPenceresi(Program& program) : EkranPenceresi(program.FormAr
     sutun->addLayout(Olcutler());
     auto* ara = findChild<QPushButton*>(QStringLiteral("Command3"));
     auto* liste = ListeYap(kAramaSutunEnleri, &FormArama::Liste_ItemClick, &FormArama::Liste_DblClick);
+    liste->setSelectionMode(QAbstractItemView::ExtendedSelection);
     liste->setMinimumSize(kEnKucukListe);
     sutun->addSpacing(kAralik);
     sutun->addWidget(liste, 1);
@@ -39,7 +40,7 @@ AramaPenceresi::AramaPenceresi(Program& program) : EkranPenceresi(program.FormAr
     Ardindan(*detaylar, [liste] { liste->setFocus(); });
     auto* kapat = DugmeYap({"Command2", &FormArama::Command2, &FormArama::Command2_Click});
     IptalDugmesi(kapat);
-    sutun->addLayout(DugmeSeridi({detaylar, kapat}));
+    sutun->addLayout(DugmeSeridi({detaylar, kapat}, {}, OzetYap(Model().Ozet)));
     VarsayilanDugme(*ara, *liste, *detaylar);
     BulunanaGotur(*ara, *liste);
     resize(940, 580);
