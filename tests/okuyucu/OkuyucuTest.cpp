@@ -77,6 +77,12 @@ class OkuyucuTest : public QObject {
         tablo_ = YilTablosu();
     }
 
+    /// A window that a failed test has left goes.
+    void cleanup() {
+        if (QTest::currentTestFailed())
+            oturum_.Bas(QStringLiteral("Escape"));
+    }
+
     void the_year_table_has_24_rows_and_31_columns_with_their_heads() {
         QCOMPARE(tablo_.Rol(), QStringLiteral("table"));
         QCOMPARE(tablo_.Satirlar(), 24);
@@ -122,13 +128,13 @@ class OkuyucuTest : public QObject {
         const QString gunduz = UzunTarih(bugun_) + QStringLiteral(", Gündüz, Boş"); // and perhaps why
         const int satir = 2 * (bugun_.month() - 1);
         Bas(QStringLiteral("Right"));
-        OdagaGelmeli(gece);
+        QVERIFY2(OdagaGeldi(gece), Odaklar());
         Bas(QStringLiteral("Down"));
-        OdagaGelmeli(gunduz);
+        QVERIFY2(OdagaGeldi(gunduz), Odaklar());
         QVERIFY(tablo_.Hucre(satir + 1, bugun_.day() - 1).Odakta());
         QVERIFY(!tablo_.Hucre(satir, bugun_.day() - 1).Odakta());
         Bas(QStringLiteral("Up"));
-        OdagaGelmeli(gece);
+        QVERIFY2(OdagaGeldi(gece), Odaklar());
     }
 
     void the_window_of_a_reservation_names_its_tabs_its_values_and_the_field_of_a_list() {
@@ -224,10 +230,10 @@ class OkuyucuTest : public QObject {
     void Bas(const QString& tus) { QVERIFY2(oturum_.Bas(tus), "xdotool presses no key"); }
 
     /// The last that was told of the focus begins so.
-    void OdagaGelmeli(const QString& ad) {
-        const auto geldi = [&] { return !odaklar_.isEmpty() && odaklar_.last().startsWith(ad); };
-        QVERIFY2(Olur(geldi), qPrintable(odaklar_.join(QStringLiteral(" / "))));
+    bool OdagaGeldi(const QString& ad) const {
+        return Olur([&] { return !odaklar_.isEmpty() && odaklar_.last().startsWith(ad); });
     }
+    QByteArray Odaklar() const { return odaklar_.join(QStringLiteral(" / ")).toUtf8(); }
 
     static bool DegerVar(const Okunan& pencere, const QString& ad) {
         return pencere.Bul(QStringLiteral("label"), ad).Var();

@@ -13,7 +13,7 @@
 namespace velora::test {
 
 /// How long is waited for anything: a small machine that does other work is slow.
-inline constexpr int kSabirMs = 60'000;
+inline constexpr int kSabirMs = 40'000;
 
 /// A desk of its own: a display in memory, a message bus with the bus of accessibility on it, and the program
 /// over the tree, in a copy beside its data. Nothing of the user's session is seen or touched, and two run at
