@@ -61,9 +61,7 @@ QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
     // The name stands in for the text where that isn't seen.
     baglayici_->Izle([etiket, &model] {
         const QString tumu = QMetin(model.once + u" " + model.baslik + u" " + model.sonra).simplified();
-        if (const QString isim = QString(tumu).replace(QStringLiteral(" :"), QStringLiteral(":"));
-            isim != etiket->accessibleName())
-            etiket->setAccessibleName(isim);
+        Okut(*etiket, QString(tumu).replace(QStringLiteral(" :"), QStringLiteral(":")));
     });
     return etiket;
 }

@@ -67,7 +67,8 @@ void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler) {
 }
 
 void SayfaTuslari(QTabWidget& sayfalar) {
-    sayfalar.tabBar()->setAccessibleName(QStringLiteral("Sayfalar"));
+    sayfalar.setAccessibleName(QStringLiteral("Sayfalar"));
+    sayfalar.tabBar()->setAccessibleName(sayfalar.accessibleName());
     const std::array tuslar{
         std::pair{QKeySequence(Qt::CTRL | Qt::Key_Tab), 1},
         std::pair{QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1},
@@ -91,6 +92,11 @@ QLabel* EtiketYap(const QString& baslik, QWidget& alan) {
 void Adlandir(QWidget& parca, const QString& ad, const QString& baslik) {
     parca.setObjectName(ad);
     parca.setAccessibleName(baslik);
+}
+
+void Okut(QWidget& parca, const QString& isim) {
+    if (parca.accessibleName() != isim)
+        parca.setAccessibleName(isim);
 }
 
 } // namespace velora

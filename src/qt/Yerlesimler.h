@@ -37,7 +37,7 @@ inline constexpr int kKalanEn = 0;
 void SutunEnleriVer(QTreeWidget& liste, std::span<const int> enler);
 
 /// Ctrl+Tab and Ctrl+PgDn turn to the next page, with Shift and with PgUp to the one before, from whatever
-/// field. The row of its tabs gets a name.
+/// field. The pages and the row of their tabs get a name.
 void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.
@@ -45,5 +45,7 @@ QLabel* EtiketYap(const QString& baslik, QWidget& alan);
 
 /// The name of a widget's control, and what it is called for those who can't see it.
 void Adlandir(QWidget& parca, const QString& ad, const QString& baslik);
+/// What it is called now, where that changes: listeners hear only of what is new.
+void Okut(QWidget& parca, const QString& isim);
 
 } // namespace velora

@@ -116,12 +116,15 @@ void KayitPenceresi::AlanEkle(QFormLayout& form, int no) {
 void KayitPenceresi::GunSatiri(QFormLayout& form) {
     const auto yazi = [this](const QString& ad, const Metin& baslik, const Metin& metin) {
         auto* etiket = new QLabel;
-        Adlandir(*etiket, ad, QMetin(baslik));
+        etiket->setObjectName(ad);
         etiket->setTextFormat(Qt::PlainText);
         QFont kalin = etiket->font();
         kalin.setBold(true);
         etiket->setFont(kalin);
-        Bag().Izle([etiket, &metin] { etiket->setText(QMetin(metin)); });
+        Bag().Izle([etiket, &baslik, &metin] {
+            etiket->setText(QMetin(metin));
+            Okut(*etiket, QMetin(baslik + u": " + metin));
+        });
         return etiket;
     };
     QLabel* tarih = yazi(QStringLiteral("Tarih"), Model().tarihBaslik, Model().Tarih);

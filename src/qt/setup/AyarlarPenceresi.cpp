@@ -112,7 +112,8 @@ QWidget* AyarlarPenceresi::GorunumSayfasi() {
 void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler) {
     FormAyarlar& ekran = Model();
     const QString baslik = QMetin(renkler.onay == nullptr ? renkler.baslik : (ekran.*renkler.onay).baslik);
-    QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu), baslik);
+    QWidget* zemin = RenkKutusu(renkler.zemin, QMetin(renkler.zeminIpucu),
+                                baslik + QStringLiteral(", ") + QMetin(kZeminRengi));
     if (renkler.onay != nullptr) {
         const bool gecmis = renkler.onay == &FormAyarlar::Check1;
         izgara.addWidget(ParcaYap<QCheckBox>(gecmis ? QStringLiteral("Check1") : QStringLiteral("Check5"),
@@ -123,13 +124,15 @@ void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const Renk
     }
     izgara.addWidget(zemin, satir, 1);
     if (renkler.yazi != kRenkYok)
-        izgara.addWidget(RenkKutusu(renkler.yazi, QMetin(renkler.yaziIpucu), baslik), satir, 2);
+        izgara.addWidget(RenkKutusu(renkler.yazi, QMetin(renkler.yaziIpucu),
+                                    baslik + QStringLiteral(", ") + QMetin(kMetinRengi)),
+                         satir, 2);
 }
 
 QWidget* AyarlarPenceresi::RenkKutusu(int renk, const QString& ipucu, const QString& okunan) {
     FormAyarlar& ekran = Model();
     auto* kutu = new QToolButton;
-    Adlandir(*kutu, QStringLiteral("Renk%1").arg(renk), okunan + QStringLiteral(", ") + ipucu);
+    Adlandir(*kutu, QStringLiteral("Renk%1").arg(renk), okunan);
     kutu->setToolTip(ipucu);
     kutu->setIconSize(kRenkKutusu);
     connect(kutu, &QToolButton::clicked, this,
