@@ -8,6 +8,7 @@
 #include "qt/Gorunum.h"
 #include "qt/Koruma.h"
 #include "qt/QtOrtam.h"
+#include "qt/TusTekrari.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
@@ -18,6 +19,7 @@ static int Calistir(char** argv) {
     QCoreApplication::setApplicationName(QStringLiteral("Velora"));
     QGuiApplication::setDesktopFileName(QStringLiteral("velora"));
     velora::DiliKur();
+    velora::TusTekrariniKes();
     velora::GorunumuKur();
     velora::QtOrtam disDunya;
     disDunya.HafizaVer(velora::PencereHafizasi(velora::PencereHafizasi::KullaniciDosyasi()));

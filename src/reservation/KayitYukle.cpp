@@ -74,8 +74,7 @@ void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& 
 }
 
 void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil) {
-    // A hall that was renamed or taken out behind the list: as for a missing file.
-    if (satir.sutun.front().empty() || program.FormTablo->Salon.Bul(salon) < 0)
+    if (satir.sutun.front().empty())
         return;
     // The table's way to the hall and the year lets events run as well: it belongs to the opening.
     program.FormKayit.GosterModal([&] {

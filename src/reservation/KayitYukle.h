@@ -19,8 +19,7 @@ void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& 
 
 /// Opens the reservation of a list's row as an existing one: its first column is the day file name, its tag
 /// the path. First the table goes to that hall and, when it is given, to that year. A row without a text
-/// opens nothing, nor does one whose hall isn't in the list of halls any more. The row is taken as it is now:
-/// what runs meanwhile may list anew.
+/// opens nothing. The row is taken as it is now: what runs meanwhile may list anew.
 void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil = {});
 
 } // namespace velora

@@ -6,6 +6,7 @@
 
 #include "storage/RezervasyonDosyalari.h"
 #include "storage/Tarih.h"
+#include "storage/VeriAgaci.h"
 
 namespace velora {
 

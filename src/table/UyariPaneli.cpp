@@ -45,7 +45,9 @@ void FormTablo::Liste_DblClick() {
 
 void FormTablo::Command8_Click() {
     Liste.secimDugmeleri.Ac(false);
-    if (const ListeSatiri* satir = Liste.Secili())
+    const ListeSatiri* satir = Liste.Secili();
+    // A hall that was renamed or taken out behind the panel: as for a missing file.
+    if (satir != nullptr && Salon.Bul(satir->sutun[1]) >= 0)
         SatiriAc(program_, *satir, Metin(satir->sutun[1]), Metin(Parca(satir->sutun[0], kYilYeri, 4)));
 }
 

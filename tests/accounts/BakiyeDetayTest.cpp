@@ -116,16 +116,6 @@ TEST_F(BakiyeDetay, A_hall_chosen_after_the_listing_lists_anew_so_that_payments_
     EXPECT_EQ(agac.Bayt(u"Salon B/2012/" + Metin(kGun) + u"-Odeme"), "\"02.02.2012\",\"9\",\"b\"\r\n");
 }
 
-TEST_F(BakiyeDetay, A_hall_that_is_gone_behind_the_report_opens_nothing) {
-    RezervasyonKoy(Metin(kGun));
-    YiliListele([&] {
-        kullanici.Tablo().Salon.ogeler = {u"Salon C", u"Salon B"};
-        SatirSec(0);
-        VELORA_BAS(Prog().FormBakiye, Command6);
-        EXPECT_FALSE(Prog().FormKayit.Yuklu());
-    });
-}
-
 TEST_F(BakiyeDetay, The_table_that_is_in_that_hall_already_is_not_scanned_again) {
     RezervasyonKoy(Metin(kGun));
     YiliListele([&] {

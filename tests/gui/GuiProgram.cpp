@@ -10,6 +10,7 @@
 
 #include "qt/Dil.h"
 #include "qt/Gorunum.h"
+#include "qt/TusTekrari.h"
 
 namespace velora::test {
 
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication uygulama(argc, argv);
     velora::DiliKur();
+    velora::TusTekrariniKes();
     velora::GorunumuKur();
     std::vector<char*> kalanlar(argv, argv + argc);
     kalanlar.erase(kalanlar.begin() + 1);

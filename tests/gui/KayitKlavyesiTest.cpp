@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -10,6 +12,7 @@
 #include "gui/Kullanim.h"
 #include "qt/Ceviri.h"
 #include "reservation/FormKayit.h"
+#include "reservation/KayitYukle.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -56,6 +59,32 @@ class KayitKlavyesiTest : public QObject {
         QVERIFY2(bayt.find("\"1500\",\"0\",\"1500\"") != std::string::npos, bayt.c_str());
         QVERIFY(bayt.starts_with("\"Ali Veli\",\"\",\"\",\"D\xFC\xF0\xFCn\""));
         QVERIFY(!firma.program.FormKayit.Yuklu());
+    }
+
+    void a_held_enter_or_escape_that_opened_or_closed_a_window_goes_no_further() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, kGun, false);
+        firma.Ac();
+        const std::string once = firma.agac.Resim();
+        const auto tekrarla = [](int tus) {
+            QKeyEvent tekrar(QEvent::KeyPress, tus, Qt::NoModifier, QString(), true);
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &tekrar);
+        };
+        const Metin yol = firma.program.agac.GunYolu(kSalonA, u"2026", kGun);
+        Pencerede([&] { KayitYukle(firma.program, yol, Metin(kGun)); }, {[&](QDialog& pencere) {
+                      for (const char* ad : {"Kay1", "Command1", "Command2"}) {
+                          Parcasi<QWidget>(pencere, ad).setFocus();
+                          for (const int tus : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape})
+                              tekrarla(tus);
+                      }
+                      QVERIFY(firma.program.FormKayit.Yuklu() && pencere.isVisible());
+                      auto& adres = Parcasi<QPlainTextEdit>(pencere, "Kay7");
+                      adres.setFocus();
+                      const int satir = adres.blockCount();
+                      tekrarla(Qt::Key_Return);
+                      QCOMPARE(adres.blockCount(), satir + 1);
+                  }});
+        QVERIFY(firma.agac.Resim() == once);
     }
 
     void the_start_is_selected_whole_mended_when_it_is_left_and_the_end_is_not_on_purpose() {

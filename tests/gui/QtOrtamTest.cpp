@@ -92,9 +92,9 @@ class QtOrtamTest : public QObject {
                                                              {Simge::Soru, QMessageBox::Question},
                                                              {Simge::Uyari, QMessageBox::Warning},
                                                              {Simge::Kritik, QMessageBox::Critical}};
-        for (const auto& [simge, icon] : simgeler)
-            Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = simge}); },
-                      {Kutuda<QMessageBox>([&](QMessageBox& kutu) { QCOMPARE(kutu.icon(), icon); })});
+        for (const auto& biri : simgeler)
+            Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = biri.first}); },
+                      {Kutuda<QMessageBox>([&](QMessageBox& kutu) { QCOMPARE(kutu.icon(), biri.second); })});
     }
 
     void each_kind_of_box_shows_a_drawing_of_ours_in_a_colour_of_its_own() {

@@ -82,6 +82,7 @@ class TabloGorunumuTest : public QObject {
         const QPoint kenar = CerceveKenari(firma, 5, 21);
         firma.Model().Command6();
         Baglayici::HepsiniTazele();
+        QVERIFY(firma.Pencere().findChild<QTimer*>(QStringLiteral("GunTimer")) != nullptr);
         QVERIFY(firma.Bul<QTimer>("GunTimer").isActive());
         QCOMPARE(firma.Bul<QTimer>("GunTimer").interval(), 300);
         for (int kez = 0; kez < 2; ++kez) {

@@ -57,7 +57,7 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
     kapat_ = DugmeYap(*this, baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
     // Beside the keys of the window that the panel stands in.
     detaylar_->setText(TusIsaretli(tablo.Command8.baslik, u't'));
-    kapat_->setText(TusIsaretli(tablo.Command2.baslik, u'K'));
+    kapat_->setText(TusIsaretli(tablo.Command2.baslik, u'p'));
     sutun->addLayout(DugmeSeridi({detaylar_, kapat_}));
     // The record that it opened is closed again: the keys go on in the list.
     connect(detaylar_, &QPushButton::clicked, this, [this] {
