@@ -16,10 +16,13 @@ static int Calistir(char** argv) {
     // The program has no command line: the toolkit sees none either.
     int argumanSayisi = 1;
     const QApplication uygulama(argumanSayisi, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Velora"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("velora"));
     velora::DiliKur();
     velora::TusTekrariniKes();
     velora::GorunumuKur();
     velora::QtOrtam disDunya;
+    disDunya.HafizaVer(velora::PencereHafizasi(velora::PencereHafizasi::KullaniciDosyasi()));
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());
     velora::Program program(disDunya.Ver(), programDizini);
     velora::EkranlariTanit(disDunya, program);

@@ -10,6 +10,7 @@
 #include <QTreeWidget>
 
 #include "qt/ErisimTuslari.h"
+#include "qt/PencereYeri.h"
 
 namespace velora {
 
@@ -125,6 +126,9 @@ void Diyalog::showEvent(QShowEvent* olay) {
     if (!std::exchange(tuslandi_, true))
         baglayici_->Izle([this] { ErisimTuslariVer(*this, iptal_); });
     QDialog::showEvent(olay);
+    // The toolkit has put it over another window, which may lie partly outside.
+    if (const QRect yer = EkranaAl(geometry()); !olay->spontaneous() && yer != geometry())
+        setGeometry(yer);
 }
 
 void Diyalog::closeEvent(QCloseEvent* olay) {

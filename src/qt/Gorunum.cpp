@@ -9,15 +9,42 @@
 
 #include <QApplication>
 #include <QFrame>
+#include <QIcon>
+#include <QLabel>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "qt/Simgeler.h"
+
 namespace velora {
 
 namespace {
+
+constexpr std::array kSimgeBoylari{16, 22, 24, 32, 48, 64, 96, 128, 256};
+
+/// A picture in all sizes: each is drawn, none is stretched.
+QIcon HerBoyda(const auto& ciz) {
+    QIcon simge;
+    for (const int boy : kSimgeBoylari)
+        simge.addPixmap(ciz(boy));
+    return simge;
+}
+
+struct KutuSimgesi {
+    QStyle::StandardPixmap tur;
+    const char* ad;
+    QRgb renk;
+};
+
+constexpr std::array kKutuSimgeleri{
+    KutuSimgesi{QStyle::SP_MessageBoxInformation, "bilgi", qRgb(0, 92, 168)},
+    KutuSimgesi{QStyle::SP_MessageBoxQuestion, "soru", qRgb(0, 128, 0)},
+    KutuSimgesi{QStyle::SP_MessageBoxWarning, "uyari", qRgb(176, 96, 0)},
+    KutuSimgesi{QStyle::SP_MessageBoxCritical, "kritik", qRgb(192, 0, 0)},
+};
 
 constexpr QRgb kVurgu = qRgb(0, 128, 0);
 
@@ -60,6 +87,10 @@ bool KoyuKenarla(const QStyleOption* secenek, const auto& ciz) {
     ciz(&koyu);
     return true;
 }
+
+// Letters with dots over them stand out of the line that their font names, and an access key makes a text
+// a little wider than it was measured.
+constexpr QMargins kEtiketPayi(1, 2, 4, 2);
 
 constexpr int kSatirPayi = 6;           // what a row of a list is higher than its text
 constexpr int kHucrePayi = 6;           // what a cell of a list keeps free on either side
@@ -117,6 +148,17 @@ class Bicim : public QProxyStyle {
             ciz(secenek);
     }
 
+    /// Boxes show pictograms of ours; they go on to know their kind.
+    QIcon standardIcon(StandardPixmap tur, const QStyleOption* secenek,
+                       const QWidget* widget) const override {
+        for (const KutuSimgesi& simge : kKutuSimgeleri)
+            if (simge.tur == tur)
+                return HerBoyda([&](int boy) {
+                    return SimgeCiz(QString::fromLatin1(simge.ad), QColor(simge.renk), boy);
+                });
+        return QProxyStyle::standardIcon(tur, secenek, widget);
+    }
+
     /// Buttons of boxes are words, as all others are.
     int styleHint(StyleHint konu, const QStyleOption* secenek, const QWidget* widget,
                   QStyleHintReturn* ayrinti) const override {
@@ -132,6 +174,20 @@ class Bicim : public QProxyStyle {
         if (konu == PM_HeaderMargin)
             return kHucrePayi + 1; // its text stands over that of the cells
         return QProxyStyle::pixelMetric(konu, secenek, widget);
+    }
+
+    /// Labels have a margin for what stands out of their line: it isn't cut off there.
+    void drawItemText(QPainter* firca, const QRect& yer, int bayraklar, const QPalette& palet, bool etkin,
+                      const QString& metin, QPalette::ColorRole rol) const override {
+        QProxyStyle::drawItemText(firca, yer, bayraklar | Qt::TextDontClip, palet, etkin, metin, rol);
+    }
+
+    using QProxyStyle::polish;
+    void polish(QWidget* parca) override {
+        QProxyStyle::polish(parca);
+        auto* etiket = qobject_cast<QLabel*>(parca);
+        if (etiket != nullptr && etiket->contentsMargins().isNull())
+            etiket->setContentsMargins(kEtiketPayi);
     }
 
     QSize sizeFromContents(ContentsType tur, const QStyleOption* secenek, const QSize& icerik,
@@ -155,6 +211,7 @@ void GorunumuKur() {
     for (const QPalette::ColorRole rol : kSolgunlar)
         palet.setColor(QPalette::Disabled, rol, QColor(kSolgun));
     QApplication::setPalette(palet);
+    QApplication::setWindowIcon(HerBoyda([](int boy) { return ResimCiz(QStringLiteral("velora"), boy); }));
 }
 
 double Karsitlik(const QColor& bir, const QColor& iki) {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kGirdiEni = 360; // room for a name
 
-QMessageBox::Icon KutuSimgesi(Simge simge) {
+QMessageBox::Icon SimgeTuru(Simge simge) {
     switch (simge) {
     case Simge::Soru:
         return QMessageBox::Question;
@@ -46,7 +46,7 @@ Cevap MesajGoster(QWidget* ust, const MesajKutusu& kutu) {
     pencere.setWindowTitle(QMetin(kutu.baslik));
     pencere.setTextFormat(Qt::PlainText);
     pencere.setText(QMetin(kutu.metin));
-    pencere.setIcon(KutuSimgesi(kutu.simge));
+    pencere.setIcon(SimgeTuru(kutu.simge));
     const bool soru = kutu.dugmeler == KutuDugmeleri::EvetHayir;
     QPushButton* olumlu = pencere.addButton(soru ? QStringLiteral("&Evet") : QStringLiteral("&Tamam"),
                                             soru ? QMessageBox::YesRole : QMessageBox::AcceptRole);

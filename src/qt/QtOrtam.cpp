@@ -11,6 +11,7 @@
 #include "qt/Kabuk.h"
 #include "qt/Kutular.h"
 #include "qt/OlayKilidi.h"
+#include "qt/PencereYeri.h"
 #include "qt/Saat.h"
 
 namespace velora {
@@ -114,6 +115,10 @@ void QtOrtam::Ac(EkranAdi ekran, const std::function<void()>& gorununce) {
     QWidget* pencere = Hazirla(ekran);
     if (pencere == nullptr)
         return;
+    if (!pencere->isVisible()) {
+        hafiza_.Yerlestir(*pencere, QMetin(EkranBul(ekran).ad));
+        EkranaSigdir(*pencere);
+    }
     pencere->show();
     pencere->raise();
     pencere->activateWindow();
@@ -141,7 +146,13 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
         ust->activateWindow();
 }
 
+void QtOrtam::Sakla(EkranAdi ekran) const {
+    if (const QWidget* pencere = Pencere(ekran))
+        hafiza_.Sakla(*pencere, QMetin(EkranBul(ekran).ad));
+}
+
 void QtOrtam::Gizle(EkranAdi ekran) {
+    Sakla(ekran);
     // Out of the map first: hiding a window may lead back here.
     const auto dugum = pencereler_.extract(ekran);
 }
@@ -156,6 +167,8 @@ void QtOrtam::OdakVer(EkranAdi ekran, MetinBakis kontrol) const {
 
 void QtOrtam::Bitir() {
     bitti_ = true;
+    for (const auto& [ekran, pencere] : pencereler_)
+        Sakla(ekran);
     QCoreApplication::exit(0);
 }
 

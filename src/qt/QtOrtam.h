@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include "qt/PencereHafizasi.h"
 #include "screen/Ortam.h"
 
 namespace velora {
@@ -29,6 +30,9 @@ class QtOrtam {
     /// The window of a screen, null while it has none.
     QWidget* Pencere(EkranAdi ekran) const;
 
+    /// Where windows are remembered; before the first is shown. Without it none is.
+    void HafizaVer(PencereHafizasi hafiza) { hafiza_ = std::move(hafiza); }
+
     /// Drops all windows, before the screens go.
     void PencereleriBirak();
 
@@ -45,11 +49,13 @@ class QtOrtam {
     void Ac(EkranAdi ekran, const std::function<void()>& gorununce);
     void Modal(EkranAdi ekran, const std::function<void()>& gorununce);
     void Gizle(EkranAdi ekran);
+    void Sakla(EkranAdi ekran) const;
     void OdakVer(EkranAdi ekran, MetinBakis kontrol) const;
     void Bitir();
 
     std::map<EkranAdi, Uretici> ureticiler_;
     std::map<EkranAdi, std::unique_ptr<QWidget, SonraSil>> pencereler_;
+    PencereHafizasi hafiza_;
     bool bitti_ = false;
 };
 

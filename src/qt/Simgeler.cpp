@@ -10,7 +10,7 @@ static void KaynaklariYukle() {
 
 namespace velora {
 
-QPixmap SimgeCiz(const QString& ad, const QColor& renk, int boy) {
+QPixmap ResimCiz(const QString& ad, int boy) {
     KaynaklariYukle();
     QSvgRenderer cizim(QStringLiteral(":/simgeler/%1.svg").arg(ad));
     QPixmap resim(boy, boy);
@@ -19,6 +19,12 @@ QPixmap SimgeCiz(const QString& ad, const QColor& renk, int boy) {
         return resim;
     QPainter boyaci(&resim);
     cizim.render(&boyaci);
+    return resim;
+}
+
+QPixmap SimgeCiz(const QString& ad, const QColor& renk, int boy) {
+    QPixmap resim = ResimCiz(ad, boy);
+    QPainter boyaci(&resim);
     // The drawing gives the shape alone; the colour is laid over it.
     boyaci.setCompositionMode(QPainter::CompositionMode_SourceIn);
     boyaci.fillRect(resim.rect(), renk);

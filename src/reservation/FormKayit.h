@@ -76,6 +76,7 @@ struct FormKayit {
     OnayKutusu Check19;                      ///< "Bu Tarihte Hatırlat"
 
     ListeGorunumu Liste; ///< payments: "Tarih", "Tutar", "Açıklama"
+    Etiket ToplamUcret;  ///< `Kay8` for the eye, on the page of payments
     Etiket Kayam9;       ///< `Kay9` for the eye
     Etiket Kayam10;      ///< `Kay10` for the eye
 

@@ -63,9 +63,10 @@ void FormKayit::BasliklariKoy() {
     Check19.baslik = u"Bu Tarihte Hatırlat";
     Liste.baslik = u"Ödemeler";
     Liste.basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
+    ToplamUcret.once = u"Toplam Ücret :";
     Kayam9.once = u"Alınan Ödeme :";
     Kayam10.once = u"Kalan Ödeme :";
-    Kayam9.sonra = Kayam10.sonra = u"TL";
+    ToplamUcret.sonra = Kayam9.sonra = Kayam10.sonra = u"TL";
     Combo1.baslik = u"Menü";
     Label20.baslik = u"Menü içeriği";
     Aciklamalar.baslik = u"Özel İstekler ve Açıklamalar";

@@ -54,6 +54,7 @@ void FormKayit::Command12() {
         toplam += SayisalDeger(satir.sutun[kTutarSutunu]);
     Kay[AnaNo::AlinanOdeme].metin = DuzMetin(toplam);
     Kay9_LostFocus();
+    ToplamUcret.baslik = GrupluMetin(SayisalDeger(Kay[AnaNo::ToplamUcret].metin));
     Kayam9.baslik = GrupluMetin(SayisalDeger(Kay[AnaNo::AlinanOdeme].metin));
     Kayam10.baslik = GrupluMetin(SayisalDeger(Kay[AnaNo::KalanOdeme].metin));
 }

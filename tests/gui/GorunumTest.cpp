@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -54,6 +56,31 @@ class GorunumTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void the_icon_of_the_program_is_drawn_in_every_size() {
+        for (const int boy : {16, 24, 48, 256}) {
+            const QImage resim = QApplication::windowIcon().pixmap(QSize(boy, boy), 1).toImage();
+            QCOMPARE(resim.size(), QSize(boy, boy));
+            QVERIFY(resim.pixelColor(boy / 2, boy / 5 + 1).green() > 90); // its head
+        }
+    }
+
+    void a_label_shows_the_dots_over_its_letters_and_its_last_letter_beside_an_access_key() {
+        const auto izler = [](const QSize& ek, const QString& metin) {
+            QLabel etiket(metin);
+            etiket.ensurePolished();
+            etiket.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+            etiket.resize(etiket.sizeHint() + ek);
+            const QImage resim = etiket.grab().toImage();
+            int adet = 0;
+            for (int y = 0; y < resim.height(); ++y)
+                for (int x = 0; x < resim.width(); ++x)
+                    adet += resim.pixelColor(x, y).lightness() < 200 ? 1 : 0;
+            return adet;
+        };
+        for (const auto& metin : {QStringLiteral("Özel İstekler"), QStringLiteral("Sözleşme &Tarihi")})
+            QCOMPARE(izler({}, metin), izler({40, 40}, metin));
+    }
+
     void the_button_of_enter_is_filled_with_the_accent_while_it_can_be_pressed() {
         QWidget pencere;
         QPushButton dolu(QStringLiteral("Tamam"), &pencere);

@@ -41,7 +41,8 @@ class OdemeSayfasiTest : public QObject {
     static QTreeWidget& Liste(QDialog& pencere) { return Parcasi<QTreeWidget>(pencere, "Liste"); }
     static QStringList Satir(QDialog& pencere, int sira) { return SatirYazilari(Liste(pencere), sira); }
     static QStringList Toplamlar(QDialog& pencere) {
-        return {Parcasi<QLabel>(pencere, "Kayam9").text(), Parcasi<QLabel>(pencere, "Kayam10").text()};
+        return {Parcasi<QLabel>(pencere, "ToplamUcret").text(), Parcasi<QLabel>(pencere, "Kayam9").text(),
+                Parcasi<QLabel>(pencere, "Kayam10").text()};
     }
     static bool Acik(QDialog& pencere, const char* dugme) {
         return Parcasi<QPushButton>(pencere, dugme).isEnabled();
@@ -64,14 +65,14 @@ class OdemeSayfasiTest : public QObject {
         GuiFirma firma;
         Odemelerde(firma, [](QDialog& pencere) {
             QCOMPARE(Satir(pencere, 1), (QStringList{"02.05.2026", "250", "7 - Ali Veli"}));
-            QCOMPARE(Toplamlar(pencere), (QStringList{"350", "4.650"}));
+            QCOMPARE(Toplamlar(pencere), (QStringList{"5.000", "350", "4.650"}));
             Ekle(pencere, [](QDialog&) {
                 Yaz(QStringLiteral("0x1500"));
                 Tusla(Qt::Key_Return);
             });
             QCOMPARE(Liste(pencere).topLevelItemCount(), 3);
             QCOMPARE(Satir(pencere, 2), (QStringList{"21.05.2026", "1500", "7 - Ali Veli"}));
-            QCOMPARE(Toplamlar(pencere), (QStringList{"1.850", "3.150"}));
+            QCOMPARE(Toplamlar(pencere), (QStringList{"5.000", "1.850", "3.150"}));
         });
     }
 
@@ -120,7 +121,7 @@ class OdemeSayfasiTest : public QObject {
                 Tusla(Qt::Key_Escape);
             });
             QCOMPARE(Liste(pencere).topLevelItemCount(), 2);
-            QCOMPARE(Toplamlar(pencere), (QStringList{"350", "4.650"}));
+            QCOMPARE(Toplamlar(pencere), (QStringList{"5.000", "350", "4.650"}));
         });
     }
 
@@ -163,7 +164,7 @@ class OdemeSayfasiTest : public QObject {
             Sil(pencere, QStringLiteral("Evet"));
             QCOMPARE(Liste(pencere).topLevelItemCount(), 1);
             QCOMPARE(Satir(pencere, 0), (QStringList{"02.05.2026", "250", "7 - Ali Veli"}));
-            QCOMPARE(Toplamlar(pencere), (QStringList{"250", "4.750"}));
+            QCOMPARE(Toplamlar(pencere), (QStringList{"5.000", "250", "4.750"}));
             QVERIFY(!Acik(pencere, "Command7"));
         });
     }
@@ -188,7 +189,7 @@ class OdemeSayfasiTest : public QObject {
                 Yaz(QStringLiteral("50"));
                 Tusla(Qt::Key_Return);
             });
-            QCOMPARE(Toplamlar(pencere), (QStringList{"400", "4.600"}));
+            QCOMPARE(Toplamlar(pencere), (QStringList{"5.000", "400", "4.600"}));
             SatiraTikla(Liste(pencere), 0);
             Pencerede([&] { Tikla(pencere, "Command7"); },
                       {Mesaj(QStringLiteral("Alınan ödemeleri silmeye yetkiniz yok!"))});
@@ -217,7 +218,7 @@ class OdemeSayfasiTest : public QObject {
                             Yaz(QStringLiteral("1000"));
                             Tusla(Qt::Key_Return);
                         });
-                        QCOMPARE(Toplamlar(pencere), (QStringList{"1.000", "-100"}));
+                        QCOMPARE(Toplamlar(pencere), (QStringList{"900", "1.000", "-100"}));
                         firma.program.FormKayit->KayitAc = 1; // closes without a question
                         Tusla(Qt::Key_Escape);
                     }});

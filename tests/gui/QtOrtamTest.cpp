@@ -16,6 +16,7 @@
 #include "qt/Ceviri.h"
 #include "qt/OlayKilidi.h"
 #include "qt/QtOrtam.h"
+#include "qt/Simgeler.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -94,6 +95,30 @@ class QtOrtamTest : public QObject {
         for (const auto& biri : simgeler)
             Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = biri.first}); },
                       {Kutuda<QMessageBox>([&](QMessageBox& kutu) { QCOMPARE(kutu.icon(), biri.second); })});
+    }
+
+    void each_kind_of_box_shows_a_drawing_of_ours_in_a_colour_of_its_own() {
+        const std::pair<Simge, QString> simgeler[]{{Simge::Bilgi, QStringLiteral("bilgi")},
+                                                   {Simge::Soru, QStringLiteral("soru")},
+                                                   {Simge::Uyari, QStringLiteral("uyari")},
+                                                   {Simge::Kritik, QStringLiteral("kritik")}};
+        QSet<QRgb> renkler;
+        for (const auto& simge : simgeler)
+            Pencerede([&] { ortam_.sor.mesaj({.metin = u"Bir", .simge = simge.first}); },
+                      {Kutuda<QMessageBox>([&](QMessageBox& kutu) {
+                          const QImage gorulen = kutu.iconPixmap().toImage();
+                          QVERIFY(gorulen.width() >= 24);
+                          const QImage bizim = SimgeCiz(simge.second, Qt::black, gorulen.width()).toImage();
+                          int isaretli = 0;
+                          for (int y = 0; y < gorulen.height(); ++y)
+                              for (int x = 0; x < gorulen.width(); ++x) {
+                                  QCOMPARE(gorulen.pixelColor(x, y).alpha(), bizim.pixelColor(x, y).alpha());
+                                  if (gorulen.pixelColor(x, y).alpha() == 255 && ++isaretli == 1)
+                                      renkler << gorulen.pixel(x, y);
+                              }
+                          QVERIFY(isaretli > 20);
+                      })});
+        QCOMPARE(renkler.size(), 4);
     }
 
     void an_input_box_says_what_it_asks_for_under_its_title() {

@@ -26,7 +26,9 @@ namespace {
 
 constexpr int kAlanEni = 300;
 constexpr int kKisaAlanEni = 110;
-constexpr int kCokSatirBoyu = 64;
+constexpr int kCokSatir = 2; // rows of the page that a field of many lines takes
+constexpr int kSolSutun = 0;
+constexpr int kSagSutun = 3; // each a caption and a field; between them a gap
 
 // The fields of the first page, column by column.
 constexpr std::array kSolAlanlar{AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Niteligi,
@@ -76,7 +78,8 @@ QWidget* KayitPenceresi::AlanYap(int no) {
         return ParcaYap<QComboBox>(ad, model);
     if (Icinde(kCokSatirlilar, no)) {
         auto* kutu = ParcaYap<QPlainTextEdit>(ad, model);
-        kutu->setFixedHeight(kCokSatirBoyu);
+        kutu->setMinimumHeight(0);
+        kutu->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // as high as its rows
         return kutu;
     }
     Baglayici::AlanIsleri isler;
@@ -90,30 +93,34 @@ QWidget* KayitPenceresi::AlanYap(int no) {
     return kutu;
 }
 
-void KayitPenceresi::AlanEkle(QFormLayout& form, int no) {
+int KayitPenceresi::AlanEkle(QGridLayout& izgara, int satir, int sutun, int no) {
     const MetinKutusu& model = Model().Kay[no];
     QWidget* kutu = AlanYap(no);
     QLabel* etiket = EtiketYap(QMetin(model.baslik), *kutu);
     if (!Icinde(kKisalar, no)) {
+        const int boy = Icinde(kCokSatirlilar, no) ? kCokSatir : 1;
         kutu->setMinimumWidth(kAlanEni);
-        form.addRow(etiket, kutu);
-        return;
+        izgara.addWidget(etiket, satir, sutun);
+        izgara.addWidget(kutu, satir, sutun + 1, boy, 1);
+        return boy;
     }
-    auto* satir = new QHBoxLayout;
-    satir->setSpacing(kAralik);
+    auto* serit = new QHBoxLayout;
+    serit->setSpacing(kAralik);
     kutu->setFixedWidth(kKisaAlanEni);
-    satir->addWidget(kutu);
-    satir->addWidget(new QLabel(QMetin(model.sonra)));
+    serit->addWidget(kutu);
+    serit->addWidget(new QLabel(QMetin(model.sonra)));
     if (no == AnaNo::ToplamUcret) {
-        satir->addSpacing(kAralik);
-        satir->addWidget(DugmeYap({"Command4", &FormKayit::Command4, &FormKayit::Command4_Click}));
+        serit->addSpacing(kAralik);
+        serit->addWidget(DugmeYap({"Command4", &FormKayit::Command4, &FormKayit::Command4_Click}));
     }
-    satir->addStretch(1);
-    form.addRow(etiket, satir);
+    serit->addStretch(1);
+    izgara.addWidget(etiket, satir, sutun);
+    izgara.addLayout(serit, satir, sutun + 1);
+    return 1;
 }
 
 /// Which day of which hall. A long name of a hall is broken and widens nothing.
-void KayitPenceresi::GunSatiri(QFormLayout& form) {
+void KayitPenceresi::GunSatiri(QGridLayout& izgara) {
     const auto yazi = [this](const QString& ad, const Metin& baslik, const Metin& metin) {
         auto* etiket = new QLabel;
         etiket->setObjectName(ad);
@@ -136,30 +143,34 @@ void KayitPenceresi::GunSatiri(QFormLayout& form) {
     satir->addSpacing(kAralik);
     satir->addWidget(EtiketYap(QMetin(Model().SalonAdi.once), *salon));
     satir->addWidget(salon, 1);
-    form.addRow(EtiketYap(QMetin(Model().tarihBaslik), *tarih), satir);
+    izgara.addWidget(EtiketYap(QMetin(Model().tarihBaslik), *tarih), 0, kSolSutun);
+    izgara.addLayout(satir, 0, kSolSutun + 1);
 }
 
 QWidget* KayitPenceresi::GenelSayfasi() {
     auto* sayfa = new QWidget;
-    auto* sutunlar = new QHBoxLayout(sayfa);
-    sutunlar->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
-    sutunlar->setSpacing(4 * kAralik);
-    QFormLayout* sol = FormKur();
-    GunSatiri(*sol);
+    auto* izgara = new QGridLayout(sayfa);
+    izgara->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
+    izgara->setSpacing(kAralik);
+    GunSatiri(*izgara);
+    int satir = 1;
     for (const int no : kSolAlanlar)
-        AlanEkle(*sol, no);
-    QFormLayout* sag = FormKur();
+        satir += AlanEkle(*izgara, satir, kSolSutun, no);
+    satir = 0;
     for (const int no : kSagAlanlar)
-        AlanEkle(*sag, no);
-    sag->addRow(DurumSecimi());
-    sag->addRow(HatirlatmaSecimi());
-    // Rows keep their distance when the window grows.
-    for (QFormLayout* form : {sol, sag}) {
-        auto* sutun = new QVBoxLayout;
-        sutun->addLayout(form);
-        sutun->addStretch(1);
-        sutunlar->addLayout(sutun, 1);
-    }
+        satir += AlanEkle(*izgara, satir, kSagSutun, no);
+    izgara->addWidget(DurumSecimi(), satir++, kSagSutun, 1, 2);
+    izgara->addWidget(ParcaYap<QCheckBox>(QStringLiteral("Check18"), Model().Check18), satir++, kSagSutun, 1,
+                      2);
+    izgara->addWidget(HatirlatmaSecimi(), satir++, kSagSutun, 1, 2);
+    // Rows keep their height and distance when the window grows.
+    const int boy = izgara->itemAtPosition(1, kSolSutun + 1)->sizeHint().height();
+    for (int sira = 0; sira < satir; ++sira)
+        izgara->setRowMinimumHeight(sira, boy);
+    izgara->setRowStretch(satir, 1);
+    izgara->setColumnMinimumWidth(kSagSutun - 1, 2 * kAralik);
+    izgara->setColumnStretch(kSolSutun + 1, 1);
+    izgara->setColumnStretch(kSagSutun + 1, 1);
     return sayfa;
 }
 
@@ -176,18 +187,15 @@ QWidget* KayitPenceresi::DurumSecimi() {
 
 QWidget* KayitPenceresi::HatirlatmaSecimi() {
     auto* parca = new QWidget;
-    auto* satir = new QGridLayout(parca);
+    auto* satir = new QHBoxLayout(parca);
     satir->setContentsMargins(0, 0, 0, 0);
     satir->setSpacing(kAralik);
-    auto* yaklasinca = ParcaYap<QCheckBox>(QStringLiteral("Check18"), Model().Check18);
-    auto* tarihte =
-        ParcaYap<QCheckBox>(QStringLiteral("Check19"), Model().Check19, Isle(&FormKayit::Check19_MouseUp));
+    satir->addWidget(
+        ParcaYap<QCheckBox>(QStringLiteral("Check19"), Model().Check19, Isle(&FormKayit::Check19_MouseUp)));
     QWidget* tarih = AlanYap(AnaNo::HatirlatmaTarihi);
     tarih->setFixedWidth(kKisaAlanEni);
-    satir->addWidget(yaklasinca, 0, 0);
-    satir->addWidget(tarihte, 1, 0);
-    satir->addWidget(tarih, 1, 1);
-    satir->setColumnStretch(2, 1);
+    satir->addWidget(tarih);
+    satir->addStretch(1);
     return parca;
 }
 
@@ -197,6 +205,7 @@ QWidget* KayitPenceresi::MenuSayfasi() {
     auto* secim = ParcaYap<QComboBox>(QStringLiteral("Combo1"), Model().Combo1);
     auto* metin = ParcaYap<QPlainTextEdit>(QStringLiteral("Label20"), Model().Label20);
     auto* aciklama = ParcaYap<QPlainTextEdit>(QStringLiteral("Aciklamalar"), Model().Aciklamalar);
+    sutun->addWidget(EtiketYap(QMetin(Model().Combo1.baslik), *secim));
     sutun->addWidget(secim);
     sutun->addWidget(metin, 1);
     sutun->addSpacing(kAralik);

@@ -2,7 +2,7 @@
 
 #include "qt/EkranPenceresi.h"
 
-class QFormLayout;
+class QGridLayout;
 class QTabWidget;
 
 namespace velora {
@@ -16,13 +16,14 @@ class KayitPenceresi : public EkranPenceresi<FormKayit> {
     explicit KayitPenceresi(Program& program);
 
   private:
-    void GunSatiri(QFormLayout& form);
+    void GunSatiri(QGridLayout& izgara);
     QWidget* GenelSayfasi();
     QWidget* OdemeSayfasi();
     QWidget* MenuSayfasi();
     QWidget* HizmetSayfasi();
 
-    void AlanEkle(QFormLayout& form, int no);
+    /// The caption and the field of a number in a row of the page; how many rows it takes.
+    int AlanEkle(QGridLayout& izgara, int satir, int sutun, int no);
     QWidget* AlanYap(int no);
     QWidget* DurumSecimi();
     QWidget* HatirlatmaSecimi();

@@ -45,7 +45,9 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
-    for (const auto& [ad, model] : {std::pair{"Kayam9", &Model().Kayam9}, {"Kayam10", &Model().Kayam10}}) {
+    for (const auto& [ad, model] : {std::pair{"ToplamUcret", &Model().ToplamUcret},
+                                    {"Kayam9", &Model().Kayam9},
+                                    {"Kayam10", &Model().Kayam10}}) {
         QLabel* tutar = DegerYap(QString::fromLatin1(ad), *model);
         tutar->setMinimumWidth(kTutarEni);
         tutar->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

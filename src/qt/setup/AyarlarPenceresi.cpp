@@ -95,18 +95,29 @@ QWidget* AyarlarPenceresi::AylarKutusu() {
 
 QWidget* AyarlarPenceresi::GorunumSayfasi() {
     auto* sayfa = new QWidget;
-    auto* izgara = new QGridLayout(sayfa);
-    izgara->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
+    auto* sutunlar = new QHBoxLayout(sayfa);
+    sutunlar->setContentsMargins(2 * kAralik, 2 * kAralik, 2 * kAralik, 2 * kAralik);
+    sutunlar->setSpacing(4 * kAralik);
+    // In two columns, each from top to bottom: in one they need more height than a small screen has.
+    constexpr std::span kSatirlar(kRenkSatirlari);
+    constexpr std::size_t kSolSatirlar = (kSatirlar.size() + 1) / 2;
+    sutunlar->addLayout(RenkSutunu(kSatirlar.first(kSolSatirlar)));
+    sutunlar->addLayout(RenkSutunu(kSatirlar.subspan(kSolSatirlar)));
+    return sayfa;
+}
+
+QGridLayout* AyarlarPenceresi::RenkSutunu(std::span<const RenkSatiri> satirlar) {
+    auto* izgara = new QGridLayout;
     izgara->setHorizontalSpacing(2 * kAralik);
     izgara->setVerticalSpacing(kAralik);
     izgara->addWidget(new QLabel(QMetin(kZeminRengi)), 0, 1);
     izgara->addWidget(new QLabel(QMetin(kMetinRengi)), 0, 2);
     int satir = 0;
-    for (const RenkSatiri& renkler : kRenkSatirlari)
+    for (const RenkSatiri& renkler : satirlar)
         RenkSatiriEkle(*izgara, ++satir, renkler);
-    izgara->setColumnStretch(3, 1);
+    izgara->setColumnStretch(0, 1);
     izgara->setRowStretch(satir + 1, 1);
-    return sayfa;
+    return izgara;
 }
 
 void AyarlarPenceresi::RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler) {

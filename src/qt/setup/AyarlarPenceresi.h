@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "qt/EkranPenceresi.h"
 
 class QGridLayout;
@@ -20,6 +22,7 @@ class AyarlarPenceresi : public EkranPenceresi<FormAyarlar> {
     QWidget* GorunumSayfasi();
     void GunSatiriEkle(QGridLayout& izgara, const QString& ad, MetinKutusu& model);
     QWidget* AylarKutusu();
+    QGridLayout* RenkSutunu(std::span<const RenkSatiri> satirlar);
     void RenkSatiriEkle(QGridLayout& izgara, int satir, const RenkSatiri& renkler);
     QWidget* RenkKutusu(int renk, const QString& ipucu, const QString& okunan);
 };

@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -14,6 +13,7 @@
 #include "qt/Ceviri.h"
 #include "qt/ErisimTuslari.h"
 #include "qt/Gorunum.h"
+#include "qt/PencereYeri.h"
 #include "qt/Simgeler.h"
 #include "qt/table/KomutMenuleri.h"
 #include "qt/table/RenkAciklamasi.h"
@@ -32,8 +32,6 @@ constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
 constexpr QSize kIlkBoy(1280, 720);
 constexpr QSize kEnKucukBoy(1000, 560); // where the screen has room for it
-constexpr int kPencereEni = 16;         // what the system puts about a window, both sides together
-constexpr int kPencereBoyu = 40;        // its title too
 
 /// A drop-down under the name of its control, with its caption before it.
 QComboBox* EtiketliListe(QHBoxLayout& serit, const AcilirListe& model, QChar tus, const QString& ad) {
@@ -76,9 +74,8 @@ TabloPenceresi::TabloPenceresi(Program& program)
     DurumSeridiKur();
     ZamanlayicilariBagla(*tablo);
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
-    const QSize ekran = screen()->availableSize() - QSize(kPencereEni, kPencereBoyu);
-    setMinimumSize(kEnKucukBoy.boundedTo(ekran));
-    resize(kIlkBoy.boundedTo(ekran));
+    setMinimumSize(kEnKucukBoy.boundedTo(EkrandaYer(*this)));
+    resize(kIlkBoy);
     gorunum_->setFocus();
     // Only now the table is in the window whose focus the panel takes.
     new UyariPaneli(*tablo, *baglayici_, gorunum_);
