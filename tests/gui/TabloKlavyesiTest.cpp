@@ -12,6 +12,7 @@
 #include "qt/Baglayici.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
+#include "reservation/FormKayit.h"
 #include "setup/FormAyarlar.h"
 
 using namespace velora;

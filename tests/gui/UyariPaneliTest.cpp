@@ -1,9 +1,11 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
 
+#include "destek/Kayitlar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
@@ -51,6 +53,20 @@ class UyariPaneliTest : public QObject {
             QVERIFY(!panel.intersects(firma.Tablo().Mantiksal(duzen.AyHucreleri(5))));
             QVERIFY(panel.intersects(firma.Tablo().Mantiksal(duzen.AyHucreleri(9))));
         }
+    }
+
+    void it_is_as_wide_as_its_rows_need_and_no_wider_than_the_table() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonB, u"23.05.2026 - Gece", true);
+        KayitKoy(firma.agac, Metin(kSalonB) + u"/2026/24.05.2026 - Gece",
+                 {.ad = u"Abdurrahman Kaya Tekinalp Yıldırımoğlu Karaosmanoğlu"}, true);
+        firma.Ac();
+        const auto& liste = firma.Bul<QTreeWidget>("Liste");
+        firma.Pencere().resize(1800, 900);
+        QTRY_VERIFY(liste.topLevelItemCount() == 2 && firma.Pencere().width() == 1800);
+        QTRY_VERIFY(!liste.horizontalScrollBar()->isVisible());
+        firma.Pencere().resize(1000, 600);
+        QTRY_VERIFY(firma.Tablo().rect().contains(firma.Bul<QWidget>("Picture1").geometry()));
     }
 
     void a_pre_reservation_is_bold_and_a_firm_one_is_not() {

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTreeWidget>
 
 #include "qt/Baglayici.h"
@@ -99,7 +100,9 @@ void UyariPaneli::Tazele(const FormTablo& tablo) {
         return Gizle();
     RenkVer(*this, QPalette::Window, QRenk(model.zemin));
     const auto piksel = [](double twip) { return qRound(twip / kTwipPikseli); };
-    const QSize boy = QSize(piksel(model.yer.genislik), piksel(model.yer.yukseklik))
+    // What the columns need comes before the model's width: a row is read without scrolling.
+    const int en = std::max(piksel(model.yer.genislik), SutunlarinEni());
+    const QSize boy = QSize(en, piksel(model.yer.yukseklik))
                           .expandedTo(minimumSizeHint())
                           .boundedTo(parentWidget()->size());
     // The model's inner width is not the widget's, but the middle of the one is the middle of the other.
@@ -116,6 +119,17 @@ void UyariPaneli::Tazele(const FormTablo& tablo) {
     raise();
     if (yeni)
         liste_->setFocus();
+}
+
+int UyariPaneli::SutunlarinEni() const {
+    const QAbstractItemView& liste = *liste_;
+    const QMargins kenar = layout()->contentsMargins();
+    int en = kenar.left() + kenar.right() + 2 * (frameWidth() + liste_->frameWidth()) +
+             liste_->verticalScrollBar()->sizeHint().width();
+    for (int sutun = 0; sutun < liste_->columnCount(); ++sutun)
+        en += std::max(liste.sizeHintForColumn(sutun), liste_->header()->sectionSizeHint(sutun));
+    // The last column takes what is left, but the toolkit never makes it narrower than this.
+    return en + liste_->header()->defaultSectionSize();
 }
 
 void UyariPaneli::Gizle() {

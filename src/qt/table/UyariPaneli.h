@@ -27,6 +27,8 @@ class UyariPaneli : public QFrame {
   private:
     void Tazele(const FormTablo& tablo);
     void Gizle();
+    /// The width in which all columns of the list are seen.
+    int SutunlarinEni() const;
 
     QTreeWidget* liste_;
     QPushButton* detaylar_;
