@@ -77,16 +77,22 @@ class OdaktaSecen : public QObject {
 };
 
 /// A click into a date chooses the part that it falls on: what is typed next takes its place. The toolkit
-/// only sets its cursor into the digits, where no other digit finds room.
+/// only sets its cursor into the digits, where no other digit finds room. Coming back by the keys begins with
+/// the day, as coming forward does: a date is typed from its first digit.
 class BolumSecen : public QObject {
   public:
     explicit BolumSecen(QDateEdit& kutu) : QObject(&kutu), kutu_(kutu) {
+        kutu.installEventFilter(this);
         kutu.findChild<QLineEdit*>()->installEventFilter(this);
     }
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        if (olay->type() == QEvent::MouseButtonRelease)
+        if (nesne != &kutu_ && olay->type() == QEvent::MouseButtonRelease)
             QMetaObject::invokeMethod(
                 &kutu_, [this] { Sec(); }, Qt::QueuedConnection);
+        if (nesne == &kutu_ && olay->type() == QEvent::FocusIn &&
+            static_cast<QFocusEvent*>(olay)->reason() == Qt::BacktabFocusReason)
+            QMetaObject::invokeMethod(
+                &kutu_, [this] { kutu_.setSelectedSection(kutu_.sectionAt(0)); }, Qt::QueuedConnection);
         return QObject::eventFilter(nesne, olay);
     }
 

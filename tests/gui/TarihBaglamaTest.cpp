@@ -73,6 +73,23 @@ class TarihBaglamaTest : public QObject {
         QVERIFY(sahne.model.deger == std::chrono::year(2025) / 8 / 3);
     }
 
+    void a_date_is_typed_from_its_day_also_when_shift_and_tab_lead_to_it() {
+        TarihSahnesi sahne;
+        QDateEdit& kutu = sahne.kutu;
+        QLineEdit sonraki(&sahne.pencere);
+        sahne.model.deger = std::chrono::year(2026) / 6 / 21;
+        sahne.baglayici.Bagla(kutu, sahne.model);
+        sahne.pencere.show();
+        QVERIFY(QTest::qWaitForWindowActive(&sahne.pencere));
+        sonraki.setFocus();
+        QTest::keyClick(&sonraki, Qt::Key_Tab, Qt::ShiftModifier);
+        QTRY_VERIFY(kutu.hasFocus());
+        QCoreApplication::processEvents();
+        QTest::keyClicks(&kutu, QStringLiteral("07022025"));
+        QTest::keyClick(&kutu, Qt::Key_Return);
+        QVERIFY(sahne.model.deger == std::chrono::year(2025) / 2 / 7);
+    }
+
     void a_day_and_limits_that_the_screen_sets_are_shown_at_the_next_refresh() {
         TarihSahnesi sahne;
         QDateEdit& kutu = sahne.kutu;
