@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -67,17 +66,17 @@ class KayitKlavyesiTest : public QObject {
         firma.Ac();
         const std::string once = firma.agac.Resim();
         const auto tekrarla = [](int tus) {
-            QKeyEvent tekrar(QEvent::KeyPress, tus, Qt::NoModifier, QString(), true);
-            QCoreApplication::sendEvent(QApplication::focusWidget(), &tekrar);
+            QTest::simulateEvent(QApplication::focusWidget(), true, tus, Qt::NoModifier, QString(), true);
         };
         const Metin yol = firma.program.agac.GunYolu(kSalonA, u"2026", kGun);
         Pencerede([&] { KayitYukle(firma.program, yol, Metin(kGun)); }, {[&](QDialog& pencere) {
                       for (const char* ad : {"Kay1", "Command1", "Command2"}) {
                           Parcasi<QWidget>(pencere, ad).setFocus();
-                          for (const int tus : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape})
+                          for (const int tus : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
                               tekrarla(tus);
+                              QVERIFY(firma.program.FormKayit.Yuklu() && pencere.isVisible());
+                          }
                       }
-                      QVERIFY(firma.program.FormKayit.Yuklu() && pencere.isVisible());
                       auto& adres = Parcasi<QPlainTextEdit>(pencere, "Kay7");
                       adres.setFocus();
                       const int satir = adres.blockCount();

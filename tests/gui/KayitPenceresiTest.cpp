@@ -26,8 +26,11 @@ class KayitPenceresiTest : public QObject {
 
   private slots:
     void the_hall_stands_beside_the_day_and_a_long_name_does_not_widen_the_window() {
-        QSize kisa;
-        for (const Metin& salon : {Metin(u"Nar"), Metin(u"Büyük Bahçe Düğün Salonu Ve Havuz Başı & Teras")}) {
+        int kisa = 0;
+        for (const Metin& salon :
+             {Metin(u"Nar"),
+              Metin(u"Büyük Bahçe Düğün Salonu Ve Havuz Başı & Teras, Yeni Bina, Alt Kat, Göl Tarafındaki "
+                    u"Eski Girişin Üstü")}) {
             GuiFirma firma;
             firma.agac.KoyMetin(u"Salon.dat", u"\"" + salon + u"\"\r\n");
             Kayitta(firma, [&](QDialog& pencere) {
@@ -38,8 +41,10 @@ class KayitPenceresiTest : public QObject {
                 QVERIFY(ad.isVisible() &&
                         ad.mapTo(&pencere, QPoint()).x() > gun.mapTo(&pencere, QPoint()).x());
                 QVERIFY(ad.heightForWidth(ad.width()) <= ad.height());
-                QVERIFY(kisa.isEmpty() || pencere.width() == kisa.width());
-                kisa = pencere.size();
+                // What stands in the window: the window itself is never wider than the screen.
+                const int en = Parcasi<QTabWidget>(pencere, "SSTab1").minimumSizeHint().width();
+                QVERIFY(kisa == 0 || en == kisa);
+                kisa = en;
             });
         }
     }
@@ -126,7 +131,7 @@ class KayitPenceresiTest : public QObject {
             auto& kutu = Parcasi<QCheckBox>(pencere, "Check3");
             kutu.setFocus();
             QTest::keyClick(&kutu, Qt::Key_Space);
-            QTest::qWait(20);
+            QCoreApplication::processEvents();
             QVERIFY(Parcasi<QLineEdit>(pencere, "TT3").isEnabled());
             QCOMPARE(QApplication::focusWidget(), &kutu);
         });
@@ -140,7 +145,6 @@ class KayitPenceresiTest : public QObject {
             QTest::mouseClick(&saat, Qt::LeftButton, {}, {saat.width() / 2, saat.height() / 2});
             QCoreApplication::processEvents();
             QCOMPARE(saat.selectedText(), QStringLiteral("20:00"));
-            QTest::qWait(QApplication::doubleClickInterval() + 50);
             QTest::mouseClick(&saat, Qt::LeftButton, {}, {saat.width() / 2, saat.height() / 2});
             QCoreApplication::processEvents();
             QVERIFY2(!saat.hasSelectedText(), "a second click sets the cursor");

@@ -232,12 +232,25 @@ class ListeSiralamaTest : public QObject {
         SiralamaSahnesi sahne;
         sahne.ekran->satirlar.Degistir(1, {{u"01.01.2026", u"Uzun <b>isimli</b> bir müşteri", u"1"}, {}, 0});
         Baglayici::HepsiniTazele();
+        struct IpucuSayaci : QObject {
+            bool eventFilter(QObject*, QEvent* olay) override {
+                sayi += olay->type() == QEvent::ToolTip ? 1 : 0;
+                return false;
+            }
+            int sayi = 0;
+        } sorulan;
+        sahne.liste.viewport()->installEventFilter(&sorulan);
         const auto ipucu = [&](int satir, int sutun) {
             const QRect yer = sahne.liste.visualRect(sahne.liste.model()->index(satir, sutun));
             QTest::mouseMove(sahne.liste.viewport(), {2, sahne.liste.viewport()->height() - 2});
             QToolTip::hideText();
+            if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); }))
+                return QStringLiteral("the tip before it stays");
+            const int once = sorulan.sayi;
             QTest::mouseMove(sahne.liste.viewport(), yer.center());
-            QTest::qWait(900); // the toolkit waits before a tip comes
+            // The toolkit asks for a tip after a while, also where there is none.
+            if (!QTest::qWaitFor([&] { return sorulan.sayi > once; }))
+                return QStringLiteral("nobody asked for a tip");
             return QToolTip::isVisible() ? QToolTip::text() : QString();
         };
         sahne.liste.setColumnWidth(1, 60);
