@@ -3,6 +3,7 @@
 #include "qt/QtOrtam.h"
 #include "qt/accounts/BakiyePenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
+#include "qt/reservation/HatirlatmaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "qt/reservation/OdemeAlPenceresi.h"
 #include "qt/setup/AyarlarPenceresi.h"
@@ -34,6 +35,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<KayitPenceresi>(ortam, program, EkranAdi::FormKayit);
     Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
+    Tanit<HatirlatmaPenceresi>(ortam, program, EkranAdi::FormOzelHatirlatma);
     Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
 }
 

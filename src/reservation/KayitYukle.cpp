@@ -78,7 +78,8 @@ void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Met
         return;
     // The table's way to the hall and the year lets events run as well: it belongs to the opening.
     program.FormKayit.GosterModal([&] {
-        program.FormTablo->Salon.Sec(salon);
+        if (!salon.empty())
+            program.FormTablo->Salon.Sec(salon);
         if (!yil.empty())
             program.FormTablo->Sene.Sec(yil);
         program.OlaylariIsle();

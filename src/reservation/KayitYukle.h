@@ -18,7 +18,7 @@ struct Program;
 void KayitYukle(Program& program, const Metin& yol, const std::optional<Metin>& tarih = {});
 
 /// Opens the reservation of a list's row as an existing one: its first column is the day file name, its tag
-/// the path. First the table goes to that hall and, when it is given, to that year. A row without a text
+/// the path. First the table goes to that hall and that year; an empty one leaves it. A row without a text
 /// opens nothing. The row is taken as it is now: what runs meanwhile may list anew.
 void SatiriAc(Program& program, ListeSatiri satir, const Metin& salon, const Metin& yil = {});
 

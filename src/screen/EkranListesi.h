@@ -16,6 +16,7 @@
     X(FormMenuEkle, Pencereli)                                                                               \
     X(FormKayit, Pencereli)                                                                                  \
     X(FormOdemeAl, Pencereli)                                                                                \
+    X(FormOzelHatirlatma, Pencereli)                                                                         \
     X(FormArama, Pencereli)                                                                                  \
     X(FormBakiye, Pencereli)                                                                                 \
     X(FormPrint, Penceresiz)                                                                                 \

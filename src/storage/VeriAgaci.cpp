@@ -36,8 +36,12 @@ Metin AnahtarTarihi(MetinBakis ad) {
     tarih += u'.';
     tarih += Parca(ad, 4, 2);
     tarih += u'.';
-    tarih += Parca(ad, 7, 4);
+    tarih += AnahtarYili(ad);
     return tarih;
+}
+
+Metin AnahtarYili(MetinBakis ad) {
+    return Metin(Parca(ad, 7, 4));
 }
 
 GunduzGece AnahtarDilimi(MetinBakis ad) {

@@ -29,6 +29,9 @@ Metin GunAnahtari(unsigned gun, unsigned ay, MetinBakis yil, GunduzGece dilim);
 /// The date of a day file name as text, dd.mm.yyyy, taken out by position: characters 1-2, 4-5 and 7-10.
 Metin AnahtarTarihi(MetinBakis ad);
 
+/// The year of a day file name as text: characters 7-10.
+Metin AnahtarYili(MetinBakis ad);
+
 /// The slot that the last three characters of a selected day tell: "düz" is the day slot, anything else the
 /// evening slot.
 GunduzGece AnahtarDilimi(MetinBakis ad);

@@ -1,6 +1,7 @@
 #include "table/FormTablo.h"
 
 #include "access/Splash.h"
+#include "reservation/FormOzelHatirlatma.h"
 #include "screen/Program.h"
 #include "screen/Surum.h"
 #include "setup/FormAyarlar.h"
@@ -151,6 +152,11 @@ void FormTablo::HatirlatmaGoster(bool var) {
 
 void FormTablo::OzelHatirlatTimer_Tick() {
     Image3a = !Image3a;
+}
+
+void FormTablo::Image3_Click() {
+    // Listed before it is shown: an empty window would only flash.
+    program_.FormOzelHatirlatma.GosterModal([this] { return program_.FormOzelHatirlatma->Listele(); });
 }
 
 void FormTablo::YeniGun() {

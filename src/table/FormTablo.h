@@ -128,6 +128,9 @@ struct FormTablo {
     /// The cell last moved over has been dragged here.
     void Hucre_DragDrop(SatirAdi satir, int gun);
 
+    /// The bell: lists what it rings for, over the table. With nothing due any more nothing is shown.
+    void Image3_Click();
+
     // --- the commands (Komutlar.h) ---
     /// Shows another screen of the program over the table: all that many commands do.
     template <auto Ekran>
@@ -169,7 +172,7 @@ struct FormTablo {
     void CetvelTimer_Tick();
     void GunTimer_Tick();
     void Saatsay_Tick();
-    void OzelHatirlatTimer_Tick();
+    void OzelHatirlatTimer_Tick(); ///< the other picture of the bell
     void DuyuruKontrol_Tick();
 
     Metin baslik; ///< title of the screen
@@ -204,7 +207,8 @@ struct FormTablo {
     Dugme Command2{u"Kapat", {}};
     bool Image3 = false; ///< the bell: a personal reminder falls on today
     Metin image3Ipucu = u"Bu Tarihte Hatırlatma Var";
-    bool Image3a = true; ///< which of its two pictures the bell shows; they alternate
+    bool Image3a = true;                         ///< which of its two pictures the bell shows; they alternate
+    Metin image3aIpucu = u"Özel Hatırlatma Var"; ///< what it is called for those who can't see it
     Zamanlayici CetvelTimer;
     Zamanlayici GunTimer;
     Zamanlayici OzelHatirlatTimer;

@@ -9,12 +9,6 @@
 
 namespace velora {
 
-namespace {
-
-constexpr std::size_t kYilYeri = 7; // of the day file name, counted from 1
-
-} // namespace
-
 void FormTablo::UyariGoster() {
     Command1(); // the scan
     program_.OlaylariIsle();
@@ -49,7 +43,7 @@ void FormTablo::Command8_Click() {
     const ListeSatiri* satir = Liste.Secili();
     // A hall that was renamed or taken out behind the panel: as for a missing file.
     if (satir != nullptr && Salon.Bul(satir->sutun[1]) >= 0)
-        SatiriAc(program_, *satir, Metin(satir->sutun[1]), Metin(Parca(satir->sutun[0], kYilYeri, 4)));
+        SatiriAc(program_, *satir, Metin(satir->sutun[1]), AnahtarYili(satir->sutun[0]));
 }
 
 void FormTablo::Command2_Click() {

@@ -44,6 +44,9 @@ void Doldur(Program& program, EkranAdi ekran) {
         program.FormBakiye->ListeleGun();
         program.FormBakiye->Liste.secili = 0;
         program.FormBakiye->Liste_Click();
+    } else if (ekran == EkranAdi::FormOzelHatirlatma) {
+        program.FormOzelHatirlatma->Liste.secili = 0;
+        program.FormOzelHatirlatma->Liste_ItemClick();
     } else if (ekran == EkranAdi::FormMenuAyar) {
         program.FormMenuAyar->Liste.secili = 0;
         program.FormMenuAyar->Liste_Click();

@@ -6,6 +6,7 @@
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
+#include "reservation/FormOzelHatirlatma.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
 #include "setup/FormMenuAyar.h"
@@ -13,6 +14,9 @@
 #include "setup/FormRenk.h"
 #include "setup/FormSalonTanim.h"
 #include "setup/FormSalonTanimAd.h"
+#include "storage/RezervasyonDosyalari.h"
+#include "storage/Tarih.h"
+#include "table/FormTablo.h"
 
 namespace velora::test {
 
@@ -27,6 +31,20 @@ inline void AdliMenuEkleAc(Program& program) {
     program.FormMenuEkle->Text1.metin = u"a";
     program.FormMenuEkle->Text1_Change();
     program.FormMenuEkle.GosterModal();
+}
+
+/// With reservations that are to be reminded of today: without one it closes at once.
+inline void HatirlatmaAc(Program& program) {
+    AnaKayit ana;
+    ana.kay[AnaNo::HatirlatmaTarihi - 1] = TarihMetni(program.Bugun());
+    ana.check19 = 1;
+    const auto tablo = program.FormTablo.Tut();
+    for (const MetinBakis gun : {u"01.02.2026 - Gece", u"03.04.2026 - Gündüz"}) {
+        const Metin yol = program.agac.GunYolu(tablo->Salon.Metni(), tablo->Sene.Metni(), gun);
+        AnaYaz(program.dosyalar, yol, ana);
+        DetayYaz(program.dosyalar, yol + Metin(kDetayEki), {});
+    }
+    program.FormOzelHatirlatma.GosterModal();
 }
 
 inline constexpr std::size_t kEnCokSayfa = 4;
@@ -93,6 +111,7 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command3",
      "Command2",
      {"Text1 Text2 Text3 Text4 Text5 Command3 Liste Command2"}},
+    {EkranAdi::FormOzelHatirlatma, HatirlatmaAc, "Command4", "Command2", {"Liste Command2"}},
     {EkranAdi::FormBakiye,
      EkraniAc<&Program::FormBakiye>,
      "ListeleGun",

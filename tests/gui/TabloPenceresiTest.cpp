@@ -275,7 +275,7 @@ class TabloPenceresiTest : public QObject {
     void the_bell_is_seen_only_when_a_reminder_falls_on_today() {
         GuiFirma firma;
         firma.Ac();
-        QVERIFY(!firma.Bul<QLabel>("Image3").isVisible());
+        QVERIFY(!firma.Bul<QWidget>("Image3").isVisible());
         OrnekKayit kayit;
         kayit.hatirlat = u"21.05.2026";
         kayit.check19 = 1;
@@ -283,7 +283,7 @@ class TabloPenceresiTest : public QObject {
         auto& salon = firma.Bul<QComboBox>("Salon");
         salon.setFocus();
         QTest::keyClick(&salon, Qt::Key_Down);
-        QVERIFY(firma.Bul<QLabel>("Image3").isVisible());
+        QVERIFY(firma.Bul<QWidget>("Image3").isVisible());
         QCOMPARE(firma.Bul<QTimer>("OzelHatirlatTimer").interval(), 500);
     }
 

@@ -37,6 +37,12 @@ TEST(AnahtarTarihi, Takes_the_date_out_by_position) {
     EXPECT_EQ(AnahtarTarihi(u""), u"..");
 }
 
+TEST(AnahtarYili, Takes_the_year_out_by_position) {
+    EXPECT_EQ(AnahtarYili(u"05.01.2013 - Gündüz"), u"2013");
+    EXPECT_EQ(AnahtarYili(u"05.01.20"), u"20");
+    EXPECT_EQ(AnahtarYili(u""), u"");
+}
+
 TEST(AnahtarDilimi, The_last_three_characters_decide) {
     EXPECT_EQ(AnahtarDilimi(u"05.01.2012 - Gündüz"), GunduzGece::Gunduz);
     EXPECT_EQ(AnahtarDilimi(u"düz"), GunduzGece::Gunduz);

@@ -14,11 +14,11 @@
 #include "qt/ErisimTuslari.h"
 #include "qt/Gorunum.h"
 #include "qt/PencereYeri.h"
-#include "qt/Simgeler.h"
 #include "qt/table/KomutMenuleri.h"
 #include "qt/table/RenkAciklamasi.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/UyariPaneli.h"
+#include "qt/table/ZilDugmesi.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
@@ -28,7 +28,6 @@ namespace {
 
 constexpr int kSalonEni = 220;
 constexpr int kSeneEni = 96;
-constexpr int kZilBoyu = 24;
 constexpr int kSaatAraligi = 1'000;
 constexpr QSize kIlkBoy(1280, 720);
 constexpr QSize kEnKucukBoy(1000, 560); // where the screen has room for it
@@ -43,13 +42,6 @@ QComboBox* EtiketliListe(QHBoxLayout& serit, const AcilirListe& model, QChar tus
     serit.addWidget(etiket);
     serit.addWidget(liste);
     return liste;
-}
-
-QPixmap ZilResmi(const QString& ad, const QWidget& parca) {
-    const double olcek = parca.devicePixelRatioF();
-    QPixmap resim = SimgeCiz(ad, parca.palette().color(QPalette::Highlight), qRound(kZilBoyu * olcek));
-    resim.setDevicePixelRatio(olcek);
-    return resim;
 }
 
 } // namespace
@@ -108,25 +100,12 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     sene->setMinimumWidth(kSeneEni);
     baglayici_->Bagla(*sene, tablo.Sene);
     serit->addSpacing(kAralik);
-    serit->addWidget(ZilKur(tablo));
+    // Behind the lists for the Tab key too; without it the key goes on to the table.
+    serit->addWidget(new ZilDugmesi(tablo, *baglayici_, [this] { gorunum_->setFocus(); }));
     serit->addStretch(1);
     serit->addWidget(new RenkAciklamasi(program_, *baglayici_, parca));
     BosYeriIzle(*parca);
     return parca;
-}
-
-QLabel* TabloPenceresi::ZilKur(FormTablo& tablo) {
-    auto* zil = new QLabel;
-    zil->setObjectName(QStringLiteral("Image3"));
-    zil->setAccessibleName(QStringLiteral("Hatırlatma"));
-    zil->setToolTip(QIpucu(tablo.image3Ipucu));
-    const QPixmap sakin = ZilResmi(QStringLiteral("zil"), *this);
-    const QPixmap calan = ZilResmi(QStringLiteral("zil-calan"), *this);
-    baglayici_->Izle([zil, &tablo, sakin, calan] {
-        zil->setVisible(tablo.Image3);
-        zil->setPixmap(tablo.Image3a ? sakin : calan);
-    });
-    return zil;
 }
 
 void TabloPenceresi::DurumSeridiKur() {

@@ -27,7 +27,6 @@ class TabloPenceresi : public QMainWindow {
   private:
     void BosYeriIzle(QWidget& parca);
     QWidget* UstSerit(FormTablo& tablo);
-    QLabel* ZilKur(FormTablo& tablo);
     void DurumSeridiKur();
     void ZamanlayicilariBagla(FormTablo& tablo);
     void SaatiGoster();
