@@ -10,6 +10,7 @@
 #include "qt/setup/MenuPencereleri.h"
 #include "qt/setup/RenkPenceresi.h"
 #include "qt/setup/SalonPencereleri.h"
+#include "qt/table/HakkindaPenceresi.h"
 #include "qt/table/TabloPenceresi.h"
 
 namespace velora {
@@ -26,6 +27,7 @@ void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
 
 void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
+    Tanit<HakkindaPenceresi>(ortam, program, EkranAdi::FormHakkinda);
     Tanit<AyarlarPenceresi>(ortam, program, EkranAdi::FormAyarlar);
     Tanit<RenkPenceresi>(ortam, program, EkranAdi::FormRenk);
     Tanit<SalonTanimPenceresi>(ortam, program, EkranAdi::FormSalonTanim);

@@ -2,10 +2,16 @@
 
 #include <filesystem>
 
+#include "storage/Metin.h"
+
 namespace velora {
 
 /// Opens a file in the program that the desktop has for it, and doesn't wait. False when there is no such
 /// program, and when there is no such file: the desktop's opener starts all the same and tells nobody.
 bool DosyaAc(const std::filesystem::path& yol);
+
+/// Opens a page of the web in the browser that the desktop has, and doesn't wait. False when there is none,
+/// and for whatever is no address of http or https.
+bool AdresAc(const Metin& adres);
 
 } // namespace velora

@@ -70,6 +70,7 @@ Ortam QtOrtam::Ver() {
     ortam.zaman.simdi = MakineSaati;
     ortam.olaylar.isle = OlaylariIsle;
     ortam.kabuk.dosyaAc = DosyaAc;
+    ortam.kabuk.adresAc = AdresAc;
     ortam.olaylar.bitir = [this] { Bitir(); };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
     return ortam;

@@ -89,6 +89,34 @@ QLabel* EtiketYap(const QString& baslik, QWidget& alan) {
     return etiket;
 }
 
+namespace {
+
+class EnterSuzgeci : public QObject {
+  public:
+    explicit EnterSuzgeci(QAbstractButton& dugme) : QObject(&dugme), dugme_(dugme) {
+        dugme.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() != QEvent::KeyPress)
+            return QObject::eventFilter(nesne, olay);
+        const int tus = dynamic_cast<QKeyEvent&>(*olay).key();
+        if (tus != Qt::Key_Return && tus != Qt::Key_Enter)
+            return QObject::eventFilter(nesne, olay);
+        dugme_.click();
+        return true;
+    }
+
+  private:
+    QAbstractButton& dugme_;
+};
+
+} // namespace
+
+void EnterleBasilsin(QAbstractButton& dugme) {
+    new EnterSuzgeci(dugme);
+}
+
 void Adlandir(QWidget& parca, const QString& ad, const QString& baslik) {
     parca.setObjectName(ad);
     parca.setAccessibleName(baslik);

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+class QAbstractButton;
 class QFormLayout;
 class QHBoxLayout;
 class QLabel;
@@ -42,6 +43,9 @@ void SayfaTuslari(QTabWidget& sayfalar);
 
 /// A label that names a field: its access key leads there.
 QLabel* EtiketYap(const QString& baslik, QWidget& alan);
+
+/// Enter presses the button too, as Space does: for one outside of a dialog.
+void EnterleBasilsin(QAbstractButton& dugme);
 
 /// The name of a widget's control, and what it is called for those who can't see it.
 void Adlandir(QWidget& parca, const QString& ad, const QString& baslik);

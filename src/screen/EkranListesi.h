@@ -7,6 +7,7 @@
 #define VELORA_EKRANLAR(X)                                                                                   \
     X(Splash, Penceresiz)                                                                                    \
     X(FormTablo, Pencereli)                                                                                  \
+    X(FormHakkinda, Pencereli)                                                                               \
     X(FormAyarlar, Pencereli)                                                                                \
     X(FormResmiTatil, Penceresiz)                                                                            \
     X(FormRenk, Pencereli)                                                                                   \

@@ -63,6 +63,9 @@ struct Ortam {
         /// Opens a file in the program that the user reads such files with, and doesn't wait. False: none has
         /// been started that could show the file, or tell of its absence.
         std::function<bool(const std::filesystem::path&)> dosyaAc;
+        /// Opens a page in the user's browser, and doesn't wait. False: no browser has been started, or it
+        /// isn't the address of a page.
+        std::function<bool(const Metin& adres)> adresAc = [](const Metin&) { return false; };
     } kabuk;
 
     struct Odak {

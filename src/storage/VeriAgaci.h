@@ -50,6 +50,7 @@ inline constexpr MetinBakis kAyDosyasi = u"Visible.dll";       ///< which months
 inline constexpr MetinBakis kTatilDosyasi = u"Tatiller.dll";   ///< holidays
 inline constexpr MetinBakis kSayacDosyasi = u"Count.dat";      ///< the last contract number
 inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt"; ///< log of cancellations
+inline constexpr MetinBakis kKilavuzDosyasi = u"Kilavuz.html"; ///< the guide, for the browser
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
 

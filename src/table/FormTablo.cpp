@@ -27,6 +27,9 @@ constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that fi
 FormTablo::FormTablo(Program& program) : program_(program) {
     for (const KomutTanimi& komut : Komutlar())
         Girdi(komut.komut).baslik = komut.baslik;
+    for (const KomutTanimi& komut : Komutlar())
+        if (komut.arac.yer > 0)
+            Toolbar1[komut.arac.yer].baslik = komut.arac.baslik;
     for (int gun = 1; gun <= kGunSayisi; ++gun)
         ALabel[gun].baslik = SayiMetni(gun);
     for (int ay = 1; ay <= kAySayisi; ++ay)
@@ -178,6 +181,14 @@ void FormTablo::Saatsay_Tick() {
     } else {
         ++Dklabel;
     }
+}
+
+void FormTablo::SaatiYaz() {
+    const auto simdi = program_.ortam.zaman.simdi();
+    const std::chrono::hh_mm_ss gunIci(simdi - std::chrono::floor<std::chrono::days>(simdi));
+    StatusBar1[2] = TarihMetni(program_.Bugun());
+    StatusBar1[3] = IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
+                    IkiHane(static_cast<unsigned>(gunIci.minutes().count()));
 }
 
 void FormTablo::DuyuruKontrol_Tick() {

@@ -135,8 +135,12 @@ struct FormTablo {
     /// Shows another screen of the program over the table: all that many commands do.
     template <auto Ekran>
     void EkranAc();
-    /// A button of the tool bar: the ruler goes, then the command runs.
-    void AracaTikla(const KomutTanimi& komut);
+    /// A button of the tool bar: the ruler goes, then the command of exactly this caption runs.
+    void AracaTikla(MetinBakis dugme);
+    /// Asks, and ends the program. The window is closed by it too.
+    void Cikissssss_Click();
+    /// Opens the help page, or else the guide beside the program. Neither: a box says so.
+    void Yardimssa_Click();
     void newkay_Click();
     void TasimaModuAc_Click();
     void iptals_Click();
@@ -174,6 +178,8 @@ struct FormTablo {
     void Saatsay_Tick();
     void OzelHatirlatTimer_Tick(); ///< the other picture of the bell
     void DuyuruKontrol_Tick();
+    /// Date and time of the status bar, by the clock.
+    void SaatiYaz();
 
     Metin baslik; ///< title of the screen
     AcilirListe Salon;
@@ -196,6 +202,8 @@ struct FormTablo {
     std::array<MenuGirdisi, kKomutSayisi> komutlar;
     /// The buttons of the tool bar and the lines behind them, by their places.
     BirTabanli<MenuGirdisi, kAracSayisi> Toolbar1;
+    /// The panels of the status bar: who works, set by the login; date and time.
+    BirTabanli<Metin, 3> StatusBar1;
     int TutarDegistir = 0; ///< 1: the user may change amounts
     int Check1 = 0;        ///< "Hatirlatma": 0 until the first Activate
     int Dklabel = 0;       ///< ticks of `Saatsay`

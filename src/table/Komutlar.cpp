@@ -4,9 +4,11 @@
 #include "accounts/FormBakiye.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
 #include "setup/FormAyarlar.h"
 #include "setup/FormMenuAyar.h"
 #include "setup/FormSalonTanim.h"
+#include "table/FormHakkinda.h"
 #include "table/FormTablo.h"
 
 namespace velora {
@@ -22,14 +24,45 @@ using T = FormTablo;
 using P = Program;
 
 constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
-    {Komut::Arasss, u"Arasss", Menu::Kayitss, u"Kayıt Ara", &T::EkranAc<&P::FormArama>, u"F2"},
-    {Komut::BakiyeRaporss, u"BakiyeRaporss", Menu::Raporsss, u"Rezervasyon Raporu",
-     &T::EkranAc<&P::FormBakiye>, u"F3"},
+    {Komut::Arasss,
+     u"Arasss",
+     Menu::Kayitss,
+     u"Kayıt Ara",
+     &T::EkranAc<&P::FormArama>,
+     u"F2",
+     {1, u"Ara", u"Kayıt Ara (F2)", u"ara"}},
+    {Komut::aline13, u"aline13", Menu::Kayitss, u"-"},
+    {Komut::Cikissssss, u"Cikissssss", Menu::Kayitss, u"Programdan Çıkış", &T::Cikissssss_Click},
+    {Komut::BakiyeRaporss,
+     u"BakiyeRaporss",
+     Menu::Raporsss,
+     u"Rezervasyon Raporu",
+     &T::EkranAc<&P::FormBakiye>,
+     u"F3",
+     {3, u"Rapor", u"Rezervasyon Raporu (F3)", u"rapor"}},
+    {Komut::linooomm, u"linooomm", Menu::Raporsss, u"-"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
+    {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
-    {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::EkranAc<&P::FormAyarlar>,
-     u"F7"},
+    {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
+    {Komut::Progrset,
+     u"Progrset",
+     Menu::ayarsd,
+     u"Genel Program Ayarları",
+     &T::EkranAc<&P::FormAyarlar>,
+     u"F7",
+     {13, u" Ayarlar ", u"Program Ayarları (F7)", u"ayarlar"}},
+    {Komut::Yardimssa, u"Yardimssa", Menu::Yardimss, u"Yardım Konuları", &T::Yardimssa_Click, u"F1"},
+    {Komut::Phakss, u"Phakss", Menu::Yardimss, u"Program Hakkında", &T::EkranAc<&P::FormHakkinda>,
+     u"Ctrl+F1"},
+    {Komut::UyariGoster,
+     u"UyariGoster",
+     Menu::Yok,
+     u"Uyari Goster",
+     &T::UyariGoster,
+     u"",
+     {9, u" Uyarılar", u"Yaklaşan Rezervasyonlar", u"uyarilar"}},
     {Komut::newkay, u"newkay", Menu::Sagtus, u"Yeni Organizasyon Oluştur", &T::newkay_Click},
     {Komut::aline11, u"aline11", Menu::Sagtus, u"-"},
     {Komut::TasimaModuAc, u"TasimaModuAc", Menu::Sagtus, u"Taşıma Modunu Aç", &T::TasimaModuAc_Click},
@@ -51,9 +84,28 @@ std::span<const KomutTanimi, kKomutSayisi> Komutlar() {
     return kKomutlar;
 }
 
-void FormTablo::AracaTikla(const KomutTanimi& komut) {
+void FormTablo::AracaTikla(MetinBakis dugme) {
     CetvelSil();
-    (this->*komut.isle)();
+    for (const KomutTanimi& komut : kKomutlar)
+        if (komut.arac.yer > 0 && komut.arac.baslik == dugme)
+            return (this->*komut.isle)();
+}
+
+void FormTablo::Cikissssss_Click() {
+    // Every save has gone to the disk already: Enter may leave.
+    if (Sor(program_, u"Programdan çıkmak istediğinizden emin misiniz?"))
+        program_.ortam.olaylar.bitir();
+}
+
+void FormTablo::Yardimssa_Click() {
+    const Metin& sayfa = program_.yardimSayfasi;
+    if (!sayfa.empty() && program_.ortam.kabuk.adresAc(sayfa))
+        return;
+    const Metin kilavuz = program_.agac.KokYolu(kKilavuzDosyasi);
+    const auto yol = program_.dosyalar.SistemYolu(kilavuz);
+    if (yol && program_.dosyalar.VarMi(kilavuz) && program_.ortam.kabuk.dosyaAc(*yol))
+        return;
+    Soyle(program_, u"Yardım sayfası açılamadı.\nProgramın klasöründeki Kilavuz.html dosyasına bakınız.");
 }
 
 } // namespace velora

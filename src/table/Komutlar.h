@@ -14,11 +14,19 @@ struct FormTablo;
 /// it.
 enum class Komut {
     Arasss,
+    aline13,
+    Cikissssss,
     BakiyeRaporss,
+    linooomm,
     iptalsebepss,
     Salontanimss,
+    aline4,
     MenuAyars,
+    aline9,
     Progrset,
+    Yardimssa,
+    Phakss,
+    UyariGoster,
     newkay,
     aline11,
     TasimaModuAc,
@@ -27,8 +35,9 @@ enum class Komut {
 };
 inline constexpr std::size_t kKomutSayisi = static_cast<std::size_t>(Komut::iptals) + 1;
 
-/// The menus of the menu bar, from left to right, and the context menu of a cell.
-enum class Menu { Kayitss, Raporsss, ayarsd, Sagtus };
+/// The menus of the menu bar, from left to right, and the context menu of a cell. A command in `Yok` stands
+/// in none of them.
+enum class Menu { Kayitss, Raporsss, ayarsd, Yardimss, Sagtus, Yok };
 
 struct MenuTanimi {
     Menu menu;
@@ -36,17 +45,19 @@ struct MenuTanimi {
     MetinBakis baslik; ///< empty: it isn't in the menu bar
 };
 
-inline constexpr std::array<MenuTanimi, 4> kMenuler{{{Menu::Kayitss, u"Kayitss", u"Dosya"},
+inline constexpr std::array<MenuTanimi, 5> kMenuler{{{Menu::Kayitss, u"Kayitss", u"Dosya"},
                                                      {Menu::Raporsss, u"Raporsss", u"Raporlar"},
                                                      {Menu::ayarsd, u"ayarsd", u"Ayarlar"},
+                                                     {Menu::Yardimss, u"Yardimss", u"Yardım"},
                                                      {Menu::Sagtus, u"Sagtus", u""}}};
 
 /// A place in the tool bar `Toolbar1`. The places count the line behind each button: buttons have the odd
-/// ones.
+/// ones. A button is known by its caption, and the blanks about two of them are part of it.
 struct AracYeri {
     int yer = 0; ///< from 1; 0: the command has no button
     MetinBakis baslik = {};
     MetinBakis ipucu = {};
+    MetinBakis simge = {}; ///< its picture, by the name of the drawing
 };
 
 /// The highest place of the tool bar.

@@ -65,6 +65,10 @@ Ortam SahteOrtam::Ver() {
         acilanDosyalar.push_back(yol);
         return dosyaAcilir;
     };
+    ortam.kabuk.adresAc = [this](const Metin& adres) {
+        acilanAdresler.push_back(adres);
+        return adresAcilir;
+    };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
     return ortam;

@@ -66,6 +66,8 @@ class SahteOrtam {
     std::vector<EkranAdi> gizlenenler;
     std::vector<std::filesystem::path> acilanDosyalar; ///< given to the user's own programs
     bool dosyaAcilir = true;                           ///< there is a program that shows files
+    std::vector<Metin> acilanAdresler;                 ///< given to the user's browser
+    bool adresAcilir = true;                           ///< there is a browser
     std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
 

@@ -16,6 +16,7 @@
 #include "setup/FormSalonTanimAd.h"
 #include "storage/RezervasyonDosyalari.h"
 #include "storage/Tarih.h"
+#include "table/FormHakkinda.h"
 #include "table/FormTablo.h"
 
 namespace velora::test {
@@ -112,6 +113,11 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command2",
      {"Text1 Text2 Text3 Text4 Text5 Command3 Liste Command2"}},
     {EkranAdi::FormOzelHatirlatma, HatirlatmaAc, "Command4", "Command2", {"Liste Command2"}},
+    {EkranAdi::FormHakkinda,
+     EkraniAc<&Program::FormHakkinda>,
+     "Command1",
+     "Command1",
+     {"Command1 Klasor Liste"}},
     {EkranAdi::FormBakiye,
      EkraniAc<&Program::FormBakiye>,
      "ListeleGun",

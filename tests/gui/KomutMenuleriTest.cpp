@@ -1,9 +1,13 @@
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
@@ -13,6 +17,7 @@
 #include "qt/table/KomutMenuleri.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
+#include "table/FormHakkinda.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -25,6 +30,16 @@ QStringList Girdiler(const QMenu& menu) {
     for (const QAction* girdi : menu.actions())
         adlar << (girdi->isSeparator() ? u'(' + girdi->objectName() + u')' : girdi->objectName());
     return adlar;
+}
+
+/// Something is drawn on it.
+bool Boyali(const QIcon& resim) {
+    const QImage goruntu = resim.pixmap(20).toImage();
+    for (int y = 0; y < goruntu.height(); ++y)
+        for (int x = 0; x < goruntu.width(); ++x)
+            if (goruntu.pixelColor(x, y).alpha() > 200)
+                return true;
+    return false;
 }
 
 } // namespace
@@ -56,7 +71,7 @@ class KomutMenuleriTest : public QObject {
         QStringList basliklar;
         for (const QAction* menu : firma.Pencere().menuBar()->actions())
             basliklar << menu->text();
-        QCOMPARE(basliklar, (QStringList{"&Dosya", "&Raporlar", "&Ayarlar"}));
+        QCOMPARE(basliklar, (QStringList{"&Dosya", "&Raporlar", "&Ayarlar", QStringLiteral("&Yardım")}));
     }
 
     void the_entries_of_a_menu_have_access_keys_each_its_own() {
@@ -101,8 +116,9 @@ class KomutMenuleriTest : public QObject {
         GuiFirma firma;
         firma.Ac();
         for (const KomutTanimi& komut : Komutlar())
-            QCOMPARE(firma.Bul<QAction>(qPrintable(QMetin(komut.ad))).shortcut().toString(),
-                     QMetin(komut.tus));
+            if (komut.menu != Menu::Yok)
+                QCOMPARE(firma.Bul<QAction>(qPrintable(QMetin(komut.ad))).shortcut().toString(),
+                         QMetin(komut.tus));
     }
 
     void an_entry_that_the_model_hides_goes_with_its_line() {
@@ -116,36 +132,137 @@ class KomutMenuleriTest : public QObject {
         QVERIFY(firma.Bul<QAction>("iptals").isVisible());
     }
 
-    /// By a made-up table: buttons stand by their places, whatever the order of the rows.
-    void buttons_of_a_tool_bar_stand_by_their_places_and_take_the_ruler_away_first() {
+    void the_tool_bar_has_its_buttons_by_their_places_with_pictures_and_a_line_behind_each() {
         GuiFirma firma;
         firma.Ac();
-        std::array komutlar{Komutlar()[static_cast<std::size_t>(Komut::Progrset)],
-                            Komutlar()[static_cast<std::size_t>(Komut::Arasss)]};
-        komutlar[0].arac = {.yer = 13, .baslik = u" Ayar ", .ipucu = u"Ayarlar (F7)"};
-        komutlar[1].arac = {.yer = 1, .baslik = u"Bul", .ipucu = u"Bul (F2)"};
-        QToolBar serit;
-        Baglayici baglayici(firma.program.FormTablo.Tut(), &serit);
-        AraclariKur(serit, firma.program, baglayici, komutlar);
+        const auto& serit = firma.Bul<QToolBar>("Toolbar1");
         QStringList adlar;
-        for (const QAction* girdi : serit.actions())
+        QStringList ipuclari;
+        for (const QAction* girdi : serit.actions()) {
             adlar << (girdi->isSeparator() ? QStringLiteral("-") : girdi->text());
-        QCOMPARE(adlar, (QStringList{"Bul", "-", " Ayar ", "-"}));
-        QCOMPARE(serit.actions()[0]->toolTip(), QStringLiteral("Bul (F2)"));
+            if (girdi->isSeparator())
+                continue;
+            ipuclari << girdi->toolTip();
+            QVERIFY2(Boyali(girdi->icon()), qPrintable(girdi->text()));
+        }
+        QCOMPARE(adlar,
+                 (QStringList{"Ara", "-", "Rapor", "-", QStringLiteral(" Uyarılar"), "-", " Ayarlar ", "-"}));
+        QCOMPARE(ipuclari, (QStringList{QStringLiteral("Kayıt Ara (F2)"), "Rezervasyon Raporu (F3)",
+                                        QStringLiteral("Yaklaşan Rezervasyonlar"),
+                                        QStringLiteral("Program Ayarları (F7)")}));
+        QCOMPARE(serit.actions()[6]->objectName(), QStringLiteral("Toolbar1_13"));
+        QCOMPARE(serit.actions()[7]->objectName(), QStringLiteral("Toolbar1_14"));
+    }
+
+    void a_button_takes_the_ruler_away_and_opens_its_screen_and_a_hidden_one_goes_without_its_line() {
+        GuiFirma firma;
+        firma.Ac();
+        auto& serit = firma.Bul<QToolBar>("Toolbar1");
         firma.Model().ALabel_Click(8);
         firma.Model().AyAdi_Click(3);
         QVERIFY(firma.Model().HizliSecim.gorunur);
-        serit.show();
-        auto* dugme = qobject_cast<QToolButton*>(serit.widgetForAction(serit.actions()[0]));
-        Pencerede([&] { QTest::mouseClick(dugme, Qt::LeftButton); }, {[&](QDialog& pencere) {
+        Pencerede([&] { QTest::mouseClick(&firma.Bul<QToolButton>("Toolbar1_1"), Qt::LeftButton); },
+                  {[&](QDialog& pencere) {
                       QCOMPARE(pencere.windowTitle(), QStringLiteral("Kayıt Arama"));
                       QVERIFY(!firma.Model().HizliSecim.gorunur);
                       Tikla(pencere, "Command2");
                   }});
         firma.Model().Toolbar1[13].gorunur = false;
         Baglayici::HepsiniTazele();
-        QVERIFY(!serit.actions()[2]->isVisible());
-        QVERIFY(serit.actions()[3]->isVisible());
+        QVERIFY(!serit.actions()[6]->isVisible());
+        QVERIFY(serit.actions()[7]->isVisible());
+    }
+
+    void the_button_of_the_warnings_lists_them_or_tells_that_there_are_none() {
+        GuiFirma firma;
+        firma.Ac();
+        auto& dugme = firma.Bul<QToolButton>("Toolbar1_9");
+        Pencerede([&] { QTest::mouseClick(&dugme, Qt::LeftButton); },
+                  {Mesaj(QStringLiteral("Hatırlatmalarda yaklaşan rezervasyon yok."))});
+        firma.Rezervasyon(kSalonB, u"23.05.2026 - Gece", false);
+        QTest::mouseClick(&dugme, Qt::LeftButton);
+        QVERIFY(firma.Bul<QWidget>("Picture1").isVisible());
+    }
+
+    void tab_reaches_each_button_and_enter_and_space_press_it_and_the_mouse_leaves_the_focus() {
+        GuiFirma firma;
+        firma.Ac();
+        firma.Bul<QToolButton>("Toolbar1_1").setFocus(Qt::TabFocusReason);
+        QStringList sira;
+        for (int i = 0; i < 5; ++i) {
+            sira << Odaktaki();
+            Tusla(Qt::Key_Tab);
+        }
+        QCOMPARE(sira, (QStringList{"Toolbar1_1", "Toolbar1_3", "Toolbar1_9", "Toolbar1_13", "Salon"}));
+        for (const auto tus : {Qt::Key_Space, Qt::Key_Return}) {
+            firma.Bul<QToolButton>("Toolbar1_3").setFocus(Qt::TabFocusReason);
+            Pencerede([&] { Tusla(tus); }, {[](QDialog& pencere) {
+                          QCOMPARE(pencere.windowTitle(), QStringLiteral("Rezervasyon Raporu"));
+                      }});
+        }
+        firma.Tablo().setFocus();
+        Pencerede([&] { QTest::mouseClick(&firma.Bul<QToolButton>("Toolbar1_13"), Qt::LeftButton); },
+                  {TusBas(Qt::Key_Escape)});
+        QTRY_COMPARE(Odaktaki(), QStringLiteral("Picture4"));
+    }
+
+    void a_right_press_on_the_tool_bar_offers_no_way_to_put_it_away() {
+        GuiFirma firma;
+        firma.Ac();
+        auto& serit = firma.Bul<QToolBar>("Toolbar1");
+        QTest::mouseClick(&serit, Qt::RightButton, {}, {serit.width() - 5, serit.height() / 2});
+        QTest::qWait(50);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void keys_work_while_the_panel_has_the_focus_and_not_while_a_window_is_over_the_table() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        QCOMPARE(Odaktaki(), QStringLiteral("Liste"));
+        int acilan = 0;
+        for (const auto& [tus, baslik] : {std::pair{Qt::Key_F2, QStringLiteral("Kayıt Arama")},
+                                          {Qt::Key_F3, QStringLiteral("Rezervasyon Raporu")},
+                                          {Qt::Key_F7, QStringLiteral("Genel Program Ayarları")}}) {
+            Pencerede(
+                [&] { Tusla(tus); }, {[&](QDialog& pencere) {
+                    ++acilan;
+                    if (tus == Qt::Key_F2)
+                        QCOMPARE(pencere.windowTitle(), baslik);
+                    for (const auto oteki : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F7, Qt::Key_F12}) {
+                        Tusla(oteki); // nothing comes over it
+                        QTest::keyClick(&firma.Tablo(), oteki);
+                    }
+                    QCOMPARE(QApplication::activeModalWidget(), &pencere);
+                    QTest::keyClick(&pencere, Qt::Key_Escape);
+                }});
+        }
+        QCOMPARE(acilan, 3);
+    }
+
+    void f12_does_nothing_on_purpose() {
+        GuiFirma firma;
+        firma.Ac();
+        firma.Model().ALabel_Click(8);
+        Pencerede([&] { QTest::keyClick(&firma.Tablo(), Qt::Key_F12); }, {});
+        QCOMPARE(firma.Model().HizliGun, 8); // not even a button's first step
+    }
+
+    void ctrl_f1_tells_about_the_program_and_its_folder_can_be_copied() {
+        GuiFirma firma;
+        firma.Ac();
+        Pencerede([&] { QTest::keyClick(&firma.Tablo(), Qt::Key_F1, Qt::ControlModifier); },
+                  {[&](QDialog& pencere) {
+                      QCOMPARE(pencere.windowTitle(), QStringLiteral("Program Hakkında"));
+                      auto& klasor = Parcasi<QLineEdit>(pencere, "Klasor");
+                      QCOMPARE(klasor.text(), QString::fromStdU16String(firma.agac.Kok().u16string()));
+                      QVERIFY(klasor.isReadOnly());
+                      QVERIFY(
+                          Parcasi<QLabel>(pencere, "Surum").text().startsWith(QStringLiteral("Sürüm 2.")));
+                      QVERIFY(Parcasi<QTreeWidget>(pencere, "Liste").topLevelItemCount() >= 3);
+                      Tusla(Qt::Key_Return);
+                      QVERIFY(!firma.program.FormHakkinda.Yuklu());
+                  }});
     }
 };
 

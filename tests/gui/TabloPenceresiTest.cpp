@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "destek/Kayitlar.h"
 #include "gui/GuiFirma.h"
@@ -295,11 +296,29 @@ class TabloPenceresiTest : public QObject {
         QVERIFY(!firma.Bul<QTimer>("GunTimer").isActive());
     }
 
-    void closing_the_window_ends_the_program() {
+    void it_can_not_be_closed_under_a_window_that_stands_over_it() {
         GuiFirma firma;
         firma.Ac();
-        firma.Pencere().close();
-        QVERIFY(firma.disDunya.Bitti());
+        Pencerede([&] { QTest::keyClick(&firma.Tablo(), Qt::Key_F2); }, {[&](QDialog& pencere) {
+                      firma.Pencere().close(); // as the system does at its end
+                      QVERIFY(!firma.disDunya.Bitti());
+                      QVERIFY(pencere.isVisible());
+                  }});
+    }
+
+    void the_panels_of_the_status_bar_follow_the_login_and_the_clock() {
+        GuiFirma firma;
+        firma.Ac();
+        auto& kullanici = firma.Bul<QLabel>("Kullanici");
+        QCOMPARE(kullanici.text(), QString());
+        const int en = firma.Pencere().minimumSizeHint().width();
+        firma.Model().StatusBar1[1] = u"Velora - Aktif Kullanıcı : " + Metin(300, u'ş');
+        using namespace std::chrono_literals;
+        firma.simdi += 14h;
+        QTRY_COMPARE_WITH_TIMEOUT(firma.Bul<QLabel>("Tarih").text(), QStringLiteral("22.05.2026"), 3000);
+        QCOMPARE(firma.Bul<QLabel>("Saat").text(), QStringLiteral("00:30"));
+        QVERIFY(kullanici.text().startsWith(QStringLiteral("Velora - Aktif Kullanıcı : şşş")));
+        QCOMPARE(firma.Pencere().minimumSizeHint().width(), en); // a long name makes no window wider
     }
 
     void a_program_folder_without_any_file_opens_an_empty_table() {
@@ -309,6 +328,22 @@ class TabloPenceresiTest : public QObject {
         QCOMPARE(firma.Bul<QComboBox>("Salon").count(), 0);
         QCOMPARE(PencereRengi(firma, EylulGunduz, 10), QColor(255, 255, 128));
         QVERIFY(!firma.agac.KlasorVar(u"2026"));
+    }
+
+    /// The last one: no event loop runs behind it.
+    void closing_the_window_asks_and_a_no_leaves_it_open() {
+        GuiFirma firma;
+        firma.Ac();
+        const QString soru = QStringLiteral("Programdan çıkmak istediğinizden emin misiniz?");
+        const auto kapat = [&] { firma.Pencere().close(); };
+        for (const Is& hayir : {Mesaj(soru, QStringLiteral("Hayır")), TusBas(Qt::Key_Escape)}) {
+            Pencerede(kapat, {hayir});
+            QVERIFY(!firma.disDunya.Bitti());
+            QVERIFY(firma.Pencere().isVisible());
+            QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonA));
+        }
+        Pencerede(kapat, {Mesaj(soru, QStringLiteral("Evet"))});
+        QVERIFY(firma.disDunya.Bitti());
     }
 };
 

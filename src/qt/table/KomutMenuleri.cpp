@@ -7,16 +7,21 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/ErisimTuslari.h"
+#include "qt/Simgeler.h"
+#include "qt/Yerlesimler.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
 
 namespace velora {
 
 namespace {
+
+constexpr int kAracBoyu = 20;
 
 /// An entry, or the line that stands for it. A handler may unload the screen it was called on.
 QAction* GirdiYap(QObject& ust, const QString& ad, MenuGirdisi& model, bool cizgi, Baglayici& baglayici,
@@ -26,6 +31,14 @@ QAction* GirdiYap(QObject& ust, const QString& ad, MenuGirdisi& model, bool cizg
     girdi->setSeparator(cizgi);
     baglayici.Bagla(*girdi, model, isle);
     return girdi;
+}
+
+/// Drawn for every scale that a screen of today has.
+QIcon AracResmi(const QString& ad, const QToolBar& serit) {
+    QIcon resimler;
+    for (const int kat : {1, 2, 3})
+        resimler.addPixmap(SimgeCiz(ad, serit.palette().color(QPalette::ButtonText), kat * kAracBoyu));
+    return resimler;
 }
 
 /// Keeps from a menu what the mouse does before its first press on it.
@@ -94,17 +107,22 @@ void MenuleriKur(QMenuBar& serit, Program& program, Baglayici& baglayici,
 void AraclariKur(QToolBar& serit, Program& program, Baglayici& baglayici,
                  std::span<const KomutTanimi> komutlar) {
     const auto tablo = program.FormTablo.Tut();
-    std::map<int, const KomutTanimi*> yerler;
+    std::map<int, const AracYeri*> araclar;
     for (const KomutTanimi& komut : komutlar)
         if (komut.arac.yer > 0)
-            yerler[komut.arac.yer] = &komut;
-    for (const auto& [yer, komut] : yerler) {
-        tablo->Toolbar1[yer].baslik = komut->arac.baslik;
+            araclar[komut.arac.yer] = &komut.arac;
+    for (const auto& [yer, arac] : araclar) {
         const auto ad = [](int no) { return QStringLiteral("Toolbar1_%1").arg(no); };
-        QAction* dugme = GirdiYap(serit, ad(yer), tablo->Toolbar1[yer], false, baglayici,
-                                  [&program, &komut = *komut] { program.FormTablo->AracaTikla(komut); });
-        dugme->setToolTip(QIpucu(komut->arac.ipucu));
-        serit.addAction(dugme);
+        MenuGirdisi& model = tablo->Toolbar1[yer];
+        QAction* girdi = GirdiYap(serit, ad(yer), model, false, baglayici,
+                                  [&program, &model] { program.FormTablo->AracaTikla(model.baslik); });
+        girdi->setToolTip(QIpucu(arac->ipucu));
+        girdi->setIcon(AracResmi(QMetin(arac->simge), serit));
+        serit.addAction(girdi);
+        auto& dugme = dynamic_cast<QToolButton&>(*serit.widgetForAction(girdi));
+        dugme.setFocusPolicy(Qt::TabFocus);
+        EnterleBasilsin(dugme);
+        Adlandir(dugme, ad(yer), QMetin(model.baslik).trimmed());
         serit.addAction(GirdiYap(serit, ad(yer + 1), tablo->Toolbar1[yer + 1], true, baglayici, {}));
     }
 }

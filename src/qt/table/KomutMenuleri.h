@@ -26,7 +26,8 @@ void KendiBasmasiyla(QMenu& menu);
 void MenuleriKur(QMenuBar& serit, Program& program, Baglayici& baglayici,
                  std::span<const KomutTanimi> komutlar);
 
-/// The buttons of the tool bar in the order of their places, each with its line behind it.
+/// The buttons of the tool bar in the order of their places, each with its line behind it. Tab reaches them,
+/// a click leaves the focus where it is.
 void AraclariKur(QToolBar& serit, Program& program, Baglayici& baglayici,
                  std::span<const KomutTanimi> komutlar);
 

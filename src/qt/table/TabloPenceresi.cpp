@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolBar>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
@@ -63,7 +64,8 @@ TabloPenceresi::TabloPenceresi(Program& program)
     sutun->addLayout(cerceve, 1);
     setCentralWidget(orta);
     MenuleriKur(*menuBar(), program, *baglayici_, Komutlar());
-    DurumSeridiKur();
+    AracSeridiKur();
+    DurumSeridiKur(*tablo);
     ZamanlayicilariBagla(*tablo);
     baglayici_->Izle([this, t = tablo.get()] { setWindowTitle(QMetin(t->baslik)); });
     setMinimumSize(kEnKucukBoy.boundedTo(EkrandaYer(*this)));
@@ -96,7 +98,7 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     salon->setMinimumWidth(kSalonEni);
     baglayici_->Bagla(*salon, tablo.Salon);
     serit->addSpacing(kAralik);
-    QComboBox* sene = EtiketliListe(*serit, tablo.Sene, u'Y', QStringLiteral("Sene"));
+    QComboBox* sene = EtiketliListe(*serit, tablo.Sene, u'l', QStringLiteral("Sene"));
     sene->setMinimumWidth(kSeneEni);
     baglayici_->Bagla(*sene, tablo.Sene);
     serit->addSpacing(kAralik);
@@ -108,16 +110,35 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     return parca;
 }
 
-void TabloPenceresi::DurumSeridiKur() {
+void TabloPenceresi::AracSeridiKur() {
+    auto* serit = new QToolBar;
+    serit->setObjectName(QStringLiteral("Toolbar1"));
+    serit->setWindowTitle(QStringLiteral("Araçlar"));
+    serit->setMovable(false);
+    serit->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    AraclariKur(*serit, program_, *baglayici_, Komutlar());
+    addToolBar(serit);
+    // The toolkit's own menu could put the tool bar away.
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+void TabloPenceresi::DurumSeridiKur(FormTablo& tablo) {
     statusBar()->setSizeGripEnabled(false);
-    tarih_ = new QLabel;
-    tarih_->setObjectName(QStringLiteral("Tarih"));
-    saat_ = new QLabel;
-    saat_->setObjectName(QStringLiteral("Saat"));
-    for (QLabel* panel : {tarih_, saat_}) {
+    constexpr std::array kPaneller{"Kullanici", "Tarih", "Saat"};
+    for (int no = 1; no <= tablo.StatusBar1.kAdet; ++no) {
+        auto* panel = new QLabel;
+        panel->setObjectName(QString::fromLatin1(kPaneller[static_cast<std::size_t>(no - 1)]));
+        panel->setTextFormat(Qt::PlainText);
         panel->setContentsMargins(kAralik, 0, kAralik, 0);
-        statusBar()->addPermanentWidget(panel);
+        if (no == 1)
+            statusBar()->addWidget(panel, 1);
+        else
+            statusBar()->addPermanentWidget(panel);
+        baglayici_->Izle([panel, &tablo, no] { panel->setText(QMetin(tablo.StatusBar1[no])); });
     }
+    // A long name takes no room from the table.
+    auto* kullanici = statusBar()->findChild<QLabel*>(QString::fromLatin1(kPaneller[0]));
+    kullanici->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     BosYeriIzle(*statusBar());
     auto* saat = new QTimer(this);
     connect(saat, &QTimer::timeout, this, [this] { Koru([this] { SaatiGoster(); }); });
@@ -126,11 +147,12 @@ void TabloPenceresi::DurumSeridiKur() {
 }
 
 void TabloPenceresi::SaatiGoster() {
-    const auto simdi = program_.ortam.zaman.simdi();
-    const std::chrono::hh_mm_ss gunIci(simdi - std::chrono::floor<std::chrono::days>(simdi));
-    tarih_->setText(QMetin(TarihMetni(program_.Bugun())));
-    saat_->setText(QMetin(IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
-                          IkiHane(static_cast<unsigned>(gunIci.minutes().count()))));
+    const auto tablo = program_.FormTablo.Tut();
+    const auto once = tablo->StatusBar1;
+    tablo->SaatiYaz();
+    // A minute is over. The panels follow whatever is refreshed meanwhile anyway.
+    if (tablo->StatusBar1 != once)
+        Baglayici::HepsiniTazele();
 }
 
 void TabloPenceresi::ZamanlayicilariBagla(FormTablo& tablo) {
@@ -142,8 +164,9 @@ void TabloPenceresi::ZamanlayicilariBagla(FormTablo& tablo) {
 }
 
 void TabloPenceresi::closeEvent(QCloseEvent* olay) {
-    olay->accept();
-    Koru([this] { program_.ortam.olaylar.bitir(); });
+    // It closes with the program alone: what stands over the table could not stand without it.
+    olay->ignore();
+    baglayici_->Bas([this] { program_.FormTablo->Cikissssss_Click(); });
 }
 
 } // namespace velora

@@ -4,7 +4,6 @@
 
 class QComboBox;
 class QHBoxLayout;
-class QLabel;
 
 namespace velora {
 
@@ -27,15 +26,14 @@ class TabloPenceresi : public QMainWindow {
   private:
     void BosYeriIzle(QWidget& parca);
     QWidget* UstSerit(FormTablo& tablo);
-    void DurumSeridiKur();
+    void AracSeridiKur();
+    void DurumSeridiKur(FormTablo& tablo);
     void ZamanlayicilariBagla(FormTablo& tablo);
     void SaatiGoster();
 
     Program& program_;
     Baglayici* baglayici_;
     TabloGorunumu* gorunum_ = nullptr;
-    QLabel* tarih_ = nullptr;
-    QLabel* saat_ = nullptr;
 };
 
 } // namespace velora

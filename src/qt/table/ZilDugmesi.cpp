@@ -2,11 +2,10 @@
 
 #include <utility>
 
-#include <QKeyEvent>
-
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/Simgeler.h"
+#include "qt/Yerlesimler.h"
 #include "table/FormTablo.h"
 
 namespace velora {
@@ -26,6 +25,7 @@ ZilDugmesi::ZilDugmesi(FormTablo& tablo, Baglayici& baglayici, std::function<voi
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
     setIconSize({kZilBoyu, kZilBoyu});
+    EnterleBasilsin(*this);
     hide();
     connect(this, &QToolButton::clicked, this,
             [&tablo, &baglayici] { baglayici.Bas([&tablo] { tablo.Image3_Click(); }); });
@@ -57,12 +57,6 @@ void ZilDugmesi::Goster(bool var, bool sakin) {
     if (!var && hasFocus())
         tabloyaDon_();
     setVisible(var);
-}
-
-void ZilDugmesi::keyPressEvent(QKeyEvent* olay) {
-    if (olay->key() == Qt::Key_Return || olay->key() == Qt::Key_Enter)
-        return click();
-    QToolButton::keyPressEvent(olay);
 }
 
 } // namespace velora

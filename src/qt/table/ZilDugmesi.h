@@ -16,9 +16,6 @@ class ZilDugmesi : public QToolButton {
     /// `tabloyaDon` gives the focus to the table: where it goes from a bell that falls silent.
     ZilDugmesi(FormTablo& tablo, Baglayici& baglayici, std::function<void()> tabloyaDon);
 
-  protected:
-    void keyPressEvent(QKeyEvent* olay) override;
-
   private:
     void ResimleriCiz();
     void Goster(bool var, bool sakin);
