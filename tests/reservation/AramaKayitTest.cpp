@@ -1,4 +1,6 @@
 // Opening what a search has found.
+#include <algorithm>
+
 #include "reservation/AramaTest.h"
 
 namespace velora::test {
@@ -194,6 +196,17 @@ TEST_F(AramaKayit, Kapat_forgets_what_was_typed_and_found) {
     EXPECT_EQ(Arama().Text[kAd].metin, u"");
     EXPECT_TRUE(Bulunanlar().empty());
     EXPECT_EQ(Arama().acikmi, 0);
+}
+
+TEST_F(AramaKayit, A_record_of_the_shown_hall_opens_without_a_scan) {
+    KayitKoy(agac, u"Salon A/2012/21.06.2012 - Gece", {.ad = u"Nur"});
+    const auto listelenen = [this](const Metin& ad) {
+        Ara(kAd, ad);
+        KayitBekle();
+        return std::ranges::count(DiskteSirasi([this] { DetaylaraBas(0); }), 'l');
+    };
+    EXPECT_EQ(listelenen(u"nur"), 0);
+    EXPECT_GT(listelenen(u"şükran"), 0) << "the other hall is painted first";
 }
 
 } // namespace velora::test

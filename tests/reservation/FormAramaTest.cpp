@@ -247,4 +247,66 @@ TEST_F(AramaTest, A_new_search_marks_nothing) {
     EXPECT_EQ(Arama().Liste.secili, -1);
 }
 
+TEST_F(AramaTest, The_path_is_of_the_selected_year_and_the_names_are_of_every_year_on_purpose) {
+    agac.KoyMetin(u"Salon A/2012/Gider.dat", u"\"01.02.2012\",\"70\",\"x\",\"\"\r\n");
+    Koy(u"Salon A/2013/01.02.2013 - Gece", {.ad = u"Nur"});
+    agac.KoyMetin(u"Salon A/2013/01.02.2013 - Gece-Detay", DetayMetni(false));
+    Ara(kGelinDamat, u"x");
+    EXPECT_EQ(Bulunanlar(), (Adlar{u"Gider.dat", u"01.02.2013 - Gece", u"01.02.2013 - Gece-Detay"}));
+    EXPECT_EQ(Sutun(3), (Adlar{u"x", u"x", u"x"}));
+    for (const ListeSatiri& satir : Arama().Liste.satirlar)
+        EXPECT_EQ(satir.tag, Yol(satir.sutun[0])) << "under 2012, whatever year lists the name";
+}
+
+TEST_F(AramaTest, Three_criteria_that_match_give_three_equal_rows_on_purpose) {
+    Koy(u"Salon B/2012/20.06.2012 - Gece", {.no = u"7"});
+    Koy(u"Salon A/2012/21.06.2012 - Gece", {.ad = u"Başka", .no = u"8"});
+    Ara({{kAd, u"ali"}, {kCep, u"0532"}, {kSozlesmeNo, u"7"}});
+    ASSERT_EQ(Bulunanlar(), (Adlar{u"21.06.2012 - Gece", u"20.06.2012 - Gece", u"20.06.2012 - Gece",
+                                   u"20.06.2012 - Gece"}));
+    for (const std::size_t sira : {2U, 3U}) {
+        EXPECT_EQ(Arama().Liste.satirlar[sira].sutun, Arama().Liste.satirlar[1].sutun);
+        EXPECT_EQ(Arama().Liste.satirlar[sira].tag, Arama().Liste.satirlar[1].tag);
+    }
+}
+
+// Only a text of no length takes no part.
+TEST_F(AramaTest, A_blank_is_a_criterion_like_any_other_on_purpose) {
+    Koy(u"Salon A/2012/20.06.2012 - Gece", {.ad = u"Ali Veli"});
+    Koy(u"Salon A/2012/21.06.2012 - Gece", {.ad = u"Nur"});
+    Ara(kAd, u" ");
+    EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
+    Bulamaz(kTelefon, u" ");
+}
+
+TEST_F(AramaTest, Patterns_of_ten_thousand_signs_come_to_an_end_and_find_what_they_mean) {
+    Koy(u"Salon A/2012/20.06.2012 - Gece", {.ad = u"Ali 7 Veli"});
+    Koy(u"Salon A/2012/21.06.2012 - Gece", {.ad = Metin(9'999, u'a') + u"b"});
+    Prog();
+    const auto kat = [](MetinBakis parca) {
+        Metin uzun;
+        while (uzun.size() + parca.size() <= 10'000)
+            uzun += parca;
+        return uzun;
+    };
+    Ara(kAd, kat(u"*"));
+    EXPECT_GE(Bulunanlar().size(), 2U);
+    for (const char16_t* parca : {u"?", u"[!z]", u"a*"}) {
+        Ara(kAd, kat(parca));
+        EXPECT_EQ(Bulunanlar(), Adlar{u"21.06.2012 - Gece"}) << ::testing::PrintToString(Metin(parca));
+    }
+    for (const char16_t* parca : {u"#", u"[", u"]", u"[a", u"*#*", u"!", u"*a*z"})
+        Bulamaz(kAd, kat(parca));
+    Bulamaz(kTelefon, kat(u"*"));
+}
+
+TEST_F(AramaTest, In_a_tree_of_which_nothing_can_be_read_only_a_star_lists_its_names_on_purpose) {
+    KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece");
+    Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Oku; };
+    Bulamaz(kAd, u"ali");
+    Ara(kAd, u"*");
+    EXPECT_EQ(Bulunanlar(), (Adlar{u"20.06.2012 - Gece", u"20.06.2012 - Gece-Detay"}));
+    EXPECT_EQ(Sutun(2), (Adlar{u"", u""}));
+}
+
 } // namespace velora::test

@@ -243,4 +243,81 @@ TEST_F(UyariTest, A_record_with_both_states_gives_two_rows_on_purpose) {
     UyarilarOlmali({u"17.06.2012 - Gece Kesin", u"17.06.2012 - Gece Ön"});
 }
 
+TEST_F(UyariTest, Rows_are_in_the_order_of_names_and_so_the_first_of_February_before_the_second_of_January) {
+    AyarKoy(26, u"\"60\"");
+    kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);
+    KayitKoy(agac, u"Salon A/2013/02.01.2013 - Gece");
+    KayitKoy(agac, u"Salon A/2013/01.02.2013 - Gece");
+    Prog();
+    UyarilarOlmali({u"01.02.2013 - Gece Kesin", u"02.01.2013 - Gece Kesin"});
+}
+
+TEST_F(UyariTest, A_name_without_a_date_counts_the_days_of_the_name_before_it_on_purpose) {
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    RezervasyonKoy(u"10.kopya");
+    Prog();
+    UyarilarOlmali({}); // nothing stands before it
+    RezervasyonKoy(u"17.06.2012 - Gece");
+    RezervasyonKoy(u"18.kopya");
+    KayitKoy(agac, u"Salon B/2012/10.kopya");
+    Tablo().UyariGoster();
+    UyarilarOlmali({u"17.06.2012 - Gece Kesin", u"18.kopya Kesin", u"10.kopya Kesin"});
+    EXPECT_EQ(Tablo().Liste.satirlar[2].sutun[1], u"Salon B") << "also across halls";
+}
+
+TEST_F(UyariTest, The_row_of_a_cancelled_reservation_opens_nothing_and_leaves_no_ghost) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog();
+    RezervasyonSil(Prog().dosyalar, Yol(u"16.06.2012 - Gece"));
+    Tablo().Command1();
+    Isaretle(0);
+    Tablo().Command8_Click();
+    EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    EXPECT_FALSE(Tablo().Command8.etkin);
+    EkranBekle(EkranAdi::FormKayit, [&] {
+        EXPECT_EQ(Kayit().baslik, u"Yeni Kayıt");
+        EXPECT_EQ(Kayit().Tag, u"");
+        EXPECT_EQ(Kayit().KayitAc, 0);
+    });
+    ASSERT_TRUE(kullanici.SagTikla({20, 6, kGece}));
+    kullanici.KomutSec(Komut::newkay);
+}
+
+TEST_F(UyariTest,
+       A_save_that_empties_the_panel_leaves_it_standing_behind_its_box_until_the_table_is_in_front) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog();
+    int kutudan = 0;
+    kullanici.ortam.olayda = [&](int) {
+        if (Tablo().Liste.satirlar.empty() && Tablo().Picture1.gorunur)
+            ++kutudan;
+    };
+    EkranBekle(EkranAdi::FormKayit, [&] {
+        Tikla(Kayit().Check18);
+        KutuBekle(Metin(kYok));
+        KaydeteBas();
+        EXPECT_TRUE(Tablo().Picture1.gorunur);
+        EXPECT_TRUE(Tablo().Liste.satirlar.empty());
+    });
+    Isaretle(0);
+    Tablo().Command8_Click();
+    EXPECT_GT(kutudan, 0);
+    EXPECT_FALSE(Tablo().Picture1.gorunur);
+}
+
+TEST_F(UyariTest, At_the_start_nothing_near_is_said_of_by_no_box_and_the_tool_bar_says_so_in_one) {
+    Prog(); // no box is expected
+    EXPECT_FALSE(Tablo().Picture1.gorunur);
+    KutuBekle(Metin(kYok));
+    Tablo().AracaTikla(u" Uyarılar");
+}
+
+TEST_F(UyariTest, A_tree_of_which_nothing_can_be_read_warns_of_nothing) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Oku; };
+    KutuBekle(Metin(kYok));
+    Tablo().UyariGoster();
+    UyarilarOlmali({});
+}
+
 } // namespace velora::test

@@ -20,8 +20,8 @@ namespace {
 
 constexpr int kSimgeBoyu = 56;
 constexpr double kAdBuyumesi = 1.8; // of the name, beside the other texts
-constexpr std::array kKitaplikEnleri{190, 250, kKalanEn};
-constexpr QSize kKitaplikListesi{640, 120};
+constexpr std::array kKitaplikEnleri{170, 240, kKalanEn};
+constexpr QSize kKitaplikListesi{700, 120};
 
 } // namespace
 
