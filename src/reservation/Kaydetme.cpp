@@ -54,6 +54,8 @@ void AcikEkranlariTazele(Program& p) {
 
 void FormKayit::Command1_Click() {
     Program& p = program_;
+    // The number, the scan and the panel of warnings all read the year.
+    const Dosyalar::Hatirlama hatirlama(p.dosyalar);
     if (!GunVar() || !AlanlarTamam())
         return;
     for (const int no : {AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Adres})

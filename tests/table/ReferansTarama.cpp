@@ -1,5 +1,8 @@
 #include "table/ReferansTarama.h"
 
+#include <gtest/gtest.h>
+
+#include "setup/FormAyarlar.h"
 #include "storage/RezervasyonDosyalari.h"
 
 namespace velora::test {
@@ -30,6 +33,29 @@ ReferansSonuc ReferansTara(const Program& program, const Metin& salon, const Met
         sonuc.hatirlatma = sonuc.hatirlatma || (ana.No(18) == bugun && ana.No(20) == u"1");
     }
     return sonuc;
+}
+
+int ReferansGibiOlmali(Program& program, const ReferansSonuc& beklenen) {
+    const auto tablo = program.FormTablo.Tut();
+    const auto ayarlar = program.FormAyarlar.Tut();
+    EXPECT_EQ(tablo->Image3, beklenen.hatirlatma);
+    int dolu = 0;
+    for (int ay = 1; ay <= kAySayisi; ++ay)
+        for (int gun = 1; gun <= kGunSayisi; ++gun)
+            for (const bool gunduz : {true, false}) {
+                const auto dilim = gunduz ? velora::GunduzGece::Gunduz : velora::GunduzGece::Gece;
+                const auto& dilimBeklenen =
+                    beklenen.dilimler[static_cast<std::size_t>(ay - 1)][static_cast<std::size_t>(gun - 1)]
+                                     [static_cast<std::size_t>(dilim)];
+                const Hucre& hucre = tablo->Gozu(ay, dilim, gun);
+                EXPECT_EQ(hucre.tag, dilimBeklenen ? dilimBeklenen->tag : Metin()) << gun << '.' << ay;
+                const bool kesin = hucre.zemin == ayarlar->Renk(gunduz ? 6 : 12);
+                const bool on = hucre.zemin == ayarlar->Renk(gunduz ? 19 : 21);
+                EXPECT_EQ(on, dilimBeklenen && dilimBeklenen->on) << gun << '.' << ay;
+                EXPECT_EQ(kesin, dilimBeklenen && !dilimBeklenen->on) << gun << '.' << ay;
+                dolu += dilimBeklenen ? 1 : 0;
+            }
+    return dolu;
 }
 
 } // namespace velora::test

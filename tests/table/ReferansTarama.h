@@ -24,4 +24,7 @@ struct ReferansSonuc {
 ReferansSonuc ReferansTara(const Program& program, const Metin& salon, const Metin& yil,
                            const Metin& kullanici);
 
+/// The table must show just this. How many slots are taken.
+int ReferansGibiOlmali(Program& program, const ReferansSonuc& beklenen);
+
 } // namespace velora::test

@@ -201,6 +201,25 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
     return std::string_view(tampon).substr(0, *boy);
 }
 
+bool Klasor::BaglantiVar() const {
+    return false;
+}
+
+// This system may tell of a write only when it comes to the disk: it is never sure.
+struct Gozcu::Ic {};
+
+Gozcu::Gozcu() = default;
+
+Gozcu::~Gozcu() = default;
+
+void Gozcu::Izle(const std::filesystem::path& /*klasor*/) {}
+
+void Gozcu::Birak() {}
+
+bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& /*ver*/) {
+    return false;
+}
+
 bool Var(const std::filesystem::path& yol, Tur tur) {
     return BuTur(tur, ::GetFileAttributesW(UzunYol(yol).c_str()));
 }

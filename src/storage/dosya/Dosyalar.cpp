@@ -6,6 +6,7 @@
 
 #include "storage/dosya/AdListesi.h"
 #include "storage/dosya/Aktarim.h"
+#include "storage/dosya/KlasorBellegi.h"
 #include "storage/dosya/Sistem.h"
 
 namespace velora {
@@ -14,6 +15,9 @@ namespace {
 using sistem::AcikDosya;
 using sistem::Acilis;
 using sistem::Kip;
+
+// Folders that are kept at a time: of a search that stands open as many halls.
+constexpr std::size_t kEnCokBellek = 4;
 
 /// What a system throws is memory running out. That is a failed step as any other.
 template <class Is>
@@ -177,30 +181,86 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
     });
 }
 
+/// A folder whose files are read one after the other, from the disk or from what is kept of it.
+struct Dosyalar::Okuma {
+    explicit Okuma(std::shared_ptr<KlasorBellegi> kalan) : bellek(std::move(kalan)) {}
+    explicit Okuma(const std::filesystem::path& yol)
+        : klasor(std::make_unique<sistem::Klasor>(yol)), listelenen(AdlariAl(*klasor)) {}
+
+    const AdListesi& Adlar() const { return bellek ? bellek->Adlar() : listelenen; }
+
+    std::optional<std::string_view> Oku(std::size_t sira, std::size_t& okunan) {
+        if (bellek)
+            return bellek->Oku(sira, kEnUzunOkuma, tampon, okunan);
+        ++okunan;
+        return klasor->Oku(listelenen.Diskteki(sira), kEnUzunOkuma, tampon);
+    }
+
+    std::shared_ptr<KlasorBellegi> bellek;
+    std::unique_ptr<sistem::Klasor> klasor;
+    AdListesi listelenen;
+    std::string tampon;
+};
+
+std::unique_ptr<Dosyalar::Okuma> Dosyalar::OkumaBasla(const std::filesystem::path& yol) const {
+    if (hatirlayan_ > 0)
+        if (auto bellek = Bellek(yol))
+            return std::make_unique<Okuma>(std::move(bellek));
+    return std::make_unique<Okuma>(yol);
+}
+
+/// What is kept of a folder, as it is now; null when nothing can be.
+std::shared_ptr<KlasorBellegi> Dosyalar::Bellek(const std::filesystem::path& yol) const {
+    auto yer =
+        std::find_if(bellekler_.begin(), bellekler_.end(), [&](const auto& b) { return b->Klasor() == yol; });
+    if (yer == bellekler_.end())
+        yer = std::find_if(bellekler_.begin(), bellekler_.end(),
+                           [](const auto& b) { return b->Klasor().empty(); });
+    if (yer == bellekler_.end()) {
+        if (bellekler_.size() == kEnCokBellek)
+            return nullptr;
+        yer = bellekler_.insert(yer, std::make_shared<KlasorBellegi>());
+    }
+    // Somebody reads from it just now, further out: it must not change under his hands.
+    if (yer->use_count() > 1)
+        return nullptr;
+    KlasorBellegi& bellek = **yer;
+    if (bellek.Klasor() == yol && bellek.Tazele())
+        return *yer;
+    bellek.Basla(yol);
+    if (bellek.Tazele())
+        return *yer;
+    bellek.Unut();
+    return nullptr;
+}
+
+Dosyalar::Hatirlama::Hatirlama(const Dosyalar& dosyalar) : dosyalar_(dosyalar) {
+    ++dosyalar_.hatirlayan_;
+}
+
+Dosyalar::Hatirlama::~Hatirlama() {
+    if (--dosyalar_.hatirlayan_ > 0)
+        return;
+    // One that is read from further out belongs to its reader.
+    std::erase_if(dosyalar_.bellekler_, [](const auto& bellek) { return bellek.use_count() > 1; });
+    for (const auto& bellek : dosyalar_.bellekler_)
+        bellek->Unut();
+}
+
 void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                           const std::function<bool(MetinBakis ad)>& istenen) const {
-    struct Okuma {
-        explicit Okuma(const std::filesystem::path& yol) : klasor(yol) {}
-        sistem::Klasor klasor;
-        AdListesi adlar;
-        std::string tampon;
-    };
     const auto okuma = Sessiz([&]() -> std::unique_ptr<Okuma> {
         const auto p = Cevir(DosyaIsi::Listele, klasor);
-        if (!p)
-            return nullptr;
-        auto acilan = std::make_unique<Okuma>(*p);
-        acilan->adlar = AdlariAl(acilan->klasor);
-        return acilan;
+        return p ? OkumaBasla(*p) : nullptr;
     });
-    for (std::size_t i = 0; okuma && i < okuma->adlar.Sayi(); ++i) {
-        const MetinBakis ad = okuma->adlar[i];
+    for (std::size_t i = 0; okuma && i < okuma->Adlar().Sayi(); ++i) {
+        const MetinBakis ad = okuma->Adlar()[i];
         if (istenen && !istenen(ad))
             continue;
         const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
             if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
                 return {};
-            return okuma->klasor.Oku(okuma->adlar.Diskteki(i), kEnUzunOkuma, okuma->tampon);
+            return okuma->Oku(i, okunan_);
         });
         ver({ad, bayt.has_value(), bayt.value_or(std::string_view())});
     }

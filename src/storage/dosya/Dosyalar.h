@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,8 @@ namespace velora {
 
 /// The separator of the paths inside the system. The file module turns it into the one of the machine.
 inline constexpr char16_t kAyrac = u'\\';
+
+class KlasorBellegi;
 
 namespace sistem {
 enum class Tur;
@@ -69,6 +72,21 @@ class Dosyalar {
     void KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                     const std::function<bool(MetinBakis ad)>& istenen = {}) const;
 
+    /// As long as one stands, `KlasoruOku` keeps what it has read. What it hands over is what the disk holds
+    /// at each call, as without; but what the system surely tells hasn't changed since is not read again,
+    /// whoever might have changed it. Where the system can't tell, all is. For a handler that reads a folder
+    /// more than once.
+    class Hatirlama {
+      public:
+        explicit Hatirlama(const Dosyalar& dosyalar);
+        Hatirlama(const Hatirlama&) = delete;
+        Hatirlama& operator=(const Hatirlama&) = delete;
+        ~Hatirlama();
+
+      private:
+        const Dosyalar& dosyalar_;
+    };
+
     /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
     /// new one goes over it in a single write, filled up with line ends to the old length, and then the file
     /// is cut to its length. Room on the disk is taken beforehand where the system can do that; when there is
@@ -95,6 +113,9 @@ class Dosyalar {
     /// Whether two paths lead to one and the same folder. False when one isn't there.
     bool AyniKlasor(const Metin& bir, const Metin& iki) const;
 
+    /// For tests: how many files `KlasoruOku` has read from the disk.
+    std::size_t Okunan() const { return okunan_; }
+
     /// For tests: how many folders were listed to find a name that isn't there to the letter.
     std::size_t AramadaListelenen() const { return arama_.Listelenen(); }
 
@@ -107,10 +128,16 @@ class Dosyalar {
   private:
     std::optional<std::filesystem::path> Bul(const Metin& yol, sistem::Tur tur) const;
     std::optional<std::filesystem::path> Cevir(DosyaIsi is, const Metin& yol) const;
+    struct Okuma;
+    std::unique_ptr<Okuma> OkumaBasla(const std::filesystem::path& yol) const;
+    std::shared_ptr<KlasorBellegi> Bellek(const std::filesystem::path& yol) const;
 
     std::filesystem::path kokYolu_;
     Metin kok_;
     mutable AdArama arama_; // remembers listings
+    mutable std::size_t okunan_ = 0;
+    mutable int hatirlayan_ = 0; // that stand
+    mutable std::vector<std::shared_ptr<KlasorBellegi>> bellekler_;
 };
 
 /// True when two names, in the form that listings give them, are the same but for their case.

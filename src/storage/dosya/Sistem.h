@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -72,6 +73,33 @@ class Klasor {
     /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
     /// again. Nothing when the file can't be opened or read, or is longer than `enCok`.
     std::optional<std::string_view> Oku(MetinBakis ad, std::size_t enCok, std::string& tampon);
+
+    /// Whether an entry that was listed may lie elsewhere: a link, to a file or to nothing.
+    bool BaglantiVar() const;
+
+  private:
+    struct Ic;
+    std::unique_ptr<Ic> ic_;
+};
+
+/// Tells what changes in a folder while it is watched, whoever changes it. One that has watched is kept for
+/// the next folder: to make one and to throw it away costs more than a folder's reading.
+class Gozcu {
+  public:
+    Gozcu();
+    Gozcu(const Gozcu&) = delete;
+    Gozcu& operator=(const Gozcu&) = delete;
+    ~Gozcu();
+
+    /// Watches this folder from here on, and no other one.
+    void Izle(const std::filesystem::path& klasor);
+    void Birak();
+
+    /// Hands over the names, as on the disk, of the entries that were made, removed, renamed, written to or
+    /// given other rights since the last call. False when it can't be sure to know of all, or when the path
+    /// leads to another folder by now; then it has stopped watching. A system that doesn't tell of each
+    /// change at once is never sure.
+    bool Degisenler(const std::function<void(MetinBakis ad)>& ver);
 
   private:
     struct Ic;
