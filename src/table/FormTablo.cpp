@@ -186,9 +186,9 @@ void FormTablo::Saatsay_Tick() {
 void FormTablo::SaatiYaz() {
     const auto simdi = program_.ortam.zaman.simdi();
     const std::chrono::hh_mm_ss gunIci(simdi - std::chrono::floor<std::chrono::days>(simdi));
-    StatusBar1[2] = TarihMetni(program_.Bugun());
-    StatusBar1[3] = IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
-                    IkiHane(static_cast<unsigned>(gunIci.minutes().count()));
+    StatusBar1Saati = {TarihMetni(program_.Bugun()),
+                       IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
+                           IkiHane(static_cast<unsigned>(gunIci.minutes().count()))};
 }
 
 void FormTablo::DuyuruKontrol_Tick() {

@@ -202,15 +202,15 @@ struct FormTablo {
     std::array<MenuGirdisi, kKomutSayisi> komutlar;
     /// The buttons of the tool bar and the lines behind them, by their places.
     BirTabanli<MenuGirdisi, kAracSayisi> Toolbar1;
-    /// The panels of the status bar: who works, set by the login; date and time.
-    BirTabanli<Metin, 3> StatusBar1;
-    int TutarDegistir = 0; ///< 1: the user may change amounts
-    int Check1 = 0;        ///< "Hatirlatma": 0 until the first Activate
-    int Dklabel = 0;       ///< ticks of `Saatsay`
-    Metin UserNamem;       ///< the active user
-    Etiket Picture1;       ///< warning panel
-    Etiket UyariBaslik;    ///< its title
-    ListeGorunumu Liste;   ///< its list
+    Metin StatusBar1;                     ///< panel 1 of the status bar, set by the login
+    std::array<Metin, 2> StatusBar1Saati; ///< the panels behind it: date and time
+    int TutarDegistir = 0;                ///< 1: the user may change amounts
+    int Check1 = 0;                       ///< "Hatirlatma": 0 until the first Activate
+    int Dklabel = 0;                      ///< ticks of `Saatsay`
+    Metin UserNamem;                      ///< the active user
+    Etiket Picture1;                      ///< warning panel
+    Etiket UyariBaslik;                   ///< its title
+    ListeGorunumu Liste;                  ///< its list
     Dugme Command8{u"Detaylar", {}, false};
     Dugme Command2{u"Kapat", {}};
     bool Image3 = false; ///< the bell: a personal reminder falls on today

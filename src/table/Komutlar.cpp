@@ -40,7 +40,7 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormBakiye>,
      u"F3",
      {3, u"Rapor", u"Rezervasyon Raporu (F3)", u"rapor"}},
-    {Komut::linooomm, u"linooomm", Menu::Raporsss, u"-"},
+    {Komut::aline1, u"aline1", Menu::Raporsss, u"-"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},

@@ -17,7 +17,7 @@ enum class Komut {
     aline13,
     Cikissssss,
     BakiyeRaporss,
-    linooomm,
+    aline1,
     iptalsebepss,
     Salontanimss,
     aline4,

@@ -309,10 +309,10 @@ class TabloPenceresiTest : public QObject {
     void the_panels_of_the_status_bar_follow_the_login_and_the_clock() {
         GuiFirma firma;
         firma.Ac();
-        auto& kullanici = firma.Bul<QLabel>("Kullanici");
+        auto& kullanici = firma.Bul<QLabel>("StatusBar1");
         QCOMPARE(kullanici.text(), QString());
         const int en = firma.Pencere().minimumSizeHint().width();
-        firma.Model().StatusBar1[1] = u"Velora - Aktif Kullanıcı : " + Metin(300, u'ş');
+        firma.Model().StatusBar1 = u"Velora - Aktif Kullanıcı : " + Metin(300, u'ş');
         using namespace std::chrono_literals;
         firma.simdi += 14h;
         QTRY_COMPARE_WITH_TIMEOUT(firma.Bul<QLabel>("Tarih").text(), QStringLiteral("22.05.2026"), 3000);

@@ -30,7 +30,7 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::Cikissssss, Menu::Kayitss, u"Cikissssss", u"Programdan Çıkış", u""},
     {Komut::BakiyeRaporss, Menu::Raporsss, u"BakiyeRaporss", u"Rezervasyon Raporu", u"F3", 3, u"Rapor",
      u"Rezervasyon Raporu (F3)"},
-    {Komut::linooomm, Menu::Raporsss, u"linooomm", u"-", u""},
+    {Komut::aline1, Menu::Raporsss, u"aline1", u"-", u""},
     {Komut::iptalsebepss, Menu::Raporsss, u"iptalsebepss", u"İptal Sebepleri", u""},
     {Komut::Salontanimss, Menu::ayarsd, u"Salontanimss", u"Salon Tanımları", u""},
     {Komut::aline4, Menu::ayarsd, u"aline4", u"-", u""},
@@ -219,11 +219,11 @@ TEST_F(KomutTablosu, The_status_bar_tells_date_and_time_and_leaves_its_first_pan
     kullanici.ProgramiAc();
     using namespace std::chrono_literals;
     kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2013} / 3 / 9) + 7h + 5min + 59s;
-    kullanici.Tablo().StatusBar1[1] = u"Velora - Aktif Kullanıcı : ayşe";
+    kullanici.Tablo().StatusBar1 = u"Velora - Aktif Kullanıcı : ayşe";
     kullanici.Tablo().SaatiYaz();
-    EXPECT_EQ(kullanici.Tablo().StatusBar1[1], u"Velora - Aktif Kullanıcı : ayşe");
-    EXPECT_EQ(kullanici.Tablo().StatusBar1[2], u"09.03.2013");
-    EXPECT_EQ(kullanici.Tablo().StatusBar1[3], u"07:05");
+    EXPECT_EQ(kullanici.Tablo().StatusBar1, u"Velora - Aktif Kullanıcı : ayşe");
+    EXPECT_EQ(kullanici.Tablo().StatusBar1Saati[0], u"09.03.2013");
+    EXPECT_EQ(kullanici.Tablo().StatusBar1Saati[1], u"07:05");
 }
 
 } // namespace velora::test

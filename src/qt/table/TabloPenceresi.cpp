@@ -124,21 +124,20 @@ void TabloPenceresi::AracSeridiKur() {
 
 void TabloPenceresi::DurumSeridiKur(FormTablo& tablo) {
     statusBar()->setSizeGripEnabled(false);
-    constexpr std::array kPaneller{"Kullanici", "Tarih", "Saat"};
-    for (int no = 1; no <= tablo.StatusBar1.kAdet; ++no) {
+    const auto panelYap = [this](const char* ad, const Metin& yazi) {
         auto* panel = new QLabel;
-        panel->setObjectName(QString::fromLatin1(kPaneller[static_cast<std::size_t>(no - 1)]));
+        panel->setObjectName(QString::fromLatin1(ad));
         panel->setTextFormat(Qt::PlainText);
         panel->setContentsMargins(kAralik, 0, kAralik, 0);
-        if (no == 1)
-            statusBar()->addWidget(panel, 1);
-        else
-            statusBar()->addPermanentWidget(panel);
-        baglayici_->Izle([panel, &tablo, no] { panel->setText(QMetin(tablo.StatusBar1[no])); });
-    }
+        baglayici_->Izle([panel, &yazi] { panel->setText(QMetin(yazi)); });
+        return panel;
+    };
+    QLabel* kullanici = panelYap("StatusBar1", tablo.StatusBar1);
     // A long name takes no room from the table.
-    auto* kullanici = statusBar()->findChild<QLabel*>(QString::fromLatin1(kPaneller[0]));
     kullanici->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(kullanici, 1);
+    statusBar()->addPermanentWidget(panelYap("Tarih", tablo.StatusBar1Saati[0]));
+    statusBar()->addPermanentWidget(panelYap("Saat", tablo.StatusBar1Saati[1]));
     BosYeriIzle(*statusBar());
     auto* saat = new QTimer(this);
     connect(saat, &QTimer::timeout, this, [this] { Koru([this] { SaatiGoster(); }); });
@@ -148,10 +147,10 @@ void TabloPenceresi::DurumSeridiKur(FormTablo& tablo) {
 
 void TabloPenceresi::SaatiGoster() {
     const auto tablo = program_.FormTablo.Tut();
-    const auto once = tablo->StatusBar1;
+    const auto once = tablo->StatusBar1Saati;
     tablo->SaatiYaz();
     // A minute is over. The panels follow whatever is refreshed meanwhile anyway.
-    if (tablo->StatusBar1 != once)
+    if (tablo->StatusBar1Saati != once)
         Baglayici::HepsiniTazele();
 }
 
