@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include <QAction>
 #include <QApplication>
 #include <QFrame>
 #include <QIcon>
@@ -232,6 +233,10 @@ void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk) {
     QPalette palet = parca.palette();
     palet.setColor(rol, renk);
     parca.setPalette(palet);
+}
+
+void SimgeVer(QAction& girdi, const QString& ad, const QColor& renk) {
+    girdi.setIcon(HerBoyda([&](int boy) { return SimgeCiz(ad, renk, boy); }));
 }
 
 } // namespace velora

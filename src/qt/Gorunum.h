@@ -2,6 +2,8 @@
 
 #include <QPalette>
 
+class QAction;
+class QString;
 class QWidget;
 
 namespace velora {
@@ -17,5 +19,8 @@ double Karsitlik(const QColor& bir, const QColor& iki);
 
 /// Gives a widget a colour of its own; nothing happens when it has it.
 void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk);
+
+/// Gives an entry a line icon of the program in one colour, drawn for each size in which it may be shown.
+void SimgeVer(QAction& girdi, const QString& ad, const QColor& renk);
 
 } // namespace velora

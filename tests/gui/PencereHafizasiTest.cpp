@@ -27,6 +27,7 @@ class PencereHafizasiTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(&firma.Pencere()));
         QCoreApplication::processEvents();
         is(firma);
+        firma.hazirCevap = Cevap::Evet; // to the question whether it may end
         firma.Pencere().close();
         // The end of the program ends every loop until the next one of the program's own.
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);

@@ -12,7 +12,7 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/ErisimTuslari.h"
-#include "qt/Simgeler.h"
+#include "qt/Gorunum.h"
 #include "qt/Yerlesimler.h"
 #include "screen/Program.h"
 #include "table/FormTablo.h"
@@ -20,8 +20,6 @@
 namespace velora {
 
 namespace {
-
-constexpr int kAracBoyu = 20;
 
 /// An entry, or the line that stands for it. A handler may unload the screen it was called on.
 QAction* GirdiYap(QObject& ust, const QString& ad, MenuGirdisi& model, bool cizgi, Baglayici& baglayici,
@@ -31,14 +29,6 @@ QAction* GirdiYap(QObject& ust, const QString& ad, MenuGirdisi& model, bool cizg
     girdi->setSeparator(cizgi);
     baglayici.Bagla(*girdi, model, isle);
     return girdi;
-}
-
-/// Drawn for every scale that a screen of today has.
-QIcon AracResmi(const QString& ad, const QToolBar& serit) {
-    QIcon resimler;
-    for (const int kat : {1, 2, 3})
-        resimler.addPixmap(SimgeCiz(ad, serit.palette().color(QPalette::ButtonText), kat * kAracBoyu));
-    return resimler;
 }
 
 /// Keeps from a menu what the mouse does before its first press on it.
@@ -113,7 +103,7 @@ void AraclariKur(QToolBar& serit, Program& program, Baglayici& baglayici,
         QAction* girdi = GirdiYap(serit, ad(yer), model, false, baglayici,
                                   [&program, &model] { program.FormTablo->AracaTikla(model.baslik); });
         girdi->setToolTip(QIpucu(arac->ipucu));
-        girdi->setIcon(AracResmi(QMetin(arac->simge), serit));
+        SimgeVer(*girdi, QMetin(arac->simge), serit.palette().color(QPalette::ButtonText));
         serit.addAction(girdi);
         auto& dugme = dynamic_cast<QToolButton&>(*serit.widgetForAction(girdi));
         dugme.setFocusPolicy(Qt::TabFocus);

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include <QPixmap>
 #include <QToolButton>
 
 namespace velora {
@@ -21,7 +22,7 @@ class ZilDugmesi : public QToolButton {
     void Goster(bool var, bool sakin);
 
     std::function<void()> tabloyaDon_;
-    QIcon resimler_[2]; // quiet, ringing
+    QPixmap resimler_[2]; // quiet, ringing
     double olcek_ = 0;  // that they were drawn for
     int gorulen_ = -1;  // the one that stands on it
 };
