@@ -160,8 +160,8 @@ class Dagitim {
     Tuslar denenen_;                  // keys that the caption at hand can't get from their owners
 };
 
-/// The captions of one page and one order that have no mark yet get one; no page: those that are seen with
-/// every page.
+/// The captions of one page, of one order and those before, that have no mark yet get one; no page: those
+/// that are seen with every page.
 void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa, Oncelik oncelik) {
     std::vector<Baslik*> isaretsizler;
     Tuslar dolu;
@@ -169,9 +169,10 @@ void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa, Oncelik on
         const bool birlikte = sayfa == nullptr || baslik.sayfa == nullptr || baslik.sayfa == sayfa;
         if (const QChar tus = VarolanTus(baslik.metin); !tus.isNull() && birlikte)
             dolu.insert(tus);
-        if (baslik.sayfa == sayfa && baslik.oncelik == oncelik && !baslik.metin.contains(u'&'))
+        if (baslik.sayfa == sayfa && baslik.oncelik <= oncelik && !baslik.metin.contains(u'&'))
             isaretsizler.push_back(&baslik);
     }
+    std::ranges::stable_sort(isaretsizler, {}, &Baslik::oncelik);
     if (!isaretsizler.empty())
         Dagitim(std::move(isaretsizler), dolu).Koy();
 }
@@ -184,7 +185,7 @@ void ErisimTuslariVer(QWidget& pencere, const QAbstractButton* iptal) {
     for (const Baslik& baslik : basliklar)
         sayfalar.insert(baslik.sayfa);
     for (const QWidget* sayfa : sayfalar)
-        for (const auto oncelik : {Oncelik::Varsayilan, Oncelik::Digerleri, Oncelik::Iptal})
+        for (const auto oncelik : {Oncelik::Varsayilan, Oncelik::Iptal})
             SayfayaVer(basliklar, sayfa, oncelik);
 }
 
