@@ -2,6 +2,8 @@
 
 #include "qt/QtOrtam.h"
 #include "qt/accounts/BakiyePenceresi.h"
+#include "qt/online/FirmaPenceresi.h"
+#include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "qt/reservation/OdemeAlPenceresi.h"
@@ -35,6 +37,8 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
     Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
+    Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
+    Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }
 
 } // namespace velora

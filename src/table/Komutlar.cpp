@@ -2,6 +2,8 @@
 #include "table/Komutlar.h"
 
 #include "accounts/FormBakiye.h"
+#include "online/FormFirma.h"
+#include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
@@ -26,8 +28,13 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::BakiyeRaporss, u"BakiyeRaporss", Menu::Raporsss, u"Rezervasyon Raporu",
      &T::EkranAc<&P::FormBakiye>, u"F3"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
+    {Komut::FirmaBilgiss, u"FirmaBilgiss", Menu::ayarsd, u"Firma Bilgileri", &T::EkranAc<&P::FormFirma>},
+    {Komut::firmcizgi, u"firmcizgi", Menu::ayarsd, u"-"},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::aline8, u"aline8", Menu::ayarsd, u"-"},
+    {Komut::Websssunucus, u"Websssunucus", Menu::ayarsd, u"Web Sunucu Ayarları", &T::EkranAc<&P::FormSunucu>},
+    {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
     {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::EkranAc<&P::FormAyarlar>,
      u"F7"},
     {Komut::newkay, u"newkay", Menu::Sagtus, u"Yeni Organizasyon Oluştur", &T::newkay_Click},
