@@ -28,14 +28,17 @@ FirmaPenceresi::FirmaPenceresi(Program& program) : EkranPenceresi(program.FormFi
     FormFirma& firma = Model();
     SatirEkle<QLineEdit>(*form, QStringLiteral("t1"), firma.t1)->setMinimumWidth(kFirmaAlaniEni);
     SatirEkle<QLineEdit>(*form, QStringLiteral("t2"), firma.t2);
-    SatirEkle<QComboBox>(*form, QStringLiteral("t13"), firma.t13);
+    auto* salonSayisi = SatirEkle<QComboBox>(*form, QStringLiteral("t13"), firma.t13);
     const std::array alanlar{std::pair{"t3", &firma.t3}, std::pair{"t4", &firma.t4},
                              std::pair{"t5", &firma.t5}, std::pair{"t6", &firma.t6},
                              std::pair{"t7", &firma.t7}};
     for (const auto& [ad, model] : alanlar)
         SatirEkle<QLineEdit>(*form, QString::fromLatin1(ad), *model);
-    SatirEkle<QComboBox>(*form, QStringLiteral("t8"), firma.t8);
-    SatirEkle<QComboBox>(*form, QStringLiteral("t9"), firma.t9);
+    auto* il = SatirEkle<QComboBox>(*form, QStringLiteral("t8"), firma.t8);
+    auto* ilce = SatirEkle<QComboBox>(*form, QStringLiteral("t9"), firma.t9);
+    // As wide as the fields, whatever they offer.
+    for (QComboBox* liste : {salonSayisi, il, ilce})
+        liste->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     sutun->addLayout(form);
     auto* tamam = DugmeYap({"Command1", &FormFirma::Command1, &FormFirma::Command1_Click});
     auto* kaydet = DugmeYap({"Command3", &FormFirma::Command3, &FormFirma::Command3_Click});
