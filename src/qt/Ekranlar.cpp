@@ -2,6 +2,8 @@
 
 #include "qt/QtOrtam.h"
 #include "qt/accounts/BakiyePenceresi.h"
+#include "qt/online/FirmaPenceresi.h"
+#include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
 #include "qt/reservation/HatirlatmaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
@@ -39,6 +41,8 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
     Tanit<HatirlatmaPenceresi>(ortam, program, EkranAdi::FormOzelHatirlatma);
     Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
+    Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
+    Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }
 
 } // namespace velora

@@ -20,7 +20,6 @@ struct Program {
     Dosyalar dosyalar;
     VeriAgaci agac;
     EkranYigini yigin;
-    Metin yardimSayfasi; ///< address of the help page; empty: the guide beside the program is the help
 
     // Each screen by its own name.
 #define VELORA_TUT(ad, tur) Pencere<velora::ad> ad{*this, EkranAdi::ad};

@@ -8,9 +8,10 @@ namespace velora {
 namespace {
 
 /// What goes out with the program. What only builds and tests it isn't here.
-constexpr std::array<std::array<MetinBakis, 3>, 3> kKutuphaneler{{
+constexpr std::array<std::array<MetinBakis, 3>, 4> kKutuphaneler{{
     {u"Qt 6 Widgets", u"Pencereler, yazdırma, erişilebilirlik", u"LGPL 3.0"},
     {u"Qt 6 Svg", u"Simgeler", u"LGPL 3.0"},
+    {u"libcurl", u"Ağ", u"curl (MIT benzeri)"},
     {u"C++ standart kitaplığı", u"Dosyalar, metinler, tarihler", u"GPL 3.0 + çalışma zamanı istisnası"},
 }};
 

@@ -2,6 +2,9 @@
 #include "table/Komutlar.h"
 
 #include "accounts/FormBakiye.h"
+#include "online/Adresler.h"
+#include "online/FormFirma.h"
+#include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
@@ -42,9 +45,13 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      {3, u"Rapor", u"Rezervasyon Raporu (F3)", u"rapor"}},
     {Komut::aline1, u"aline1", Menu::Raporsss, u"-"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
+    {Komut::FirmaBilgiss, u"FirmaBilgiss", Menu::ayarsd, u"Firma Bilgileri", &T::EkranAc<&P::FormFirma>},
+    {Komut::firmcizgi, u"firmcizgi", Menu::ayarsd, u"-"},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::aline8, u"aline8", Menu::ayarsd, u"-"},
+    {Komut::Websssunucus, u"Websssunucus", Menu::ayarsd, u"Web Sunucu Ayarları", &T::EkranAc<&P::FormSunucu>},
     {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
     {Komut::Progrset,
      u"Progrset",
@@ -98,7 +105,7 @@ void FormTablo::Cikissssss_Click() {
 }
 
 void FormTablo::Yardimssa_Click() {
-    const Metin& sayfa = program_.yardimSayfasi;
+    const Metin sayfa = AdresleriOku(program_).yardim;
     if (!sayfa.empty() && program_.ortam.kabuk.adresAc(sayfa))
         return;
     const Metin kilavuz = program_.agac.KokYolu(kKilavuzDosyasi);

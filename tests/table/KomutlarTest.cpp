@@ -32,9 +32,13 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
      u"Rezervasyon Raporu (F3)"},
     {Komut::aline1, Menu::Raporsss, u"aline1", u"-", u""},
     {Komut::iptalsebepss, Menu::Raporsss, u"iptalsebepss", u"İptal Sebepleri", u""},
+    {Komut::FirmaBilgiss, Menu::ayarsd, u"FirmaBilgiss", u"Firma Bilgileri", u""},
+    {Komut::firmcizgi, Menu::ayarsd, u"firmcizgi", u"-", u""},
     {Komut::Salontanimss, Menu::ayarsd, u"Salontanimss", u"Salon Tanımları", u""},
     {Komut::aline4, Menu::ayarsd, u"aline4", u"-", u""},
     {Komut::MenuAyars, Menu::ayarsd, u"MenuAyars", u"Menü Tanımları", u""},
+    {Komut::aline8, Menu::ayarsd, u"aline8", u"-", u""},
+    {Komut::Websssunucus, Menu::ayarsd, u"Websssunucus", u"Web Sunucu Ayarları", u""},
     {Komut::aline9, Menu::ayarsd, u"aline9", u"-", u""},
     {Komut::Progrset, Menu::ayarsd, u"Progrset", u"Genel Program Ayarları", u"F7", 13, u" Ayarlar ",
      u"Program Ayarları (F7)"},
@@ -156,6 +160,7 @@ class Yardim : public TabloTest {
   protected:
     static constexpr MetinBakis kSayfa = u"https://yardim.example/velora";
 
+    void SayfayiVer() { agac.KoyMetin(u"Adresler.dat", u"\"s\",\"t\",\"" + Metin(kSayfa) + u"\",\"r\"\r\n"); }
     void KutuBekle() {
         kullanici.ortam.Bekle(BeklenenKutu{u"Velora",
                                            u"Yardım sayfası açılamadı.\n"
@@ -166,7 +171,7 @@ class Yardim : public TabloTest {
 TEST_F(Yardim, Opens_the_page_where_one_is_given_and_then_not_the_guide) {
     agac.KoyMetin(u"Kilavuz.html", u"<p>Kılavuz</p>");
     kullanici.ProgramiAc();
-    kullanici.Prog().yardimSayfasi = kSayfa;
+    SayfayiVer();
     kullanici.KomutSec(Komut::Yardimssa);
     EXPECT_EQ(kullanici.ortam.acilanAdresler, std::vector<Metin>{Metin(kSayfa)});
     EXPECT_TRUE(kullanici.ortam.acilanDosyalar.empty());
@@ -177,7 +182,7 @@ TEST_F(Yardim, Without_a_page_or_without_a_browser_opens_the_guide_beside_the_pr
     kullanici.ProgramiAc();
     kullanici.KomutSec(Komut::Yardimssa);
     EXPECT_TRUE(kullanici.ortam.acilanAdresler.empty());
-    kullanici.Prog().yardimSayfasi = kSayfa;
+    SayfayiVer();
     kullanici.ortam.adresAcilir = false;
     kullanici.KomutSec(Komut::Yardimssa);
     const std::filesystem::path kilavuz = agac.Yol(u"Kilavuz.html");
