@@ -94,7 +94,6 @@ void Sinirla(CURL* kol, std::chrono::milliseconds sure) {
     // A name that is still being looked up would be waited for at the end, for as long as that takes.
     curl_easy_setopt(kol, CURLOPT_QUICK_EXIT, 1L);
     // On a connection that is used again curl may send a request twice, and not every one may come twice.
-    curl_easy_setopt(kol, CURLOPT_FRESH_CONNECT, 1L);
     curl_easy_setopt(kol, CURLOPT_FORBID_REUSE, 1L);
     curl_easy_setopt(kol, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(kEnUzunCevap));
 }

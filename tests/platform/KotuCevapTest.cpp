@@ -99,6 +99,14 @@ TEST_F(KotuCevapTest, One_that_never_ends) {
     sunucu.BitenleriBekle(5);
 }
 
+TEST_F(KotuCevapTest, One_with_more_than_256_KiB_of_header_lines) {
+    std::string baslik = "HTTP/1.1 200 OK\r\n";
+    while (baslik.size() < (std::size_t{257} << 10U))
+        baslik += "X: " + std::string(95, 'y') + "\r\n";
+    Sunucu sunucu({HamYolla(baslik + "Content-Length: 4\r\n\r\nOKEY")});
+    EXPECT_EQ(Getir(sunucu.Adres(u"/")), u"");
+}
+
 TEST_F(KotuCevapTest, Address_that_is_none_sends_nothing) {
     Sunucu sunucu({Cevapla("OKEY")});
     const Metin sunucuda = sunucu.Adres(u"").substr(7); // without its scheme

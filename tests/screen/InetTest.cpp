@@ -56,6 +56,15 @@ TEST_F(InetTest, Cancelling_within_a_request_ends_it_and_frees_the_control_at_on
     EXPECT_EQ(inet->Getir(u"http://3/"), u"üç") << "with nothing open a cancel is nothing";
 }
 
+TEST_F(InetTest, A_reply_that_comes_for_a_request_that_was_given_up_is_none) {
+    program.ortam.ag.getir = [&](const AgIstegi& istek) {
+        inet->Iptal();
+        EXPECT_TRUE(istek.vazgecildi());
+        return Metin(u"bir");
+    };
+    EXPECT_EQ(inet->Getir(u"http://1/"), u"");
+}
+
 TEST_F(InetTest, Its_screen_may_go_within_a_request) {
     ortam.Bekle(BeklenenIstek{.adres = u"http://1/", .cevap = u"bir", .is = [&] { inet.reset(); }});
     EXPECT_EQ(inet->Getir(u"http://1/"), u"");
