@@ -2,6 +2,7 @@
 
 #include "screen/Bayrak.h"
 #include "screen/Ortam.h"
+#include "screen/Oturum.h"
 #include "screen/Pencere.h"
 #include "storage/Tarih.h"
 #include "storage/VeriAgaci.h"
@@ -20,6 +21,7 @@ struct Program {
     Dosyalar dosyalar;
     VeriAgaci agac;
     EkranYigini yigin;
+    Oturum oturum;
 
     // Each screen by its own name.
 #define VELORA_TUT(ad, tur) Pencere<velora::ad> ad{*this, EkranAdi::ad};

@@ -25,9 +25,12 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::Arasss, u"Arasss", Menu::Kayitss, u"Kayıt Ara", &T::EkranAc<&P::FormArama>, u"F2"},
     {Komut::BakiyeRaporss, u"BakiyeRaporss", Menu::Raporsss, u"Rezervasyon Raporu",
      &T::EkranAc<&P::FormBakiye>, u"F3"},
+    {Komut::aline1, u"aline1", Menu::Raporsss, u"-"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
+    {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
     {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::EkranAc<&P::FormAyarlar>,
      u"F7"},
     {Komut::newkay, u"newkay", Menu::Sagtus, u"Yeni Organizasyon Oluştur", &T::newkay_Click},
@@ -49,6 +52,15 @@ static_assert(SirasiDogru());
 
 std::span<const KomutTanimi, kKomutSayisi> Komutlar() {
     return kKomutlar;
+}
+
+void FormTablo::KapalilariGizle() {
+    const Oturum& oturum = program_.oturum;
+    for (const KomutTanimi& komut : kKomutlar)
+        if (oturum.kapaliGirdiler.contains(Metin(komut.ad)))
+            Girdi(komut.komut).gorunur = false;
+    for (const int yer : oturum.kapaliAraclar)
+        Toolbar1[yer].gorunur = false;
 }
 
 void FormTablo::AracaTikla(const KomutTanimi& komut) {

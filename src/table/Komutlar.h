@@ -15,9 +15,12 @@ struct FormTablo;
 enum class Komut {
     Arasss,
     BakiyeRaporss,
+    aline1,
     iptalsebepss,
     Salontanimss,
+    aline4,
     MenuAyars,
+    aline9,
     Progrset,
     newkay,
     aline11,

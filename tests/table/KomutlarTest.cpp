@@ -21,9 +21,12 @@ struct BeklenenKomut {
 constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::Arasss, Menu::Kayitss, u"Arasss", u"Kayıt Ara", u"F2"},
     {Komut::BakiyeRaporss, Menu::Raporsss, u"BakiyeRaporss", u"Rezervasyon Raporu", u"F3"},
+    {Komut::aline1, Menu::Raporsss, u"aline1", u"-", u""},
     {Komut::iptalsebepss, Menu::Raporsss, u"iptalsebepss", u"İptal Sebepleri", u""},
     {Komut::Salontanimss, Menu::ayarsd, u"Salontanimss", u"Salon Tanımları", u""},
+    {Komut::aline4, Menu::ayarsd, u"aline4", u"-", u""},
     {Komut::MenuAyars, Menu::ayarsd, u"MenuAyars", u"Menü Tanımları", u""},
+    {Komut::aline9, Menu::ayarsd, u"aline9", u"-", u""},
     {Komut::Progrset, Menu::ayarsd, u"Progrset", u"Genel Program Ayarları", u"F7"},
     {Komut::newkay, Menu::Sagtus, u"newkay", u"Yeni Organizasyon Oluştur", u""},
     {Komut::aline11, Menu::Sagtus, u"aline11", u"-", u""},
