@@ -160,18 +160,20 @@ class Dagitim {
     Tuslar denenen_;                  // keys that the caption at hand can't get from their owners
 };
 
-/// The captions of one page and one order that have no mark yet get one; no page: those that are seen with
-/// every page.
-void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa, Oncelik oncelik) {
+/// The captions of one page that have no mark yet get one, first the default button's, then the others'; no
+/// page: those that are seen with every page. What cancels chooses last, but doesn't go without.
+void SayfayaVer(std::vector<Baslik>& basliklar, const QWidget* sayfa, bool varsayilanlar) {
     std::vector<Baslik*> isaretsizler;
     Tuslar dolu;
     for (Baslik& baslik : basliklar) {
         const bool birlikte = sayfa == nullptr || baslik.sayfa == nullptr || baslik.sayfa == sayfa;
         if (const QChar tus = VarolanTus(baslik.metin); !tus.isNull() && birlikte)
             dolu.insert(tus);
-        if (baslik.sayfa == sayfa && baslik.oncelik == oncelik && !baslik.metin.contains(u'&'))
+        if (baslik.sayfa == sayfa && (baslik.oncelik == Oncelik::Varsayilan) == varsayilanlar &&
+            !baslik.metin.contains(u'&'))
             isaretsizler.push_back(&baslik);
     }
+    std::ranges::stable_sort(isaretsizler, {}, &Baslik::oncelik);
     if (!isaretsizler.empty())
         Dagitim(std::move(isaretsizler), dolu).Koy();
 }
@@ -184,8 +186,8 @@ void ErisimTuslariVer(QWidget& pencere, const QAbstractButton* iptal) {
     for (const Baslik& baslik : basliklar)
         sayfalar.insert(baslik.sayfa);
     for (const QWidget* sayfa : sayfalar)
-        for (const auto oncelik : {Oncelik::Varsayilan, Oncelik::Digerleri, Oncelik::Iptal})
-            SayfayaVer(basliklar, sayfa, oncelik);
+        for (const bool varsayilanlar : {true, false})
+            SayfayaVer(basliklar, sayfa, varsayilanlar);
 }
 
 void ErisimTuslariVer(QMenu& menu) {
@@ -194,7 +196,7 @@ void ErisimTuslariVer(QMenu& menu) {
         if (!girdi->isSeparator())
             girdiler.push_back(
                 {girdi->text(), [girdi](const QString& metin) { girdi->setText(metin); }, nullptr});
-    SayfayaVer(girdiler, nullptr, Oncelik::Digerleri);
+    SayfayaVer(girdiler, nullptr, false);
 }
 
 QString TusIsaretli(MetinBakis baslik, QChar tus) {
