@@ -33,10 +33,14 @@ std::span<const Yetki, kYetkiSayisi> Yetkiler() {
     return kYetkiler;
 }
 
+double YetkiDegeri(const ListeSatiri& kullanici, int no) {
+    return SayisalDeger(Kirp(kullanici.sutun.at(KullaniciNo::IlkYetki + static_cast<std::size_t>(no - 1))));
+}
+
 void YetkileriUygula(Oturum& oturum, const ListeSatiri& kullanici) {
-    std::size_t sutun = KullaniciNo::IlkYetki;
+    int no = 0;
     for (const Yetki& yetki : kYetkiler) {
-        const bool var = SayisalDeger(Kirp(kullanici.sutun.at(sutun++))) != 0;
+        const bool var = YetkiDegeri(kullanici, ++no) != 0;
         if (yetki.tutar)
             oturum.TutarDegistir = var ? 1 : 0;
         if (!var)

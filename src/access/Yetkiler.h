@@ -21,8 +21,11 @@ struct Yetki {
 /// The rights in the order of their numbers, 1 to 11.
 std::span<const Yetki, kYetkiSayisi> Yetkiler();
 
+/// The number at the beginning of a user's right, 0 where there is none. `no` is the right's number.
+double YetkiDegeri(const ListeSatiri& kullanici, int no);
+
 /// Closes to the session what this user has no right to. Right 9 is set either way. A right is missing when
-/// the number at the beginning of its value is 0: letters are 0, "2" isn't.
+/// its value is 0: letters are 0, "2" isn't.
 void YetkileriUygula(Oturum& oturum, const ListeSatiri& kullanici);
 
 /// What only `admin` has.

@@ -1,6 +1,8 @@
 #include "qt/Ekranlar.h"
 
 #include "qt/QtOrtam.h"
+#include "qt/access/GirisPencereleri.h"
+#include "qt/access/KullaniciPencereleri.h"
 #include "qt/accounts/BakiyePenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
@@ -24,6 +26,10 @@ void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
 } // namespace
 
 void EkranlariTanit(QtOrtam& ortam, Program& program) {
+    Tanit<SifrePenceresi>(ortam, program, EkranAdi::FormSifre);
+    Tanit<SifreDegistirPenceresi>(ortam, program, EkranAdi::FormSifreDegistir);
+    Tanit<KullanicilarPenceresi>(ortam, program, EkranAdi::FormKullanicilar);
+    Tanit<KullaniciEklePenceresi>(ortam, program, EkranAdi::FormKullaniciEkle);
     Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
     Tanit<AyarlarPenceresi>(ortam, program, EkranAdi::FormAyarlar);
     Tanit<RenkPenceresi>(ortam, program, EkranAdi::FormRenk);

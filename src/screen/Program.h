@@ -28,6 +28,8 @@ struct Program {
     VELORA_EKRANLAR(VELORA_TUT)
 #undef VELORA_TUT
 
+    /// For a screen that has closed and shown no other: ends the program when none stands any more.
+    void EkranKalmadiysaBitir() const;
     /// Today, by the clock of the outside world.
     Gun Bugun() const;
     /// Lets pending events run.

@@ -1,6 +1,8 @@
 // The table of the commands.
 #include "table/Komutlar.h"
 
+#include "access/FormKullanicilar.h"
+#include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
@@ -30,6 +32,11 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::aline8, u"aline8", Menu::ayarsd, u"-"},
+    {Komut::KulTanimssss, u"KulTanimssss", Menu::ayarsd, u"Kullanıcı ve Yetki Tanımları",
+     &T::EkranAc<&P::FormKullanicilar>},
+    {Komut::Guvenliksss, u"Guvenliksss", Menu::ayarsd, u"Güvenlik Ayarları",
+     &T::EkranAc<&P::FormSifreDegistir>},
     {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
     {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::EkranAc<&P::FormAyarlar>,
      u"F7"},

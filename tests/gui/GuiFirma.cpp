@@ -41,6 +41,7 @@ Ortam GuiFirma::Dis() {
         isle();
         AradaCalis();
     };
+    ortam.olaylar.bitir = [this] { ++bitisler; };
     ortam.sor.mesaj = [this, sor = ortam.sor.mesaj](const MesajKutusu& kutu) {
         if (!hazirCevap)
             return sor(kutu);

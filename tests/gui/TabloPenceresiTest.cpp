@@ -299,7 +299,7 @@ class TabloPenceresiTest : public QObject {
         GuiFirma firma;
         firma.Ac();
         firma.Pencere().close();
-        QVERIFY(firma.disDunya.Bitti());
+        QCOMPARE(firma.bitisler, 1);
     }
 
     void a_program_folder_without_any_file_opens_an_empty_table() {
