@@ -51,6 +51,7 @@ class GirisPencereleriTest : public QObject {
                  QStringLiteral("Programa giriş için kullanıcı adınızı seçip parolanızı giriniz."));
         QCOMPARE(Odaktaki(), QStringLiteral("Text2"));
         QCOMPARE(Parcasi<QComboBox>(giris, "Text1").currentText(), QStringLiteral("admin"));
+        QCOMPARE(Parcasi<QComboBox>(giris, "Text1").width(), Parcasi<QLineEdit>(giris, "Text2").width());
         Yaz(QStringLiteral("g5"));
         Tusla(Qt::Key_Return);
         QVERIFY(!firma.program.FormSifre.Yuklu());

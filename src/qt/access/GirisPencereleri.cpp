@@ -9,6 +9,7 @@
 #include "access/FormSifre.h"
 #include "access/FormSifreDegistir.h"
 #include "qt/Baglayici.h"
+#include "qt/Gorunum.h"
 #include "qt/Yerlesimler.h"
 #include "screen/Program.h"
 
@@ -25,9 +26,12 @@ SifrePenceresi::SifrePenceresi(Program& program) : EkranPenceresi(program.FormSi
     sutun->addWidget(BaslikYap(QStringLiteral("Label8"), Model().Label8));
     sutun->addWidget(YaziYap(QStringLiteral("Label1"), Model().Label1));
     QFormLayout* form = FormKur();
-    SatirEkle<QComboBox>(*form, QStringLiteral("Text1"), Model().Text1)->setMinimumWidth(kGirisAlaniEni);
+    auto* ad = SatirEkle<QComboBox>(*form, QStringLiteral("Text1"), Model().Text1);
+    ad->setMinimumWidth(kGirisAlaniEni);
+    ad->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); // as wide as the password
     SatirEkle<QLineEdit>(*form, QStringLiteral("Text2"), Model().Text2);
     sutun->addLayout(form);
+    sutun->addSpacing(kAralik);
     sutun->addLayout(TamamIptal({"Command1", &FormSifre::Command1, &FormSifre::Command1_Click},
                                 {"Command2", &FormSifre::Command2, &FormSifre::Command2_Click}));
     sutun->setSizeConstraint(QLayout::SetFixedSize);
@@ -43,6 +47,7 @@ SifreDegistirPenceresi::SifreDegistirPenceresi(Program& program)
     SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1)->setMinimumWidth(kGirisAlaniEni);
     SatirEkle<QLineEdit>(*form, QStringLiteral("Text2"), Model().Text2);
     sutun->addLayout(form);
+    sutun->addSpacing(kAralik);
     sutun->addLayout(
         TamamIptal({"Command1", &FormSifreDegistir::Command1, &FormSifreDegistir::Command1_Click},
                    {"Command2", &FormSifreDegistir::Command2, &FormSifreDegistir::Command2_Click}));
