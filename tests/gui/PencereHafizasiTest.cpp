@@ -98,7 +98,7 @@ class PencereHafizasiTest : public QObject {
         QTest::newRow("bytes") << QByteArray("\xFF\0\x01[[[=\n%zz\"", 12);
         QTest::newRow("numbers") << QByteArray("[FormTablo]\nyer=@Rect(9 9 -5 0)\nbuyuk=@Invalid()\n"
                                                "[FormArama]\nyer=@Rect(0 0 2000000000 2000000000)\n"
-                                               "sutunlar-Liste=-7, x, 999999999, 1, 2, 3\n");
+                                               "sutunlar-Liste=-7, 90000, x, 1, 999999999, 3\n");
         QTest::newRow("kinds") << QByteArray(
             "[FormTablo]\nyer=7\n[FormArama]\nyer=a\nsutunlar-Liste=@Rect(1)\n");
     }

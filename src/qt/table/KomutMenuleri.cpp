@@ -45,10 +45,6 @@ class BasmaSuzgeci : public QObject {
             if (!basildi_ && dynamic_cast<QMouseEvent&>(*olay).buttons() != Qt::NoButton)
                 return true;
             break;
-        case QEvent::MouseButtonRelease:
-            if (!basildi_)
-                return true;
-            break;
         default:
             break;
         }
