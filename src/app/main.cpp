@@ -1,8 +1,10 @@
 #include <filesystem>
+#include <utility>
 
 #include <QApplication>
 
 #include "access/Baslangic.h"
+#include "platform/Ag.h"
 #include "qt/Dil.h"
 #include "qt/Ekranlar.h"
 #include "qt/Gorunum.h"
@@ -24,7 +26,9 @@ static int Calistir(char** argv) {
     velora::QtOrtam disDunya;
     disDunya.HafizaVer(velora::PencereHafizasi(velora::PencereHafizasi::KullaniciDosyasi()));
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());
-    velora::Program program(disDunya.Ver(), programDizini);
+    velora::Ortam ortam = disDunya.Ver();
+    velora::AgiBagla(ortam);
+    velora::Program program(std::move(ortam), programDizini);
     velora::EkranlariTanit(disDunya, program);
     velora::ProgramiHazirla(program);
     program.FormTablo.Goster();

@@ -4,6 +4,8 @@
 #include "qt/access/GirisPencereleri.h"
 #include "qt/access/KullaniciPencereleri.h"
 #include "qt/accounts/BakiyePenceresi.h"
+#include "qt/online/FirmaPenceresi.h"
+#include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
 #include "qt/reservation/OdemeAlPenceresi.h"
@@ -41,6 +43,8 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<OdemeAlPenceresi>(ortam, program, EkranAdi::FormOdemeAl);
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
     Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
+    Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
+    Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }
 
 } // namespace velora

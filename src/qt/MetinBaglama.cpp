@@ -200,16 +200,21 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
     kutu.lineEdit()->setAccessibleName(kutu.accessibleName());
     kutu.setInsertPolicy(QComboBox::NoInsert);
     kutu.setCompleter(nullptr);
-    for (const Metin& oge : model.ogeler)
-        kutu.addItem(QMetin(oge));
     TekeriBagla(kutu);
     TuslariSuz(kutu); // its field gets the keys from it, past all filters of its own
     connect(&kutu, &QComboBox::activated, this, [this, &kutu, &model](int sira) {
         Calistir([&] { model.metin = MetinYap(kutu.itemText(sira)); });
     });
     // The arrow keys go on from the entry that the text is.
-    Izle([&kutu, &model] {
+    Izle([&kutu, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&kutu);
+        if (konan != model.ogeler) {
+            kutu.clear();
+            for (const Metin& oge : model.ogeler)
+                kutu.addItem(QMetin(oge));
+            kutu.setCurrentIndex(-1);
+            konan = model.ogeler;
+        }
         const int sira = kutu.findText(QMetin(model.metin), Qt::MatchExactly | Qt::MatchCaseSensitive);
         if (sira >= 0 && sira != kutu.currentIndex())
             kutu.setCurrentIndex(sira);

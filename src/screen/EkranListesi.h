@@ -23,7 +23,10 @@
     X(FormArama, Pencereli)                                                                                  \
     X(FormBakiye, Pencereli)                                                                                 \
     X(FormPrint, Penceresiz)                                                                                 \
-    X(FormWebteYayinla, Penceresiz)
+    X(FormWebteYayinla, Penceresiz)                                                                          \
+    X(FormIpMac, Penceresiz)                                                                                 \
+    X(FormSunucu, Pencereli)                                                                                 \
+    X(FormFirma, Pencereli)
 
 namespace velora {
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -28,8 +30,19 @@ struct GirdiKutusu {
     Metin baslangic;
 };
 
+/// One request of the network: GET, and nothing but its address.
+struct AgIstegi {
+    Metin adres;  ///< goes out as it stands, without any escaping
+    int sure = 0; ///< seconds that it may take in all
+    /// Asked again and again while it goes on; true gives it up.
+    std::function<bool()> vazgecildi = [] { return false; };
+};
+
+/// The six bytes that a network adapter is known by.
+using DonanimAdresi = std::array<std::uint8_t, 6>;
+
 /// The only door to the outside. A program in a window, a test and a tool differ in what they put in here;
-/// each function must be set before a screen is used.
+/// each function must be set before a screen is used, but for the network's.
 struct Ortam {
     struct Sor {
         /// Shows the box and waits for the answer. Closing a question box is a no.
@@ -69,6 +82,19 @@ struct Ortam {
         /// Gives the keyboard focus to a control of a screen, by its name.
         std::function<void(EkranAdi, MetinBakis kontrol)> ver;
     } odak;
+
+    /// Without one put in here there is no network.
+    struct Ag {
+        /// The body of the reply; empty text on every failure. While it waits it lets pending events run, so
+        /// that screens may come and go meanwhile, and other requests begin and end.
+        std::function<Metin(const AgIstegi&)> getir = [](const AgIstegi&) { return Metin(); };
+        /// Whether the machine has a connection at all, to whatever.
+        std::function<bool()> baglantiVar = [] { return false; };
+        /// The hardware address of the machine, if it has one.
+        std::function<std::optional<DonanimAdresi>()> donanimAdresi = [] {
+            return std::optional<DonanimAdresi>();
+        };
+    } ag;
 };
 
 } // namespace velora

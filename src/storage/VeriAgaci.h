@@ -48,6 +48,9 @@ inline constexpr MetinBakis kTatilDosyasi = u"Tatiller.dll";   ///< holidays
 inline constexpr MetinBakis kKullaniciDosyasi = u"User.dll";   ///< users, passwords, rights
 inline constexpr MetinBakis kSayacDosyasi = u"Count.dat";      ///< the last contract number
 inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt"; ///< log of cancellations
+inline constexpr MetinBakis kAdresDosyasi = u"Adresler.dat";   ///< addresses of the service and the site
+inline constexpr MetinBakis kFirmaDosyasi = u"Firma.dll";      ///< the firm's profile
+inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";    ///< the firm's key at the service
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
 

@@ -1,6 +1,7 @@
 #include "table/FormTablo.h"
 
 #include "access/Splash.h"
+#include "online/FormIpMac.h"
 #include "screen/Program.h"
 #include "screen/Surum.h"
 #include "setup/FormAyarlar.h"
@@ -51,7 +52,7 @@ FormTablo::FormTablo(Program& program)
 }
 
 void FormTablo::Load() {
-    baslik = u"Velora " + Metin(kSurum);
+    baslik = kTabloBasligi;
     SalonlariYukle();
     SeneleriDoldur();
     for (const Metin& salon : Salon.ogeler)
@@ -117,8 +118,10 @@ void FormTablo::Activate() {
     }
     Check1 = 1;
     program_.OlaylariIsle();
-    if (program_.Splash->Check1 == 1)
+    if (program_.Splash->Check1 == 1) {
+        program_.FormIpMac->macal();
         DuyuruKontrol.aralik = kDuyuruAraligi;
+    }
 }
 
 void FormTablo::Command6() {

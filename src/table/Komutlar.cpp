@@ -4,6 +4,8 @@
 #include "access/FormKullanicilar.h"
 #include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
+#include "online/FormFirma.h"
+#include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
@@ -29,6 +31,8 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormBakiye>, u"F3"},
     {Komut::aline1, u"aline1", Menu::Raporsss, u"-"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
+    {Komut::FirmaBilgiss, u"FirmaBilgiss", Menu::ayarsd, u"Firma Bilgileri", &T::EkranAc<&P::FormFirma>},
+    {Komut::firmcizgi, u"firmcizgi", Menu::ayarsd, u"-"},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
@@ -37,6 +41,7 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormKullanicilar>},
     {Komut::Guvenliksss, u"Guvenliksss", Menu::ayarsd, u"Güvenlik Ayarları",
      &T::EkranAc<&P::FormSifreDegistir>},
+    {Komut::Websssunucus, u"Websssunucus", Menu::ayarsd, u"Web Sunucu Ayarları", &T::EkranAc<&P::FormSunucu>},
     {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
     {Komut::Progrset, u"Progrset", Menu::ayarsd, u"Genel Program Ayarları", &T::EkranAc<&P::FormAyarlar>,
      u"F7"},

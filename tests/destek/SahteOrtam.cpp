@@ -29,6 +29,9 @@ std::string Tarif(const BeklenenGirdi& girdi) {
 std::string Tarif(const BeklenenEkran& ekran) {
     return "the screen " + KodYaz(EkranBul(ekran.ad).ad);
 }
+std::string Tarif(const BeklenenIstek& istek) {
+    return "the request " + Tirnakli(istek.adres);
+}
 
 } // namespace
 
@@ -67,6 +70,9 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
+    ortam.ag.getir = [this](const AgIstegi& istek) { return Getir(istek); };
+    ortam.ag.baglantiVar = [this] { return baglanti; };
+    ortam.ag.donanimAdresi = [this] { return donanim; };
     return ortam;
 }
 
@@ -123,11 +129,26 @@ void SahteOrtam::ModalGoster(EkranAdi ad, const std::function<void()>& gorununce
     if (beklenen && beklenen->ad != ad)
         ADD_FAILURE() << Tarif(*beklenen) << " was expected, but " << gelen << " came";
     gorununce();
-    if (!beklenen || beklenen->ad != ad || !beklenen->is)
+    if (beklenen && beklenen->ad == ad)
+        Icinde(beklenen->is);
+}
+
+void SahteOrtam::Icinde(const std::function<void()>& is) {
+    if (!is)
         return;
     const std::size_t once = std::exchange(disaridakiler_, beklenenler_.size());
-    beklenen->is();
+    is();
     disaridakiler_ = std::min(once, beklenenler_.size());
+}
+
+Metin SahteOrtam::Getir(const AgIstegi& istek) {
+    const auto beklenen = SiradanAl<BeklenenIstek>("the request " + Tirnakli(istek.adres));
+    if (!beklenen)
+        return {};
+    EXPECT_EQ(Tirnakli(istek.adres), Tirnakli(beklenen->adres));
+    EXPECT_EQ(istek.sure, beklenen->sure.value_or(istek.sure)) << "seconds for " << Tirnakli(istek.adres);
+    Icinde(beklenen->is);
+    return istek.vazgecildi() ? Metin() : beklenen->cevap;
 }
 
 } // namespace velora::test

@@ -35,11 +35,20 @@ struct BeklenenEkran {
     std::function<void()> is = {};
 };
 
-/// The outside world of a test. All that the program asks and shows over its screens is one script, in its
-/// order across kinds: whatever comes must be the next expected one, letter by letter; an unexpected, a
+/// A request that is expected to go out next, and its reply; an empty one is a failure.
+struct BeklenenIstek {
+    Metin adres;
+    Metin cevap = {};
+    std::optional<int> sure = {};  ///< the seconds that it may take; with none, any
+    std::function<void()> is = {}; ///< what happens while the reply is waited for
+};
+
+/// The outside world of a test. All that the program asks, shows over its screens and sends is one script, in
+/// its order across kinds: whatever comes must be the next expected one, letter by letter; an unexpected, a
 /// different and an unread one fail the test. Must outlive its program.
 ///
-/// What is done on an expected screen may expect more: that comes next, before what was expected until then.
+/// What is done on an expected screen, or while a request is waited for, may expect more: that comes next,
+/// before what was expected until then.
 class SahteOrtam {
   public:
     explicit SahteOrtam(Gun bugun);
@@ -53,6 +62,7 @@ class SahteOrtam {
     void Bekle(BeklenenKutu kutu) { SirayaKoy(std::move(kutu)); }
     void Bekle(BeklenenGirdi girdi) { SirayaKoy(std::move(girdi)); }
     void Bekle(BeklenenEkran ekran) { SirayaKoy(std::move(ekran)); }
+    void Bekle(BeklenenIstek istek) { SirayaKoy(std::move(istek)); }
 
     /// Runs when a screen is shown beside the others.
     std::function<void(EkranAdi)> acilinca;
@@ -68,9 +78,11 @@ class SahteOrtam {
     bool dosyaAcilir = true;                           ///< there is a program that shows files
     std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
+    bool baglanti = true;                              ///< the machine has a connection
+    std::optional<DonanimAdresi> donanim = DonanimAdresi{0x00, 0x1B, 0xC4, 0x0D, 0xE0, 0x9F};
 
   private:
-    using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran>;
+    using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran, BeklenenIstek>;
 
     void SirayaKoy(Beklenen beklenen);
     /// Takes the next expected one. None when nothing was expected, or another kind: that fails the test.
@@ -79,9 +91,12 @@ class SahteOrtam {
     Cevap MesajSor(const MesajKutusu& kutu);
     Metin GirdiSor(const GirdiKutusu& kutu);
     void ModalGoster(EkranAdi ad, const std::function<void()>& gorununce);
+    Metin Getir(const AgIstegi& istek);
+    /// Runs what is done on a screen or during a request: what it expects comes next.
+    void Icinde(const std::function<void()>& is);
 
     std::deque<Beklenen> beklenenler_;
-    std::size_t disaridakiler_ = 0; ///< expected before the work of the shown screen began, and still to come
+    std::size_t disaridakiler_ = 0; ///< expected before the work within began, and still to come
 };
 
 } // namespace velora::test

@@ -8,6 +8,9 @@
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "maintenance/FormResmiTatil.h"
+#include "online/Adresler.h"
+#include "online/FormFirma.h"
+#include "online/FormSunucu.h"
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
@@ -73,7 +76,7 @@ class DosyalarSayfasi : public ::testing::Test {
 };
 
 TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_fields) {
-    EXPECT_EQ(bolumler.size(), 10U);
+    EXPECT_EQ(bolumler.size(), 13U);
     for (const auto& [ad, bolum] : bolumler) {
         DegerOkuyucu okuyucu(bolum.ornek);
         EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
@@ -98,6 +101,17 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
     EXPECT_TRUE(program.FormAyarlar->AyGorunur(5));
     EXPECT_FALSE(program.FormAyarlar->AyGorunur(6));
     EXPECT_EQ(program.FormTablo->Gozu(10, velora::GunduzGece::Gece, 29).ipucu, u"Cumhuriyet Bayramı");
+}
+
+TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_service) {
+    for (const char16_t* ad : {u"Firma.dll", u"Sunucu.dat", u"Adresler.dat"})
+        agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
+    EXPECT_EQ(program.FormFirma->t1.metin, u"Gül Düğün Salonları");
+    EXPECT_EQ(program.FormFirma->t9.metin, u"Termal");
+    EXPECT_EQ(program.FormFirma->t13.Metni(), u"2");
+    EXPECT_EQ(program.FormSunucu->Check1.deger, 1);
+    EXPECT_EQ(AdresleriOku(program).servis, u"https://servis.ornek.test/velora");
+    EXPECT_EQ(AdresleriOku(program).satir, u"Velora - www.ornek.test");
 }
 
 TEST_F(DosyalarSayfasi, Readers_of_a_reservation_read_its_three_examples) {

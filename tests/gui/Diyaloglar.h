@@ -7,6 +7,8 @@
 #include "access/FormSifre.h"
 #include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
+#include "online/FormFirma.h"
+#include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
@@ -122,6 +124,16 @@ inline constexpr Diyalog kDiyaloglar[]{
      "ListeleGun",
      "Command1",
      {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command1"}},
+    {EkranAdi::FormSunucu,
+     EkraniAc<&Program::FormSunucu>,
+     "Command1",
+     "Command2",
+     {"Check1 Command1 Command2 Text1"}},
+    {EkranAdi::FormFirma,
+     EkraniAc<&Program::FormFirma>,
+     "Command1",
+     "Command2",
+     {"t1 t2 t13 t3 t4 t5 t6 t7 t8 t9 Command3 Command1 Command2"}},
 };
 
 } // namespace velora::test

@@ -230,7 +230,9 @@ class SaatlerAltindaTest : public QObject {
     void typing_selecting_scrolling_and_open_lists_are_the_same_while_the_table_blinks() {
         QFETCH(const int, sira);
         const QStringList sakin = Dialogda(kDiyaloglar[sira], false);
-        QVERIFY(!sakin.isEmpty() || kDiyaloglar[sira].ekran == EkranAdi::FormSalonTanim);
+        // Two of them have nothing that can be typed into or opened.
+        QVERIFY(!sakin.isEmpty() || kDiyaloglar[sira].ekran == EkranAdi::FormSalonTanim ||
+                kDiyaloglar[sira].ekran == EkranAdi::FormSunucu);
         QCOMPARE(Dialogda(kDiyaloglar[sira], true), sakin);
     }
 

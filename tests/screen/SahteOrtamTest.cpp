@@ -93,6 +93,46 @@ TEST(SahteOrtamTest, Differently_worded_box_fails) {
         "beklenen->metin");
 }
 
+TEST(SahteOrtamTest, A_request_gets_its_scripted_reply_and_an_unexpected_one_fails_and_gets_none) {
+    SahteOrtam ortam(kGun);
+    ortam.Bekle(BeklenenIstek{.adres = u"http://x/ş", .cevap = u"OKEY"});
+    EXPECT_EQ(ortam.Ver().ag.getir({.adres = u"http://x/ş"}), u"OKEY");
+    Metin cevap = u"?";
+    EXPECT_NONFATAL_FAILURE(cevap = ortam.Ver().ag.getir({.adres = u"http://y/ş"}),
+                            "nothing was expected, but the request \"http://y/ş\" came");
+    EXPECT_EQ(cevap, u"");
+}
+
+TEST(SahteOrtamTest, A_request_that_never_came_or_differs_in_a_letter_or_in_its_seconds_fails) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenIstek{.adres = u"http://x/"});
+        },
+        "the request \"http://x/\" was expected and never came");
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenIstek{.adres = u"http://x/I"});
+            ortam.Ver().ag.getir({.adres = u"http://x/ı"});
+        },
+        "Tirnakli(beklenen->adres)");
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenIstek{.adres = u"http://x/", .sure = 2});
+            ortam.Ver().ag.getir({.adres = u"http://x/", .sure = 10});
+        },
+        "seconds for \"http://x/\"");
+}
+
+TEST(SahteOrtamTest, A_request_that_is_given_up_while_it_is_waited_for_gets_no_reply) {
+    SahteOrtam ortam(kGun);
+    bool birak = false;
+    ortam.Bekle(BeklenenIstek{.adres = u"http://x/", .cevap = u"1", .is = [&] { birak = true; }});
+    EXPECT_EQ(ortam.Ver().ag.getir({.adres = u"http://x/", .vazgecildi = [&] { return birak; }}), u"");
+}
+
 TEST(SahteOrtamTest, Question_answered_like_a_message_fails) {
     EXPECT_NONFATAL_FAILURE(
         {

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <memory>
+
+#include "storage/Metin.h"
+
+namespace velora {
+
+/// The longest reply body, in bytes. A longer one counts as failed, and is cut off as soon as that is known.
+inline constexpr std::size_t kEnUzunCevap = std::size_t{8} << 20U;
+
+/// Sends requests: plain GET over http and https, each on a connection of its own.
+///
+/// What stands in an address behind its host goes out byte for byte, in Windows-1254: blanks, letters and
+/// line breaks too, nothing is escaped, taken out or put in order. An empty path is "/". The host may hold
+/// only letters and digits of ASCII, dots, hyphens, a port, and the brackets of an IPv6 address. An address
+/// that holds a NUL, has no host or begins with anything else than the two schemes fails.
+///
+/// A reply is its body, read as Windows-1254. It counts only when it came whole, in time, with status 200;
+/// redirects aren't followed. Certificates are checked, and no proxy, cookie or password comes into it.
+class AgIstemcisi {
+  public:
+    /// What is done while a request waits. False gives the request up.
+    using Sira = std::function<bool()>;
+
+    AgIstemcisi();
+    ~AgIstemcisi();
+    AgIstemcisi(const AgIstemcisi&) = delete;
+    AgIstemcisi& operator=(const AgIstemcisi&) = delete;
+
+    /// The reply to a request, which may take `sure` in all. Empty on every failure.
+    ///
+    /// While it waits it gives `sira` a turn about every ten milliseconds. A turn may begin further requests:
+    /// they go on together, and this one takes what came meanwhile when its turn returns.
+    Metin Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira);
+
+    /// Gives up all requests; those that come later fail at once. For a program that ends.
+    void Kapat();
+
+  private:
+    struct Ic;
+    std::shared_ptr<Ic> ic_;
+};
+
+} // namespace velora
