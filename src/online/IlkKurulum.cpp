@@ -1,8 +1,15 @@
+#include "access/FormSifreDegistir.h"
 #include "online/FormFirma.h"
+#include "screen/Program.h"
 
 namespace velora {
 
-// Nobody shows the profile as a first run before the screen of the password is there.
-void IlkParolayiSor(Program& /*program*/) {}
+void IlkParolayiSor(Program& program) {
+    program.FormSifreDegistir.Goster();
+    const auto parola = program.FormSifreDegistir.Tut();
+    parola->baslik = u"Kullanıcı Girişi";
+    parola->Label8.baslik = u"Yeni Parola Oluşturun";
+    parola->Command2.etkin = false;
+}
 
 } // namespace velora

@@ -14,6 +14,12 @@
 
 namespace velora {
 
+namespace {
+
+constexpr double kBaslikOrani = 1.25; // of a heading's letters to the others
+
+} // namespace
+
 Diyalog::Diyalog(std::weak_ptr<const void> ekran) : baglayici_(new Baglayici(std::move(ekran), this)) {
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* yeni) { OdagiIzle(yeni); });
 }
@@ -67,12 +73,26 @@ QLabel* Diyalog::DegerYap(const QString& ad, Etiket& model) {
     return etiket;
 }
 
-QLabel* Diyalog::OzetYap(const Etiket& model) {
+QLabel* Diyalog::YaziYap(const QString& ad, const Etiket& model) {
     auto* etiket = new QLabel(this);
-    etiket->setObjectName(QStringLiteral("Ozet"));
+    etiket->setObjectName(ad);
     etiket->setTextFormat(Qt::PlainText);
-    etiket->setForegroundRole(QPalette::PlaceholderText);
     baglayici_->Izle([etiket, &model] { etiket->setText(QMetin(model.baslik)); });
+    return etiket;
+}
+
+QLabel* Diyalog::BaslikYap(const QString& ad, const Etiket& model) {
+    QLabel* etiket = YaziYap(ad, model);
+    QFont yazi = etiket->font();
+    yazi.setBold(true);
+    yazi.setPointSizeF(kBaslikOrani * yazi.pointSizeF());
+    etiket->setFont(yazi);
+    return etiket;
+}
+
+QLabel* Diyalog::OzetYap(const Etiket& model) {
+    QLabel* etiket = YaziYap(QStringLiteral("Ozet"), model);
+    etiket->setForegroundRole(QPalette::PlaceholderText);
     return etiket;
 }
 

@@ -49,7 +49,11 @@ class Diyalog : public QDialog {
     /// The text of a label that changes, called by it and what stands before and behind it.
     QLabel* DegerYap(const QString& ad, Etiket& model);
 
-    /// The quiet line that says what a list holds, on the window's own ground.
+    /// A text on the window's own ground, as it is now.
+    QLabel* YaziYap(const QString& ad, const Etiket& model);
+    /// The heading within a window.
+    QLabel* BaslikYap(const QString& ad, const Etiket& model);
+    /// The quiet line that says what a list holds.
     QLabel* OzetYap(const Etiket& model);
     /// The list of a screen, its columns in these widths.
     QTreeWidget* ListeYap(ListeGorunumu& model, std::span<const int> enler,

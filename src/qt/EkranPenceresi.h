@@ -52,13 +52,16 @@ class EkranPenceresi : public Diyalog {
         return DugmeSeridi({tamamDugmesi, iptalDugmesi});
     }
 
-    /// The buttons of a screen that keeps a list: "Ekle", "Düzenle", "Sil", and "Kapat", which also cancels.
-    /// Enter adds, and on a marked row it edits.
-    QHBoxLayout* ListeDugmeleri(QWidget& liste) {
+    /// The buttons of a screen that keeps a list: "Ekle" and "Sil", which are 1 and 2, "Düzenle", and
+    /// "Kapat", which also cancels. Enter adds, and on a marked row it edits.
+    QHBoxLayout*
+    ListeDugmeleri(QWidget& liste,
+                   const DugmeTanimi& duzenleme = {"Command4", &Ekran::Command4, &Ekran::Command4_Click},
+                   const DugmeTanimi& kapatma = {"Command3", &Ekran::Command3, &Ekran::Command3_Click}) {
         auto* ekle = DugmeYap({"Command1", &Ekran::Command1, &Ekran::Command1_Click});
-        auto* duzenle = DugmeYap({"Command4", &Ekran::Command4, &Ekran::Command4_Click});
+        auto* duzenle = DugmeYap(duzenleme);
         auto* sil = DugmeYap({"Command2", &Ekran::Command2, &Ekran::Command2_Click});
-        auto* kapat = DugmeYap({"Command3", &Ekran::Command3, &Ekran::Command3_Click});
+        auto* kapat = DugmeYap(kapatma);
         VarsayilanDugme(*ekle, liste, *duzenle);
         IptalDugmesi(kapat);
         for (QPushButton* dugme : {duzenle, sil})

@@ -1,6 +1,8 @@
 #include "qt/Ekranlar.h"
 
 #include "qt/QtOrtam.h"
+#include "qt/access/GirisPencereleri.h"
+#include "qt/access/KullaniciPencereleri.h"
 #include "qt/accounts/BakiyePenceresi.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
@@ -28,6 +30,10 @@ void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
 } // namespace
 
 void EkranlariTanit(QtOrtam& ortam, Program& program) {
+    Tanit<SifrePenceresi>(ortam, program, EkranAdi::FormSifre);
+    Tanit<SifreDegistirPenceresi>(ortam, program, EkranAdi::FormSifreDegistir);
+    Tanit<KullanicilarPenceresi>(ortam, program, EkranAdi::FormKullanicilar);
+    Tanit<KullaniciEklePenceresi>(ortam, program, EkranAdi::FormKullaniciEkle);
     Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
     Tanit<HakkindaPenceresi>(ortam, program, EkranAdi::FormHakkinda);
     Tanit<AyarlarPenceresi>(ortam, program, EkranAdi::FormAyarlar);

@@ -160,11 +160,13 @@ class Bicim : public QProxyStyle {
         return QProxyStyle::standardIcon(tur, secenek, widget);
     }
 
-    /// Buttons of boxes are words, as all others are.
+    /// Buttons of boxes are words, as all others are. A password is shown as stars, from its first letter on.
     int styleHint(StyleHint konu, const QStyleOption* secenek, const QWidget* widget,
                   QStyleHintReturn* ayrinti) const override {
-        if (konu == SH_DialogButtonBox_ButtonsHaveIcons)
+        if (konu == SH_DialogButtonBox_ButtonsHaveIcons || konu == SH_LineEdit_PasswordMaskDelay)
             return 0;
+        if (konu == SH_LineEdit_PasswordCharacter)
+            return u'*';
         return QProxyStyle::styleHint(konu, secenek, widget, ayrinti);
     }
 

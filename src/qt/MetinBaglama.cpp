@@ -145,6 +145,8 @@ void Baglayici::OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyi
 
 void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler) {
     kutu.setInputMask(QMaske(model.maske));
+    if (model.yildizli)
+        kutu.setEchoMode(QLineEdit::Password);
     TuslariSuz(kutu, model.maske.empty() ? model.suzgec : MaskeTusu);
     OdagiIzle(kutu, model, isler.odakGitti);
     const auto son = std::make_shared<SonHal>();

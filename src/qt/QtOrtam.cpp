@@ -61,6 +61,8 @@ void QtOrtam::SonraSil::operator()(QWidget* pencere) const {
 }
 
 Ortam QtOrtam::Ver() {
+    // Windows change hands with moments of none: only a screen ends the program.
+    QApplication::setQuitOnLastWindowClosed(false);
     Ortam ortam;
     ortam.sor.mesaj = [](const MesajKutusu& kutu) { return Kutuda(MesajGoster, kutu); };
     ortam.sor.girdi = [](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, kutu); };

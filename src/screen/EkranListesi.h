@@ -6,6 +6,10 @@
 /// what others read, or waits for its window to be built; showing it is told on the error stream.
 #define VELORA_EKRANLAR(X)                                                                                   \
     X(Splash, Penceresiz)                                                                                    \
+    X(FormSifre, Pencereli)                                                                                  \
+    X(FormSifreDegistir, Pencereli)                                                                          \
+    X(FormKullanicilar, Pencereli)                                                                           \
+    X(FormKullaniciEkle, Pencereli)                                                                          \
     X(FormTablo, Pencereli)                                                                                  \
     X(FormHakkinda, Pencereli)                                                                               \
     X(FormAyarlar, Pencereli)                                                                                \

@@ -61,7 +61,7 @@ struct Etiket {
     bool gorunur = true;
     RenkDegeri zemin = kBeyaz;
     RenkDegeri yazi = 0;
-    Yer yer;
+    Yer yer{};
     Metin once{};  ///< what a text that changes says: stands before it
     Metin sonra{}; ///< stands behind it, as "TL"
 };
@@ -75,6 +75,7 @@ struct MetinKutusu {
     /// "#" for a digit, all else stands as it is; empty for a box without a mask. `metin` holds the prompt
     /// signs ("_") too: an empty "##:##" is "__:__".
     Metin maske;
+    bool yildizli = false;      ///< shows "*" for each character
     bool odaktaSecilir = false; ///< its whole text is selected when it gets the focus
     /// The characters that typing and pasting let through; null for all of them.
     bool (*suzgec)(char16_t) = nullptr;

@@ -22,6 +22,7 @@ class EkranYigini {
     /// Activates the topmost screen.
     void UsttekiniEtkinlestir() const;
     bool Acik(EkranAdi ad) const;
+    bool Bos() const { return kayitlar_.empty(); }
 
   private:
     struct Kayit {

@@ -2,6 +2,7 @@
 
 #include "screen/Bayrak.h"
 #include "screen/Ortam.h"
+#include "screen/Oturum.h"
 #include "screen/Pencere.h"
 #include "storage/Tarih.h"
 #include "storage/VeriAgaci.h"
@@ -20,12 +21,15 @@ struct Program {
     Dosyalar dosyalar;
     VeriAgaci agac;
     EkranYigini yigin;
+    Oturum oturum;
 
     // Each screen by its own name.
 #define VELORA_TUT(ad, tur) Pencere<velora::ad> ad{*this, EkranAdi::ad};
     VELORA_EKRANLAR(VELORA_TUT)
 #undef VELORA_TUT
 
+    /// For a screen that has closed and shown no other: ends the program when none stands any more.
+    void EkranKalmadiysaBitir() const;
     /// Today, by the clock of the outside world.
     Gun Bugun() const;
     /// Lets pending events run.

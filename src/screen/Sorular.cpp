@@ -17,4 +17,9 @@ void Soyle(const Program& program, const Metin& metin, const Metin& baslik, Simg
     program.ortam.sor.mesaj({metin, baslik, simge, KutuDugmeleri::Tamam});
 }
 
+void AlaniSoyle(const Program& program, EkranAdi ekran, MetinBakis alan, const Metin& metin) {
+    Soyle(program, metin);
+    program.ortam.odak.ver(ekran, alan);
+}
+
 } // namespace velora

@@ -18,4 +18,7 @@ bool SilmeyiSor(const Program& program, const Metin& metin, const Metin& baslik 
 void Soyle(const Program& program, const Metin& metin, const Metin& baslik = u"Velora",
            Simge simge = Simge::Bilgi);
 
+/// Tells what is wrong with a field of a screen, and gives it the focus.
+void AlaniSoyle(const Program& program, EkranAdi ekran, MetinBakis alan, const Metin& metin);
+
 } // namespace velora

@@ -21,11 +21,8 @@ void FormMenuEkle::Text1_Change() {
 
 void FormMenuEkle::Command4_Click() {
     Program& p = program_;
-    if (Text2.metin.empty()) {
-        Soyle(p, u"Lüften içerik giriniz!");
-        p.ortam.odak.ver(EkranAdi::FormMenuEkle, u"Text2");
-        return;
-    }
+    if (Text2.metin.empty())
+        return AlaniSoyle(p, EkranAdi::FormMenuEkle, u"Text2", u"Lüften içerik giriniz!");
     Text1.metin = BuyukBas(Text1.metin);
     Text2.metin = BuyukBas(Text2.metin);
     const auto menuler = p.FormMenuAyar.Tut();

@@ -48,6 +48,7 @@ inline constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";     ///< banquet menu
 inline constexpr MetinBakis kAyarDosyasi = u"Settings.dll";    ///< settings and colours
 inline constexpr MetinBakis kAyDosyasi = u"Visible.dll";       ///< which months are shown
 inline constexpr MetinBakis kTatilDosyasi = u"Tatiller.dll";   ///< holidays
+inline constexpr MetinBakis kKullaniciDosyasi = u"User.dll";   ///< users, passwords, rights
 inline constexpr MetinBakis kSayacDosyasi = u"Count.dat";      ///< the last contract number
 inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt"; ///< log of cancellations
 inline constexpr MetinBakis kKilavuzDosyasi = u"Kilavuz.html"; ///< the guide, for the browser

@@ -25,7 +25,9 @@ constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that fi
 
 } // namespace
 
-FormTablo::FormTablo(Program& program) : program_(program) {
+FormTablo::FormTablo(Program& program)
+    : UserNamem(program.oturum.UserNamem), TutarDegistir(program.oturum.TutarDegistir),
+      StatusBar1(program.oturum.StatusBar1), program_(program) {
     for (const KomutTanimi& komut : Komutlar())
         Girdi(komut.komut).baslik = komut.baslik;
     for (const KomutTanimi& komut : Komutlar())
@@ -110,6 +112,7 @@ void FormTablo::MouseMove() {
 }
 
 void FormTablo::Activate() {
+    KapalilariGizle();
     if (Liste.satirlar.empty())
         Picture1.gorunur = false;
     {

@@ -120,8 +120,8 @@ struct FormTablo {
     // --- what happens on a cell of a row; hidden cells raise nothing ---
     /// The pointer moves over it.
     void Hucre_MouseMove(SatirAdi satir, int gun);
-    /// A button of the mouse goes down on it. True: `Sagtus` is to be opened at the pointer. The view sees to
-    /// it that the pointer has moved over the cell before.
+    /// A button of the mouse goes down on it. True: `Sagtus` is to be opened at the pointer, for it has an
+    /// entry that the user may see. The view sees to it that the pointer has moved over the cell before.
     bool Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme);
     void Hucre_Click();
     void Hucre_DblClick(SatirAdi satir, int gun);
@@ -202,15 +202,16 @@ struct FormTablo {
     std::array<MenuGirdisi, kKomutSayisi> komutlar;
     /// The buttons of the tool bar and the lines behind them, by their places.
     BirTabanli<MenuGirdisi, kAracSayisi> Toolbar1;
-    Metin StatusBar1;                     ///< panel 1 of the status bar, set by the login
-    std::array<Metin, 2> StatusBar1Saati; ///< the panels behind it: date and time
-    int TutarDegistir = 0;                ///< 1: the user may change amounts
+    std::array<Metin, 2> StatusBar1Saati; ///< panels 2 and 3 of the status bar: date and time
     int Check1 = 0;                       ///< "Hatirlatma": 0 until the first Activate
     int Dklabel = 0;                      ///< ticks of `Saatsay`
-    Metin UserNamem;                      ///< the active user
-    Etiket Picture1;                      ///< warning panel
-    Etiket UyariBaslik;                   ///< its title
-    ListeGorunumu Liste;                  ///< its list
+    // Said by the login, which comes before this screen (screen/Oturum.h).
+    Metin& UserNamem;    ///< the active user
+    int& TutarDegistir;  ///< 1: the user may change amounts
+    Metin& StatusBar1;   ///< panel 1 of the status bar
+    Etiket Picture1;     ///< warning panel
+    Etiket UyariBaslik;  ///< its title
+    ListeGorunumu Liste; ///< its list
     Dugme Command8{u"Detaylar", {}, false};
     Dugme Command2{u"Kapat", {}};
     bool Image3 = false; ///< the bell: a personal reminder falls on today
@@ -241,6 +242,7 @@ struct FormTablo {
     bool BuYil() const;
 
   private:
+    void KapalilariGizle();
     void SalonlariYukle();
     void SeneleriDoldur();
     void OzelHatirlatmaBak();

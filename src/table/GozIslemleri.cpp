@@ -56,7 +56,10 @@ bool FormTablo::Hucre_MouseDown(SatirAdi satir, int gun, bool sagDugme) {
     Girdi(Komut::newkay).etkin = bos;
     Girdi(Komut::iptals).etkin = !bos;
     SeciliTarih2 = SeciliTarih;
-    return sagDugme;
+    const auto secilir = [this](const KomutTanimi& komut) {
+        return komut.menu == Menu::Sagtus && !komut.Cizgi() && Girdi(komut.komut).gorunur;
+    };
+    return sagDugme && std::ranges::any_of(Komutlar(), secilir);
 }
 
 void FormTablo::Hucre_Click() {

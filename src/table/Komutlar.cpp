@@ -1,6 +1,8 @@
 // The table of the commands.
 #include "table/Komutlar.h"
 
+#include "access/FormKullanicilar.h"
+#include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
@@ -51,6 +53,10 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
     {Komut::aline8, u"aline8", Menu::ayarsd, u"-"},
+    {Komut::KulTanimssss, u"KulTanimssss", Menu::ayarsd, u"Kullanıcı ve Yetki Tanımları",
+     &T::EkranAc<&P::FormKullanicilar>},
+    {Komut::Guvenliksss, u"Guvenliksss", Menu::ayarsd, u"Güvenlik Ayarları",
+     &T::EkranAc<&P::FormSifreDegistir>},
     {Komut::Websssunucus, u"Websssunucus", Menu::ayarsd, u"Web Sunucu Ayarları", &T::EkranAc<&P::FormSunucu>},
     {Komut::aline9, u"aline9", Menu::ayarsd, u"-"},
     {Komut::Progrset,
@@ -89,6 +95,15 @@ static_assert(SirasiDogru());
 
 std::span<const KomutTanimi, kKomutSayisi> Komutlar() {
     return kKomutlar;
+}
+
+void FormTablo::KapalilariGizle() {
+    const Oturum& oturum = program_.oturum;
+    for (const KomutTanimi& komut : kKomutlar)
+        if (oturum.kapaliGirdiler.contains(Metin(komut.ad)))
+            Girdi(komut.komut).gorunur = false;
+    for (const int yer : oturum.kapaliAraclar)
+        Toolbar1[yer].gorunur = false;
 }
 
 void FormTablo::AracaTikla(MetinBakis dugme) {

@@ -25,6 +25,8 @@ enum class Komut {
     aline4,
     MenuAyars,
     aline8,
+    KulTanimssss,
+    Guvenliksss,
     Websssunucus,
     aline9,
     Progrset,

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "access/FormSifre.h"
 #include "access/Splash.h"
 #include "destek/Eylemler.h"
 #include "maintenance/FormResmiTatil.h"
@@ -19,6 +20,22 @@ void Kullanici::ProgramiAc() {
     program_->FormTablo.Tut();
     Boyutla(1280, 620);
     program_->FormTablo.Goster();
+}
+
+void Kullanici::GirisiAc() {
+    gecen_.clear();
+    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    program_->FormSifre.Goster();
+}
+
+bool Kullanici::GirisYap(MetinBakis ad, MetinBakis parola) {
+    AlanaYaz(program_->FormSifre->Text1, ad);
+    AlanaYaz(program_->FormSifre->Text2, parola);
+    VELORA_BAS(program_->FormSifre, Command1);
+    if (!program_->FormTablo.Yuklu())
+        return false;
+    Boyutla(1280, 620);
+    return true;
 }
 
 void Kullanici::ProgramiKapat() {

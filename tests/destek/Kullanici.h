@@ -24,6 +24,10 @@ class Kullanici {
 
     /// Starts the program: the table is loaded, laid out and brought to the front.
     void ProgramiAc();
+    /// Starts it at its login, which comes before the table.
+    void GirisiAc();
+    /// Types into the login and presses "Giriş". True: the table has come, and is laid out.
+    bool GirisYap(MetinBakis ad, MetinBakis parola);
     /// Ends it and throws away all that was in memory.
     void ProgramiKapat();
 

@@ -4,6 +4,7 @@
 #include <map>
 #include <sstream>
 
+#include "access/Kullanicilar.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "maintenance/FormResmiTatil.h"
@@ -75,7 +76,7 @@ class DosyalarSayfasi : public ::testing::Test {
 };
 
 TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_fields) {
-    EXPECT_EQ(bolumler.size(), 12U);
+    EXPECT_EQ(bolumler.size(), 13U);
     for (const auto& [ad, bolum] : bolumler) {
         DegerOkuyucu okuyucu(bolum.ornek);
         EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
@@ -84,13 +85,17 @@ TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_field
 }
 
 TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
-    for (const char16_t* ad :
-         {u"Salon.dat", u"Menuler.dat", u"Settings.dll", u"Visible.dll", u"Tatiller.dll", u"Count.dat"})
+    for (const char16_t* ad : {u"Salon.dat", u"Menuler.dat", u"User.dll", u"Settings.dll", u"Visible.dll",
+                               u"Tatiller.dll", u"Count.dat"})
         agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
     EXPECT_EQ(program.FormKayit->Kay[14].metin, u"18");
     EXPECT_EQ(program.FormTablo->Salon.ogeler, std::vector<Metin>{u"Gül Salonu"});
     EXPECT_EQ(program.FormMenuAyar->Liste.satirlar.at(0).sutun,
               (std::vector<Metin>{u"Klasik", u"Çorba\r\nTatlı"}));
+    const SatirListesi kullanicilar = KullanicilariOku(program);
+    ASSERT_EQ(kullanicilar.size(), 1U);
+    EXPECT_EQ(kullanicilar[0].sutun[KullaniciNo::Parola], u"gül5");
+    EXPECT_EQ(kullanicilar[0].sutun.back(), u"1");
     EXPECT_EQ(program.FormAyarlar->UyariGun.metin, u"7");
     EXPECT_TRUE(program.FormAyarlar->GunduzUstte());
     EXPECT_TRUE(program.FormAyarlar->AyGorunur(5));

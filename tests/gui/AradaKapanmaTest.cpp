@@ -47,6 +47,16 @@ void Doldur(Program& program, EkranAdi ekran) {
     } else if (ekran == EkranAdi::FormOzelHatirlatma) {
         program.FormOzelHatirlatma->Liste.secili = 0;
         program.FormOzelHatirlatma->Liste_ItemClick();
+    } else if (ekran == EkranAdi::FormSifre) {
+        program.FormSifre->Text2.metin = u"c9";
+    } else if (ekran == EkranAdi::FormSifreDegistir) {
+        program.FormSifreDegistir->Text1.metin = program.FormSifreDegistir->Text2.metin = u"yeni";
+    } else if (ekran == EkranAdi::FormKullanicilar) {
+        program.FormKullanicilar->Liste.secili = 0;
+        program.FormKullanicilar->Liste_Click();
+    } else if (ekran == EkranAdi::FormKullaniciEkle) {
+        const auto ekle = program.FormKullaniciEkle.Tut();
+        ekle->Text1.metin = ekle->Text2.metin = ekle->Text3.metin = u"ali";
     } else if (ekran == EkranAdi::FormMenuAyar) {
         program.FormMenuAyar->Liste.secili = 0;
         program.FormMenuAyar->Liste_Click();
@@ -127,6 +137,7 @@ Sonuc AradaKapat(GuiFirma& firma, const Diyalog& diyalog, std::size_t basilan, i
 
 void HalkiDoldur(GuiFirma& firma) {
     firma.agac.KoyMetin(u"Menuler.dat", u"\"Kına\",\"Meşrubat\"\r\n");
+    firma.agac.Koy(u"User.dll", "\"can\",\"c9\",1,1,1,1,1,1,1,1,1,0,1\r\n");
     firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
     firma.Ac();
 }

@@ -2,6 +2,10 @@
 
 #include <array>
 
+#include "access/FormKullaniciEkle.h"
+#include "access/FormKullanicilar.h"
+#include "access/FormSifre.h"
+#include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
@@ -63,6 +67,26 @@ struct Diyalog {
 };
 
 inline constexpr Diyalog kDiyaloglar[]{
+    {EkranAdi::FormSifre,
+     EkraniAc<&Program::FormSifre>,
+     "Command1",
+     "Command2",
+     {"Text2 Command1 Command2 Text1"}},
+    {EkranAdi::FormSifreDegistir,
+     EkraniAc<&Program::FormSifreDegistir>,
+     "Command1",
+     "Command2",
+     {"Text1 Text2 Command1 Command2"}},
+    {EkranAdi::FormKullanicilar,
+     EkraniAc<&Program::FormKullanicilar>,
+     "Command1",
+     "Command4",
+     {"Liste Command1 Command4"}},
+    {EkranAdi::FormKullaniciEkle,
+     EkraniAc<&Program::FormKullaniciEkle>,
+     "Command1",
+     "Command2",
+     {"Text1 Text2 Text3 Check1 Check2 Check4 Check5 Check6 Check7 Check8 Check9 Check11 Command1 Command2"}},
     {EkranAdi::FormSalonTanim,
      EkraniAc<&Program::FormSalonTanim>,
      "Command1",

@@ -41,6 +41,11 @@ Ortam GuiFirma::Dis() {
         isle();
         AradaCalis();
     };
+    ortam.olaylar.bitir = [this, bitir = ortam.olaylar.bitir] {
+        ++bitisler;
+        if (gercektenBiter)
+            bitir();
+    };
     ortam.sor.mesaj = [this, sor = ortam.sor.mesaj](const MesajKutusu& kutu) {
         if (!hazirCevap)
             return sor(kutu);

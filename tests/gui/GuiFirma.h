@@ -50,6 +50,11 @@ class GuiFirma {
     /// once.
     std::optional<Cevap> hazirCevap;
 
+    /// How often the program was told to end. It goes on all the same, unless `gercektenBiter`: the event
+    /// loops that a test still needs would be over.
+    int bitisler = 0;
+    bool gercektenBiter = false;
+
     GeciciAgac agac;
     QtOrtam disDunya;
     std::chrono::local_seconds simdi;

@@ -23,6 +23,7 @@ class PencereHafizasiTest : public QObject {
     void Oturum(const std::function<void(GuiFirma&)>& is) const {
         GuiFirma firma;
         firma.disDunya.HafizaVer(PencereHafizasi(dosya_));
+        firma.gercektenBiter = true;
         firma.program.FormTablo.Goster();
         QVERIFY(QTest::qWaitForWindowActive(&firma.Pencere()));
         QCoreApplication::processEvents();

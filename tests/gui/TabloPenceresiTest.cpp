@@ -301,7 +301,7 @@ class TabloPenceresiTest : public QObject {
         firma.Ac();
         Pencerede([&] { QTest::keyClick(&firma.Tablo(), Qt::Key_F2); }, {[&](QDialog& pencere) {
                       firma.Pencere().close(); // as the system does at its end
-                      QVERIFY(!firma.disDunya.Bitti());
+                      QCOMPARE(firma.bitisler, 0);
                       QVERIFY(pencere.isVisible());
                   }});
     }
@@ -338,12 +338,12 @@ class TabloPenceresiTest : public QObject {
         const auto kapat = [&] { firma.Pencere().close(); };
         for (const Is& hayir : {Mesaj(soru, QStringLiteral("Hayır")), TusBas(Qt::Key_Escape)}) {
             Pencerede(kapat, {hayir});
-            QVERIFY(!firma.disDunya.Bitti());
+            QCOMPARE(firma.bitisler, 0);
             QVERIFY(firma.Pencere().isVisible());
             QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonA));
         }
         Pencerede(kapat, {Mesaj(soru, QStringLiteral("Evet"))});
-        QVERIFY(firma.disDunya.Bitti());
+        QCOMPARE(firma.bitisler, 1);
     }
 };
 

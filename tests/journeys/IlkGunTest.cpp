@@ -104,6 +104,7 @@ TEST_F(IlkGun, A_new_firm_gets_a_hall_a_menu_and_a_reservation_whose_payment_goe
     kullanici.ProgramiKapat();
 
     kullanici.ProgramiAc();
+    kullanici.Tablo().TutarDegistir = 0;
     IlkOdemeyiSil({u"Velora", u"Alınan ödemeleri silmeye yetkiniz yok!"});
     EXPECT_EQ(Bayt(u"-Odeme"), kIkiOdeme);
     kullanici.Tablo().TutarDegistir = 1;

@@ -86,6 +86,8 @@ TEST_F(Rezervasyon, A_firms_first_reservation_is_on_disk_and_on_the_table_and_op
 TEST_F(Rezervasyon, A_user_without_the_right_to_amounts_can_not_take_a_payment_away) {
     IlkKayit();
     const std::string ana = AnaBaytlari();
+    Prog();
+    kullanici.Tablo().TutarDegistir = 0;
     KayitAc(kHaziran20, [&] {
         EXPECT_TRUE(Kayit().Kay[AnaNo::ToplamUcret].kilitli);
         KutuBekle(u"Alınan ödemeleri silmeye yetkiniz yok!");

@@ -1,4 +1,5 @@
 // The firm's profile: its file, its fields, its checks.
+#include "access/FormSifreDegistir.h"
 #include "online/FirmaTest.h"
 
 namespace velora::test {
@@ -201,6 +202,25 @@ TEST_F(FormFirmaTest, On_the_first_run_OK_writes_both_files_and_unloads_the_scre
     EXPECT_TRUE(agac.Var(u"Firma.dll"));
     EXPECT_TRUE(agac.Var(u"Sunucu.dat"));
     EXPECT_FALSE(program.FormFirma.Yuklu());
+}
+
+TEST_F(FormFirmaTest, On_the_first_run_OK_goes_on_to_the_password_which_can_not_be_left) {
+    Firma().Tag = u"1";
+    program.FormFirma.Goster();
+    Doldur();
+    VELORA_BAS(program.FormFirma, Command1);
+    EXPECT_FALSE(ortam.bitti) << "with the profile gone the password stands";
+    EXPECT_TRUE(program.yigin.Acik(EkranAdi::FormSifreDegistir));
+    const auto parola = program.FormSifreDegistir.Tut();
+    EXPECT_EQ(parola->baslik, u"Kullanıcı Girişi");
+    EXPECT_EQ(parola->Label8.baslik, u"Yeni Parola Oluşturun");
+    EXPECT_FALSE(parola->Command2.etkin);
+}
+
+TEST_F(FormFirmaTest, From_the_menu_OK_asks_for_no_password) {
+    Doldur();
+    VELORA_BAS(program.FormFirma, Command1);
+    EXPECT_FALSE(program.FormSifreDegistir.Yuklu());
 }
 
 TEST_F(FormFirmaTest, A_disk_that_takes_nothing_is_no_hindrance) {

@@ -161,6 +161,8 @@ TEST_F(OdemelerTest, A_payment_goes_only_after_a_yes_and_the_buttons_go_off_eith
 TEST_F(OdemelerTest, Without_the_right_an_existing_record_takes_payments_and_gives_none_back) {
     RezervasyonKoy(Metin(kGun));
     OdemeKoy("\"01.01.2012\",\"1000\",\"x\"\r\n");
+    Prog();
+    kullanici.Tablo().TutarDegistir = 0;
     KayitAc([&] {
         OdemeSec(0);
         KutuBekle(u"Alınan ödemeleri silmeye yetkiniz yok!");

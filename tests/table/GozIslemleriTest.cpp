@@ -168,6 +168,33 @@ TEST_F(GozIslemleri, Menu_has_its_three_entries_under_their_captions) {
     EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptals).baslik, u"Kayıt İptali");
 }
 
+TEST_F(GozIslemleri, Press_brings_back_no_entry_that_is_closed_to_the_user_whatever_the_cell_is) {
+    RezervasyonKoy(u"20.06.2012 - Gece");
+    kullanici.ProgramiAc();
+    for (const MetinBakis girdi : {u"newkay", u"TasimaModuAc"})
+        kullanici.Prog().oturum.Kapat({.girdi = girdi, .cizgi = u"aline11"});
+    kullanici.Tablo().Activate();
+    for (const int gun : {20, 21}) { // taken, free
+        EXPECT_TRUE(kullanici.SagTikla({gun, 6, kGece})) << "the cancellation is still there";
+        for (const Komut komut : {Komut::newkay, Komut::aline11, Komut::TasimaModuAc})
+            EXPECT_FALSE(kullanici.Tablo().Girdi(komut).gorunur);
+        EXPECT_TRUE(kullanici.Tablo().Girdi(Komut::iptals).gorunur);
+        EXPECT_EQ(kullanici.Tablo().Girdi(Komut::iptals).etkin, gun == 20);
+    }
+}
+
+TEST_F(GozIslemleri, Menu_of_which_nothing_is_left_does_not_open) {
+    kullanici.ProgramiAc();
+    kullanici.Prog().oturum.Kapat({.girdi = u"newkay", .cizgi = u"aline11"});
+    kullanici.Prog().oturum.Kapat({.girdi = u"TasimaModuAc", .cizgi = u"aline11"});
+    kullanici.Tablo().Activate();
+    EXPECT_TRUE(kullanici.SagTikla({21, 6, kGece}));
+    kullanici.Prog().oturum.Kapat({.girdi = u"iptals"});
+    kullanici.Tablo().Activate();
+    EXPECT_FALSE(kullanici.SagTikla({21, 6, kGece})) << "a line alone is nothing to choose";
+    EXPECT_EQ(kullanici.Tablo().SeciliTarih2, u"21.06.2012 - Gece");
+}
+
 TEST_F(GozIslemleri, Click_on_a_cell_ends_the_ruler) {
     kullanici.ProgramiAc();
     kullanici.AyBasligina(3);

@@ -38,6 +38,8 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::aline4, Menu::ayarsd, u"aline4", u"-", u""},
     {Komut::MenuAyars, Menu::ayarsd, u"MenuAyars", u"Menü Tanımları", u""},
     {Komut::aline8, Menu::ayarsd, u"aline8", u"-", u""},
+    {Komut::KulTanimssss, Menu::ayarsd, u"KulTanimssss", u"Kullanıcı ve Yetki Tanımları", u""},
+    {Komut::Guvenliksss, Menu::ayarsd, u"Guvenliksss", u"Güvenlik Ayarları", u""},
     {Komut::Websssunucus, Menu::ayarsd, u"Websssunucus", u"Web Sunucu Ayarları", u""},
     {Komut::aline9, Menu::ayarsd, u"aline9", u"-", u""},
     {Komut::Progrset, Menu::ayarsd, u"Progrset", u"Genel Program Ayarları", u"F7", 13, u" Ayarlar ",

@@ -1,0 +1,32 @@
+#include "access/Kullanicilar.h"
+
+#include <utility>
+
+#include "screen/Program.h"
+#include "storage/ListeDosyasi.h"
+
+namespace velora {
+
+SatirListesi KullanicilariOku(const Program& program) {
+    SatirListesi kullanicilar;
+    for (auto& degerler :
+         SatirlariOku(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi), kKullaniciDegerSayisi))
+        kullanicilar.push_back({std::move(degerler), {}, 0});
+    return kullanicilar;
+}
+
+void KullanicilariYaz(const Program& program, const SatirListesi& kullanicilar) {
+    std::vector<SutunMetinleri> satirlar;
+    for (const ListeSatiri& kullanici : kullanicilar)
+        satirlar.push_back(kullanici.sutun);
+    SatirlariYaz(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi), satirlar);
+}
+
+ListeSatiri KullaniciSatiri(const Metin& ad, const Metin& parola,
+                            const std::array<Metin, kYetkiSayisi>& yetkiler) {
+    ListeSatiri satir{{ad, parola}, {}, 0};
+    satir.sutun.insert(satir.sutun.end(), yetkiler.begin(), yetkiler.end());
+    return satir;
+}
+
+} // namespace velora
