@@ -23,8 +23,8 @@ class ZilDugmesi : public QToolButton {
 
     std::function<void()> tabloyaDon_;
     QPixmap resimler_[2]; // quiet, ringing
-    double olcek_ = 0;  // that they were drawn for
-    int gorulen_ = -1;  // the one that stands on it
+    double olcek_ = 0;    // that they were drawn for
+    int gorulen_ = -1;    // the one that stands on it
 };
 
 } // namespace velora
