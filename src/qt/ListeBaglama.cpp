@@ -114,7 +114,8 @@ QString SeciliMetin(const QAbstractItemView& liste) {
 }
 
 /// The keys of a list. The space bar on a row is a press on it: the marked row can be chosen again without
-/// the mouse. Ctrl+C copies whole rows, not the one cell that the toolkit would.
+/// the mouse. Ctrl+C copies whole rows, not the one cell that the toolkit would. End goes to the last row
+/// also where none is marked yet, whereas the toolkit's first key, whichever it is, leads to the first row.
 class ListeTuslari : public QObject {
   public:
     ListeTuslari(QAbstractItemView& liste, Baglayici::Isleyici basildi)
@@ -129,6 +130,11 @@ class ListeTuslari : public QObject {
         if (tus.matches(QKeySequence::Copy)) {
             if (liste_.selectionModel()->hasSelection())
                 PanoyaKoy(SeciliMetin(liste_));
+            return true;
+        }
+        const int satirSayisi = liste_.model()->rowCount();
+        if (tus.key() == Qt::Key_End && satirSayisi > 0 && !liste_.currentIndex().isValid()) {
+            liste_.setCurrentIndex(liste_.model()->index(satirSayisi - 1, 0));
             return true;
         }
         if (tus.key() != Qt::Key_Space || !liste_.currentIndex().isValid())

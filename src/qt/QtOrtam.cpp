@@ -95,6 +95,14 @@ QWidget* QtOrtam::Pencere(EkranAdi ekran) const {
 }
 
 void QtOrtam::PencereleriBirak() {
+    // Gives the focus back while each is still whole: a destructor of the toolkit would do it later, past the
+    // half of the window that is gone by then.
+    std::vector<QPointer<QWidget>> duranlar;
+    for (const auto& [ekran, pencere] : pencereler_)
+        duranlar.emplace_back(pencere.get());
+    for (const auto& pencere : duranlar)
+        if (pencere != nullptr)
+            pencere->hide();
     // At once: no event loop may follow that would carry out a later deletion.
     for (auto& [ekran, pencere] : pencereler_)
         delete pencere.release();

@@ -72,6 +72,19 @@ class ListeSiralamaTest : public QObject {
     Q_OBJECT
 
   private slots:
+    void with_nothing_marked_End_marks_the_last_row_as_it_is_seen() {
+        SiralamaSahnesi sahne;
+        sahne.BasligaTikla(1);
+        sahne.liste.setFocus();
+        QVERIFY(!sahne.liste.currentIndex().isValid());
+        QTest::keyClick(&sahne.liste, Qt::Key_End);
+        QCOMPARE(sahne.Secilenler(), QList<int>{3});
+        QCOMPARE(sahne.ekran->secili, 0); // Zeki
+        QTest::keyClick(&sahne.liste, Qt::Key_Home);
+        QTest::keyClick(&sahne.liste, Qt::Key_End);
+        QCOMPARE(sahne.Secilenler(), QList<int>{3});
+    }
+
     void a_click_on_a_head_sorts_turkish_texts_a_second_turns_them_round_and_a_third_gives_them_up() {
         SiralamaSahnesi sahne;
         QCOMPARE(sahne.Gorunen(1), QString::fromUtf8(kModelSirasi));

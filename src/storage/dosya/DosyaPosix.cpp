@@ -267,7 +267,7 @@ void Gozcu::Birak() {
 }
 
 bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& ver) {
-    alignas(inotify_event) std::array<char, 16 * 1024> tampon;
+    alignas(inotify_event) std::array<char, 16 * 1024> tampon{};
     bool emin = ic_->izlenen >= 0 && ic_->YolAyni();
     while (emin) {
         const ssize_t boy = Sabirla([&] { return ::read(ic_->no, tampon.data(), tampon.size()); });
