@@ -6,10 +6,17 @@
 #include <random>
 
 #include "storage/KodSayfasi.h"
+#include "storage/dosya/Sistem.h"
 
 namespace velora::test {
 
 namespace fs = std::filesystem;
+
+bool KlasorIzlenir(const fs::path& klasor) {
+    sistem::Gozcu gozcu;
+    gozcu.Izle(klasor);
+    return gozcu.Degisenler([](MetinBakis) {});
+}
 
 GeciciAgac::GeciciAgac() {
     std::random_device rastgele;
