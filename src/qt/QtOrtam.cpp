@@ -103,6 +103,9 @@ void QtOrtam::PencereleriBirak() {
     for (const auto& pencere : duranlar)
         if (pencere != nullptr)
             pencere->hide();
+    // A menu that is open keeps it in the window below.
+    if (QWidget* odak = QApplication::focusWidget())
+        odak->clearFocus();
     // At once: no event loop may follow that would carry out a later deletion.
     for (auto& [ekran, pencere] : pencereler_)
         delete pencere.release();
