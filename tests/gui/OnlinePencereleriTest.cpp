@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -177,6 +178,23 @@ class OnlinePencereleriTest : public QObject {
                          QStringLiteral("Hayır"))});
         QVERIFY(pencere.isVisible());
         QCOMPARE(firma.bitisler, 0);
+    }
+
+    void on_a_first_run_the_password_stands_behind_the_profile_and_can_not_be_left() {
+        OnlineFirma firma;
+        firma.program.FormFirma->Tag = u"1";
+        firma.program.FormFirma.Goster();
+        Tikla(*firma.disDunya.Pencere(EkranAdi::FormFirma), "Command1");
+        QVERIFY(!firma.program.FormFirma.Yuklu());
+        QCOMPARE(firma.bitisler, 0);
+        auto& parola = *firma.disDunya.Pencere(EkranAdi::FormSifreDegistir);
+        QVERIFY(parola.isVisible());
+        QCOMPARE(parola.windowTitle(), QStringLiteral("Kullanıcı Girişi"));
+        QCOMPARE(Parcasi<QLabel>(parola, "Label8").text(), QStringLiteral("Yeni Parola Oluşturun"));
+        QVERIFY(!Parcasi<QPushButton>(parola, "Command2").isEnabled());
+        QVERIFY(QTest::qWaitForWindowActive(&parola));
+        QTest::keyClick(&parola, Qt::Key_Escape);
+        QVERIFY(parola.isVisible());
     }
 
     void the_key_at_the_service_can_be_copied_and_not_typed_over() {

@@ -93,7 +93,7 @@ class YetkilerTest : public QObject {
         GirisYap(firma, {2, 3, 8});
         SagBas(firma);
         QTest::keyClick(&firma.Tablo(), Qt::Key_Menu);
-        QTest::qWait(50);
+        QCoreApplication::processEvents();
         QVERIFY(!firma.Bul<QMenu>("Sagtus").isVisible());
     }
 };
