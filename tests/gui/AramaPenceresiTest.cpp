@@ -201,6 +201,7 @@ class AramaPenceresiTest : public QObject {
     }
 
     void all_rows_stay_chosen_while_the_timers_of_the_table_tick() {
+        int tik = 0; // outlives the firm, whose timer may tick until the end
         GuiFirma firma;
         firma.Rezervasyon(kSalonA, u"10.09.2026 - Gece", false);
         firma.Rezervasyon(kSalonB, u"11.09.2026 - Gece", false);
@@ -208,7 +209,6 @@ class AramaPenceresiTest : public QObject {
             YazVeAra(QStringLiteral("ali"));
             auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
             firma.Model().GunTimer.aralik = 20;
-            int tik = 0;
             firma.Model().GunTimer.tik = [&tik] { ++tik; };
             Baglayici::HepsiniTazele();
             QTest::keyClick(&liste, Qt::Key_A, Qt::ControlModifier);
