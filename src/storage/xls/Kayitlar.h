@@ -27,6 +27,7 @@ enum class XlsKaydi : std::uint16_t {
     MetinHucresi = 0x00FD,
     Boyutlar = 0x0200,
     SayiHucresi = 0x0203,
+    Satir = 0x0208,
     SayfaPenceresi = 0x023E,
     Bicem = 0x0293,
     Bas = 0x0809

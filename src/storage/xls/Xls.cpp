@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <numeric>
 
 #include "storage/Harf.h"
 #include "storage/Sayi.h"
@@ -102,16 +103,33 @@ std::uint16_t MetninBicimi(MetinBakis metin) {
     return metin.find_first_of(u"\r\n") == MetinBakis::npos ? MetinBicimi : SatirliBicim;
 }
 
-/// How wide the longest line of a text is, in tenths of a digit's width.
-std::size_t Genislik(MetinBakis metin) {
-    std::size_t enGenis = 0;
-    std::size_t satir = 0;
-    for (const char16_t harf : metin) {
-        const bool genis = harf == u'm' || harf == u'w' || harf == u'@' || KucukHarf(harf) != harf;
-        satir = harf == u'\n' ? 0 : satir + (genis ? 14 : 10);
-        enGenis = std::max(enGenis, satir);
+// Widths are counted in tenths of a digit's.
+constexpr std::size_t kEnDar = 80;
+constexpr std::size_t kEnGenis = 600;
+
+std::size_t HarfEni(char16_t harf) {
+    const bool genis = harf == u'm' || harf == u'w' || harf == u'@' || KucukHarf(harf) != harf;
+    return genis ? 14 : 10;
+}
+
+struct MetinBoyu {
+    std::size_t en = 0;    // of the longest line
+    std::size_t satir = 0; // lines that it takes in the widest column
+};
+
+MetinBoyu Olc(MetinBakis metin) {
+    MetinBoyu boy;
+    const Metin yazilan = XlsMetni(metin);
+    for (MetinBakis kalan = yazilan; boy.satir == 0 || !kalan.empty();) {
+        const MetinBakis satir = kalan.substr(0, kalan.find(u'\n'));
+        kalan.remove_prefix(std::min(satir.size() + 1, kalan.size()));
+        const std::size_t en =
+            std::accumulate(satir.begin(), satir.end(), std::size_t{0},
+                            [](std::size_t toplam, char16_t harf) { return toplam + HarfEni(harf); });
+        boy.en = std::max(boy.en, en);
+        boy.satir += std::max<std::size_t>(1, (en + kEnGenis - 1) / kEnGenis);
     }
-    return enGenis;
+    return boy;
 }
 
 /// One sheet: its rows, and how wide its columns have to be.
@@ -140,44 +158,60 @@ class XlsSayfasi {
   private:
     void SatirEkle(std::span<const Metin> hucreler, bool baslik) {
         const auto satir = static_cast<std::uint16_t>(satir_++);
-        const std::size_t adet = std::min(hucreler.size(), kEnCokSutun);
-        enler_.resize(std::max(enler_.size(), adet));
-        for (std::size_t i = 0; i < adet; ++i) {
-            const Metin& metin = hucreler[i];
-            if (metin.empty())
-                continue;
-            enler_[i] = std::max(enler_[i], Genislik(metin));
-            const auto sutun = static_cast<std::uint16_t>(i);
-            const auto sayi = !baslik && SayiSutunu(i) ? DuzSayi(metin) : std::nullopt;
-            if (sayi)
-                SayiHucresi(satir, sutun, metin, *sayi);
-            else
-                MetinHucresi(satir, sutun, metin, baslik ? std::uint16_t{BaslikBicimi} : MetninBicimi(metin));
+        hucreler = hucreler.first(std::min(hucreler.size(), kEnCokSutun));
+        enler_.resize(std::max(enler_.size(), hucreler.size()));
+        std::string kayitlar;
+        std::size_t boy = 1;
+        for (std::size_t i = 0; i < hucreler.size(); ++i)
+            if (!hucreler[i].empty())
+                boy = std::max(
+                    boy, HucreEkle(kayitlar, {satir, static_cast<std::uint16_t>(i), baslik}, hucreler[i]));
+        if (boy > 1)
+            BoyEkle(satir, boy);
+        hucreler_ += kayitlar;
+    }
+
+    struct HucreYeri {
+        std::uint16_t satir;
+        std::uint16_t sutun;
+        bool baslik;
+    };
+
+    /// Returns how many lines the cell takes.
+    std::size_t HucreEkle(std::string& akis, const HucreYeri& yer, MetinBakis metin) {
+        const MetinBoyu boy = Olc(metin);
+        enler_[yer.sutun] = std::max(enler_[yer.sutun], boy.en);
+        if (const auto sayi = !yer.baslik && SayiSutunu(yer.sutun) ? DuzSayi(metin) : std::nullopt) {
+            const bool kurus = metin.find(u'.') != MetinBakis::npos;
+            std::string bayt;
+            SayiEkle(bayt, std::bit_cast<std::uint64_t>(*sayi));
+            XlsKaydiEkle(akis, XlsKaydi::SayiHucresi,
+                         {yer.satir, yer.sutun, kurus ? KurusBicimi : SayiBicimi}, bayt);
+            return 1;
         }
+        const std::uint16_t bicim = yer.baslik ? std::uint16_t{BaslikBicimi} : MetninBicimi(metin);
+        const std::uint32_t no = metinler_.No(metin);
+        XlsKaydiEkle(akis, XlsKaydi::MetinHucresi,
+                     {yer.satir, yer.sutun, bicim, static_cast<std::uint16_t>(no & 0xFFFFU),
+                      static_cast<std::uint16_t>(no >> 16U)});
+        return bicim == SatirliBicim || bicim == UzunBicim ? boy.satir : 1;
+    }
+
+    /// Other rows get their height by the program that opens them.
+    void BoyEkle(std::uint16_t satir, std::size_t satirSayisi) {
+        constexpr std::size_t kSatirBoyu = 255; // twentieths of a point
+        constexpr std::size_t kEnUzunBoy = 409 * 20;
+        constexpr std::uint16_t kHerZaman = 0x0100; // a bit that is always set
+        const auto boy = static_cast<std::uint16_t>(std::min(satirSayisi * kSatirBoyu, kEnUzunBoy));
+        XlsKaydiEkle(hucreler_, XlsKaydi::Satir,
+                     {satir, 0, static_cast<std::uint16_t>(enler_.size()), boy, 0, 0, kHerZaman, BosBicim});
     }
 
     bool SayiSutunu(std::size_t sutun) const {
         return std::ranges::find(tablo_.sayiSutunlari, static_cast<int>(sutun)) != tablo_.sayiSutunlari.end();
     }
 
-    void MetinHucresi(std::uint16_t satir, std::uint16_t sutun, MetinBakis metin, std::uint16_t bicim) {
-        const std::uint32_t no = metinler_.No(metin);
-        XlsKaydiEkle(hucreler_, XlsKaydi::MetinHucresi,
-                     {satir, sutun, bicim, static_cast<std::uint16_t>(no & 0xFFFFU),
-                      static_cast<std::uint16_t>(no >> 16U)});
-    }
-
-    void SayiHucresi(std::uint16_t satir, std::uint16_t sutun, MetinBakis metin, double sayi) {
-        const bool kurus = metin.find(u'.') != MetinBakis::npos;
-        const std::uint16_t bicim = kurus ? KurusBicimi : SayiBicimi;
-        std::string bayt;
-        SayiEkle(bayt, std::bit_cast<std::uint64_t>(sayi));
-        XlsKaydiEkle(hucreler_, XlsKaydi::SayiHucresi, {satir, sutun, bicim}, bayt);
-    }
-
     void EnleriEkle(std::string& akis) const {
-        constexpr std::size_t kEnDar = 80; // tenths of a digit, as `Genislik` counts
-        constexpr std::size_t kEnGenis = 600;
         constexpr std::size_t kPay = 20;
         constexpr std::size_t kBirim = 256; // of a digit in the file
         for (std::size_t i = 0; i < enler_.size(); ++i) {
@@ -215,7 +249,7 @@ class XlsSayfasi {
     const XlsTablosu& tablo_;
     XlsMetinleri& metinler_;
     std::string hucreler_;
-    std::vector<std::size_t> enler_; // as `Genislik` counts
+    std::vector<std::size_t> enler_; // as `Olc` counts
     std::size_t satir_ = 0;
 };
 
