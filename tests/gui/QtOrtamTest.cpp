@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDir>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -38,9 +39,13 @@ class AcilanAdresler : public QObject {
 
   public:
     QStringList adlar;
+    QStringList klasorler; ///< in which the opener was started
 
   public slots:
-    void Ac(const QUrl& adres) { adlar << adres.fileName(); }
+    void Ac(const QUrl& adres) {
+        adlar << adres.fileName();
+        klasorler << QDir::currentPath();
+    }
 };
 
 class QtOrtamTest : public QObject {
@@ -359,6 +364,20 @@ class QtOrtamTest : public QObject {
         QCOMPARE(acilan.adlar, (QStringList{QStringLiteral("var.txt"), QStringLiteral("yok.txt")}));
         QVERIFY(var);
         QVERIFY(!yok);
+    }
+
+    void a_file_is_opened_from_its_own_folder_and_the_program_stays_in_its_own() {
+        const GeciciAgac agac;
+        agac.Koy(u"var.txt", "x");
+        const QString once = QDir::currentPath();
+        AcilanAdresler acilan;
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), &acilan, "Ac");
+        ortam_.kabuk.dosyaAc(agac.Yol(u"var.txt"));
+        ortam_.kabuk.dosyaAc(agac.Yol(u"yok/var.txt"));
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        const QString kok = QString::fromStdU16String(agac.Kok().u16string());
+        QCOMPARE(acilan.klasorler, (QStringList{kok, once}));
+        QCOMPARE(QDir::currentPath(), once);
     }
 
     void the_clock_is_the_local_time_of_the_machine() {
