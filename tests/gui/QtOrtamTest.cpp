@@ -1,16 +1,12 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
-#include <QDir>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QUrl>
 
-#include "destek/GeciciAgac.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
@@ -32,21 +28,6 @@ QStringList Dugmeler(const QMessageBox& kutu) {
 }
 
 } // namespace
-
-/// Stands in for the desktop's opener.
-class AcilanAdresler : public QObject {
-    Q_OBJECT
-
-  public:
-    QStringList adlar;
-    QStringList klasorler; ///< in which the opener was started
-
-  public slots:
-    void Ac(const QUrl& adres) {
-        adlar << adres.fileName();
-        klasorler << QDir::currentPath();
-    }
-};
 
 class QtOrtamTest : public QObject {
     Q_OBJECT
@@ -351,33 +332,6 @@ class QtOrtamTest : public QObject {
         }
         ortam_.olaylar.isle();
         QCOMPARE(sayi, 1);
-    }
-
-    void a_file_that_is_missing_counts_as_not_opened_though_the_opener_starts() {
-        const GeciciAgac agac;
-        agac.Koy(u"var.txt", "x");
-        AcilanAdresler acilan;
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &acilan, "Ac");
-        const bool var = ortam_.kabuk.dosyaAc(agac.Yol(u"var.txt"));
-        const bool yok = ortam_.kabuk.dosyaAc(agac.Yol(u"yok.txt"));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-        QCOMPARE(acilan.adlar, (QStringList{QStringLiteral("var.txt"), QStringLiteral("yok.txt")}));
-        QVERIFY(var);
-        QVERIFY(!yok);
-    }
-
-    void a_file_is_opened_from_its_own_folder_and_the_program_stays_in_its_own() {
-        const GeciciAgac agac;
-        agac.Koy(u"var.txt", "x");
-        const QString once = QDir::currentPath();
-        AcilanAdresler acilan;
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &acilan, "Ac");
-        ortam_.kabuk.dosyaAc(agac.Yol(u"var.txt"));
-        ortam_.kabuk.dosyaAc(agac.Yol(u"yok/var.txt"));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-        const QString kok = QString::fromStdU16String(agac.Kok().u16string());
-        QCOMPARE(acilan.klasorler, (QStringList{kok, once}));
-        QCOMPARE(QDir::currentPath(), once);
     }
 
     void the_clock_is_the_local_time_of_the_machine() {
