@@ -97,8 +97,9 @@ void XlrdSatiri(std::vector<OkunanSayfa>& sayfalar, const std::string& yazi) {
     OkunanSayfa& sayfa = sayfalar.back();
     if (tur == 'B') {
         int kalin = 0;
-        satir >> sutun >> kalin >> metin;
-        sayfa.basliklar.push_back({kalin == 1, metin});
+        int hiza = 0;
+        satir >> sutun >> kalin >> metin >> hiza;
+        sayfa.basliklar.push_back({kalin == 1, metin, hiza == 3});
     } else if (tur == 'E') {
         satir >> sutun >> sayfa.enler.emplace_back();
     } else {

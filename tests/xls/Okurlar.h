@@ -16,6 +16,7 @@ using XlsSatirlari = std::vector<std::vector<XlsHucresi>>;
 struct XlsBasligi {
     bool kalin = false;
     std::string zemin; ///< "FFFF00", or "-" for none
+    bool sagda = false;
 };
 
 struct OkunanSayfa {

@@ -221,6 +221,14 @@ TEST_P(XlsTekOkur, Headings_are_bold_on_yellow) {
     }
 }
 
+TEST_P(XlsTekOkur, The_heading_of_a_number_column_stands_to_the_right_as_its_numbers_do) {
+    const auto sayfalar = YazVeOku(NumaraliSatirlar(2), {1});
+    ASSERT_EQ(sayfalar.size(), 1U);
+    EXPECT_FALSE(sayfalar[0].basliklar.at(0).sagda);
+    EXPECT_TRUE(sayfalar[0].basliklar.at(1).sagda);
+    EXPECT_EQ(sayfalar[0].basliklar.at(1).zemin, "FFFF00");
+}
+
 TEST_P(XlsTekOkur, Columns_are_as_wide_as_the_longest_line_in_them_within_limits) {
     basliklar = {u"Tarih", u"Ad Soyad", u"Açıklama", u"Uzun bir başlık, on dokuz"};
     const auto sayfalar = YazVeOku({{u"5", u"0123456789012345678901234", u"kısa\r\n0123456789", u"1"},

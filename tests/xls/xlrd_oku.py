@@ -2,7 +2,7 @@
 
 U text                      a warning
 S name rows                 a sheet; what follows is of it
-B column bold colour        how a cell of the first row looks
+B column bold colour align  how a cell of the first row looks; 3 stands to the right
 E column width              in 256ths of a digit
 T row column text           a cell with a text
 N row column number format  a cell with a number
@@ -28,7 +28,7 @@ def main(path):
         for column in range(sheet.row_len(0) if sheet.nrows else 0):
             look = book.xf_list[sheet.cell_xf_index(0, column)]
             colour = book.colour_map[look.background.pattern_colour_index] if look.background.fill_pattern == 1 else None
-            print("B", column, int(book.font_list[look.font_index].weight >= 700), "%02X%02X%02X" % colour if colour else "-")
+            print("B", column, int(book.font_list[look.font_index].weight >= 700), "%02X%02X%02X" % colour if colour else "-", look.alignment.hor_align)
         for column, info in sheet.colinfo_map.items():
             print("E", column, info.width)
         for row in range(sheet.nrows):

@@ -23,6 +23,7 @@ constexpr MetinBakis kSayfaAdi = u"Sayfa";
 enum Bicim : std::uint16_t {
     BosBicim = 15,
     BaslikBicimi,
+    SayiBasligi,
     MetinBicimi,
     SatirliBicim,
     UzunBicim,
@@ -44,6 +45,7 @@ constexpr std::uint16_t kSistemZemini = 65;
 constexpr std::uint16_t kSari = 13;
 
 constexpr std::uint16_t kSatirlaraBol = 0x0008;
+constexpr std::uint16_t kSaga = 0x0003;
 
 void YaziTipiEkle(std::string& akis, bool kalin) {
     constexpr MetinBakis kAd = u"Arial";
@@ -83,7 +85,8 @@ void BicimleriEkle(std::string& akis) {
     for (int i = 0; i < BosBicim; ++i)
         BicimEkle(akis, {.hiza = kAlttaDuz}, true);
     BicimEkle(akis, {.hiza = kAlttaDuz});
-    BicimEkle(akis, {.yazi = KalinYazi, .sayiBicimi = kYazi, .sari = true});
+    for (const std::uint16_t hiza : {std::uint16_t{0}, kSaga})
+        BicimEkle(akis, {.yazi = KalinYazi, .sayiBicimi = kYazi, .hiza = hiza, .sari = true});
     BicimEkle(akis, {.sayiBicimi = kYazi});
     BicimEkle(akis, {.sayiBicimi = kYazi, .hiza = kSatirlaraBol});
     BicimEkle(akis, {.hiza = kSatirlaraBol});
@@ -143,6 +146,7 @@ class XlsSayfasi {
             SatirEkle(satir, false);
         std::string akis;
         BasEkle(akis, true);
+        BaskiEkle(akis);
         EnleriEkle(akis);
         const auto satirSayisi = static_cast<std::uint32_t>(satir_);
         const auto alt = static_cast<std::uint16_t>(satirSayisi & 0xFFFFU);
@@ -177,6 +181,10 @@ class XlsSayfasi {
         bool baslik;
     };
 
+    std::uint16_t BasliginBicimi(std::size_t sutun) const {
+        return SayiSutunu(sutun) ? SayiBasligi : BaslikBicimi;
+    }
+
     /// Returns how many lines the cell takes.
     std::size_t HucreEkle(std::string& akis, const HucreYeri& yer, MetinBakis metin) {
         const MetinBoyu boy = Olc(metin);
@@ -189,7 +197,7 @@ class XlsSayfasi {
                          {yer.satir, yer.sutun, kurus ? KurusBicimi : SayiBicimi}, bayt);
             return 1;
         }
-        const std::uint16_t bicim = yer.baslik ? std::uint16_t{BaslikBicimi} : MetninBicimi(metin);
+        const std::uint16_t bicim = yer.baslik ? BasliginBicimi(yer.sutun) : MetninBicimi(metin);
         const std::uint32_t no = metinler_.No(metin);
         XlsKaydiEkle(akis, XlsKaydi::MetinHucresi,
                      {yer.satir, yer.sutun, bicim, static_cast<std::uint16_t>(no & 0xFFFFU),
@@ -209,6 +217,21 @@ class XlsSayfasi {
 
     bool SayiSutunu(std::size_t sutun) const {
         return std::ranges::find(tablo_.sayiSutunlari, static_cast<int>(sutun)) != tablo_.sayiSutunlari.end();
+    }
+
+    /// On paper: A4 across, as many pages below each other as it takes, none beside another.
+    static void BaskiEkle(std::string& akis) {
+        constexpr std::uint16_t kKagidaSigdir = 0x0100;
+        XlsKaydiEkle(akis, XlsKaydi::SayfaDuzeni, {kKagidaSigdir});
+        constexpr std::uint16_t kA4 = 9;
+        constexpr std::uint16_t kYuzde = 100;
+        constexpr std::uint16_t kNokta = 600; // of an inch
+        constexpr double kKenar = 0.5;        // inches, of what stands above and below the page's text
+        std::string bayt;
+        for (int i = 0; i < 2; ++i)
+            SayiEkle(bayt, std::bit_cast<std::uint64_t>(kKenar));
+        SayiEkle(bayt, std::uint16_t{1}); // copies
+        XlsKaydiEkle(akis, XlsKaydi::BaskiDuzeni, {kA4, kYuzde, 1, 1, 0, 0, kNokta, kNokta}, bayt);
     }
 
     void EnleriEkle(std::string& akis) const {

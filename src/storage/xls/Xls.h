@@ -17,7 +17,8 @@ struct XlsTablosu {
 };
 
 /// The bytes of a true .xls file (BIFF8 records in a compound file) that shows the table: the headings bold
-/// on yellow, and they stay in view; columns as wide as what they hold, within limits.
+/// on yellow, and they stay in view; columns as wide as what they hold, within limits; on paper A4 across,
+/// no page beside another.
 ///
 /// Every cell is a text, also one that looks like a formula, a date or a number; in the columns named above a
 /// text is a number when `DuzSayi` says so. Texts are cut as `XlsMetni` tells. What doesn't fit into the

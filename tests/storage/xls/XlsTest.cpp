@@ -214,6 +214,20 @@ TEST(Xls, Rows_of_several_lines_are_so_high_and_others_are_left_to_the_program) 
     EXPECT_EQ(Sayi(satirlar[2].bayt, 6, 2), 409 * 20U) << "no row can be higher";
 }
 
+TEST(Xls, On_paper_the_sheet_lies_across_and_no_page_stands_beside_another) {
+    const auto kayitlar = Kayitlari(TekSutun({}));
+    const auto sayfa = Secilenler(kayitlar, XlsKaydi::SayfaDuzeni);
+    const auto baski = Secilenler(kayitlar, XlsKaydi::BaskiDuzeni);
+    ASSERT_EQ(sayfa.size(), 1U);
+    ASSERT_EQ(baski.size(), 1U);
+    EXPECT_EQ(Sayi(sayfa[0].bayt, 0, 2), 0x0100U) << "made to fit";
+    EXPECT_EQ(baski[0].bayt.size(), 34U);
+    EXPECT_EQ(Sayi(baski[0].bayt, 0, 2), 9U) << "A4";
+    EXPECT_EQ(Sayi(baski[0].bayt, 6, 2), 1U) << "pages across";
+    EXPECT_EQ(Sayi(baski[0].bayt, 8, 2), 0U) << "as many down as it takes";
+    EXPECT_EQ(Sayi(baski[0].bayt, 10, 2), 0U) << "not upright";
+}
+
 TEST(DuzSayi, Takes_what_reads_alike_as_text_and_as_number) {
     const std::vector<std::pair<Metin, double>> sayilar{
         {u"0", 0},           {u"7", 7},
