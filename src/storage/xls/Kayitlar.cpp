@@ -3,21 +3,11 @@
 #include <algorithm>
 
 #include "storage/xls/Baytlar.h"
+#include "storage/xls/HucreMetni.h"
 
 namespace velora {
 
 namespace {
-
-constexpr std::size_t kEnUzunHucre = 32767;
-constexpr char16_t kYerTutan = u'\xFFFD';
-
-bool BasYarim(char16_t harf) {
-    return 0xD800 <= harf && harf < 0xDC00;
-}
-
-bool SonYarim(char16_t harf) {
-    return 0xDC00 <= harf && harf < 0xE000;
-}
 
 /// A record that goes on in others when it is full.
 class UzunKayit {
@@ -45,9 +35,9 @@ class UzunKayit {
         bas_ = akis_.size();
     }
     void Kapat() {
-        std::string boy;
-        SayiEkle(boy, static_cast<std::uint16_t>(akis_.size() - bas_));
-        akis_.replace(bas_ - boy.size(), boy.size(), boy);
+        const std::size_t boy = akis_.size() - bas_;
+        akis_[bas_ - 2] = static_cast<char>(boy & 0xFFU);
+        akis_[bas_ - 1] = static_cast<char>(boy >> 8U);
     }
 
     std::string& akis_;
@@ -98,30 +88,6 @@ void XlsMetinleri::Yaz(std::string& akis) const {
     SayiEkle(akis, static_cast<std::uint32_t>(metinler_.size()));
     for (const MetinBakis metin : metinler_)
         MetniBol(akis, kayit, XlsMetni(metin));
-}
-
-Metin XlsMetni(MetinBakis metin) {
-    Metin sonuc;
-    sonuc.reserve(std::min(metin.size(), kEnUzunHucre));
-    for (std::size_t i = 0; i < metin.size() && sonuc.size() < kEnUzunHucre; ++i) {
-        const char16_t harf = metin[i];
-        const char16_t sonraki = i + 1 < metin.size() ? metin[i + 1] : u'\0';
-        if (BasYarim(harf) && SonYarim(sonraki)) {
-            if (sonuc.size() + 2 > kEnUzunHucre)
-                break; // the pair isn't cut in two
-            sonuc += harf;
-            sonuc += sonraki;
-            ++i;
-        } else if (harf == u'\r') {
-            sonuc += u'\n';
-            i += sonraki == u'\n' ? 1 : 0;
-        } else if (BasYarim(harf) || SonYarim(harf)) {
-            sonuc += kYerTutan;
-        } else {
-            sonuc += harf < u' ' && harf != u'\n' ? u' ' : harf;
-        }
-    }
-    return sonuc;
 }
 
 } // namespace velora

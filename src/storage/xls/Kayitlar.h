@@ -57,8 +57,4 @@ class XlsMetinleri {
     std::uint32_t hucreler_ = 0;       // that show one of them
 };
 
-/// What a cell can show of a text: at most 32,767 characters, line ends as "\n", other control characters as
-/// blanks, half a surrogate pair as U+FFFD. Of no text nothing is left.
-Metin XlsMetni(MetinBakis metin);
-
 } // namespace velora

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <bit>
-#include <numeric>
+#include <optional>
 
-#include "storage/Harf.h"
-#include "storage/Sayi.h"
 #include "storage/xls/Baytlar.h"
 #include "storage/xls/BilesikDosya.h"
+#include "storage/xls/HucreMetni.h"
 #include "storage/xls/Kayitlar.h"
 
 namespace velora {
@@ -106,35 +105,6 @@ std::uint16_t MetninBicimi(MetinBakis metin) {
     return metin.find_first_of(u"\r\n") == MetinBakis::npos ? MetinBicimi : SatirliBicim;
 }
 
-// Widths are counted in tenths of a digit's.
-constexpr std::size_t kEnDar = 80;
-constexpr std::size_t kEnGenis = 600;
-
-std::size_t HarfEni(char16_t harf) {
-    const bool genis = harf == u'm' || harf == u'w' || harf == u'@' || KucukHarf(harf) != harf;
-    return genis ? 14 : 10;
-}
-
-struct MetinBoyu {
-    std::size_t en = 0;    // of the longest line
-    std::size_t satir = 0; // lines that it takes in the widest column
-};
-
-MetinBoyu Olc(MetinBakis metin) {
-    MetinBoyu boy;
-    const Metin yazilan = XlsMetni(metin);
-    for (MetinBakis kalan = yazilan; boy.satir == 0 || !kalan.empty();) {
-        const MetinBakis satir = kalan.substr(0, kalan.find(u'\n'));
-        kalan.remove_prefix(std::min(satir.size() + 1, kalan.size()));
-        const std::size_t en =
-            std::accumulate(satir.begin(), satir.end(), std::size_t{0},
-                            [](std::size_t toplam, char16_t harf) { return toplam + HarfEni(harf); });
-        boy.en = std::max(boy.en, en);
-        boy.satir += std::max<std::size_t>(1, (en + kEnGenis - 1) / kEnGenis);
-    }
-    return boy;
-}
-
 /// One sheet: its rows, and how wide its columns have to be.
 class XlsSayfasi {
   public:
@@ -187,7 +157,7 @@ class XlsSayfasi {
 
     /// Returns how many lines the cell takes.
     std::size_t HucreEkle(std::string& akis, const HucreYeri& yer, MetinBakis metin) {
-        const MetinBoyu boy = Olc(metin);
+        const XlsMetinBoyu boy = XlsBoyu(metin);
         enler_[yer.sutun] = std::max(enler_[yer.sutun], boy.en);
         if (const auto sayi = !yer.baslik && SayiSutunu(yer.sutun) ? DuzSayi(metin) : std::nullopt) {
             const bool kurus = metin.find(u'.') != MetinBakis::npos;
@@ -235,10 +205,11 @@ class XlsSayfasi {
     }
 
     void EnleriEkle(std::string& akis) const {
+        constexpr std::size_t kEnDar = 80; // all in tenths of a digit
         constexpr std::size_t kPay = 20;
         constexpr std::size_t kBirim = 256; // of a digit in the file
         for (std::size_t i = 0; i < enler_.size(); ++i) {
-            const std::size_t en = (std::clamp(enler_[i], kEnDar, kEnGenis) + kPay) * kBirim / 10;
+            const std::size_t en = (std::clamp(enler_[i], kEnDar, kEnGenisXlsSutunu) + kPay) * kBirim / 10;
             const auto sutun = static_cast<std::uint16_t>(i);
             XlsKaydiEkle(akis, XlsKaydi::SutunEni,
                          {sutun, sutun, static_cast<std::uint16_t>(en), BosBicim, 0, 0});
@@ -247,8 +218,8 @@ class XlsSayfasi {
 
     /// How the sheet stands in its window: the headings keep their place when it is scrolled.
     static void GorunumEkle(std::string& akis, bool ilk) {
-        constexpr std::uint16_t kDonuk = 0x01BE; // grid, headings and zeros are seen; a pane that doesn't
-                                                 // move
+        // Grid, headings and zeros are seen; one pane doesn't move.
+        constexpr std::uint16_t kDonuk = 0x01BE;
         constexpr std::uint16_t kSecili = 0x0600;
         const auto durum = static_cast<std::uint16_t>(kDonuk | (ilk ? kSecili : 0U));
         XlsKaydiEkle(akis, XlsKaydi::SayfaPenceresi, {durum, 0, 0, kSistemYazisi, 0, 0, 0, 0, 0});
@@ -272,7 +243,7 @@ class XlsSayfasi {
     const XlsTablosu& tablo_;
     XlsMetinleri& metinler_;
     std::string hucreler_;
-    std::vector<std::size_t> enler_; // as `Olc` counts
+    std::vector<std::size_t> enler_; // as `XlsMetinBoyu` counts
     std::size_t satir_ = 0;
 };
 
@@ -303,10 +274,6 @@ std::string KitapBasi(std::size_t sayfaSayisi) {
     return akis;
 }
 
-bool OnlukRakam(char16_t harf) {
-    return u'0' <= harf && harf <= u'9';
-}
-
 } // namespace
 
 std::string XlsYaz(const XlsTablosu& tablo) {
@@ -334,22 +301,6 @@ std::string XlsYaz(const XlsTablosu& tablo) {
     for (const std::string& sayfa : sayfalar)
         akis += sayfa;
     return BilesikDosya(u"Workbook", std::move(akis));
-}
-
-std::optional<double> DuzSayi(MetinBakis metin) {
-    constexpr std::size_t kEnCokHane = 15; // a double holds so many exactly
-    MetinBakis sayi = metin;
-    if (sayi.starts_with(u'-'))
-        sayi.remove_prefix(1);
-    const std::size_t nokta = std::min(sayi.find(u'.'), sayi.size());
-    const MetinBakis tam = sayi.substr(0, nokta);
-    const MetinBakis kesir = sayi.substr(std::min(nokta + 1, sayi.size()));
-    const bool rakamlar = std::ranges::all_of(tam, OnlukRakam) && std::ranges::all_of(kesir, OnlukRakam);
-    const bool tamUygun = !tam.empty() && (tam == u"0" || tam.front() != u'0');
-    const bool kesirUygun = nokta == sayi.size() || kesir.size() == 1 || kesir.size() == 2;
-    if (!rakamlar || !tamUygun || !kesirUygun || tam.size() + kesir.size() > kEnCokHane)
-        return {};
-    return SayisalDeger(metin);
 }
 
 } // namespace velora

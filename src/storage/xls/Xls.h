@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -25,10 +24,5 @@ struct XlsTablosu {
 /// 65,536 rows of a sheet goes on in the next one, under the headings again. Columns behind the 256th are
 /// left out.
 std::string XlsYaz(const XlsTablosu& tablo);
-
-/// The number that a text is, where nobody can take it for another one: at most 15 digits with no 0 before
-/// them, perhaps a minus, perhaps a point and one or two digits behind it. "1.250" is none: it might be meant
-/// as a thousand and more.
-std::optional<double> DuzSayi(MetinBakis metin);
 
 } // namespace velora

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "storage/xls/BilesikDosya.h"
+#include "storage/xls/HucreMetni.h"
 #include "storage/xls/Kayitlar.h"
 
 namespace velora {
