@@ -165,6 +165,14 @@ TEST(Xls, No_record_is_longer_than_a_record_can_be) {
     EXPECT_GE(Secilenler(kayitlar, XlsKaydi::Devam).size(), 8U);
 }
 
+TEST(Xls, The_head_of_a_text_is_not_parted_from_its_first_character) {
+    // Four bytes are left behind the counts, the heading and the first text.
+    const std::vector<Metin> metinler{Metin((8224 - 8 - 19 - 3 - 4) / 2, u'a'), u"şı"};
+    const auto kayitlar = Kayitlari(TekSutun(metinler));
+    EXPECT_EQ(Secilenler(kayitlar, XlsKaydi::Metinler).at(0).bayt.size(), 8220U);
+    EXPECT_EQ(Secilenler(kayitlar, XlsKaydi::Devam).at(0).bayt, std::string("\2\0\1\x5F\x01\x31\x01", 7));
+}
+
 TEST(Xls, Each_sheet_begins_where_the_workbook_says_and_the_file_ends_with_an_end) {
     const std::vector<Metin> metinler(65536, u"x");
     const auto kayitlar = Kayitlari(TekSutun(metinler));
