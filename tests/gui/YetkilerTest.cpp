@@ -5,6 +5,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
 
