@@ -73,6 +73,12 @@ void Pencere<Ekran>::GosterModal(const std::function<bool()>& hazirla) {
 }
 
 template <class Ekran>
+void Pencere<Ekran>::Gizle() {
+    program_.yigin.Al(ad_);
+    program_.ortam.goster.gizle(ad_);
+}
+
+template <class Ekran>
 void Pencere<Ekran>::Bosalt() {
     const auto birakilan = std::move(ekran_);
     ekran_.reset();
@@ -82,8 +88,7 @@ void Pencere<Ekran>::Bosalt() {
     // A handler of the screen may wait for it, and keeps the screen while it waits.
     if constexpr (requires(Ekran & e) { e.Inet1.Iptal(); })
         birakilan->Inet1.Iptal();
-    program_.yigin.Al(ad_);
-    program_.ortam.goster.gizle(ad_);
+    Gizle();
 }
 
 template <class Ekran>

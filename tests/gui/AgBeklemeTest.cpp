@@ -31,6 +31,7 @@ struct SusanServis : GuiFirma {
         agac.Koy(u"Firma.dll", kTamProfil);
         agac.KoyMetin(u"Adresler.dat", u"\"" + sunucu.Adres(u"") + u"\",\"\",\"\",\"\"\r\n");
         AgiBagla(program.ortam);
+        BeklerkenGoster(program.ortam);
         program.Splash->Check1 = 1;
     }
 

@@ -12,6 +12,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "maintenance/FormDownloadManager.h"
 #include "maintenance/FormResmiTatil.h"
 #include "online/FormIpMac.h"
 #include "online/FormWebteYayinla.h"
