@@ -242,9 +242,11 @@ TEST_F(AramaTest, A_new_search_marks_nothing) {
     KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece", {.ad = u"Nur Ak"});
     Ara(kAd, u"nur");
     Isaretle(0);
+    EXPECT_TRUE(Arama().Command1.etkin);
     Ara(kAd, u"ak");
     EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
     EXPECT_EQ(Arama().Liste.secili, -1);
+    EXPECT_FALSE(Arama().Command1.etkin);
 }
 
 TEST_F(AramaTest, The_path_is_of_the_selected_year_and_the_names_are_of_every_year_on_purpose) {

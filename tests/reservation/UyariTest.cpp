@@ -177,6 +177,7 @@ TEST_F(UyariTest, A_row_opens_its_record_in_its_hall_and_year) {
     EXPECT_EQ(tarih, u"02.01.2013 - Gece");
     EXPECT_EQ(Tablo().Salon.Metni(), u"Salon B");
     EXPECT_EQ(Tablo().Sene.Metni(), u"2013");
+    Tablo().Liste_DblClick(); // the row is marked still, and wants another click
 }
 
 TEST_F(UyariTest, A_row_whose_hall_is_gone_or_renamed_opens_nothing_and_leaves_the_table_where_it_is) {
