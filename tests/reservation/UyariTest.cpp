@@ -89,6 +89,14 @@ TEST_F(UyariTest, A_couple_of_just_0_keeps_a_firm_reservation_out_on_purpose_and
     UyarilarOlmali({u"16.06.2012 - Gündüz Ön"});
 }
 
+TEST_F(UyariTest, A_companion_that_reads_like_a_record_is_never_listed) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece-Odeme", AnaMetni());
+    agac.KoyMetin(u"Salon A/2012/17.06.2012 - Gece-Detay", AnaMetni());
+    Prog();
+    UyarilarOlmali({u"16.06.2012 - Gece Kesin"});
+}
+
 TEST_F(UyariTest, Rows_come_hall_by_hall_year_by_year_and_by_name_and_not_by_date) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon B\"\r\n\"Salon A\"\r\n");
     kullanici.ortam.simdi = std::chrono::local_days(std::chrono::year{2012} / 12 / 30);
