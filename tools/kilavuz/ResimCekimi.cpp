@@ -11,7 +11,6 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/Ekranlar.h"
-#include "qt/Koruma.h"
 #include "qt/QtOrtam.h"
 #include "screen/Program.h"
 #include "storage/Tarih.h"
@@ -100,7 +99,7 @@ class Cekim {
     Cekim& operator=(const Cekim&) = delete;
 
     CekilenResim Cek() {
-        tanim_.ac(program_);
+        Dene([this] { tanim_.ac(program_); });
         for (int tur = 0; !bitti_ && tur < kEnCokTur; ++tur)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         if (sonuc_.resim.isNull() && sonuc_.hata.isEmpty())
@@ -123,44 +122,63 @@ class Cekim {
             return Metin(u" ");
         };
         ortam.goster.ac = [this, ac = ortam.goster.ac](EkranAdi ekran, const auto& gorununce) {
-            ac(ekran, gorununce);
-            Bekle(ekran);
+            if (Bekle(ekran))
+                ac(ekran, gorununce);
         };
         ortam.goster.modal = [this, modal = ortam.goster.modal](EkranAdi ekran, const auto& gorununce) {
-            Bekle(ekran);
-            modal(ekran, gorununce);
+            if (Bekle(ekran))
+                modal(ekran, gorununce);
         };
         return ortam;
     }
 
     void Yanlis(const Metin& kutu) { sonuc_.hata = QStringLiteral("a box came up: ") + QMetin(kutu); }
 
-    /// The picture is taken from the event loop that the window stands in.
-    void Bekle(EkranAdi ekran) {
-        if (ekran == tanim_.ekran && !std::exchange(bekleniyor_, true))
-            QTimer::singleShot(0, qApp, [this] { Koru([this] { Al(); }); });
-        else if (ekran != tanim_.ekran)
+    template <class Is>
+    void Dene(const Is& is) {
+        try {
+            is();
+        } catch (const std::exception& hata) {
+            sonuc_.hata = QString::fromUtf8(hata.what());
+        }
+    }
+
+    /// The picture is taken from the event loop that the window stands in. Another window isn't shown: nobody
+    /// would close it.
+    bool Bekle(EkranAdi ekran) {
+        if (ekran != tanim_.ekran) {
             sonuc_.hata = QStringLiteral("another window came up: ") + QMetin(EkranBul(ekran).ad);
+            bitti_ = true;
+            return false;
+        }
+        if (!std::exchange(bekleniyor_, true))
+            QTimer::singleShot(0, qApp, [this] {
+                Dene([this] { Al(); });
+                Kapat();
+            });
+        return true;
     }
 
     void Al() {
-        bitti_ = true;
-        QWidget* pencere = disDunya_.Pencere(tanim_.ekran);
-        if (pencere == nullptr)
-            return;
+        QWidget& pencere = *disDunya_.Pencere(tanim_.ekran);
         if (tanim_.boy.isValid())
-            pencere->resize(tanim_.boy);
+            pencere.resize(tanim_.boy);
         QCoreApplication::processEvents();
         if (tanim_.hazirla != nullptr)
-            tanim_.hazirla(program_, *pencere);
+            tanim_.hazirla(program_, pencere);
         Baglayici::HepsiniTazele();
         QCoreApplication::processEvents();
         KipirdayaniDurdur(program_);
         Baglayici::HepsiniTazele();
-        sonuc_.resim = Goruntu(*pencere, tanim_.kesit);
+        sonuc_.resim = Goruntu(pencere, tanim_.kesit);
+    }
+
+    void Kapat() {
+        bitti_ = true;
         if (QWidget* menu = QApplication::activePopupWidget())
             menu->close();
-        pencere->hide();
+        if (QWidget* pencere = disDunya_.Pencere(tanim_.ekran))
+            pencere->hide();
     }
 
     const ResimTanimi& tanim_;
@@ -203,8 +221,9 @@ void SahipleriYaz(Program& program) {
 
 } // namespace
 
-bool FirmayiKur(const std::filesystem::path& kok) {
-    const ornek::Istek istek{.salon = 3, .yil = 2, .rezervasyon = 150, .tohum = 7, .bugun = kResimGunu};
+bool FirmayiKur(const std::filesystem::path& kok, unsigned rezervasyon) {
+    const ornek::Istek istek{
+        .salon = 3, .yil = 2, .rezervasyon = rezervasyon, .tohum = 7, .bugun = kResimGunu};
     if (ornek::FirmaYap(Dosyalar(kok), istek).durum != ornek::Durum::Tamam)
         return false;
     Ortam ortam;

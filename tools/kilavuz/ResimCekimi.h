@@ -33,8 +33,9 @@ struct CekilenResim {
     QString hata;
 };
 
-/// Makes the firm of the pictures in an empty folder: always the same one, on always the same day.
-bool FirmayiKur(const std::filesystem::path& kok);
+/// Makes the firm of the pictures in an empty folder: always the same one, on always the same day, with so
+/// many reservations for each hall and year.
+bool FirmayiKur(const std::filesystem::path& kok, unsigned rezervasyon = 150);
 
 /// Starts the program over that firm, shows one screen and takes its picture. Nothing is left on the display.
 /// Needs an application with the look of the program. A box that comes up meanwhile is an error.
