@@ -43,6 +43,7 @@ QImage Kucult(const QImage& resim) {
     if (sayilar.size() > kCizelge)
         return resim;
     std::vector<std::pair<int, QRgb>> sirali;
+    sirali.reserve(sayilar.size());
     for (const auto& [renk, sayi] : sayilar)
         sirali.emplace_back(-sayi, renk);
     std::ranges::sort(sirali);

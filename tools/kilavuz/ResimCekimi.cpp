@@ -192,8 +192,8 @@ class Cekim {
 /// The users and the profile, by the program's own hands.
 void SahipleriYaz(Program& program) {
     struct Kullanici {
-        const char16_t* ad;
-        const char16_t* parola;
+        Metin ad;
+        Metin parola;
         std::array<Metin, kYetkiSayisi> yetkiler;
     };
     const Kullanici kullanicilar[]{
