@@ -62,6 +62,15 @@ std::string TatilBayt(const Istek& istek) {
     return yazici.Bayt();
 }
 
+/// The administrator, and somebody at the desk who sees neither the accounts nor the settings.
+std::string KullaniciBayt() {
+    DegerYazici yazici;
+    yazici.Yaz(Metin(kYonetici), Metin(kYoneticiParolasi), u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1",
+               u"1", u"0", u"1");
+    yazici.Yaz(u"zeynep", u"1234", u"0", u"0", u"1", u"0", u"0", u"0", u"1", u"0", u"0", u"0", u"0");
+    return yazici.Bayt();
+}
+
 /// Writes file after file; after the first that fails it does nothing more.
 class Yazar {
   public:
@@ -103,6 +112,15 @@ void KokDosyalari(Yazar& yazar, const Istek& istek, std::size_t sonNumara) {
         menuler.Yaz(menu.ad, menu.icerik);
     yazar.Kok(kMenuDosyasi, menuler.Bayt());
     yazar.Kok(kTatilDosyasi, TatilBayt(istek));
+    DegerYazici sozlesme;
+    sozlesme.Yaz(u"Sözleşme Maddeleri", u"1 - Kalan ücret düğün günü ödenir.\r\n2 - Tarih değişikliği bir ay "
+                                        u"önceden bildirilir.");
+    yazar.Kok(kSozlesmeDosyasi, sozlesme.Bayt());
+    DegerYazici firma;
+    firma.Yaz(u"Örnek Düğün Salonları", u"Zeynep Örnek", u"0226 000 00 00", u"0500 000 00 00", u"Yok", u"Yok",
+              u"Çınar Caddesi No:1", u"YALOVA", u"Merkez", u"", u"", u"", SayiMetni(istek.salon));
+    yazar.Kok(kFirmaDosyasi, firma.Bayt());
+    yazar.Kok(kKullaniciDosyasi, KullaniciBayt());
     DegerYazici sayac;
     sayac.Yaz(SayiMetni(static_cast<long long>(sonNumara)));
     yazar.Kok(kSayacDosyasi, sayac.Bayt());

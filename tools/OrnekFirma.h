@@ -40,15 +40,19 @@ struct Sonuc {
     std::vector<int> yillar;      ///< ascending
 };
 
+/// Who may do all in a sample firm.
+inline constexpr MetinBakis kYonetici = u"admin";
+inline constexpr MetinBakis kYoneticiParolasi = u"velora";
+
 /// The names of the halls that a firm of so many halls has.
 std::vector<Metin> SalonAdlari(unsigned adet);
 
 /// The years of a firm, ascending.
 std::vector<int> Yillar(const Istek& istek);
 
-/// Writes a whole firm below the root of `dosyalar`, which must be there: halls, menus, holidays, and for
-/// each hall and year its reservations and expenses. `Salon.dat` comes last, so that a firm cut short counts
-/// as none.
+/// Writes a whole firm below the root of `dosyalar`, which must be there: its profile, users, contract,
+/// halls, menus, holidays, and for each hall and year its reservations and expenses. `Salon.dat` comes last,
+/// so that a firm cut short counts as none.
 Sonuc FirmaYap(const Dosyalar& dosyalar, const Istek& istek);
 
 } // namespace velora::ornek

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <vector>
 
+#include "storage/KodSayfasi.h"
 #include "tools/OrnekIstek.h"
 
 namespace {
@@ -32,7 +33,8 @@ Cikis Bildir(const Komut& komut, const Sonuc& sonuc) {
     }
     std::cout << "Sample firm in " << komut.klasor << ": " << sonuc.salonlar.size() << " halls, "
               << sonuc.yillar.size() << " years, " << sonuc.rezervasyon << " reservations, " << sonuc.odeme
-              << " payments.\n";
+              << " payments.\nUser " << KodYaz(kYonetici) << ", password " << KodYaz(kYoneticiParolasi)
+              << ".\n";
     if (sonuc.enAzRezervasyon < komut.istek.rezervasyon)
         std::cout << "A year has no more than " << sonuc.enAzRezervasyon
                   << " day slots; --tum-adlar takes 31 days "

@@ -3,8 +3,9 @@
 
 #include <QApplication>
 
-#include "access/Baslangic.h"
+#include "access/Splash.h"
 #include "platform/Ag.h"
+#include "platform/TekKopya.h"
 #include "qt/Dil.h"
 #include "qt/Ekranlar.h"
 #include "qt/Gorunum.h"
@@ -12,7 +13,6 @@
 #include "qt/QtOrtam.h"
 #include "qt/TusTekrari.h"
 #include "screen/Program.h"
-#include "table/FormTablo.h"
 
 static int Calistir(char** argv) {
     // The program has no command line: the toolkit sees none either.
@@ -28,10 +28,11 @@ static int Calistir(char** argv) {
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());
     velora::Ortam ortam = disDunya.Ver();
     velora::AgiBagla(ortam);
+    velora::BeklerkenGoster(ortam);
+    velora::KopyayiBagla(ortam);
     velora::Program program(std::move(ortam), programDizini);
     velora::EkranlariTanit(disDunya, program);
-    velora::ProgramiHazirla(program);
-    program.FormTablo.Goster();
+    program.Splash->Baslat();
     const int sonuc = disDunya.Bitti() ? 0 : QApplication::exec();
     disDunya.PencereleriBirak();
     return sonuc;

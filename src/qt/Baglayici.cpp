@@ -310,7 +310,10 @@ void Baglayici::Bagla(QLabel& etiket, Etiket& model) {
 void Baglayici::Bagla(Zamanlayici& model, const QString& ad) {
     auto* saat = new QTimer(this);
     saat->setObjectName(ad);
-    connect(saat, &QTimer::timeout, this, [this, &model] { Calistir([&model] { model.Calis(); }); });
+    connect(saat, &QTimer::timeout, this, [this, &model] {
+        if (!model.sakin || Durum().derinlik == 0)
+            Calistir([&model] { model.Calis(); });
+    });
     Izle([saat, &model] {
         if (model.aralik <= 0)
             saat->stop();

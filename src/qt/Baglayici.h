@@ -78,7 +78,8 @@ class Baglayici : public QObject {
     void Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi = {});
     void Bagla(QLabel& etiket, Etiket& model);
     /// A timer that runs as long as the model's interval isn't 0. One that runs is started again only by
-    /// another interval. `ad` is its name among the children of the binder.
+    /// another interval; a tick that would come in the middle of another handler is left out where the model
+    /// wants that. `ad` is its name among the children of the binder.
     void Bagla(Zamanlayici& model, const QString& ad);
 
     /// For all else that follows the models: runs whenever the widgets take what the models hold.

@@ -3,6 +3,7 @@
 #include "qt/QtOrtam.h"
 #include "qt/access/GirisPencereleri.h"
 #include "qt/access/KullaniciPencereleri.h"
+#include "qt/access/SplashPenceresi.h"
 #include "qt/accounts/BakiyePenceresi.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
@@ -30,6 +31,7 @@ void Tanit(QtOrtam& ortam, Program& program, EkranAdi ekran) {
 } // namespace
 
 void EkranlariTanit(QtOrtam& ortam, Program& program) {
+    Tanit<SplashPenceresi>(ortam, program, EkranAdi::Splash);
     Tanit<SifrePenceresi>(ortam, program, EkranAdi::FormSifre);
     Tanit<SifreDegistirPenceresi>(ortam, program, EkranAdi::FormSifreDegistir);
     Tanit<KullanicilarPenceresi>(ortam, program, EkranAdi::FormKullanicilar);

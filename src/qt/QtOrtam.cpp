@@ -186,4 +186,11 @@ void QtOrtam::Bitir() {
     QCoreApplication::exit(0);
 }
 
+void BeklerkenGoster(Ortam& ortam) {
+    ortam.ag.getir = [getir = ortam.ag.getir](const AgIstegi& istek) {
+        const Baglayici::KullaniciBekleme bekleme;
+        return getir(istek);
+    };
+}
+
 } // namespace velora

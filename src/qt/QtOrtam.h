@@ -59,4 +59,8 @@ class QtOrtam {
     bool bitti_ = false;
 };
 
+/// While a request waits, the windows show what its handler has done so far. For a world that has its network
+/// already.
+void BeklerkenGoster(Ortam& ortam);
+
 } // namespace velora

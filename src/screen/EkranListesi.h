@@ -5,7 +5,7 @@
 /// Every screen of the program, once: its name, and whether it has a window. One without a window only holds
 /// what others read, or waits for its window to be built; showing it is told on the error stream.
 #define VELORA_EKRANLAR(X)                                                                                   \
-    X(Splash, Penceresiz)                                                                                    \
+    X(Splash, Pencereli)                                                                                     \
     X(FormSifre, Pencereli)                                                                                  \
     X(FormSifreDegistir, Pencereli)                                                                          \
     X(FormKullanicilar, Pencereli)                                                                           \
@@ -26,6 +26,7 @@
     X(FormBakiye, Pencereli)                                                                                 \
     X(FormPrint, Penceresiz)                                                                                 \
     X(FormWebteYayinla, Penceresiz)                                                                          \
+    X(FormDownloadManager, Penceresiz)                                                                       \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)

@@ -72,6 +72,12 @@ struct Ortam {
         std::function<void()> bitir;
     } olaylar;
 
+    struct Kopya {
+        /// True: no other running copy of the program is this user's on this machine, and none will be while
+        /// this one runs. Where the system can't tell, it is true.
+        std::function<bool()> tek = [] { return true; };
+    } kopya;
+
     struct Kabuk {
         /// Opens a file in the program that the user reads such files with, and doesn't wait. False: none has
         /// been started that could show the file, or tell of its absence.

@@ -62,6 +62,8 @@ class Pencere {
     /// of the first one. From there until the screen has closed it does nothing, and its `hazirla` doesn't
     /// run.
     void GosterModal(const std::function<bool()>& hazirla = {});
+    /// Closes the screen's window; the screen stays loaded with all it holds.
+    void Gizle();
     /// Unloads the screen and closes its window.
     void Bosalt();
 

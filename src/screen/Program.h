@@ -73,13 +73,18 @@ void Pencere<Ekran>::GosterModal(const std::function<bool()>& hazirla) {
 }
 
 template <class Ekran>
+void Pencere<Ekran>::Gizle() {
+    program_.yigin.Al(ad_);
+    program_.ortam.goster.gizle(ad_);
+}
+
+template <class Ekran>
 void Pencere<Ekran>::Bosalt() {
     const auto birakilan = std::move(ekran_);
     ekran_.reset();
     if (!birakilan)
         return;
-    program_.yigin.Al(ad_);
-    program_.ortam.goster.gizle(ad_);
+    Gizle();
 }
 
 template <class Ekran>

@@ -20,6 +20,7 @@ constexpr double kPanelGenisligi = 13200; // of the panel of warnings
 constexpr int kYilPayi = 10;              // years that `Sene` offers before and after the current one
 constexpr int kSaatsayAraligi = 50'000;
 constexpr int kDuyuruAraligi = 2'500;
+constexpr int kInternetAraligi = 100;
 constexpr int kHatirlatmaAraligi = 500;
 constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that finds this count
 
@@ -53,6 +54,8 @@ FormTablo::FormTablo(Program& program)
     OzelHatirlatTimer.tik = [this] { OzelHatirlatTimer_Tick(); };
     Saatsay.tik = [this] { Saatsay_Tick(); };
     DuyuruKontrol.tik = [this] { DuyuruKontrol_Tick(); };
+    InternetTimer.tik = [this] { InternetTimer_Tick(); };
+    InternetTimer.sakin = true;
 }
 
 void FormTablo::Load() {
@@ -125,7 +128,18 @@ void FormTablo::Activate() {
     if (program_.Splash->Check1 == 1) {
         program_.FormIpMac->macal();
         DuyuruKontrol.aralik = kDuyuruAraligi;
+    } else if (program_.ortam.ag.baglantiVar()) {
+        // Not here, where other screens come back: what they were shown for would wait for the reply.
+        InternetTimer.aralik = kInternetAraligi;
     }
+}
+
+void FormTablo::InternetTimer_Tick() {
+    InternetTimer.aralik = 0;
+    Program& p = program_;
+    p.Splash->tekrarinternetkontrol();
+    if (p.FormTablo.Yuklu() && p.Splash->Check1 == 1)
+        DuyuruKontrol.aralik = kDuyuruAraligi;
 }
 
 void FormTablo::Command6() {

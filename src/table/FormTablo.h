@@ -178,6 +178,7 @@ struct FormTablo {
     void Saatsay_Tick();
     void OzelHatirlatTimer_Tick(); ///< the other picture of the bell
     void DuyuruKontrol_Tick();
+    void InternetTimer_Tick(); ///< asks once more whether the service is there
     /// Date and time of the status bar, by the clock.
     void SaatiYaz();
 
@@ -223,6 +224,7 @@ struct FormTablo {
     Zamanlayici OzelHatirlatTimer;
     Zamanlayici Saatsay;
     Zamanlayici DuyuruKontrol;
+    Zamanlayici InternetTimer;
 
     MenuGirdisi& Girdi(Komut komut) { return komutlar[static_cast<std::size_t>(komut)]; }
     Hucre& Gozu(int ay, velora::GunduzGece dilim, int gun) { return Gozu(Satir(ay, dilim), gun); }

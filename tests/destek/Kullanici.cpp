@@ -22,6 +22,15 @@ void Kullanici::ProgramiAc() {
     program_->FormTablo.Goster();
 }
 
+void Kullanici::Baslat() {
+    gecen_.clear();
+    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    const auto acilis = program_->Splash.Tut();
+    acilis->Baslat();
+    while (acilis->Timer1.aralik > 0)
+        acilis->Timer1.Calis();
+}
+
 void Kullanici::GirisiAc() {
     gecen_.clear();
     program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
@@ -104,8 +113,9 @@ void Kullanici::Boyutla(int genislik, int yukseklik) {
 void Kullanici::ZamanGecir(int milisaniye) {
     constexpr int kAdim = 100;
     FormTablo& tablo = Tablo();
-    const std::array<Zamanlayici*, 5> hepsi{&tablo.CetvelTimer, &tablo.GunTimer, &tablo.OzelHatirlatTimer,
-                                            &tablo.Saatsay, &tablo.DuyuruKontrol};
+    const std::array<Zamanlayici*, 6> hepsi{&tablo.CetvelTimer,       &tablo.GunTimer,
+                                            &tablo.OzelHatirlatTimer, &tablo.Saatsay,
+                                            &tablo.DuyuruKontrol,     &tablo.InternetTimer};
     for (int an = 0; an < milisaniye; an += kAdim)
         for (Zamanlayici* zamanlayici : hepsi) {
             gecen_[zamanlayici] = zamanlayici->aralik == 0 ? 0 : gecen_[zamanlayici] + kAdim;

@@ -22,6 +22,9 @@ class Kullanici {
   public:
     Kullanici(const GeciciAgac& agac, Gun bugun);
 
+    /// Starts the program as its user does and lets the ladder of the start tick to its end, where it stands
+    /// at the login; on a first run there is no ladder.
+    void Baslat();
     /// Starts the program: the table is loaded, laid out and brought to the front.
     void ProgramiAc();
     /// Starts it at its login, which comes before the table.

@@ -74,6 +74,7 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
+    ortam.kopya.tek = [this] { return !baskaKopya; };
     ortam.ag.getir = [this](const AgIstegi& istek) { return Getir(istek); };
     ortam.ag.baglantiVar = [this] { return baglanti; };
     ortam.ag.donanimAdresi = [this] { return donanim; };

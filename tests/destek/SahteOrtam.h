@@ -81,6 +81,7 @@ class SahteOrtam {
     std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
     bool baglanti = true;                              ///< the machine has a connection
+    bool baskaKopya = false;                           ///< another copy of the program runs
     std::optional<DonanimAdresi> donanim = DonanimAdresi{0x00, 0x1B, 0xC4, 0x0D, 0xE0, 0x9F};
 
   private:

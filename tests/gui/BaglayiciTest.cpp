@@ -293,6 +293,19 @@ class BaglayiciTest : public QObject {
         QCOMPARE(sahne.sayi, 3);
     }
 
+    void a_calm_timer_is_due_only_when_no_handler_runs() {
+        Sahne sahne;
+        sahne.ekran->saat.sakin = true;
+        sahne.ekran->saat.aralik = 5;
+        sahne.ekran->saat.tik = [&] { ++sahne.sayi; };
+        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
+        sahne.baglayici.Calistir([&] {
+            QTest::qWait(60);
+            QCOMPARE(sahne.sayi, 0);
+        });
+        QTRY_VERIFY(sahne.sayi > 0);
+    }
+
     void a_tick_handler_that_lets_events_run_is_not_entered_again() {
         Sahne sahne;
         int derinlik = 0;

@@ -332,7 +332,7 @@ class QtOrtamTest : public QObject {
         ortam_.odak.ver(EkranAdi::FormAyarlar, u"Text2");
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Text2"));
         ortam_.odak.ver(EkranAdi::FormAyarlar, u"Text9");
-        ortam_.odak.ver(EkranAdi::Splash, u"Text1");
+        ortam_.odak.ver(EkranAdi::FormIpMac, u"Text1");
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Text2"));
     }
 

@@ -71,6 +71,7 @@ class OkuyucuTest : public QObject {
             QString());
         Okunan::Baglan(oturum_.Erisim());
         QCOMPARE(oturum_.ProgramiBaslat(), QString());
+        GirisYap();
         const QString on = UzunTarih(haziran_) + QStringLiteral(", Gündüz, Ön rezervasyon");
         Olur([&] { return YilTablosu().Hucre(11, 16).Ad() == on; });
         QCOMPARE(YilTablosu().Hucre(11, 16).Ad(), on);
@@ -200,6 +201,11 @@ class OkuyucuTest : public QObject {
         const auto koy = [&](const QDate& gun, const Metin& dilim, const OrnekKayit& kayit, bool on) {
             KayitKoy(oturum_.agac, yol + KisaTarih(gun).toStdU16String() + dilim, kayit, on);
         };
+        // The start asks for these.
+        oturum_.agac.KoyMetin(u"Firma.dll", u"\"Gül\"\r\n");
+        oturum_.agac.KoyMetin(u"Menuler.dat", u"\"Klasik\",\"et\"\r\n");
+        oturum_.agac.KoyMetin(u"Sozlesme.dat", u"\"Maddeler\",\"1\"\r\n");
+        oturum_.agac.KoyMetin(u"User.dll", u"\"admin\",\"g5\"" + Tekrarla(u",\"1\"", 11) + u"\r\n");
         oturum_.agac.KoyMetin(u"Salon.dat", u"\"Gül Salonu\"\r\n\"Kır Bahçesi\"\r\n");
         oturum_.agac.KoyMetin(u"Settings.dll", AyarMetni());
         oturum_.agac.KoyMetin(u"Visible.dll", u"1,1,1,1,1,1,1,1,1,1,1,1,1\r\n");
@@ -207,6 +213,25 @@ class OkuyucuTest : public QObject {
         koy(haziran_.addDays(1), u" - Gece", {.ad = u"Can Er"}, false);
         koy(bugun_, u" - Gece", {.nitelik = u"Sünnet", .ucret = u"7500", .alinan = u"0", .kalan = u"7500"},
             true);
+    }
+
+    static Metin Tekrarla(const Metin& parca, int kez) {
+        Metin hepsi;
+        for (int i = 0; i < kez; ++i)
+            hepsi += parca;
+        return hepsi;
+    }
+
+    /// Behind the start-up screen the login comes, with the focus in the password.
+    void GirisYap() {
+        const Okunan giris = Acilan(QStringLiteral("Kullanıcı Girişi"));
+        QVERIFY(giris.Var());
+        QVERIFY(
+            Olur([&giris] { return giris.Bul(QStringLiteral("text"), QStringLiteral("Parola")).Odakta(); }));
+        HepsiAdli(giris);
+        for (const char* tus : {"g", "5", "Return"})
+            Bas(QString::fromLatin1(tus));
+        QVERIFY(Olur([&] { return YilTablosu().Var(); }));
     }
 
     static Okunan Program() { return Okunan::MasaUstu().Cocuklar().value(0); }

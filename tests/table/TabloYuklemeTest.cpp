@@ -166,6 +166,37 @@ TEST_F(TabloYukleme, Activate_online_sets_the_announcement_check_and_offline_doe
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
 }
 
+TEST_F(TabloYukleme, Each_activate_asks_for_the_service_again_as_long_as_it_has_not_answered) {
+    const auto sorulur = [this](const Metin& cevap) {
+        kullanici.ortam.Bekle(BeklenenIstek{u"http://servis.test/internetkontrol.php?ver=2.0.5", cevap, {}});
+    };
+    agac.KoyMetin(u"Adresler.dat", u"\"http://servis.test\",\"\",\"\",\"\"\r\n");
+    kullanici.ProgramiAc();
+    sorulur(u"NO");
+    kullanici.ZamanGecir(1'000);
+    EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 0);
+    EXPECT_EQ(kullanici.Tablo().InternetTimer.aralik, 0) << "one query for one activate";
+    kullanici.Tablo().Activate();
+    sorulur(u"OKEY");
+    kullanici.ortam.Bekle(BeklenenIstek{
+        u"http://servis.test/firmakontrol.php?firmaid=00-1B-C4-0D-E0-9F&a1=&a2=&a3=&a4=&a5=&a6=&a7=&"
+        u"a8=Şehir Seçiniz&a9=&a10=Velora 2.0.5&a11=15.06.2012&a12=&a13=Salon Sayısı Seçiniz"});
+    kullanici.ZamanGecir(200);
+    EXPECT_EQ(kullanici.Prog().Splash->Check1, 1);
+    EXPECT_EQ(kullanici.Prog().Splash->Check2, 0) << "only the start asks for the calendar";
+    EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
+    kullanici.Tablo().Activate();
+    kullanici.ZamanGecir(1'000);
+}
+
+TEST_F(TabloYukleme, Without_a_connection_an_activate_asks_nothing) {
+    agac.KoyMetin(u"Adresler.dat", u"\"http://servis.test\",\"\",\"\",\"\"\r\n");
+    kullanici.ortam.baglanti = false;
+    kullanici.ProgramiAc();
+    kullanici.ZamanGecir(1'000);
+    EXPECT_EQ(kullanici.Tablo().InternetTimer.aralik, 0);
+}
+
 TEST_F(TabloYukleme, Change_of_hall_or_year_gives_the_focus_away_from_the_lists) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
     kullanici.ProgramiAc();

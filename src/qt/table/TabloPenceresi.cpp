@@ -160,6 +160,7 @@ void TabloPenceresi::ZamanlayicilariBagla(FormTablo& tablo) {
     baglayici_->Bagla(tablo.OzelHatirlatTimer, QStringLiteral("OzelHatirlatTimer"));
     baglayici_->Bagla(tablo.Saatsay, QStringLiteral("Saatsay"));
     baglayici_->Bagla(tablo.DuyuruKontrol, QStringLiteral("DuyuruKontrol"));
+    baglayici_->Bagla(tablo.InternetTimer, QStringLiteral("InternetTimer"));
 }
 
 void TabloPenceresi::closeEvent(QCloseEvent* olay) {

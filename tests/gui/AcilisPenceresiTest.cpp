@@ -1,0 +1,143 @@
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "access/FormSifre.h"
+#include "access/Splash.h"
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
+#include "qt/Ceviri.h"
+#include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
+
+using namespace velora;
+using namespace velora::test;
+
+namespace {
+
+/// What the mark of a step shows, as a picture.
+QImage Isik(const QDialog& acilis, int adim) {
+    return Parcasi<QLabel>(acilis, qPrintable(QStringLiteral("Loading%1").arg(adim))).pixmap().toImage();
+}
+
+} // namespace
+
+/// The window of the start, and what the network does to the windows behind it.
+class AcilisPenceresiTest : public QObject {
+    Q_OBJECT
+
+    static void DosyalariKoy(const GuiFirma& firma) {
+        firma.agac.Koy(u"Firma.dll", "\"G\"\r\n");
+        firma.agac.Koy(u"Menuler.dat", "\"K\",\"e\"\r\n");
+        firma.agac.Koy(u"Sozlesme.dat", "\"S\",\"1\"\r\n");
+        firma.agac.Koy(u"User.dll",
+                       "\"admin\",\"g5\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\"\r\n");
+        firma.agac.Koy(u"Adresler.dat", "\"http://servis.test\",\"http://site.test\",\"\",\"\"\r\n");
+    }
+    static QDialog& Baslat(GuiFirma& firma) {
+        DosyalariKoy(firma);
+        firma.program.Splash->Baslat();
+        auto& acilis = dynamic_cast<QDialog&>(*firma.disDunya.Pencere(EkranAdi::Splash));
+        if (!QTest::qWaitForWindowExposed(&acilis))
+            qFatal("The window of the start doesn't come up.");
+        return acilis;
+    }
+    /// A network that answers nothing, and does this instead; each request counts.
+    static void AgKoy(GuiFirma& firma, int& istekler, std::function<void()> is) {
+        Ortam::Ag& ag = firma.program.ortam.ag;
+        ag.baglantiVar = [] { return true; };
+        ag.getir = [&istekler, is = std::move(is)](const AgIstegi&) {
+            ++istekler;
+            is();
+            return Metin();
+        };
+        BeklerkenGoster(firma.program.ortam);
+    }
+
+  private slots:
+    void it_tells_its_version_and_lights_a_mark_at_each_step() {
+        GuiFirma firma;
+        QDialog& acilis = Baslat(firma);
+        QCOMPARE(Parcasi<QLabel>(acilis, "Label2").text(), QStringLiteral("Sürüm 2.0.5"));
+        QCOMPARE(Parcasi<QLabel>(acilis, "Label3").text(), QStringLiteral("Yüklemeye başlanıyor"));
+        QVERIFY(Isik(acilis, 1) != Isik(acilis, 2));
+        QTRY_COMPARE(Parcasi<QLabel>(acilis, "Label3").text(),
+                     QStringLiteral("Veri tabanı kontrol ediliyor..."));
+        QCOMPARE(Isik(acilis, 2), Isik(acilis, 1));
+        QVERIFY(Isik(acilis, 3) != Isik(acilis, 1));
+        QCOMPARE(Parcasi<QLabel>(acilis, "Label3").accessibleName(),
+                 QStringLiteral("Veri tabanı kontrol ediliyor..."));
+    }
+
+    void behind_its_last_tick_the_login_has_the_keyboard_and_its_own_window_is_gone() {
+        GuiFirma firma;
+        Baslat(firma);
+        firma.program.Splash->Tag = u"67";
+        QTRY_VERIFY(firma.disDunya.Pencere(EkranAdi::FormSifre) != nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(firma.disDunya.Pencere(EkranAdi::FormSifre)));
+        QCOMPARE(firma.disDunya.Pencere(EkranAdi::Splash), nullptr);
+        QVERIFY(firma.program.Splash.Yuklu());
+        QCOMPARE(firma.bitisler, 0);
+    }
+
+    void no_key_closes_it_but_closing_its_window_ends_the_program() {
+        GuiFirma firma;
+        QDialog& acilis = Baslat(firma);
+        for (const Qt::Key tus : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space})
+            QTest::keyClick(&acilis, tus);
+        QVERIFY(acilis.isVisible());
+        QCOMPARE(firma.bitisler, 0);
+        acilis.close();
+        QCOMPARE(firma.bitisler, 1);
+        QVERIFY(!firma.program.Splash.Yuklu());
+    }
+
+    void a_window_closed_while_the_service_is_asked_leaves_nothing_behind() {
+        GuiFirma firma;
+        int istekler = 0;
+        AgKoy(firma, istekler, [&firma] {
+            if (QWidget* acilis = firma.disDunya.Pencere(EkranAdi::Splash))
+                acilis->close();
+            QTest::qWait(150);
+        });
+        Baslat(firma);
+        QTRY_COMPARE(firma.bitisler, 1);
+        QTest::qWait(200);
+        QCOMPARE(istekler, 1);
+        QVERIFY(!firma.program.Splash.Yuklu());
+        QVERIFY(!firma.program.FormSifre.Yuklu());
+    }
+
+    void while_the_table_asks_for_the_service_again_its_keys_and_its_cells_go_on_working() {
+        GuiFirma firma;
+        DosyalariKoy(firma);
+        int istekler = 0;
+        bool arandi = false;
+        bool boyandi = false;
+        AgKoy(firma, istekler, [&] {
+            if (istekler > 1)
+                return;
+            firma.Rezervasyon(kSalonA, u"10.09.2026 - Gece", false);
+            firma.Model().Command1();
+            const RenkDegeri dolu = firma.Model().Gozu(9, GunduzGece::Gece, 10).zemin;
+            const QRect yer = firma.Tablo().Duzen().Hucre(EylulGece, 10);
+            QTRY_COMPARE(firma.Tablo().grab().toImage().pixelColor(yer.topLeft() + QPoint(4, 4)),
+                         QRenk(dolu));
+            boyandi = true;
+            Pencerede([&] { QTest::keyClick(&firma.Tablo(), Qt::Key_F2); }, {[&](QDialog& arama) {
+                          arandi = true;
+                          QTest::keyClick(&arama, Qt::Key_Escape);
+                      }});
+        });
+        firma.Ac();
+        // The menu's handler is one that drops other presses as long as it runs.
+        Pencerede([&] { firma.Bul<QAction>("Progrset").trigger(); }, {TusBas(Qt::Key_Escape)});
+        QTRY_VERIFY(arandi);
+        QVERIFY(boyandi);
+    }
+};
+
+VELORA_GUI_TEST(AcilisPenceresiTest)
+#include "AcilisPenceresiTest.moc"
