@@ -42,7 +42,7 @@ QImage Cerceve(const QPixmap& ic, int ust) {
     return resim;
 }
 
-/// The window with a frame and its title, as a desktop shows it.
+/// The window under its title, as a desktop shows it.
 QImage BaslikAltinda(const QPixmap& ic, const QWidget& pencere) {
     QImage resim = Cerceve(ic, kBaslikBoyu);
     const QSize boy = resim.deviceIndependentSize().toSize();
@@ -71,7 +71,8 @@ QPixmap Icerik(QWidget& pencere) {
 QImage Goruntu(QWidget& pencere, const QRect& kesit) {
     const QPixmap ic = Icerik(pencere);
     if (kesit.isNull())
-        return BaslikAltinda(ic, pencere);
+        return pencere.windowFlags().testFlag(Qt::FramelessWindowHint) ? ic.toImage()
+                                                                       : BaslikAltinda(ic, pencere);
     const double olcek = ic.devicePixelRatio();
     QPixmap parca = ic.copy(QRect(kesit.topLeft() * olcek, kesit.size() * olcek));
     parca.setDevicePixelRatio(olcek);

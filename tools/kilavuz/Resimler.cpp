@@ -8,6 +8,7 @@
 #include "access/FormKullanicilar.h"
 #include "access/FormSifre.h"
 #include "access/FormSifreDegistir.h"
+#include "access/Splash.h"
 #include "accounts/FormBakiye.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
@@ -47,6 +48,18 @@ void SatirSec(Program& program, QWidget& /*pencere*/) {
 
 void OdemelerSayfasi(Program& program, QWidget& /*pencere*/) {
     program.FormKayit->SSTab1 = kOdemelerSayfasi;
+}
+
+void AcilisAc(Program& program) {
+    program.Splash->Baslat();
+}
+
+/// To the middle of the ladder, by its own ticks.
+void AcilisIlerle(Program& program, QWidget& /*pencere*/) {
+    const auto acilis = program.Splash.Tut();
+    acilis->Timer1.aralik = 0;
+    for (int tik = 0; tik < 32; ++tik)
+        acilis->Timer1_Tick();
 }
 
 void IlkFirmaAc(Program& program) {
@@ -116,6 +129,7 @@ constexpr QSize kAramaBoyu(900, 420);
 constexpr QSize kKisaListe(760, 260); // for some rows
 
 constexpr ResimTanimi kResimler[]{
+    {EkranAdi::Splash, u"acilis", AcilisAc, AcilisIlerle},
     {EkranAdi::FormSifre, u"giris", Modal<&P::FormSifre>, GirisYaz},
     {EkranAdi::FormSifreDegistir, u"ilk-parola", IlkParolayiSor, ParolaYaz},
     {EkranAdi::FormSifreDegistir, u"admin-parolasi", Modal<&P::FormSifreDegistir>, ParolaYaz},
