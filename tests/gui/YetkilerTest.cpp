@@ -1,3 +1,5 @@
+#include <set>
+
 #include <QMenu>
 #include <QTest>
 
@@ -5,6 +7,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/table/TabloGorunumu.h"
 
