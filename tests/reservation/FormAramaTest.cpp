@@ -102,7 +102,7 @@ TEST_F(AramaTest, The_number_zero_is_refused_and_the_list_stays) {
     EXPECT_EQ(Bulunanlar().size(), 1U);
 }
 
-TEST_F(AramaTest, A_zero_with_a_blank_is_not_refused_and_finds_what_equals_it) {
+TEST_F(AramaTest, A_zero_with_a_blank_is_not_refused_on_purpose_and_finds_what_equals_it) {
     Bulamaz(kSozlesmeNo, u" 0");
     Koy(u"Salon A/2012/20.06.2012 - Gece", {.no = u"0"});
     Bulamaz(kSozlesmeNo, u" 0");
