@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "accounts/RaporAktarma.h"
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr MetinBakis kKesin = u"Kesin";
 constexpr MetinBakis kOn = u"Ön";
+constexpr std::size_t kKalanSutunu = 4;
 constexpr std::size_t kTipSutunu = 5;
 
 /// The entries of `Combo1`.
@@ -207,6 +209,13 @@ void FormBakiye::Liste_DblClick() {
 void FormBakiye::Command6_Click() {
     if (const ListeSatiri* satir = Liste.Secili())
         SatiriAc(program_, *satir, Combo2.Metni());
+}
+
+void FormBakiye::Command2_Click() {
+    std::vector<Metin> basliklar = Liste.basliklar;
+    basliklar[kKalanSutunu] = u"Bakiye"; // as it is called there, and on the screen isn't
+    RaporAktar(program_, std::move(basliklar), Liste);
+    Liste.secimDugmeleri.Ac(false);
 }
 
 void FormBakiye::Command1_Click() {

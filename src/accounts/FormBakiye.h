@@ -34,6 +34,9 @@ struct FormBakiye {
     /// "Detaylar": the table goes to the hall of the report, and the marked reservation is opened. Returns
     /// when it has closed. Without a marked row nothing happens.
     void Command6_Click();
+    /// "Excel'e Aktar": the list as `Rapor.xls`, which is then opened (`RaporAktar`). Nothing is told,
+    /// whatever fails.
+    void Command2_Click();
     void Command4(); ///< "DTPicker1 Tarihi Sınırla"
     void Command5(); ///< "DTPicker2 Tarihi Sınırla"
 
@@ -54,6 +57,7 @@ struct FormBakiye {
     Etiket Label18;                                 ///< "Ön Rezervasyon"
     Etiket Label19;                                 ///< "Toplam Rezervasyon"
 
+    Dugme Command2{u"Excel'e Aktar", {}};
     Dugme Command6{u"Detaylar", {}, false};
     Dugme Command1{u"Kapat", {}};
 

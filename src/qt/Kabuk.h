@@ -6,8 +6,9 @@
 
 namespace velora {
 
-/// Opens a file in the program that the desktop has for it, and doesn't wait. False when there is no such
-/// program, and when there is no such file: the desktop's opener starts all the same and tells nobody.
+/// Opens a file in the program that the desktop has for it, which starts in the file's folder, and doesn't
+/// wait. False when there is no such program, and when there is no such file: the desktop's opener starts all
+/// the same and tells nobody.
 bool DosyaAc(const std::filesystem::path& yol);
 
 /// Opens a page of the web in the browser that the desktop has, and doesn't wait. False when there is none,

@@ -55,6 +55,7 @@ inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt";  ///< log of canc
 inline constexpr MetinBakis kKilavuzDosyasi = u"Kilavuz.html";  ///< the guide, for the browser
 inline constexpr MetinBakis kAdresDosyasi = u"Adresler.dat";    ///< addresses of the service and the site
 inline constexpr MetinBakis kFirmaDosyasi = u"Firma.dll";       ///< the firm's profile
+inline constexpr MetinBakis kRaporDosyasi = u"Rapor.xls";       ///< the last report given to a spreadsheet
 inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";     ///< the firm's key at the service
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";

@@ -66,6 +66,9 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
         acilanDosyalar.push_back(yol);
+        // A copy: what runs may take itself out.
+        if (const auto is = dosyaAcilirken)
+            is();
         return dosyaAcilir;
     };
     ortam.kabuk.adresAc = [this](const Metin& adres) {

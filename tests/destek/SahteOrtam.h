@@ -66,6 +66,8 @@ class SahteOrtam {
 
     /// Runs when a screen is shown beside the others.
     std::function<void(EkranAdi)> acilinca;
+    /// Runs while a file is given to one of the user's own programs.
+    std::function<void()> dosyaAcilirken;
     /// Runs where the program lets pending events run; `sira` counts those points from 1.
     std::function<void(int sira)> olayda;
 

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "access/Kullanicilar.h"
+#include "access/Splash.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "maintenance/FormResmiTatil.h"
@@ -76,7 +77,7 @@ class DosyalarSayfasi : public ::testing::Test {
 };
 
 TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_fields) {
-    EXPECT_EQ(bolumler.size(), 13U);
+    EXPECT_EQ(bolumler.size(), 14U);
     for (const auto& [ad, bolum] : bolumler) {
         DegerOkuyucu okuyucu(bolum.ornek);
         EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
@@ -112,6 +113,13 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_service) {
     EXPECT_EQ(program.FormSunucu->Check1.deger, 1);
     EXPECT_EQ(AdresleriOku(program).servis, u"https://servis.ornek.test/velora");
     EXPECT_EQ(AdresleriOku(program).satir, u"Velora - www.ornek.test");
+}
+
+TEST_F(DosyalarSayfasi, The_start_finds_the_examples_of_its_three_files_whole) {
+    for (const char16_t* ad : {u"Firma.dll", u"Menuler.dat", u"Sozlesme.dat"})
+        agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
+    program.Splash->Baslat();
+    EXPECT_EQ(ortam.acilanlar, (std::vector{EkranAdi::Splash}));
 }
 
 TEST_F(DosyalarSayfasi, Readers_of_a_reservation_read_its_three_examples) {

@@ -116,7 +116,7 @@ class AcilisPenceresiTest : public QObject {
         int istekler = 0;
         bool arandi = false;
         bool boyandi = false;
-        AgKoy(firma, istekler, [&] {
+        const auto bekleyis = [&] {
             if (istekler > 1)
                 return;
             firma.Rezervasyon(kSalonA, u"10.09.2026 - Gece", false);
@@ -130,10 +130,18 @@ class AcilisPenceresiTest : public QObject {
                           arandi = true;
                           QTest::keyClick(&arama, Qt::Key_Escape);
                       }});
-        });
+        };
         firma.Ac();
-        // The menu's handler is one that drops other presses as long as it runs.
-        Pencerede([&] { firma.Bul<QAction>("Progrset").trigger(); }, {TusBas(Qt::Key_Escape)});
+        AgKoy(firma, istekler, bekleyis);
+        // The menu's handler is one that drops other presses as long as it runs: nothing may wait within it.
+        QAction& ayarlar = firma.Bul<QAction>("Progrset");
+        Pencerede([&] { ayarlar.trigger(); }, {TusBas(Qt::Key_Escape)});
+        QVERIFY(firma.Model().InternetTimer.aralik > 0);
+        Pencerede([&] { ayarlar.trigger(); }, {[&](QDialog& pencere) {
+                      QTest::qWait(3 * firma.Model().InternetTimer.aralik);
+                      QCOMPARE(istekler, 0);
+                      QTest::keyClick(&pencere, Qt::Key_Escape);
+                  }});
         QTRY_VERIFY(arandi);
         QVERIFY(boyandi);
     }

@@ -163,8 +163,8 @@ class BakiyePenceresiTest : public QObject {
         Raporda(firma, [&](QDialog& pencere) {
             Parcasi<QPushButton>(pencere, "ListeleGun").click();
             Parcasi<QWidget>(pencere, "Combo2").setFocus();
-            for (const char* ad :
-                 {"DTPicker1", "Combo1", "DTPicker2", "ListeleGun", "Liste", "Command1", "Combo2"}) {
+            for (const char* ad : {"DTPicker1", "Combo1", "DTPicker2", "ListeleGun", "Liste", "Command2",
+                                   "Command1", "Combo2"}) {
                 // A date keeps the key for its day, month and year.
                 const QWidget* once = QApplication::focusWidget();
                 for (int i = 0; i < 3 && QApplication::focusWidget() == once; ++i)
@@ -217,6 +217,42 @@ class BakiyePenceresiTest : public QObject {
             Parcasi<QPushButton>(pencere, "ListeleGun").click();
             QCOMPARE(ozet.text(), QStringLiteral("3 kayıt · 2026"));
         });
+    }
+
+    void the_button_for_the_spreadsheet_writes_the_list_and_opens_it() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Ac();
+        Raporda(firma, [&](QDialog& pencere) {
+            auto& aktar = Parcasi<QPushButton>(pencere, "Command2");
+            QCOMPARE(Isaretsiz(aktar.text()), QStringLiteral("Excel'e Aktar"));
+            Parcasi<QPushButton>(pencere, "ListeleGun").click();
+            SatiraTikla(Parcasi<QTreeWidget>(pencere, "Liste"), 0);
+            QVERIFY(Parcasi<QPushButton>(pencere, "Command6").isEnabled());
+            QTest::mouseClick(&aktar, Qt::LeftButton);
+            QVERIFY(firma.agac.Bayt(u"Rapor.xls").starts_with("\xD0\xCF\x11\xE0"));
+            QVERIFY(firma.acilanDosyalar == std::vector{firma.agac.Kok() / "Rapor.xls"});
+            QVERIFY(!Parcasi<QPushButton>(pencere, "Command6").isEnabled());
+        });
+    }
+
+    void an_impatient_user_who_presses_it_again_while_the_file_opens_breaks_nothing() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
+        firma.Ac();
+        Raporda(firma, [&](QDialog& pencere) {
+            Parcasi<QPushButton>(pencere, "ListeleGun").click();
+            auto& aktar = Parcasi<QPushButton>(pencere, "Command2");
+            firma.arada = [&] {
+                firma.arada = nullptr;
+                QTest::mouseClick(&aktar, Qt::LeftButton);
+                QTest::keyClick(&pencere, Qt::Key_Escape);
+            };
+            QTest::mouseClick(&aktar, Qt::LeftButton);
+            QVERIFY(firma.agac.DosyaVar(u"Rapor.xls"));
+            QVERIFY(!firma.acilanDosyalar.empty());
+        });
+        QVERIFY(!firma.program.FormBakiye.Yuklu());
     }
 
     void a_long_name_of_a_hall_does_not_widen_the_window_and_is_told_by_a_tip() {

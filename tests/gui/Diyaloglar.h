@@ -148,7 +148,7 @@ inline constexpr Diyalog kDiyaloglar[]{
      EkraniAc<&Program::FormBakiye>,
      "ListeleGun",
      "Command1",
-     {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command1"}},
+     {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command2 Command1"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

@@ -46,6 +46,11 @@ Ortam GuiFirma::Dis() {
         if (gercektenBiter)
             bitir();
     };
+    ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
+        acilanDosyalar.push_back(yol);
+        AradaCalis();
+        return true;
+    };
     ortam.sor.mesaj = [this, sor = ortam.sor.mesaj](const MesajKutusu& kutu) {
         if (!hazirCevap)
             return sor(kutu);

@@ -43,9 +43,11 @@ class GuiFirma {
     /// The middle of a part of the table, in logical pixels, from its place in device pixels.
     QPoint Orta(const QRect& yer);
 
-    /// Runs behind each "let pending events run", each answered box and each shown screen: where something
-    /// else can come in between.
+    /// Runs behind each "let pending events run", each answered box, each shown screen and opened file: where
+    /// something else can come in between.
     std::function<void()> arada;
+    /// Files that were given to the user's own programs; none is started.
+    std::vector<std::filesystem::path> acilanDosyalar;
     /// While set, boxes aren't shown but answered so, and screens aren't shown over others but closed at
     /// once.
     std::optional<Cevap> hazirCevap;

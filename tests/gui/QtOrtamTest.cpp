@@ -1,15 +1,12 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QUrl>
 
-#include "destek/GeciciAgac.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
@@ -31,17 +28,6 @@ QStringList Dugmeler(const QMessageBox& kutu) {
 }
 
 } // namespace
-
-/// Stands in for the desktop's opener.
-class AcilanAdresler : public QObject {
-    Q_OBJECT
-
-  public:
-    QStringList adlar;
-
-  public slots:
-    void Ac(const QUrl& adres) { adlar << adres.fileName(); }
-};
 
 class QtOrtamTest : public QObject {
     Q_OBJECT
@@ -346,19 +332,6 @@ class QtOrtamTest : public QObject {
         }
         ortam_.olaylar.isle();
         QCOMPARE(sayi, 1);
-    }
-
-    void a_file_that_is_missing_counts_as_not_opened_though_the_opener_starts() {
-        const GeciciAgac agac;
-        agac.Koy(u"var.txt", "x");
-        AcilanAdresler acilan;
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &acilan, "Ac");
-        const bool var = ortam_.kabuk.dosyaAc(agac.Yol(u"var.txt"));
-        const bool yok = ortam_.kabuk.dosyaAc(agac.Yol(u"yok.txt"));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-        QCOMPARE(acilan.adlar, (QStringList{QStringLiteral("var.txt"), QStringLiteral("yok.txt")}));
-        QVERIFY(var);
-        QVERIFY(!yok);
     }
 
     void the_clock_is_the_local_time_of_the_machine() {

@@ -1,3 +1,5 @@
+#include <set>
+
 #include <QMenu>
 #include <QTest>
 #include <QToolButton>

@@ -212,6 +212,18 @@ class OkuyucuTest : public QObject {
         Kapat(ad);
     }
 
+    void a_second_copy_says_that_one_runs_already_and_ends_while_the_first_one_stays() {
+        QCOMPARE(oturum_.IkincisiniBaslat(), QString());
+        const auto kutu = [] {
+            return Okunan::MasaUstu().Bul(QString(), QStringLiteral("Velora Programı zaten çalışıyor!"));
+        };
+        QVERIFY(Olur([&] { return kutu().Var(); }));
+        Bas(QStringLiteral("Return"));
+        QVERIFY(Olur([&] { return oturum_.IkincisiBitti(); }));
+        QVERIFY(oturum_.ProgramCalisiyor());
+        QVERIFY(YilTablosu().Var());
+    }
+
   private:
     void FirmaKoy() const {
         const Metin yol = u"Gül Salonu/" + SayiMetni(haziran_.year()) + u"/";

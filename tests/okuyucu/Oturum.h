@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -30,6 +31,11 @@ class Oturum {
     /// The program over the tree. Says what goes wrong.
     QString ProgramiBaslat();
 
+    /// Another copy of it, beside the first one.
+    QString IkincisiniBaslat();
+    /// Whether the other copy has ended by itself.
+    bool IkincisiBitti() { return ikinci_.state() == QProcess::NotRunning; }
+
     /// From now on programs tell of this kind of event, and `slot` of `nesne` hears of it. Says what goes
     /// wrong.
     QString Dinle(const QString& olay, QObject& nesne, const char* slot);
@@ -44,12 +50,14 @@ class Oturum {
   private:
     QString IlkSatiri(QProcess& surec, const QString& ad, const QStringList& secenekler);
     QString ErisimiKur(const QString& adres);
+    QDBusMessage KayitciyiUyandir() const;
 
     QTemporaryDir klasor_; // all that is a user's own
     QProcessEnvironment ortam_;
     QProcess ekran_; // the display
     QProcess yol_;   // the message bus
     QProcess program_;
+    QProcess ikinci_;
     std::unique_ptr<QDBusConnection> erisim_;
 };
 

@@ -29,6 +29,16 @@ TEST(OrnekFirma, Writes_the_hall_list_byte_by_byte_as_the_hall_screen_would) {
                                        "esi\"\r\n");
 }
 
+TEST(OrnekFirma, Has_all_that_the_start_and_the_login_ask_for) {
+    const GeciciAgac& agac = VarsayilanFirma::Al().agac;
+    EXPECT_EQ(TumDegerler(agac, u"Firma.dll").size(), 13U);
+    EXPECT_EQ(TumDegerler(agac, u"Firma.dll").at(8), u"Merkez");
+    EXPECT_EQ(TumDegerler(agac, u"Sozlesme.dat").size(), 2U);
+    EXPECT_EQ(agac.Bayt(u"User.dll"),
+              "\"admin\",\"velora\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"0\",\"1\"\r\n"
+              "\"zeynep\",\"1234\",\"0\",\"0\",\"1\",\"0\",\"0\",\"0\",\"1\",\"0\",\"0\",\"0\",\"0\"\r\n");
+}
+
 TEST(OrnekFirma, Has_so_many_reservations_in_each_hall_and_year_as_asked_for) {
     const GeciciAgac agac;
     Istek istek = SabitIstek();

@@ -38,6 +38,7 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
     liste->setSelectionMode(QAbstractItemView::ExtendedSelection);
     sutun->addWidget(liste, 1);
     sutun->addWidget(Toplamlar());
+    auto* aktar = DugmeYap({"Command2", &FormBakiye::Command2, &FormBakiye::Command2_Click});
     auto* detay = DugmeYap({"Command6", &FormBakiye::Command6, &FormBakiye::Command6_Click});
     auto* kapat = DugmeYap({"Command1", &FormBakiye::Command1, &FormBakiye::Command1_Click});
     IptalDugmesi(kapat);
@@ -45,7 +46,7 @@ BakiyePenceresi::BakiyePenceresi(Program& program) : EkranPenceresi(program.Form
     VarsayilanDugme(*listele, *liste, *detay);
     BulunanaGotur(*listele, *liste);
     OdagiListeyeVer(*detay, *liste);
-    sutun->addLayout(DugmeSeridi({detay, kapat}, {}, OzetYap(Model().Ozet)));
+    sutun->addLayout(DugmeSeridi({aktar, detay, kapat}, {}, OzetYap(Model().Ozet)));
     resize(1080, 600);
     IlkOdak("Combo2");
 }
