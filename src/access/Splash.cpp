@@ -199,7 +199,6 @@ void Splash::tekrarinternetkontrol() {
 
 void Splash::Kapat() {
     Timer1.aralik = 0;
-    Inet1.Iptal();
     Program& p = program_;
     p.Splash.Bosalt();
     p.EkranKalmadiysaBitir();

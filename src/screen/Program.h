@@ -84,6 +84,10 @@ void Pencere<Ekran>::Bosalt() {
     ekran_.reset();
     if (!birakilan)
         return;
+    static_assert(sizeof(Ekran) > 0, "what a screen has to leave undone is known where it is unloaded");
+    // A handler of the screen may wait for it, and keeps the screen while it waits.
+    if constexpr (requires(Ekran & e) { e.Inet1.Iptal(); })
+        birakilan->Inet1.Iptal();
     Gizle();
 }
 

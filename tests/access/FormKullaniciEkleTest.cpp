@@ -153,6 +153,14 @@ TEST_F(FormKullaniciEkleTest, Place_that_is_not_in_the_list_changes_nobody) {
     EXPECT_EQ(Dosya(), admin + can);
 }
 
+TEST_F(FormKullaniciEkleTest, Place_of_blanks_adds_as_none_does) {
+    EkleAc([&] {
+        Ekle().Tag = u"  ";
+        GirVeTamam(u"ali", u"a1", u"a1");
+    });
+    EXPECT_EQ(Dosya(), admin + can + Satir("ali", "a1", "11111111101"));
+}
+
 TEST_F(FormKullaniciEkleTest, Cancel_unloads_and_changes_nothing) {
     EkleAc([&] {
         AlanaYaz(Ekle().Text1, u"ali");

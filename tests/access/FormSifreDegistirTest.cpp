@@ -1,6 +1,7 @@
 #include "access/FormSifreDegistir.h"
 
 #include "access/AccessTest.h"
+#include "destek/Kayitlar.h"
 #include "setup/FormSalonTanim.h"
 #include "table/FormTablo.h"
 
@@ -71,6 +72,14 @@ TEST_F(FormSifreDegistirTest, Admin_works_and_the_table_comes_before_it_is_loade
     EXPECT_EQ(program.FormTablo->StatusBar1, u"Velora - Aktif Kullanıcı : admin");
     EXPECT_EQ(program.FormTablo->TutarDegistir, 1) << "no login has said otherwise";
     EXPECT_FALSE(ortam.bitti);
+}
+
+TEST_F(FormSifreDegistirTest, Name_of_admin_leads_every_tag_of_the_first_scan) {
+    SalonKoy();
+    KayitKoy(agac, u"Salon A/2012/20.06.2012 - Gece", {}, true);
+    YazVeTamam(u"x", u"x");
+    const Metin tag = program.FormTablo->Gozu(HaziranGece, 20).tag;
+    EXPECT_TRUE(tag.starts_with(u"admin|")) << ::testing::PrintToString(tag);
 }
 
 TEST_F(FormSifreDegistirTest, Without_a_hall_a_yes_opens_the_halls_which_cannot_be_closed) {

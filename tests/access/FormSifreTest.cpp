@@ -113,6 +113,8 @@ TEST_F(FormSifreTest, Empty_name_after_a_wrong_password_of_admin_hides_security_
     EXPECT_EQ(Kapalilar(), std::set<Metin>{}) << "it was the name of admin";
     KutuBekle(u"Lütfen parola giriniz!");
     VELORA_BAS(program.FormSifre, Command1);
+    HataBekle();
+    Gir(u"", u"g5"); // a password and no name is a wrong password
     Gir(u"admin", u"g5");
     EXPECT_FALSE(Gorunur(Komut::Guvenliksss));
 }

@@ -6,10 +6,16 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include "access/Splash.h"
+#include "documents/FormPrint.h"
 #include "gui/Diyaloglar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "maintenance/FormDownloadManager.h"
+#include "maintenance/FormResmiTatil.h"
+#include "online/FormIpMac.h"
+#include "online/FormWebteYayinla.h"
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 

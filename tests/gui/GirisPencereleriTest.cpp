@@ -11,6 +11,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/table/TabloPenceresi.h"
 
 using namespace velora;

@@ -138,6 +138,23 @@ class OkuyucuTest : public QObject {
         QVERIFY2(OdagaGeldi(gece), Odaklar());
     }
 
+    void the_bell_says_what_it_is_and_is_pressed_by_keys() {
+        const auto zil = [] {
+            return Ana().Bul(QStringLiteral("push button"), QStringLiteral("Özel Hatırlatma Var"));
+        };
+        QVERIFY(zil().Var());
+        QVERIFY(Olur([&] { return tablo_.Odakta(); }));
+        Bas(QStringLiteral("shift+Tab"));
+        QVERIFY(Olur([&] { return zil().Odakta(); }));
+        Bas(QStringLiteral("space"));
+        const Okunan pencere = Acilan(QStringLiteral("Özel Hatırlatmalar"));
+        QVERIFY(pencere.Var());
+        HepsiAdli(pencere);
+        Kapat(QStringLiteral("Özel Hatırlatmalar"));
+        Bas(QStringLiteral("Tab"));
+        QVERIFY(Olur([&] { return tablo_.Odakta(); }));
+    }
+
     void the_window_of_a_reservation_names_its_tabs_its_values_and_the_field_of_a_list() {
         Bas(QStringLiteral("Return"));
         const Okunan pencere = Acilan(QStringLiteral("Kayıt Düzenle"));
@@ -223,7 +240,13 @@ class OkuyucuTest : public QObject {
         oturum_.agac.KoyMetin(u"Visible.dll", u"1,1,1,1,1,1,1,1,1,1,1,1,1\r\n");
         koy(haziran_, u" - Gündüz", {}, true);
         koy(haziran_.addDays(1), u" - Gece", {.ad = u"Can Er"}, false);
-        koy(bugun_, u" - Gece", {.nitelik = u"Sünnet", .ucret = u"7500", .alinan = u"0", .kalan = u"7500"},
+        koy(bugun_, u" - Gece",
+            {.nitelik = u"Sünnet",
+             .ucret = u"7500",
+             .alinan = u"0",
+             .kalan = u"7500",
+             .hatirlat = KisaTarih(bugun_).toStdU16String(),
+             .check19 = 1},
             true);
     }
 

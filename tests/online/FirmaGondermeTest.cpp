@@ -46,7 +46,7 @@ TEST_F(FirmaGondermeTest, Without_a_file_title_and_day_are_those_of_now) {
     program.FormFirma->gonder();
 }
 
-TEST_F(FirmaGondermeTest, Values_go_out_as_they_stand_and_only_the_key_loses_its_commas) {
+TEST_F(FirmaGondermeTest, Values_go_out_as_they_stand_on_purpose_and_only_the_key_loses_its_commas) {
     agac.KoyMetin(
         u"Firma.dll",
         u"\"A&B=c, %20+\",\"b\r\nc\",\"3\",\"4\",\"5\",\"6\",\"7\",\"8\",\"9\",\"10\",\"11\",\"12\",\"13\"");
@@ -98,6 +98,20 @@ TEST_F(FirmaGondermeTest, OK_sends_what_it_has_written_and_a_failure_is_no_hindr
 TEST_F(FirmaGondermeTest, Saving_unchecked_sends_nothing) {
     Firma();
     VELORA_BAS(program.FormFirma, Command3);
+}
+
+TEST_F(FirmaGondermeTest, A_send_is_given_up_when_its_screen_goes_though_its_handler_holds_it_still) {
+    bool vazgecildi = false;
+    program.ortam.ag.getir = [&](const AgIstegi& istek) {
+        EXPECT_FALSE(istek.vazgecildi());
+        program.FormFirma.Bosalt();
+        vazgecildi = istek.vazgecildi();
+        return Metin();
+    };
+    Doldur();
+    VELORA_BAS(program.FormFirma, Command1);
+    EXPECT_TRUE(vazgecildi);
+    EXPECT_TRUE(agac.Var(u"Sunucu.dat"));
 }
 
 TEST_F(FirmaGondermeTest, The_screen_may_go_before_the_send_or_while_it_is_waited_for) {

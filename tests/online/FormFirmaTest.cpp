@@ -51,7 +51,7 @@ TEST_F(FormFirmaTest, The_file_fills_the_fields_and_title_and_day_are_those_of_n
     EXPECT_FALSE(program.FormTablo.Yuklu()) << "its title is known without its scan";
 }
 
-TEST_F(FormFirmaTest, A_stored_district_or_number_that_no_list_has_is_kept) {
+TEST_F(FormFirmaTest, A_stored_district_or_number_that_no_list_has_is_kept_on_purpose) {
     agac.KoyMetin(u"Firma.dll",
                   u"\"A\",\"B\",\"3\",\"4\",\"5\",\"6\",\"7\",\"TEKIRDAG\",\"Ergene\",\"\",\"\",\"\",\"12\"");
     EXPECT_EQ(Firma().t8.Metni(), u"TEKIRDAG");

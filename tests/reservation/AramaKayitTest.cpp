@@ -127,7 +127,7 @@ TEST_F(AramaKayit, A_hall_that_is_not_listed_any_more_leaves_the_table_as_it_is)
     EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Salon A");
 }
 
-TEST_F(AramaKayit, The_year_is_not_switched_so_a_row_of_another_year_opens_nothing) {
+TEST_F(AramaKayit, The_year_is_not_switched_on_purpose_so_a_row_of_another_year_opens_nothing) {
     KayitKoy(agac, u"Salon B/2013/07.07.2013 - Gece");
     Prog();
     std::filesystem::remove(agac.Yol(u"Salon B/2012/20.06.2012 - Gece-Detay"));
@@ -137,7 +137,7 @@ TEST_F(AramaKayit, The_year_is_not_switched_so_a_row_of_another_year_opens_nothi
     EXPECT_EQ(kullanici.Tablo().Sene.Metni(), u"2012");
 }
 
-TEST_F(AramaKayit, A_companion_is_opened_as_a_record_and_so_never_shown) {
+TEST_F(AramaKayit, A_companion_is_opened_as_a_record_on_purpose_and_so_never_shown) {
     Ara(kGelinDamat, u"0");
     ASSERT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece-Detay"});
     DetaylaraBas(0);
@@ -198,7 +198,7 @@ TEST_F(AramaKayit, Kapat_forgets_what_was_typed_and_found) {
     EXPECT_EQ(Arama().acikmi, 0);
 }
 
-TEST_F(AramaKayit, A_record_of_the_shown_hall_opens_without_a_scan) {
+TEST_F(AramaKayit, A_record_of_the_shown_hall_opens_without_a_scan_on_purpose) {
     KayitKoy(agac, u"Salon A/2012/21.06.2012 - Gece", {.ad = u"Nur"});
     const auto listelenen = [this](const Metin& ad) {
         Ara(kAd, ad);

@@ -102,7 +102,7 @@ TEST_F(AramaTest, The_number_zero_is_refused_and_the_list_stays) {
     EXPECT_EQ(Bulunanlar().size(), 1U);
 }
 
-TEST_F(AramaTest, A_zero_with_a_blank_is_not_refused_and_finds_what_equals_it) {
+TEST_F(AramaTest, A_zero_with_a_blank_is_not_refused_on_purpose_and_finds_what_equals_it) {
     Bulamaz(kSozlesmeNo, u" 0");
     Koy(u"Salon A/2012/20.06.2012 - Gece", {.no = u"0"});
     Bulamaz(kSozlesmeNo, u" 0");
@@ -242,9 +242,11 @@ TEST_F(AramaTest, A_new_search_marks_nothing) {
     KayitKoy(agac, u"Salon B/2012/20.06.2012 - Gece", {.ad = u"Nur Ak"});
     Ara(kAd, u"nur");
     Isaretle(0);
+    EXPECT_TRUE(Arama().Command1.etkin);
     Ara(kAd, u"ak");
     EXPECT_EQ(Bulunanlar(), Adlar{u"20.06.2012 - Gece"});
     EXPECT_EQ(Arama().Liste.secili, -1);
+    EXPECT_FALSE(Arama().Command1.etkin);
 }
 
 TEST_F(AramaTest, The_path_is_of_the_selected_year_and_the_names_are_of_every_year_on_purpose) {

@@ -157,7 +157,9 @@ TEST_F(OzelHatirlatmaTest, A_row_opens_its_record_once_it_was_clicked) {
     RezervasyonKoy(u"05.01.2012 - Gece", Bugunku(u"Can"));
     RezervasyonKoy(u"20.09.2012 - Gece", Bugunku(u"Nur"));
     ZileTikla([&] {
+        Hatirlatma().Liste.secili = 0;
         Hatirlatma().Liste_DblClick(); // no row was clicked yet
+        Hatirlatma().Liste.secili = -1;
         Hatirlatma().Command4_Click();
         Goster(1, [&] {
             EXPECT_EQ(Kayit().Tarih, u"20.09.2012 - Gece");

@@ -1,4 +1,5 @@
 #include "access/Splash.h"
+#include "online/FormIpMac.h"
 #include "screen/Surum.h"
 #include "table/TabloTest.h"
 
@@ -164,6 +165,18 @@ TEST_F(TabloYukleme, Activate_online_sets_the_announcement_check_and_offline_doe
     kullanici.Prog().Splash->Check1 = 1;
     kullanici.Tablo().Activate();
     EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
+}
+
+TEST_F(TabloYukleme, Activate_online_looks_the_key_of_the_computer_up_again_and_offline_does_not) {
+    kullanici.ProgramiAc();
+    const auto anahtar = [this] { return kullanici.Prog().FormIpMac->Label1.baslik; };
+    EXPECT_EQ(anahtar(), u"00-1B-C4-0D-E0-9F");
+    kullanici.ortam.donanim = DonanimAdresi{1, 2, 3, 4, 5, 0xF6};
+    kullanici.Tablo().Activate();
+    EXPECT_EQ(anahtar(), u"00-1B-C4-0D-E0-9F");
+    kullanici.Prog().Splash->Check1 = 1;
+    kullanici.Tablo().Activate();
+    EXPECT_EQ(anahtar(), u"01-02-03-04-05-F6");
 }
 
 TEST_F(TabloYukleme, Each_activate_asks_for_the_service_again_as_long_as_it_has_not_answered) {
