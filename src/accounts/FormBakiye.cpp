@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "accounts/RaporAktarma.h"
+#include "accounts/RaporAlanlari.h"
 #include "reservation/KayitYukle.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
@@ -76,15 +77,9 @@ void FormBakiye::BasliklariKoy() {
 }
 
 void FormBakiye::Load() {
-    const auto tablo = program_.FormTablo.Tut();
-    Combo2.ogeler = tablo->Salon.ogeler;
-    Combo2.secili = tablo->Salon.secili;
-    Combo2.bosYazi = tablo->Salon.bosYazi;
-    Combo2.bosIpucu = tablo->Salon.bosIpucu;
+    SalonlariAl(program_, Combo2);
     Combo1.secili = Tumu;
-    const Gun bugun = program_.Bugun();
-    DTPicker1.deger = bugun.year() / bugun.month() / 1;
-    DTPicker2.deger = bugun.year() / bugun.month() / std::chrono::day(AyinSonGunu(bugun));
+    BuAyiSec(program_, DTPicker1, DTPicker2);
 }
 
 void FormBakiye::Activate() {
@@ -99,20 +94,12 @@ void FormBakiye::Activate() {
         ListeleGun();
 }
 
-void FormBakiye::YilaSinirla(TarihSecici& secici) {
-    const Metin yil = program_.FormTablo->Sene.Metni();
-    const auto ilk = TarihCoz(u"01.01." + yil);
-    const auto son = TarihCoz(u"31.12." + yil);
-    if (ilk && son)
-        secici.Sinirla(*ilk, *son);
-}
-
 void FormBakiye::Command4() {
-    YilaSinirla(DTPicker1);
+    YilaSinirla(program_, DTPicker1);
 }
 
 void FormBakiye::Command5() {
-    YilaSinirla(DTPicker2);
+    YilaSinirla(program_, DTPicker2);
 }
 
 void FormBakiye::ListeleGun() {

@@ -74,7 +74,6 @@ struct FormBakiye {
     void SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana, const DetayDegerler& detay);
     void ToplamlariGoster(const Toplamlar& toplamlar);
     void Say();
-    void YilaSinirla(TarihSecici& secici);
 
     Program& program_;
     Metin listelenenYil_; // of the last listing; empty before the first

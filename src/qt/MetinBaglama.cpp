@@ -229,9 +229,9 @@ void Baglayici::Bagla(QDateEdit& kutu, TarihSecici& model) {
     new BolumSecen(kutu);
     connect(&kutu, &QDateEdit::dateChanged, this, [this, &model](QDate gun) {
         Calistir([&model, gun] {
-            model.deger =
-                Gun(std::chrono::year(gun.year()), std::chrono::month(static_cast<unsigned>(gun.month())),
-                    std::chrono::day(static_cast<unsigned>(gun.day())));
+            model.Sec(Gun(std::chrono::year(gun.year()),
+                          std::chrono::month(static_cast<unsigned>(gun.month())),
+                          std::chrono::day(static_cast<unsigned>(gun.day()))));
         });
     });
     // A day or limits that are put anew begin the part anew that is being typed, and turn an open calendar

@@ -24,6 +24,9 @@
     X(FormOzelHatirlatma, Pencereli)                                                                         \
     X(FormArama, Pencereli)                                                                                  \
     X(FormBakiye, Pencereli)                                                                                 \
+    X(FormKasa, Pencereli)                                                                                   \
+    X(FormKasaEkle, Pencereli)                                                                               \
+    X(FormGiderler, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \

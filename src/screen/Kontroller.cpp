@@ -1,6 +1,7 @@
 #include "screen/Kontroller.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "screen/Bayrak.h"
 
@@ -19,6 +20,11 @@ void SiradanSil(std::vector<Metin>& ogeler, int& secili, int sira) {
 }
 
 } // namespace
+
+void TarihSecici::Sec(const Gun& gun) {
+    if (std::exchange(deger, gun) != gun && degisti)
+        degisti();
+}
 
 void TarihSecici::Sinirla(const Gun& ilk, const Gun& son) {
     enKucuk = ilk;

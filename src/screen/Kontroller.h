@@ -117,10 +117,13 @@ struct MenuGirdisi {
 
 struct TarihSecici {
     Gun deger{};
-    std::optional<Gun> enKucuk; ///< the first day that can be chosen; with none, any day
-    std::optional<Gun> enBuyuk; ///< the last one
-    Metin baslik{};             ///< its label
+    std::optional<Gun> enKucuk;      ///< the first day that can be chosen; with none, any day
+    std::optional<Gun> enBuyuk;      ///< the last one
+    Metin baslik{};                  ///< its label
+    std::function<void()> degisti{}; ///< the screen's handler for another day, set by the screen
 
+    /// What the user picks: the handler runs only for another day.
+    void Sec(const Gun& gun);
     /// From here on only the days from `ilk` to `son` can be chosen. A value outside goes to the nearer end.
     void Sinirla(const Gun& ilk, const Gun& son);
 };

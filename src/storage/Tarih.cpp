@@ -79,6 +79,18 @@ std::optional<Gun> TarihCoz(MetinBakis metin) {
     return tarih.ok() ? std::optional(tarih) : std::nullopt;
 }
 
+std::optional<Gun> TarihDegeriCoz(MetinBakis metin) {
+    if (metin.size() != kTarihUzunlugu + 2 || metin.front() != u'#' || metin.back() != u'#' ||
+        metin[5] != u'-' || metin[8] != u'-')
+        return {};
+    return TarihCoz(Metin(metin.substr(9, 2)) + u'.' + Metin(metin.substr(6, 2)) + u'.' +
+                    Metin(metin.substr(1, 4)));
+}
+
+Metin TarihDegeri(const Gun& gun) {
+    return u'#' + YilMetni(gun) + u'-' + AyMetni(gun) + u'-' + GunMetni(gun) + u'#';
+}
+
 unsigned AyinSonGunu(const Gun& gun) {
     return static_cast<unsigned>((gun.year() / gun.month() / std::chrono::last).day());
 }

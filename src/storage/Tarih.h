@@ -17,6 +17,12 @@ inline constexpr std::size_t kTarihUzunlugu = 10;
 /// text has another form or the calendar has no such day.
 std::optional<Gun> TarihCoz(MetinBakis metin);
 
+/// The day of a date literal, #yyyy-mm-dd#. Empty for a text of another form.
+std::optional<Gun> TarihDegeriCoz(MetinBakis metin);
+
+/// #yyyy-mm-dd#
+Metin TarihDegeri(const Gun& gun);
+
 /// The number of the last day of the day's month, 28 to 31.
 unsigned AyinSonGunu(const Gun& gun);
 

@@ -110,6 +110,10 @@ void DegerYazici::Ekle(MetinBakis metin) {
     bayt_ += '"';
 }
 
+void DegerYazici::Ekle(const Gun& gun) {
+    bayt_ += KodYaz(TarihDegeri(gun));
+}
+
 void DegerYazici::EkleSayi(std::int64_t sayi) {
     bayt_ += std::to_string(sayi);
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "storage/Metin.h"
+#include "storage/Tarih.h"
 
 namespace velora {
 
@@ -49,7 +50,7 @@ class DegerOkuyucu {
 /// them, and a line end (CR LF) after the last.
 ///
 /// Texts go between double quotes just as they are: a double quote inside a text is neither doubled nor
-/// escaped. Whole numbers are written bare.
+/// escaped. Whole numbers are written bare, days as literals (`TarihDegeri`).
 class DegerYazici {
   public:
     template <class... Deger>
@@ -79,6 +80,7 @@ class DegerYazici {
     }
     void Ekle(MetinBakis metin);
     void Ekle(const Metin& metin) { Ekle(MetinBakis(metin)); }
+    void Ekle(const Gun& gun);
     void Ekle(const char16_t* metin) { Ekle(MetinBakis(metin)); }
     /// A single character is no number: it doesn't compile.
     template <std::integral Sayi>

@@ -4,6 +4,7 @@
 #include "access/FormKullanicilar.h"
 #include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
+#include "accounts/FormKasa.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
@@ -45,6 +46,13 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormBakiye>,
      u"F3",
      {3, u"Rapor", u"Rezervasyon Raporu (F3)", u"rapor"}},
+    {Komut::kasarapors,
+     u"kasarapors",
+     Menu::Raporsss,
+     u"Kasa Raporu",
+     &T::EkranAc<&P::FormKasa>,
+     u"F4",
+     {5, u"Kasa", u"Kasa Raporu (F4)", u"kasa"}},
     {Komut::aline1, u"aline1", Menu::Raporsss, u"-"},
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
     {Komut::FirmaBilgiss, u"FirmaBilgiss", Menu::ayarsd, u"Firma Bilgileri", &T::EkranAc<&P::FormFirma>},

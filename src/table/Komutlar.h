@@ -17,6 +17,7 @@ enum class Komut {
     aline13,
     Cikissssss,
     BakiyeRaporss,
+    kasarapors,
     aline1,
     iptalsebepss,
     FirmaBilgiss,

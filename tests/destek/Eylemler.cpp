@@ -141,7 +141,7 @@ void TarihSec(TarihSecici& secici, const Gun& gun) {
     const bool sinirda = gun >= secici.enKucuk.value_or(gun) && gun <= secici.enBuyuk.value_or(gun);
     EXPECT_TRUE(sinirda) << "the day can't be picked: " << ::testing::PrintToString(TarihMetni(gun));
     if (sinirda)
-        secici.deger = gun;
+        secici.Sec(gun);
 }
 
 void SatiraTikla(ListeKutusu& liste, int sira, const std::function<void()>& tiklandi) {

@@ -30,6 +30,8 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::Cikissssss, Menu::Kayitss, u"Cikissssss", u"Programdan Çıkış", u""},
     {Komut::BakiyeRaporss, Menu::Raporsss, u"BakiyeRaporss", u"Rezervasyon Raporu", u"F3", 3, u"Rapor",
      u"Rezervasyon Raporu (F3)"},
+    {Komut::kasarapors, Menu::Raporsss, u"kasarapors", u"Kasa Raporu", u"F4", 5, u"Kasa",
+     u"Kasa Raporu (F4)"},
     {Komut::aline1, Menu::Raporsss, u"aline1", u"-", u""},
     {Komut::iptalsebepss, Menu::Raporsss, u"iptalsebepss", u"İptal Sebepleri", u""},
     {Komut::FirmaBilgiss, Menu::ayarsd, u"FirmaBilgiss", u"Firma Bilgileri", u""},
@@ -121,6 +123,7 @@ TEST_F(KomutTablosu, A_button_of_the_tool_bar_takes_the_ruler_away_before_its_co
     };
     for (const auto& [dugme, ekran] : {std::pair{u"Ara", EkranAdi::FormArama},
                                        {u"Rapor", EkranAdi::FormBakiye},
+                                       {u"Kasa", EkranAdi::FormKasa},
                                        {u" Ayarlar ", EkranAdi::FormAyarlar}}) {
         kullanici.GunBasligina(7);
         kullanici.AyBasligina(9);
