@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velora::olcum {
@@ -28,16 +29,17 @@ inline double Ortanca(std::vector<double> sureler) {
     return sureler[sureler.size() / 2];
 }
 
-/// The floor: one listing of the folder plus open, read and close of each of its files once, nothing decoded.
+/// The floor: one listing of the folder plus open, read and close of each of its files that is wanted once,
+/// nothing decoded.
 /// Returns how many files it read.
-inline int Zemin(const std::filesystem::path& klasor) {
+inline int Zemin(const std::filesystem::path& klasor, bool (*istenen)(std::string_view ad) = nullptr) {
     static std::array<char, 1 << 16> tampon;
     std::vector<std::string> adlar;
     DIR* dizin = opendir(klasor.c_str());
     if (dizin == nullptr)
         return 0;
     while (const dirent* oge = readdir(dizin))
-        if (oge->d_type == DT_REG)
+        if (oge->d_type == DT_REG && (istenen == nullptr || istenen(oge->d_name)))
             adlar.emplace_back(oge->d_name);
     for (const std::string& ad : adlar) {
         const int dosya = openat(dirfd(dizin), ad.c_str(), O_RDONLY | O_CLOEXEC);

@@ -4,8 +4,7 @@
 #include <chrono>
 #include <vector>
 
-#include "storage/KodSayfasi.h"
-#include "storage/YazimBicimi.h"
+#include "storage/KasaKayitlari.h"
 #include "tools/OrnekGunler.h"
 #include "tools/OrnekMetinler.h"
 
@@ -18,14 +17,6 @@ struct Gider {
     int tutar;
     MetinBakis aciklama;
 };
-
-/// The one kind of value that no writer of the records knows: only expenses have it.
-std::string TarihDegeri(const Gun& gun) {
-    const std::string tarih = KodYaz(TarihMetni(gun));
-    std::string bayt = "#";
-    bayt.append(tarih, 6, 4).append("-").append(tarih, 3, 2).append("-").append(tarih, 0, 2);
-    return bayt.append("#,");
-}
 
 std::vector<Gider> Giderler(const Istek& istek, int yil, Rastgele& rastgele) {
     const auto ekle = [&](std::vector<Gider>& giderler, unsigned ay, int gun, const GiderTuru& tur) {
@@ -49,11 +40,8 @@ std::vector<Gider> Giderler(const Istek& istek, int yil, Rastgele& rastgele) {
 
 std::string GiderBayt(const Istek& istek, int yil, Rastgele& rastgele) {
     std::string bayt;
-    for (const Gider& gider : Giderler(istek, yil, rastgele)) {
-        DegerYazici satir;
-        satir.Yaz(SayiMetni(gider.tutar), gider.aciklama);
-        bayt += TarihDegeri(GunuBul(gider.gun)) + satir.Bayt();
-    }
+    for (const Gider& gider : Giderler(istek, yil, rastgele))
+        bayt += velora::GiderBayt(GunuBul(gider.gun), SayiMetni(gider.tutar), gider.aciklama);
     return bayt;
 }
 

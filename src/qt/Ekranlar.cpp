@@ -5,6 +5,7 @@
 #include "qt/access/KullaniciPencereleri.h"
 #include "qt/access/SplashPenceresi.h"
 #include "qt/accounts/BakiyePenceresi.h"
+#include "qt/accounts/KasaPencereleri.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
@@ -49,6 +50,9 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
     Tanit<HatirlatmaPenceresi>(ortam, program, EkranAdi::FormOzelHatirlatma);
     Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
+    Tanit<KasaPenceresi>(ortam, program, EkranAdi::FormKasa);
+    Tanit<KasaEklePenceresi>(ortam, program, EkranAdi::FormKasaEkle);
+    Tanit<GiderlerPenceresi>(ortam, program, EkranAdi::FormGiderler);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

@@ -6,6 +6,7 @@
 
 #include "access/Kullanicilar.h"
 #include "access/Splash.h"
+#include "accounts/FormGiderler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "maintenance/FormResmiTatil.h"
@@ -77,7 +78,7 @@ class DosyalarSayfasi : public ::testing::Test {
 };
 
 TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_fields) {
-    EXPECT_EQ(bolumler.size(), 14U);
+    EXPECT_EQ(bolumler.size(), 15U);
     for (const auto& [ad, bolum] : bolumler) {
         DegerOkuyucu okuyucu(bolum.ornek);
         EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
@@ -141,6 +142,15 @@ TEST_F(DosyalarSayfasi, Readers_of_a_reservation_read_its_three_examples) {
         << "38 lines and the line break within the menu";
     ASSERT_EQ(odemeler.size(), 1U);
     EXPECT_EQ(odemeler[0].aciklama, u"17 - Ayşe Yılmaz");
+}
+
+TEST_F(DosyalarSayfasi, The_list_of_expenses_reads_their_example) {
+    agac.Koy(u"Salon.dat", bolumler["Salon.dat"].ornek);
+    agac.Koy(u"Gül Salonu/2012/Gider.dat", bolumler["Gider.dat"].ornek);
+    program.FormGiderler->Combo2.Sec(u"Gül Salonu");
+    ASSERT_EQ(program.FormGiderler->Liste.satirlar.size(), 1U);
+    EXPECT_EQ(program.FormGiderler->Liste.satirlar[0].sutun,
+              (std::vector<Metin>{u"03.05.2012", u"150", u"Gider", u"Elektrik"}));
 }
 
 } // namespace velora::test

@@ -50,6 +50,16 @@ void Doldur(Program& program, EkranAdi ekran) {
         program.FormBakiye->ListeleGun();
         program.FormBakiye->Liste.secili = 0;
         program.FormBakiye->Liste_Click();
+    } else if (ekran == EkranAdi::FormKasa) {
+        program.FormKasa->ListeleGun1();
+    } else if (ekran == EkranAdi::FormKasaEkle) {
+        program.FormKasaEkle->Tutar.metin = u"150";
+        program.FormKasaEkle->Tutar_Change();
+        program.FormKasaEkle->Aciklama.metin = u"Su";
+    } else if (ekran == EkranAdi::FormGiderler) {
+        program.FormGiderler->Liste.satirlar.push_back({{u"01.02.2026", u"5", u"Gider", u"Su"}, {}, 0});
+        program.FormGiderler->Liste.secili = 0;
+        program.FormGiderler->Liste_Click();
     } else if (ekran == EkranAdi::FormOzelHatirlatma) {
         program.FormOzelHatirlatma->Liste.secili = 0;
         program.FormOzelHatirlatma->Liste_ItemClick();

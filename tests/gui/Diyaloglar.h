@@ -7,6 +7,9 @@
 #include "access/FormSifre.h"
 #include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
+#include "accounts/FormGiderler.h"
+#include "accounts/FormKasa.h"
+#include "accounts/FormKasaEkle.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -38,6 +41,13 @@ inline void AdliMenuEkleAc(Program& program) {
     program.FormMenuEkle->Text1.metin = u"a";
     program.FormMenuEkle->Text1_Change();
     program.FormMenuEkle.GosterModal();
+}
+
+/// With an amount, which lets its fields be left.
+inline void TutarliKasaEkleAc(Program& program) {
+    program.FormKasaEkle->Tutar.metin = u"7";
+    program.FormKasaEkle->Tutar_Change();
+    program.FormKasaEkle.GosterModal();
 }
 
 /// With reservations that are to be reminded of today: without one it closes at once.
@@ -149,6 +159,21 @@ inline constexpr Diyalog kDiyaloglar[]{
      "ListeleGun",
      "Command1",
      {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command2 Command1"}},
+    {EkranAdi::FormKasa,
+     EkraniAc<&Program::FormKasa>,
+     "ListeleGun",
+     "Command1",
+     {"Combo2 DTPicker1 DTPicker2 ListeleGun Liste Command2 Command3 Command6 Command1"}},
+    {EkranAdi::FormKasaEkle,
+     TutarliKasaEkleAc,
+     "Command1",
+     "Command2",
+     {"Tutar Aciklama Command1 Command2 Combo1 DTPicker1"}},
+    {EkranAdi::FormGiderler,
+     EkraniAc<&Program::FormGiderler>,
+     "ListeleGun",
+     "Command1",
+     {"Combo2 DTPicker3 DTPicker1 DTPicker2 ListeleGun Liste Command3 Kaydet Command1"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

@@ -186,6 +186,14 @@ void PencereyiDoldur(Program& program, EkranAdi ekran) {
         program.FormArama->Command3_Click();
     } else if (ekran == EkranAdi::FormBakiye) {
         program.FormBakiye->ListeleGun();
+    } else if (ekran == EkranAdi::FormKasa) {
+        for (int i = 1; i <= 40; ++i)
+            program.FormKasa->Liste.satirlar.push_back(
+                {{u"01.02.2026", SayiMetni(i), u"Gider", u"x"}, {}, 0});
+    } else if (ekran == EkranAdi::FormGiderler) {
+        for (int i = 1; i <= 40; ++i)
+            program.FormGiderler->Liste.satirlar.push_back(
+                {{u"01.02.2026", SayiMetni(i), u"Gider", u"x"}, {}, 0});
     } else if (ekran == EkranAdi::FormKayit) {
         for (int i = 1; i <= 40; ++i)
             program.FormKayit->Liste.satirlar.push_back({{u"01.02.2026", SayiMetni(i), u"x"}, {}, 0});

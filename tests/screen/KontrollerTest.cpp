@@ -132,6 +132,19 @@ TEST_F(TarihSeciciTest, A_day_outside_the_limits_goes_to_the_nearer_end) {
     EXPECT_EQ(Sinirli(YilGunu(2013, 1, 1)), YilGunu(2012, 12, 31));
 }
 
+TEST_F(TarihSeciciTest, Only_another_day_tells_the_screen) {
+    TarihSecici secici{YilGunu(2012, 6, 15), {}, {}};
+    secici.Sec(YilGunu(2012, 6, 14)); // nobody listens
+    int kez = 0;
+    secici.degisti = [&] {
+        EXPECT_EQ(secici.deger, YilGunu(2012, 7, 1));
+        ++kez;
+    };
+    secici.Sec(YilGunu(2012, 7, 1));
+    secici.Sec(YilGunu(2012, 7, 1));
+    EXPECT_EQ(kez, 1);
+}
+
 TEST_F(TarihSeciciTest, New_limits_take_the_place_of_the_old_ones) {
     TarihSecici secici{YilGunu(2012, 6, 15), {}, {}};
     EXPECT_FALSE(secici.enKucuk || secici.enBuyuk);

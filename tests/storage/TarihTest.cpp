@@ -38,6 +38,16 @@ TEST(TarihCoz, Refuses_every_other_form) {
         EXPECT_FALSE(TarihCoz(metin)) << testing::PrintToString(metin);
 }
 
+TEST(TarihDegeri, Is_written_and_read_by_year_month_and_day) {
+    const Gun gun = TarihCoz(u"03.05.2012").value();
+    EXPECT_EQ(TarihDegeri(gun), u"#2012-05-03#");
+    EXPECT_EQ(TarihDegeriCoz(u"#2012-05-03#"), gun);
+    for (const char16_t* bozuk :
+         {u"2012-05-03", u"#2012-5-3#", u"#2012.05.03#", u"#2012-02-30#", u"#03-05-2012#", u"#2012-05-03",
+          u"2012-05-03##", u"", u"##########", u"#2012-05-03##"})
+        EXPECT_FALSE(TarihDegeriCoz(bozuk).has_value());
+}
+
 TEST(AyinSonGunu, Knows_the_length_of_each_month) {
     constexpr std::array<unsigned, 12> kUzunluklar{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     for (unsigned ay = 1; ay <= 12; ++ay)

@@ -37,6 +37,16 @@ TEST(DegerOkuyucu, Twenty_values_read_the_same_one_in_a_line_or_all_in_one) {
     EXPECT_EQ(Hepsi(satir), Hepsi(satirlar));
 }
 
+TEST(DegerYazici, Writes_a_day_as_a_literal_and_the_reader_takes_it_as_it_stands) {
+    DegerYazici yazici;
+    yazici.Yaz(Gun{std::chrono::year{2012}, std::chrono::month{5}, std::chrono::day{3}}, u"150");
+    EXPECT_EQ(yazici.Bayt(), "#2012-05-03#,\"150\"\r\n");
+    DegerOkuyucu okuyucu(yazici.Bayt());
+    Metin deger;
+    EXPECT_TRUE(okuyucu.Oku(deger));
+    EXPECT_EQ(deger, u"#2012-05-03#");
+}
+
 TEST(DegerOkuyucu, Skips_blanks_tabs_and_line_ends_before_a_value) {
     EXPECT_EQ(Hepsi(" \t\r\n\n\r  \"a\" ,\t 5"), (Degerler{"a", "5"}));
 }

@@ -1,6 +1,8 @@
 #include <stdexcept>
 
 #include "accounts/FormBakiye.h"
+#include "accounts/FormKasa.h"
+#include "accounts/FormKasaEkle.h"
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
@@ -142,6 +144,17 @@ void RaporListele(Program& program, QWidget& /*pencere*/) {
     rapor->ListeleGun();
     rapor->Liste.secili = 4;
     rapor->Liste_Click();
+}
+
+void KasaListele(Program& program, QWidget& /*pencere*/) {
+    program.FormKasa->ListeleGun();
+}
+
+void GiderYaz(Program& program, QWidget& /*pencere*/) {
+    const auto ekle = program.FormKasaEkle.Tut();
+    ekle->Tutar.metin = u"4500";
+    ekle->Tutar_Change();
+    ekle->Aciklama.metin = u"Piyanist";
 }
 
 } // namespace velora::kilavuz

@@ -10,6 +10,9 @@
 #include "access/FormSifreDegistir.h"
 #include "access/Splash.h"
 #include "accounts/FormBakiye.h"
+#include "accounts/FormGiderler.h"
+#include "accounts/FormKasa.h"
+#include "accounts/FormKasaEkle.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -162,6 +165,9 @@ constexpr ResimTanimi kResimler[]{
      kKisaListe},
     {EkranAdi::FormArama, u"kayit-arama", Modal<&P::FormArama>, AramaYap, kAramaBoyu},
     {EkranAdi::FormBakiye, u"rapor", Modal<&P::FormBakiye>, RaporListele},
+    {EkranAdi::FormKasa, u"kasa", Modal<&P::FormKasa>, KasaListele, {780, 460}},
+    {EkranAdi::FormKasaEkle, u"gider-ekle", Modal<&P::FormKasaEkle>, GiderYaz},
+    {EkranAdi::FormGiderler, u"giderler", Modal<&P::FormGiderler>, SatirSec<&P::FormGiderler, 2>, {720, 420}},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},

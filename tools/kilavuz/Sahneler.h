@@ -30,6 +30,8 @@ void HizmetSayfasi(Program& program, QWidget& pencere);
 void HatirlatmaAc(Program& program);
 void AramaYap(Program& program, QWidget& pencere);
 void RaporListele(Program& program, QWidget& pencere);
+void KasaListele(Program& program, QWidget& pencere);
+void GiderYaz(Program& program, QWidget& pencere);
 
 /// A slot of a day on the table.
 struct Goz {

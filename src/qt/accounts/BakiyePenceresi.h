@@ -7,7 +7,6 @@ class QWidget;
 
 namespace velora {
 
-struct Etiket;
 struct FormBakiye;
 struct Program;
 
@@ -19,7 +18,6 @@ class BakiyePenceresi : public EkranPenceresi<FormBakiye> {
   private:
     void SuzgecleriKur(QGridLayout& izgara);
     QWidget* Toplamlar();
-    void ToplamEkle(QGridLayout& izgara, int satir, int sutun, const QString& ad, Etiket& model);
 };
 
 } // namespace velora

@@ -1,0 +1,162 @@
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "accounts/FormGiderler.h"
+#include "accounts/FormKasa.h"
+#include "accounts/FormKasaEkle.h"
+#include "gui/GuiFirma.h"
+#include "gui/GuiProgram.h"
+#include "gui/Kullanim.h"
+#include "qt/Ceviri.h"
+#include "qt/table/TabloPenceresi.h"
+
+using namespace velora;
+using namespace velora::test;
+
+/// The real windows of the cash book, its expenses and the entry of one, opened by key and button.
+class KasaPencereleriTest : public QObject {
+    Q_OBJECT
+
+    static Metin GiderYolu() { return Metin(kSalonA) + u"/2026/Gider.dat"; }
+
+    /// F4 on the table; `is` is done on the cash book, which is then taken away.
+    static void Kasada(GuiFirma& firma, const Is& is) {
+        Pencerede([&] { QTest::keyClick(&firma.Pencere(), Qt::Key_F4); }, {is});
+        firma.program.FormKasa.Bosalt();
+    }
+    /// A press on a button of a window that opens another, which is done with by `isler`.
+    static void Basinca(QDialog& pencere, const char* dugme, const std::vector<Is>& isler) {
+        Pencerede([&] { QTest::mouseClick(&Parcasi<QPushButton>(pencere, dugme), Qt::LeftButton); }, isler);
+    }
+    static void GiderlerKoy(const GuiFirma& firma) {
+        firma.agac.Koy(GiderYolu(), "\"03.05.2026\",\"150\",\"Elektrik\"\r\n#2026-05-04#,\"90\",\"Su\"\r\n"
+                                    "\"09.07.2026\",\"5000\",\"Kira\"\r\n");
+    }
+    static QString Yazi(QWidget& pencere, const char* ad) { return Parcasi<QLabel>(pencere, ad).text(); }
+
+  private slots:
+    void F4_opens_the_cash_book_and_enter_lists_it_with_its_totals() {
+        GuiFirma firma;
+        GiderlerKoy(firma);
+        firma.agac.Koy(Metin(kSalonA) + u"/2026/20.05.2026 - Gece-Odeme",
+                       "\"02.05.2026\",\"1250.50\",\"7 - Ali\"\r\n");
+        firma.Ac();
+        Kasada(firma, [&](QDialog& pencere) {
+            QCOMPARE(pencere.windowTitle(), QStringLiteral("Kasa Raporu"));
+            QCOMPARE(Yazi(pencere, "GenelTop"), QStringLiteral(": 0"));
+            QCOMPARE(Odaktaki(), QStringLiteral("Combo2"));
+            QTest::keyClick(&Parcasi<QComboBox>(pencere, "Combo2"), Qt::Key_Return);
+            auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+            QCOMPARE(liste.topLevelItemCount(), 3);
+            QCOMPARE(SatirYazilari(liste, 0),
+                     (QStringList{QStringLiteral("02.05.2026"), QStringLiteral("1250.50"),
+                                  QStringLiteral("Gelir"), QStringLiteral("7 - Ali")}));
+            QVERIFY(liste.topLevelItem(0)->textAlignment(1) & Qt::AlignRight);
+            QVERIFY(liste.hasFocus());
+            QCOMPARE(Yazi(pencere, "Gelirler"), QStringLiteral(": 1.251 TL"));
+            QCOMPARE(Yazi(pencere, "Giderler"), QStringLiteral(": 240 TL"));
+            QCOMPARE(Yazi(pencere, "GenelTop"), QStringLiteral(": 1.011 TL"));
+            QCOMPARE(Parcasi<QLabel>(pencere, "GenelTop").accessibleName(),
+                     QStringLiteral("Genel Toplam: 1.011 TL"));
+            QTest::mouseClick(&Parcasi<QPushButton>(pencere, "Command2"), Qt::LeftButton);
+            QVERIFY(firma.acilanDosyalar == std::vector{firma.agac.Kok() / "Rapor.xls"});
+            QTest::keyClick(&pencere, Qt::Key_Escape);
+            QVERIFY(!firma.program.FormKasa.Yuklu());
+        });
+    }
+
+    void an_expense_is_typed_in_and_stands_in_the_file_and_the_list() {
+        GuiFirma firma;
+        firma.agac.KlasorKoy(Metin(kSalonA) + u"/2026");
+        firma.Ac();
+        Kasada(firma, [&](QDialog& kasa) {
+            Basinca(kasa, "Command6", {[&](QDialog& pencere) {
+                        QCOMPARE(pencere.windowTitle(), QStringLiteral("Gider Ekle"));
+                        QCOMPARE(Odaktaki(), QStringLiteral("Tutar"));
+                        QCOMPARE(Yazi(pencere, "Ornek"),
+                                 QStringLiteral("(Örn : Piyanist, Elektrik, Su Faturası)"));
+                        QVERIFY(!Parcasi<QPushButton>(pencere, "Command1").isEnabled());
+                        AlanaYaz(pencere, "Tutar", QStringLiteral("1a50"));
+                        QVERIFY(Parcasi<QPushButton>(pencere, "Command1").isEnabled());
+                        AlanaYaz(pencere, "Aciklama", QStringLiteral("Işık"));
+                        Tusla(Qt::Key_Return);
+                        QVERIFY(!firma.program.FormKasaEkle.Yuklu());
+                    }});
+            QCOMPARE(firma.agac.Bayt(GiderYolu()), std::string("#2026-05-21#,\"150\",\"I\xFE\xFDk\"\r\n"));
+            QCOMPARE(Parcasi<QTreeWidget>(kasa, "Liste").topLevelItemCount(), 1);
+        });
+    }
+
+    void without_a_description_the_focus_goes_there() {
+        GuiFirma firma;
+        firma.Ac();
+        Kasada(firma, [&](QDialog& kasa) {
+            Basinca(kasa, "Command6", {[&](QDialog& pencere) {
+                        AlanaYaz(pencere, "Tutar", QStringLiteral("150"));
+                        Pencerede([&] { Tusla(Qt::Key_Return); },
+                                  {Mesaj(QStringLiteral("Lüften açıklama giriniz!"))});
+                        QCOMPARE(Odaktaki(), QStringLiteral("Aciklama"));
+                        QTest::keyClick(&pencere, Qt::Key_Escape);
+                        QVERIFY(!firma.program.FormKasaEkle.Yuklu());
+                    }});
+            QVERIFY(!firma.agac.Var(GiderYolu()));
+        });
+    }
+
+    void an_expense_is_marked_and_deleted_after_a_question() {
+        GuiFirma firma;
+        GiderlerKoy(firma);
+        firma.Ac();
+        Kasada(firma, [&](QDialog& kasa) {
+            Basinca(kasa, "Command3", {[&](QDialog& pencere) {
+                        QCOMPARE(pencere.windowTitle(), QStringLiteral("Gider Listesi"));
+                        QCOMPARE(Yazi(pencere, "Label4"), QStringLiteral("2026 Yılı"));
+                        QCOMPARE(Yazi(pencere, "Giderler"), QStringLiteral(": 5.240 TL"));
+                        auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+                        auto& sil = Parcasi<QPushButton>(pencere, "Command4");
+                        QVERIFY(!sil.isEnabled());
+                        SatiraTikla(liste, 1);
+                        QVERIFY(sil.isEnabled());
+                        Basinca(pencere, "Command4",
+                                {Mesaj(QStringLiteral("Gider kaydını silmek istediğinizden emin misiniz?"),
+                                       QStringLiteral("Evet"))});
+                        QCOMPARE(liste.topLevelItemCount(), 2);
+                        QVERIFY(!sil.isEnabled());
+                        QVERIFY(liste.hasFocus());
+                    }});
+            QCOMPARE(Yazi(kasa, "Giderler"), QStringLiteral(": 150 TL"));
+        });
+        QCOMPARE(firma.agac.Bayt(GiderYolu()),
+                 std::string("\"03.05.2026\",\"150\",\"Elektrik\"\r\n\"09.07.2026\",\"5000\",\"Kira\"\r\n"));
+    }
+
+    void the_year_is_shown_alone_and_another_one_is_listed_at_once() {
+        GuiFirma firma;
+        GiderlerKoy(firma);
+        firma.agac.Koy(Metin(kSalonA) + u"/2025/Gider.dat", "\"03.05.2025\",\"8\",\"Su\"\r\n");
+        firma.Ac();
+        Kasada(firma, [&](QDialog& kasa) {
+            Basinca(kasa, "Command3", {[&](QDialog& pencere) {
+                        auto& yil = Parcasi<QDateEdit>(pencere, "DTPicker3");
+                        QCOMPARE(yil.text(), QStringLiteral("2026"));
+                        yil.setFocus();
+                        QTest::keyClick(&yil, Qt::Key_Down);
+                        QCOMPARE(Yazi(pencere, "Label4"), QStringLiteral("2025 Yılı"));
+                        QCOMPARE(Yazi(pencere, "Giderler"), QStringLiteral(": 8 TL"));
+                        QCOMPARE(Parcasi<QDateEdit>(pencere, "DTPicker1").text(),
+                                 QStringLiteral("01.01.2025"));
+                        QTest::keyClick(&pencere, Qt::Key_Escape);
+                        QVERIFY(!firma.program.FormGiderler.Yuklu());
+                        QVERIFY(firma.program.FormKasa.Yuklu());
+                    }});
+        });
+    }
+};
+
+VELORA_GUI_TEST(KasaPencereleriTest)
+#include "KasaPencereleriTest.moc"
