@@ -146,13 +146,13 @@ class KomutMenuleriTest : public QObject {
             ipuclari << girdi->toolTip();
             QVERIFY2(Boyali(girdi->icon()), qPrintable(girdi->text()));
         }
-        QCOMPARE(adlar,
-                 (QStringList{"Ara", "-", "Rapor", "-", QStringLiteral(" Uyarılar"), "-", " Ayarlar ", "-"}));
+        QCOMPARE(adlar, (QStringList{"Ara", "-", "Rapor", "-", "Kasa", "-", QStringLiteral(" Uyarılar"), "-",
+                                     " Ayarlar ", "-"}));
         QCOMPARE(ipuclari, (QStringList{QStringLiteral("Kayıt Ara (F2)"), "Rezervasyon Raporu (F3)",
-                                        QStringLiteral("Yaklaşan Rezervasyonlar"),
+                                        "Kasa Raporu (F4)", QStringLiteral("Yaklaşan Rezervasyonlar"),
                                         QStringLiteral("Program Ayarları (F7)")}));
-        QCOMPARE(serit.actions()[6]->objectName(), QStringLiteral("Toolbar1_13"));
-        QCOMPARE(serit.actions()[7]->objectName(), QStringLiteral("Toolbar1_14"));
+        QCOMPARE(serit.actions()[8]->objectName(), QStringLiteral("Toolbar1_13"));
+        QCOMPARE(serit.actions()[9]->objectName(), QStringLiteral("Toolbar1_14"));
     }
 
     void a_button_takes_the_ruler_away_and_opens_its_screen_and_a_hidden_one_goes_without_its_line() {
@@ -170,8 +170,8 @@ class KomutMenuleriTest : public QObject {
                   }});
         firma.Model().Toolbar1[13].gorunur = false;
         Baglayici::HepsiniTazele();
-        QVERIFY(!serit.actions()[6]->isVisible());
-        QVERIFY(serit.actions()[7]->isVisible());
+        QVERIFY(!serit.actions()[8]->isVisible());
+        QVERIFY(serit.actions()[9]->isVisible());
     }
 
     void the_button_of_the_warnings_lists_them_or_tells_that_there_are_none() {
@@ -190,11 +190,12 @@ class KomutMenuleriTest : public QObject {
         firma.Ac();
         firma.Bul<QToolButton>("Toolbar1_1").setFocus(Qt::TabFocusReason);
         QStringList sira;
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 6; ++i) {
             sira << Odaktaki();
             Tusla(Qt::Key_Tab);
         }
-        QCOMPARE(sira, (QStringList{"Toolbar1_1", "Toolbar1_3", "Toolbar1_9", "Toolbar1_13", "Salon"}));
+        QCOMPARE(sira, (QStringList{"Toolbar1_1", "Toolbar1_3", "Toolbar1_5", "Toolbar1_9", "Toolbar1_13",
+                                    "Salon"}));
         for (const auto tus : {Qt::Key_Space, Qt::Key_Return}) {
             firma.Bul<QToolButton>("Toolbar1_3").setFocus(Qt::TabFocusReason);
             Pencerede([&] { Tusla(tus); }, {[](QDialog& pencere) {
