@@ -12,7 +12,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
-#include "qt/Ceviri.h"
+#include "qt/Baglayici.h"
 #include "qt/table/TabloPenceresi.h"
 
 using namespace velora;
@@ -133,6 +133,20 @@ class KasaPencereleriTest : public QObject {
         });
         QCOMPARE(firma.agac.Bayt(GiderYolu()),
                  std::string("\"03.05.2026\",\"150\",\"Elektrik\"\r\n\"09.07.2026\",\"5000\",\"Kira\"\r\n"));
+    }
+
+    void a_long_name_of_a_hall_does_not_widen_the_cash_book() {
+        GuiFirma firma;
+        firma.Ac();
+        firma.Model().Salon.ogeler.emplace_back(150, u'W');
+        firma.Model().Salon.secili = static_cast<int>(firma.Model().Salon.ogeler.size()) - 1;
+        Kasada(firma, [&](QDialog& pencere) {
+            const int once = pencere.minimumSizeHint().width();
+            firma.program.FormKasa->ListeleGun1();
+            Baglayici::HepsiniTazele();
+            QVERIFY(Yazi(pencere, "Ozet").contains(QStringLiteral("WWW")));
+            QCOMPARE(pencere.minimumSizeHint().width(), once);
+        });
     }
 
     void the_year_is_shown_alone_and_another_one_is_listed_at_once() {

@@ -50,7 +50,9 @@ KasaPenceresi::KasaPenceresi(Program& program) : EkranPenceresi(program.FormKasa
     listele->setDefault(true);
     IptalDugmesi(kapat);
     BulunanaGotur(*listele, *liste);
-    sutun->addLayout(DugmeSeridi({aktar, giderler, ekle, kapat}, {}, OzetYap(Model().Ozet)));
+    QLabel* ozet = OzetYap(Model().Ozet);
+    ozet->setMinimumWidth(1); // a long name of a hall is cut
+    sutun->addLayout(DugmeSeridi({aktar, giderler, ekle, kapat}, {}, ozet));
     resize(780, 560);
     IlkOdak("Combo2");
 }
