@@ -5,6 +5,7 @@
 #include "qt/access/KullaniciPencereleri.h"
 #include "qt/access/SplashPenceresi.h"
 #include "qt/accounts/BakiyePenceresi.h"
+#include "qt/documents/SozlesmePenceresi.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
@@ -49,6 +50,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<AramaPenceresi>(ortam, program, EkranAdi::FormArama);
     Tanit<HatirlatmaPenceresi>(ortam, program, EkranAdi::FormOzelHatirlatma);
     Tanit<BakiyePenceresi>(ortam, program, EkranAdi::FormBakiye);
+    Tanit<SozlesmePenceresi>(ortam, program, EkranAdi::FormSozlesme);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

@@ -24,6 +24,7 @@
     X(FormOzelHatirlatma, Pencereli)                                                                         \
     X(FormArama, Pencereli)                                                                                  \
     X(FormBakiye, Pencereli)                                                                                 \
+    X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \

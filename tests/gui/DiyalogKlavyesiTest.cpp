@@ -202,7 +202,7 @@ class DiyalogKlavyesiTest : public QObject {
                         kaydedenler += yazi == QStringLiteral("&Kaydet") ? 1 : 0;
                     }
                 });
-        QCOMPARE(kaydedenler, 5); // the record once, the settings and the firm's profile twice
+        QCOMPARE(kaydedenler, 7); // the record once; the settings, the contract and the firm's profile twice
     }
 
     void the_button_of_enter_has_its_first_letter() {

@@ -7,6 +7,7 @@
 #include "access/FormSifre.h"
 #include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
+#include "documents/FormSozlesme.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -149,6 +150,11 @@ inline constexpr Diyalog kDiyaloglar[]{
      "ListeleGun",
      "Command1",
      {"Combo2 DTPicker1 Combo1 DTPicker2 ListeleGun Liste Command2 Command1"}},
+    {EkranAdi::FormSozlesme,
+     EkraniAc<&Program::FormSozlesme>,
+     "Command2",
+     "Command3",
+     {"Sozlesme Command2 Command3 Unvan Sehir Baslik"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

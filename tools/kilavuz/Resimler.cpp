@@ -10,6 +10,7 @@
 #include "access/FormSifreDegistir.h"
 #include "access/Splash.h"
 #include "accounts/FormBakiye.h"
+#include "documents/FormSozlesme.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -162,6 +163,7 @@ constexpr ResimTanimi kResimler[]{
      kKisaListe},
     {EkranAdi::FormArama, u"kayit-arama", Modal<&P::FormArama>, AramaYap, kAramaBoyu},
     {EkranAdi::FormBakiye, u"rapor", Modal<&P::FormBakiye>, RaporListele},
+    {EkranAdi::FormSozlesme, u"sozlesme", Modal<&P::FormSozlesme>, nullptr, {720, 320}},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},
