@@ -2,9 +2,9 @@
 
 #include "access/FormSifre.h"
 #include "maintenance/FormDownloadManager.h"
-#include "online/Adresler.h"
 #include "online/FormFirma.h"
 #include "online/FormIpMac.h"
+#include "online/Istekler.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
 #include "screen/Surum.h"
@@ -144,16 +144,15 @@ void Splash::InternetKontrol() {
     ServiseSor();
     if (!Duruyor())
         return;
-    const Metin cevap = Inet1.Getir(IstekAdresi(AdresleriOku(program_).servis, u"yayindami.php",
-                                                {{u"firmaid", program_.FormIpMac->Label1.baslik}}));
+    const Metin cevap =
+        Inet1.Getir(IstekAdresi(program_, Istek::Yayindami, {program_.FormIpMac->Label1.baslik}));
     Check2 = Kirp(cevap) == kTamam ? 1 : 0;
     Inet1.sure = kSorgudanSonra;
     Inet1.Iptal();
 }
 
 void Splash::ServiseSor() {
-    const Metin cevap = Inet1.Getir(
-        IstekAdresi(AdresleriOku(program_).servis, u"internetkontrol.php", {{u"ver", Metin(kSurum)}}));
+    const Metin cevap = Inet1.Getir(IstekAdresi(program_, Istek::InternetKontrol, {Metin(kSurum)}));
     Check1 = Kirp(cevap) == kTamam ? 1 : 0;
     if (Check1 == 1 && Duruyor())
         program_.FormFirma->gonder();
@@ -162,8 +161,7 @@ void Splash::ServiseSor() {
 void Splash::SurumuSor() {
     if (Check1 != 1)
         return;
-    const Metin cevap =
-        Inet1.Getir(IstekAdresi(AdresleriOku(program_).site, u"versiyon.php", {{u"ver", Metin(kSurum)}}));
+    const Metin cevap = Inet1.Getir(IstekAdresi(program_, Istek::Versiyon, {Metin(kSurum)}));
     VersiyonKontrol = Kirp(cevap) == kEski ? 1 : 0;
     Inet1.sure = kSorgudanSonra;
     Inet1.Iptal();

@@ -17,20 +17,4 @@ Adresler AdresleriOku(const Program& program) {
     return adresler;
 }
 
-Metin IstekAdresi(const Metin& yer, MetinBakis ad, const std::vector<SorguDegeri>& sorgu) {
-    if (yer.empty())
-        return {};
-    Metin adres = yer;
-    if (!adres.ends_with(u'/'))
-        adres += u'/';
-    adres += ad;
-    char16_t ayrac = u'?';
-    for (const SorguDegeri& biri : sorgu) {
-        adres += ayrac;
-        adres.append(biri.ad).append(u"=").append(biri.deger);
-        ayrac = u'&';
-    }
-    return adres;
-}
-
 } // namespace velora

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "storage/Metin.h"
 
 namespace velora {
@@ -19,15 +17,5 @@ struct Adresler {
 /// Reads `Adresler.dat`. With no such file, or one of fewer than four values, all are empty and the program
 /// is offline. Blanks about an address don't count.
 Adresler AdresleriOku(const Program& program);
-
-/// A key of a query and its value.
-struct SorguDegeri {
-    MetinBakis ad;
-    Metin deger;
-};
-
-/// The address of a request: the place as it is given, a "/" where it doesn't end with one, the name behind
-/// it, "?" and the query, its values as they stand. Empty without a place: then nothing is asked.
-Metin IstekAdresi(const Metin& yer, MetinBakis ad, const std::vector<SorguDegeri>& sorgu = {});
 
 } // namespace velora

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "access/Splash.h"
-#include "online/Adresler.h"
 #include "online/FormIpMac.h"
 #include "online/FormSunucu.h"
 #include "online/Iller.h"
+#include "online/Istekler.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
 #include "screen/Surum.h"
@@ -148,14 +148,10 @@ void FormFirma::Yaz() const {
 void FormFirma::Yolla(const FirmaKaydi& kayit) {
     if (program_.Splash->Check1 != 1)
         return;
-    std::vector<SorguDegeri> sorgu{{u"firmaid", FirmaAnahtari(program_)}};
-    std::array<Metin, kFirmaAlani> adlar;
-    for (std::size_t i = 0; i < kFirmaAlani; ++i) {
-        adlar[i] = u"a" + SayiMetni(static_cast<long long>(i + 1));
-        sorgu.push_back({adlar[i], kayit[i]});
-    }
+    std::vector<Metin> degerler{FirmaAnahtari(program_)};
+    degerler.insert(degerler.end(), kayit.begin(), kayit.end());
     Inet1.sure = kGondermeSuresi;
-    Inet1.Getir(IstekAdresi(AdresleriOku(program_).servis, u"firmakontrol.php", sorgu));
+    Inet1.Getir(IstekAdresi(program_, Istek::FirmaKontrol, degerler));
     Inet1.Iptal();
 }
 

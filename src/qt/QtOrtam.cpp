@@ -1,9 +1,10 @@
 #include "qt/QtOrtam.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
-#include <QPointer>
 #include <QWindow>
 
 #include "qt/Baglayici.h"
@@ -32,12 +33,12 @@ class KapanisGozcusu : public QObject {
     QEventLoop& dongu_;
 };
 
-/// Shows a box over the window that is in front. Questions come out of running handlers: what these have done
+/// Shows a box over that window. Questions come out of running handlers: what these have done
 /// so far must be seen behind the box.
 template <class Goster, class Kutu>
-auto Kutuda(Goster goster, const Kutu& kutu) {
+auto Kutuda(Goster goster, QWidget* pencere, const Kutu& kutu) {
     const Baglayici::KullaniciBekleme bekleme;
-    return goster(QApplication::activeWindow(), kutu);
+    return goster(pencere, kutu);
 }
 
 /// The window stands over that one, whatever else the desktop does.
@@ -64,8 +65,8 @@ Ortam QtOrtam::Ver() {
     // Windows change hands with moments of none: only a screen ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     Ortam ortam;
-    ortam.sor.mesaj = [](const MesajKutusu& kutu) { return Kutuda(MesajGoster, kutu); };
-    ortam.sor.girdi = [](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, kutu); };
+    ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return Kutuda(MesajGoster, Ondeki(), kutu); };
+    ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, Ondeki(), kutu); };
     ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
     ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
     ortam.goster.gizle = [this](EkranAdi ekran) { Gizle(ekran); };
@@ -125,6 +126,16 @@ QWidget* QtOrtam::Hazirla(EkranAdi ekran) {
     return yeni.get();
 }
 
+QWidget* QtOrtam::Ondeki() const {
+    if (QWidget* etkin = QApplication::activeWindow())
+        return etkin;
+    const auto gorunen = [](const QPointer<QWidget>& pencere) {
+        return pencere != nullptr && pencere->isVisible();
+    };
+    const auto son = std::find_if(gosterilenler_.rbegin(), gosterilenler_.rend(), gorunen);
+    return son == gosterilenler_.rend() ? nullptr : son->data();
+}
+
 void QtOrtam::Ac(EkranAdi ekran, const std::function<void()>& gorununce) {
     QWidget* pencere = Hazirla(ekran);
     if (pencere == nullptr)
@@ -133,6 +144,8 @@ void QtOrtam::Ac(EkranAdi ekran, const std::function<void()>& gorununce) {
         hafiza_.Yerlestir(*pencere, QMetin(EkranBul(ekran).ad));
         EkranaSigdir(*pencere);
     }
+    std::erase_if(gosterilenler_, [pencere](const auto& biri) { return biri == nullptr || biri == pencere; });
+    gosterilenler_.emplace_back(pencere);
     pencere->show();
     pencere->raise();
     pencere->activateWindow();
@@ -147,7 +160,7 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
     const Baglayici::KullaniciBekleme bekleme;
     QEventLoop dongu;
     const KapanisGozcusu gozcu(*pencere, dongu);
-    const QPointer<QWidget> ust = QApplication::activeWindow();
+    const QPointer<QWidget> ust = Ondeki();
     SahibineBagla(*pencere, ust);
     pencere->setWindowModality(Qt::ApplicationModal);
     Ac(ekran, gorununce);

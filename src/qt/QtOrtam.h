@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include <QPointer>
 #include <QWidget>
 
 #include "qt/PencereHafizasi.h"
@@ -45,6 +46,8 @@ class QtOrtam {
         void operator()(QWidget* pencere) const;
     };
 
+    /// The window with the keyboard. While none has it, as behind one that has just gone, the last shown.
+    QWidget* Ondeki() const;
     QWidget* Hazirla(EkranAdi ekran);
     void Ac(EkranAdi ekran, const std::function<void()>& gorununce);
     void Modal(EkranAdi ekran, const std::function<void()>& gorununce);
@@ -55,6 +58,7 @@ class QtOrtam {
 
     std::map<EkranAdi, Uretici> ureticiler_;
     std::map<EkranAdi, std::unique_ptr<QWidget, SonraSil>> pencereler_;
+    std::vector<QPointer<QWidget>> gosterilenler_; // in their order; some have gone
     PencereHafizasi hafiza_;
     bool bitti_ = false;
 };

@@ -1,4 +1,8 @@
+#include <filesystem>
+
+#include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -43,6 +47,13 @@ class AcilisPenceresiTest : public QObject {
         if (!QTest::qWaitForWindowExposed(&acilis))
             qFatal("The window of the start doesn't come up.");
         return acilis;
+    }
+    /// The window of a screen that is shown beside the others, once it has the keyboard.
+    static QDialog& Gelen(const GuiFirma& firma, EkranAdi ekran) {
+        auto& pencere = dynamic_cast<QDialog&>(*firma.disDunya.Pencere(ekran));
+        if (!QTest::qWaitForWindowActive(&pencere))
+            qFatal("The window doesn't come up.");
+        return pencere;
     }
     /// A network that answers nothing, and does this instead; each request counts.
     static void AgKoy(GuiFirma& firma, int& istekler, std::function<void()> is) {
@@ -108,6 +119,43 @@ class AcilisPenceresiTest : public QObject {
         QCOMPARE(istekler, 1);
         QVERIFY(!firma.program.Splash.Yuklu());
         QVERIFY(!firma.program.FormSifre.Yuklu());
+    }
+
+    void the_first_run_leads_through_its_windows_by_keys_to_a_hall_and_the_program_goes_on_running() {
+        GuiFirma firma;
+        std::filesystem::remove(firma.agac.Yol(u"Salon.dat"));
+        firma.gercektenBiter = true;
+        firma.program.Splash->Baslat();
+        QDialog& profil = Gelen(firma, EkranAdi::FormFirma);
+        for (const char* ad : {"t1", "t2", "t3", "t4", "t5", "t6", "t7"})
+            AlanaYaz(profil, ad, QStringLiteral("deneme %1").arg(QString::fromLatin1(ad)));
+        for (const char* ad : {"t13", "t8"}) {
+            Parcasi<QComboBox>(profil, ad).setFocus();
+            Tusla(Qt::Key_Down);
+        }
+        Parcasi<QComboBox>(profil, "t9").setFocus();
+        Tusla(Qt::Key_Down);
+        Tusla(Qt::Key_Return);
+        QDialog& parola = Gelen(firma, EkranAdi::FormSifreDegistir);
+        QCOMPARE(firma.disDunya.Pencere(EkranAdi::FormFirma), nullptr);
+        AlanaYaz(parola, "Text1", QStringLiteral("p7"));
+        AlanaYaz(parola, "Text2", QStringLiteral("p7"));
+        Pencerede([] { Tusla(Qt::Key_Return); },
+                  {Mesaj(QStringLiteral("Önce salon tanımı yapmalısınız!\nŞimdi salon tanımı yapmak ister "
+                                        "misiniz?"),
+                         QStringLiteral("Hayır")),
+                   Mesaj(QStringLiteral("Salon tanımı yapmadan rezervasyon kaydı oluşturamazsınız!\n"
+                                        "Lütfen önce salon tanımı yapınız!")),
+                   [](QDialog& salonlar) {
+                       QVERIFY(!Parcasi<QPushButton>(salonlar, "Command3").isEnabled());
+                       salonlar.close();
+                       QVERIFY(salonlar.isVisible());
+                       Pencerede([&] { Tikla(salonlar, "Command1"); }, {Girdi(QStringLiteral("gül"))});
+                       Tikla(salonlar, "Command3");
+                   }});
+        QCOMPARE(firma.Model().Salon.Metni(), Metin(u"Gül"));
+        QVERIFY(QTest::qWaitForWindowActive(&firma.Pencere()));
+        QCOMPARE(firma.bitisler, 0);
     }
 
     void while_the_table_asks_for_the_service_again_its_keys_and_its_cells_go_on_working() {

@@ -27,15 +27,4 @@ TEST_F(AdreslerTest, Without_the_file_or_with_a_short_one_all_are_empty) {
     }
 }
 
-TEST(IstekAdresiTest, Joins_place_name_and_query_as_they_stand_with_a_slash_where_none_is) {
-    EXPECT_EQ(IstekAdresi(u"http://a/b", u"c.php"), u"http://a/b/c.php");
-    EXPECT_EQ(IstekAdresi(u"http://a/b/", u"c.php"), u"http://a/b/c.php");
-    EXPECT_EQ(IstekAdresi(u"http://a/", u"c.php", {{u"x", u"Gül & Şen=%"}, {u"y", u""}, {u"z", u"\r\n"}}),
-              u"http://a/c.php?x=Gül & Şen=%&y=&z=\r\n");
-}
-
-TEST(IstekAdresiTest, Without_a_place_there_is_no_address_whatever_is_asked) {
-    EXPECT_EQ(IstekAdresi(u"", u"c.php", {{u"x", u"1"}}), u"");
-}
-
 } // namespace velora::test
