@@ -72,7 +72,7 @@ void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const Fo
     constexpr double kBaslikEni = 32;
     constexpr double kIkiNokta = 3;
     constexpr double kDegerSol = kBaslikEni + kIkiNokta;
-    const AlanBicimi bicim;
+    const AlanBicimi bicim{{10, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
     const double boy = SatirBoyu(bicim.yazi);
     double ust = 0;
     for (const BilgiSatiri& satir : satirlar) {

@@ -258,6 +258,7 @@ TEST_F(FormPrintTest, Five_thousand_letters_of_clauses_or_of_a_remark_lose_none)
 TEST_F(FormPrintTest, An_address_of_five_lines_pushes_down_what_is_under_it) {
     sayfa.CAdres.baslik = u"Çay Sk. 3\r\nGül Apt.\r\nKat 2\r\nDaire 7\r\nErgene Tekirdağ";
     HepsiGorunmeli(sayfa.CAdres, u"CAdres");
+    EXPECT_NE(MetniSuradan(u"CAdres ").find(u" 9 <|Çay Sk. 3|Gül Apt.|Kat 2|"), Metin::npos);
 }
 
 TEST_F(FormPrintTest, Names_without_a_blank_are_broken_and_never_cut_off) {
