@@ -14,7 +14,7 @@ constexpr double kYuvarlama = 1e-6;    // millimetres: sums of widths aren't exa
 constexpr double kYazilanOnluk = 10.0; // places are told to a tenth
 
 /// Up to which sign of a line's text it is no wider than it may be; at least one, or nothing would move on.
-std::size_t SiganHarf(MetinBakis metin, double en, const Yazi& yazi, const YaziOlcer& olcer) {
+std::size_t SiganHarf(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer) {
     std::size_t sigan = 1;
     std::size_t sigmayan = metin.size() + 1;
     while (sigmayan - sigan > 1) {
@@ -25,7 +25,7 @@ std::size_t SiganHarf(MetinBakis metin, double en, const Yazi& yazi, const YaziO
 }
 
 /// Breaks what stands between two line ends.
-void ParagrafiBol(MetinBakis metin, double en, const Yazi& yazi, const YaziOlcer& olcer,
+void ParagrafiBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer,
                   std::vector<Metin>& satirlar) {
     while (!metin.empty()) {
         const std::size_t sigan = SiganHarf(metin, en, yazi, olcer);
@@ -64,11 +64,12 @@ Metin ParcaMetni(const SayfaParcasi& parca) {
 
 } // namespace
 
-double SatirBoyu(const Yazi& yazi) {
+double SatirBoyu(const SayfaYazisi& yazi) {
     return yazi.punto * kPunto * kSatirArasi;
 }
 
-std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const Yazi& yazi, const YaziOlcer& olcer) {
+std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi,
+                                const YaziOlcer& olcer) {
     std::vector<Metin> satirlar;
     while (!metin.empty()) {
         const std::size_t son = std::min(metin.find_first_of(u"\r\n"), metin.size());

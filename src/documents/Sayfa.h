@@ -24,11 +24,11 @@ struct SayfaYeri {
 };
 
 /// Of a text, the size in points.
-struct Yazi {
+struct SayfaYazisi {
     double punto = 10;
     bool kalin = false;
 
-    bool operator==(const Yazi&) const = default;
+    bool operator==(const SayfaYazisi&) const = default;
 };
 
 enum class Hiza { Sol, Orta, Sag };
@@ -40,7 +40,7 @@ struct SayfaParcasi {
     ParcaTuru tur = ParcaTuru::Yazi;
     Metin ad; ///< of the field that it shows
     SayfaYeri yer;
-    Yazi yazi{};
+    SayfaYazisi yazi{};
     Hiza hiza = Hiza::Sol;
     std::vector<Metin> satirlar{}; ///< broken already: each is painted as it stands
 };
@@ -51,14 +51,14 @@ struct Sayfa {
 
 /// How wide a text of one line is, in millimetres. Who paints the page says so, in the font that it is
 /// painted in.
-using YaziOlcer = std::function<double(MetinBakis metin, const Yazi& yazi)>;
+using YaziOlcer = std::function<double(MetinBakis metin, const SayfaYazisi& yazi)>;
 
 /// From one line of a text to the next, in millimetres.
-double SatirBoyu(const Yazi& yazi);
+double SatirBoyu(const SayfaYazisi& yazi);
 
 /// Breaks a text into lines that are no wider than `en`: at its line ends, else at blanks, else within a word
 /// that is too wide for a line of its own. Blanks at a break go, all else stays. An empty text has no line.
-std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const Yazi& yazi, const YaziOlcer& olcer);
+std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer);
 
 /// The pages as text, one line for each part: its field, its place, its size and its lines.
 Metin SayfalarMetni(const std::vector<Sayfa>& sayfalar);

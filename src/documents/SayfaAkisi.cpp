@@ -9,7 +9,7 @@ namespace {
 constexpr double kAdim = 0.5; // points
 constexpr double kPay = 1e-6; // millimetres: sums of heights aren't exact
 
-double MetinBoyu(std::size_t satir, const Yazi& yazi) {
+double MetinBoyu(std::size_t satir, const SayfaYazisi& yazi) {
     return static_cast<double>(satir) * SatirBoyu(yazi);
 }
 
@@ -24,7 +24,7 @@ double EnAlt(std::span<const SayfaParcasi> parcalar) {
 
 SayfaParcasi SayfaAkisi::Parca(Metin ad, MetinBakis metin, const SayfaYeri& yer,
                                const AlanBicimi& bicim) const {
-    Yazi yazi = bicim.yazi;
+    SayfaYazisi yazi = bicim.yazi;
     auto satirlar = SatirlaraBol(metin, yer.en, yazi, olcer_);
     while (MetinBoyu(satirlar.size(), yazi) > yer.boy + kPay && yazi.punto - kAdim >= bicim.enKucuk) {
         yazi.punto -= kAdim;
@@ -35,7 +35,7 @@ SayfaParcasi SayfaAkisi::Parca(Metin ad, MetinBakis metin, const SayfaYeri& yer,
     return {ParcaTuru::Yazi, std::move(ad), tutulan, yazi, bicim.hiza, std::move(satirlar)};
 }
 
-Metin SayfaAkisi::Sira(char16_t isaret, double en, const Yazi& yazi) const {
+Metin SayfaAkisi::Sira(char16_t isaret, double en, const SayfaYazisi& yazi) const {
     constexpr std::size_t kYuz = 100; // one sign is measured too roughly
     const double yuzununEni = olcer_(Metin(kYuz, isaret), yazi);
     return Metin(static_cast<std::size_t>(en / yuzununEni * kYuz), isaret);
@@ -53,7 +53,7 @@ void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
     ust_ += boy;
 }
 
-void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const Yazi& yazi) {
+void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi) {
     const auto satirlar = SatirlaraBol(metin, kEn, yazi, olcer_);
     const double satirBoyu = SatirBoyu(yazi);
     for (auto ilk = satirlar.begin(); ilk != satirlar.end();) {

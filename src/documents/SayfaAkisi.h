@@ -8,7 +8,7 @@ namespace velora {
 
 /// What stands in a place of its own: how large its text is, and how small it may get.
 struct AlanBicimi {
-    Yazi yazi{};
+    SayfaYazisi yazi{};
     Hiza hiza = Hiza::Sol;
     double enKucuk = 7; ///< points
 };
@@ -26,12 +26,12 @@ class SayfaAkisi {
     /// smaller until it fits; at its smallest the place grows instead.
     SayfaParcasi Parca(Metin ad, MetinBakis metin, const SayfaYeri& yer, const AlanBicimi& bicim) const;
     /// A row of one sign, as long as the width allows: dots to write on, a rule.
-    Metin Sira(char16_t isaret, double en, const Yazi& yazi) const;
+    Metin Sira(char16_t isaret, double en, const SayfaYazisi& yazi) const;
     /// Puts a block, of parts whose places count from its corner, under what is there, on a new page when the
     /// rest of this one is too low.
     void Koy(std::vector<SayfaParcasi> blok);
     /// Puts a text over the whole width, line by line: a new page may begin within it.
-    void Akit(const Metin& ad, MetinBakis metin, const Yazi& yazi);
+    void Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi);
     /// Leaves so much free under what is there.
     void Bosluk(double boy) { ust_ += boy; }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr double kIcKenar = 4; // between the frame and what is in it, in millimetres
 constexpr double kIcEn = SayfaAkisi::kEn - 2 * kIcKenar;
 constexpr double kSenetAra = 1.5; // between two lines
-constexpr Yazi kSenetYazisi{10, false};
+constexpr SayfaYazisi kSenetYazisi{10, false};
 
 // The heads with a dotted cell under each, and how wide they are, of all.
 struct SenetBasi {

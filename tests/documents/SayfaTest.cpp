@@ -11,7 +11,7 @@ namespace {
 using Satirlar = std::vector<Metin>;
 
 /// The size at which a letter of `EsitEnli` is a millimetre wide.
-constexpr Yazi kMilimetrelik{2 * 72 / 25.4, false};
+constexpr SayfaYazisi kMilimetrelik{2 * 72 / 25.4, false};
 
 Satirlar Bol(MetinBakis metin, double en) {
     return SatirlaraBol(metin, en, kMilimetrelik, EsitEnli);
@@ -42,13 +42,13 @@ TEST(SayfaAkisi, A_text_gets_smaller_until_it_fits_and_then_its_place_grows) {
     const SayfaAkisi akis(EsitEnli);
     const AlanBicimi bicim{{12, true}, Hiza::Sag, 8};
     const SayfaYeri yer{3, 4, 40, SatirBoyu(bicim.yazi)};
-    EXPECT_EQ(akis.Parca(u"a", Metin(15, u'x'), yer, bicim).yazi, (Yazi{12, true}));
+    EXPECT_EQ(akis.Parca(u"a", Metin(15, u'x'), yer, bicim).yazi, (SayfaYazisi{12, true}));
     const SayfaParcasi kuculen = akis.Parca(u"a", Metin(18, u'x'), yer, bicim);
-    EXPECT_EQ(kuculen.yazi, (Yazi{10, true}));
+    EXPECT_EQ(kuculen.yazi, (SayfaYazisi{10, true}));
     EXPECT_EQ(kuculen.yer, yer);
     EXPECT_EQ(kuculen.hiza, Hiza::Sag);
     const SayfaParcasi buyuyen = akis.Parca(u"a", Metin(50, u'x'), yer, bicim);
-    EXPECT_EQ(buyuyen.yazi, (Yazi{8, true}));
+    EXPECT_EQ(buyuyen.yazi, (SayfaYazisi{8, true}));
     EXPECT_EQ(buyuyen.satirlar, (Satirlar{Metin(23, u'x'), Metin(23, u'x'), Metin(4, u'x')}));
     EXPECT_DOUBLE_EQ(buyuyen.yer.boy, 3 * SatirBoyu({8, true}));
 }

@@ -7,7 +7,7 @@
 namespace velora::test {
 
 /// Letters of one width, half as wide as high; bold ones are a fifth wider.
-inline double EsitEnli(MetinBakis metin, const Yazi& yazi) {
+inline double EsitEnli(MetinBakis metin, const SayfaYazisi& yazi) {
     return static_cast<double>(metin.size()) * yazi.punto * 25.4 / 72 / 2 * (yazi.kalin ? 1.2 : 1);
 }
 
