@@ -6,6 +6,7 @@
 #include "qt/access/SplashPenceresi.h"
 #include "qt/accounts/BakiyePenceresi.h"
 #include "qt/accounts/KasaPencereleri.h"
+#include "qt/documents/SozlesmePenceresi.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
@@ -53,6 +54,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<KasaPenceresi>(ortam, program, EkranAdi::FormKasa);
     Tanit<KasaEklePenceresi>(ortam, program, EkranAdi::FormKasaEkle);
     Tanit<GiderlerPenceresi>(ortam, program, EkranAdi::FormGiderler);
+    Tanit<SozlesmePenceresi>(ortam, program, EkranAdi::FormSozlesme);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

@@ -27,6 +27,7 @@
     X(FormKasa, Pencereli)                                                                                   \
     X(FormKasaEkle, Pencereli)                                                                               \
     X(FormGiderler, Pencereli)                                                                               \
+    X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \

@@ -139,6 +139,8 @@ struct FormTablo {
     void AracaTikla(MetinBakis dugme);
     /// Asks, and ends the program. The window is closed by it too.
     void Cikissssss_Click();
+    /// Shows the template of the contract, with the firm as its profile has it now.
+    void Sozduzenss_Click();
     /// Opens the help page, or else the guide beside the program. Neither: a box says so.
     void Yardimssa_Click();
     void newkay_Click();

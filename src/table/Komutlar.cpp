@@ -5,6 +5,7 @@
 #include "access/FormSifreDegistir.h"
 #include "accounts/FormBakiye.h"
 #include "accounts/FormKasa.h"
+#include "documents/FormSozlesme.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
@@ -57,6 +58,7 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::iptalsebepss, u"iptalsebepss", Menu::Raporsss, u"İptal Sebepleri", &T::iptalsebepss_Click},
     {Komut::FirmaBilgiss, u"FirmaBilgiss", Menu::ayarsd, u"Firma Bilgileri", &T::EkranAc<&P::FormFirma>},
     {Komut::firmcizgi, u"firmcizgi", Menu::ayarsd, u"-"},
+    {Komut::Sozduzenss, u"Sozduzenss", Menu::ayarsd, u"Sözleşme Tanımları", &T::Sozduzenss_Click},
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
@@ -125,6 +127,13 @@ void FormTablo::Cikissssss_Click() {
     // Every save has gone to the disk already: Enter may leave.
     if (Sor(program_, u"Programdan çıkmak istediğinizden emin misiniz?"))
         program_.ortam.olaylar.bitir();
+}
+
+void FormTablo::Sozduzenss_Click() {
+    program_.FormSozlesme.GosterModal([this] {
+        TazeSozlesme(program_);
+        return true;
+    });
 }
 
 void FormTablo::Yardimssa_Click() {

@@ -22,6 +22,7 @@ enum class Komut {
     iptalsebepss,
     FirmaBilgiss,
     firmcizgi,
+    Sozduzenss,
     Salontanimss,
     aline4,
     MenuAyars,

@@ -9,6 +9,7 @@
 #include "accounts/FormGiderler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
+#include "documents/FormSozlesme.h"
 #include "maintenance/FormResmiTatil.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
@@ -88,8 +89,11 @@ TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_field
 
 TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
     for (const char16_t* ad : {u"Salon.dat", u"Menuler.dat", u"User.dll", u"Settings.dll", u"Visible.dll",
-                               u"Tatiller.dll", u"Count.dat"})
+                               u"Tatiller.dll", u"Sozlesme.dat", u"Count.dat"})
         agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
+    EXPECT_EQ(program.FormSozlesme->Baslik.metin, u"Sözleşme Maddeleri");
+    EXPECT_TRUE(program.FormSozlesme->Sozlesme.metin.ends_with(
+        u".\r\n2 - Tarih değişikliği bir ay önceden bildirilir."));
     EXPECT_EQ(program.FormKayit->Kay[14].metin, u"18");
     EXPECT_EQ(program.FormTablo->Salon.ogeler, std::vector<Metin>{u"Gül Salonu"});
     EXPECT_EQ(program.FormMenuAyar->Liste.satirlar.at(0).sutun,

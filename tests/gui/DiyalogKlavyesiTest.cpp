@@ -202,7 +202,8 @@ class DiyalogKlavyesiTest : public QObject {
                         kaydedenler += yazi == QStringLiteral("&Kaydet") ? 1 : 0;
                     }
                 });
-        QCOMPARE(kaydedenler, 7); // the record once, the settings, the firm's profile and the expenses twice
+        // The record once; the settings, the expenses, the contract and the firm's profile twice.
+        QCOMPARE(kaydedenler, 9);
     }
 
     void the_button_of_enter_has_its_first_letter() {

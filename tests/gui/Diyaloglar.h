@@ -10,6 +10,7 @@
 #include "accounts/FormGiderler.h"
 #include "accounts/FormKasa.h"
 #include "accounts/FormKasaEkle.h"
+#include "documents/FormSozlesme.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -174,6 +175,11 @@ inline constexpr Diyalog kDiyaloglar[]{
      "ListeleGun",
      "Command1",
      {"Combo2 DTPicker3 DTPicker1 DTPicker2 ListeleGun Liste Command3 Kaydet Command1"}},
+    {EkranAdi::FormSozlesme,
+     EkraniAc<&Program::FormSozlesme>,
+     "Command2",
+     "Command3",
+     {"Sozlesme Command2 Command3 Unvan Sehir Baslik"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

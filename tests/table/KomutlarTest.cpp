@@ -36,6 +36,7 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::iptalsebepss, Menu::Raporsss, u"iptalsebepss", u"İptal Sebepleri", u""},
     {Komut::FirmaBilgiss, Menu::ayarsd, u"FirmaBilgiss", u"Firma Bilgileri", u""},
     {Komut::firmcizgi, Menu::ayarsd, u"firmcizgi", u"-", u""},
+    {Komut::Sozduzenss, Menu::ayarsd, u"Sozduzenss", u"Sözleşme Tanımları", u""},
     {Komut::Salontanimss, Menu::ayarsd, u"Salontanimss", u"Salon Tanımları", u""},
     {Komut::aline4, Menu::ayarsd, u"aline4", u"-", u""},
     {Komut::MenuAyars, Menu::ayarsd, u"MenuAyars", u"Menü Tanımları", u""},

@@ -13,6 +13,7 @@
 #include "accounts/FormGiderler.h"
 #include "accounts/FormKasa.h"
 #include "accounts/FormKasaEkle.h"
+#include "documents/FormSozlesme.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -168,6 +169,7 @@ constexpr ResimTanimi kResimler[]{
     {EkranAdi::FormKasa, u"kasa", Modal<&P::FormKasa>, KasaListele, {780, 460}},
     {EkranAdi::FormKasaEkle, u"gider-ekle", Modal<&P::FormKasaEkle>, GiderYaz},
     {EkranAdi::FormGiderler, u"giderler", Modal<&P::FormGiderler>, SatirSec<&P::FormGiderler, 2>, {720, 420}},
+    {EkranAdi::FormSozlesme, u"sozlesme", Modal<&P::FormSozlesme>, nullptr, {720, 320}},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},

@@ -1,0 +1,67 @@
+#include "documents/FormSozlesme.h"
+
+#include <array>
+
+#include "online/FormFirma.h"
+#include "online/Iller.h"
+#include "screen/Program.h"
+#include "storage/AlanDosyasi.h"
+
+namespace velora {
+
+namespace {
+
+Metin SozlesmeYolu(const Program& program) {
+    return program.agac.KokYolu(kSozlesmeDosyasi);
+}
+
+std::array<Alan, 2> SozlesmeAlanlari(Metin& baslik, Metin& maddeler) {
+    return {MetinAlani(baslik), MetinAlani(maddeler)};
+}
+
+/// A quote within a text would end it in the file.
+Metin Tirnaksiz(Metin metin) {
+    std::erase(metin, u'"');
+    return metin;
+}
+
+} // namespace
+
+FormSozlesme::FormSozlesme(Program& program) : program_(program) {
+    Unvan.baslik = u"Firma Ünvanı";
+    Sehir.baslik = u"Şehir";
+    Baslik.baslik = u"Başlık";
+    Sozlesme.baslik = u"Sözleşme";
+    for (const Il& il : Iller())
+        Sehir.ogeler.emplace_back(il.ad);
+    Command2.baslik = u"Kaydet";
+    Command3.baslik = u"İptal";
+}
+
+void FormSozlesme::Load() {
+    const auto firma = program_.FormFirma.Tut();
+    Unvan.metin = firma->t1.metin;
+    // What the profile asks for is no city, and would stand on paper as one.
+    if (const Metin sehir = firma->t8.Metni(); sehir != kSehirSeciniz)
+        Sehir.MetinAta(sehir);
+    AlanlariOku(program_.dosyalar, SozlesmeYolu(program_), SozlesmeAlanlari(Baslik.metin, Sozlesme.metin));
+}
+
+void FormSozlesme::Command2_Click() {
+    Metin temizBaslik = Tirnaksiz(Baslik.metin);
+    Metin maddeler = Tirnaksiz(Sozlesme.metin);
+    program_.dosyalar.Yaz(SozlesmeYolu(program_), AlanBaytlari(SozlesmeAlanlari(temizBaslik, maddeler)));
+    program_.FormSozlesme.Bosalt();
+}
+
+void FormSozlesme::Command3_Click() {
+    program_.FormSozlesme.Bosalt();
+}
+
+std::shared_ptr<FormSozlesme> TazeSozlesme(Program& program) {
+    if (!program.yigin.Acik(EkranAdi::FormSozlesme))
+        program.FormSozlesme.Bosalt();
+    return program.FormSozlesme.Tut();
+}
+
+} // namespace velora

@@ -1,0 +1,81 @@
+#include "documents/SayfaAkisi.h"
+
+#include <algorithm>
+
+namespace velora {
+
+namespace {
+
+constexpr double kAdim = 0.5; // points
+constexpr double kPay = 1e-6; // millimetres: sums of heights aren't exact
+
+double MetinBoyu(std::size_t satir, const SayfaYazisi& yazi) {
+    return static_cast<double>(satir) * SatirBoyu(yazi);
+}
+
+} // namespace
+
+double EnAlt(std::span<const SayfaParcasi> parcalar) {
+    double alt = 0;
+    for (const SayfaParcasi& parca : parcalar)
+        alt = std::max(alt, parca.yer.Alt());
+    return alt;
+}
+
+SayfaParcasi SayfaAkisi::Parca(Metin ad, MetinBakis metin, const SayfaYeri& yer,
+                               const AlanBicimi& bicim) const {
+    SayfaYazisi yazi = bicim.yazi;
+    auto satirlar = SatirlaraBol(metin, yer.en, yazi, olcer_);
+    while (MetinBoyu(satirlar.size(), yazi) > yer.boy + kPay && yazi.punto - kAdim >= bicim.enKucuk) {
+        yazi.punto -= kAdim;
+        satirlar = SatirlaraBol(metin, yer.en, yazi, olcer_);
+    }
+    SayfaYeri tutulan = yer;
+    tutulan.boy = std::max(yer.boy, MetinBoyu(satirlar.size(), yazi));
+    return {ParcaTuru::Yazi, std::move(ad), tutulan, yazi, bicim.hiza, std::move(satirlar)};
+}
+
+Metin SayfaAkisi::Sira(char16_t isaret, double en, const SayfaYazisi& yazi) const {
+    constexpr std::size_t kYuz = 100; // one sign is measured too roughly
+    const double yuzununEni = olcer_(Metin(kYuz, isaret), yazi);
+    return Metin(static_cast<std::size_t>(en / yuzununEni * kYuz), isaret);
+}
+
+void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
+    const double boy = EnAlt(blok);
+    if (boy > Kalan() + kPay)
+        YeniSayfa();
+    for (SayfaParcasi& parca : blok) {
+        parca.yer.sol += kKenar;
+        parca.yer.ust += ust_;
+        sayfalar_.back().parcalar.push_back(std::move(parca));
+    }
+    ust_ += boy;
+}
+
+void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi) {
+    const auto satirlar = SatirlaraBol(metin, kEn, yazi, olcer_);
+    const double satirBoyu = SatirBoyu(yazi);
+    for (auto ilk = satirlar.begin(); ilk != satirlar.end();) {
+        if (satirBoyu > Kalan() + kPay)
+            YeniSayfa();
+        const auto sigan = static_cast<std::ptrdiff_t>((Kalan() + kPay) / satirBoyu);
+        const auto son = ilk + std::min(sigan, satirlar.end() - ilk);
+        const double boy = static_cast<double>(son - ilk) * satirBoyu;
+        Koy({{ParcaTuru::Yazi, ad, {0, 0, kEn, boy}, yazi, Hiza::Sol, {ilk, son}}});
+        ilk = son;
+    }
+}
+
+void SayfaAkisi::YeniSayfa() {
+    // A block that is higher than a page still goes on one, not behind empty ones.
+    if (!sayfalar_.back().parcalar.empty())
+        sayfalar_.emplace_back();
+    ust_ = kKenar;
+}
+
+double SayfaAkisi::Kalan() const {
+    return kSayfaBoyu - kKenar - ust_;
+}
+
+} // namespace velora

@@ -1,0 +1,31 @@
+#include "qt/documents/SozlesmePenceresi.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "documents/FormSozlesme.h"
+#include "qt/Baglayici.h"
+#include "qt/Yerlesimler.h"
+#include "screen/Program.h"
+
+namespace velora {
+
+SozlesmePenceresi::SozlesmePenceresi(Program& program) : EkranPenceresi(program.FormSozlesme.Tut()) {
+    auto* sutun = SutunKur(*this);
+    QFormLayout* form = FormKur();
+    SatirEkle<QLineEdit>(*form, QStringLiteral("Unvan"), Model().Unvan);
+    SatirEkle<QComboBox>(*form, QStringLiteral("Sehir"), Model().Sehir);
+    SatirEkle<QLineEdit>(*form, QStringLiteral("Baslik"), Model().Baslik);
+    SatirEkle<QPlainTextEdit>(*form, QStringLiteral("Sozlesme"), Model().Sozlesme);
+    sutun->addLayout(form, 1);
+    sutun->addLayout(TamamIptal({"Command2", &FormSozlesme::Command2, &FormSozlesme::Command2_Click},
+                                {"Command3", &FormSozlesme::Command3, &FormSozlesme::Command3_Click}));
+    resize(720, 480);
+    IlkOdak("Sozlesme");
+}
+
+} // namespace velora

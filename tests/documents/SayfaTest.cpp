@@ -1,0 +1,80 @@
+#include "documents/Sayfa.h"
+
+#include "documents/SayfaAkisi.h"
+#include "documents/SayfaTest.h"
+#include "storage/Sayi.h"
+
+namespace velora::test {
+
+namespace {
+
+using Satirlar = std::vector<Metin>;
+
+/// The size at which a letter of `EsitEnli` is a millimetre wide.
+constexpr SayfaYazisi kMilimetrelik{2 * 72 / 25.4, false};
+
+Satirlar Bol(MetinBakis metin, double en) {
+    return SatirlaraBol(metin, en, kMilimetrelik, EsitEnli);
+}
+
+} // namespace
+
+TEST(SatirlaraBol, Breaks_at_blanks_and_never_leaves_one_at_an_edge) {
+    EXPECT_EQ(Bol(u"bir iki üç", 100), (Satirlar{u"bir iki üç"}));
+    EXPECT_EQ(Bol(u"bir iki üç", 7), (Satirlar{u"bir iki", u"üç"}));
+    EXPECT_EQ(Bol(u"bir iki üç", 6), (Satirlar{u"bir", u"iki üç"}));
+    EXPECT_EQ(Bol(u"bir   iki", 4), (Satirlar{u"bir", u"iki"}));
+}
+
+TEST(SatirlaraBol, A_word_wider_than_the_line_is_broken_within) {
+    EXPECT_EQ(Bol(u"ab 123456789 cd", 4), (Satirlar{u"ab", u"1234", u"5678", u"9 cd"}));
+    EXPECT_EQ(Bol(u"abc", 0.5), (Satirlar{u"a", u"b", u"c"})) << "no line is too narrow to go on";
+}
+
+TEST(SatirlaraBol, Keeps_its_line_ends_of_any_kind_and_the_blanks_before_a_line) {
+    EXPECT_EQ(Bol(u"a\r\n\r\n  b\nc\rd", 9), (Satirlar{u"a", u"", u"  b", u"c", u"d"}));
+    EXPECT_EQ(Bol(u"  abcdef", 5), (Satirlar{u"  abc", u"def"}));
+    EXPECT_EQ(Bol(u"", 9), Satirlar{});
+    EXPECT_EQ(Bol(u"a\r\n", 9), (Satirlar{u"a"}));
+}
+
+TEST(SayfaAkisi, A_text_gets_smaller_until_it_fits_and_then_its_place_grows) {
+    const SayfaAkisi akis(EsitEnli);
+    const AlanBicimi bicim{{12, true}, Hiza::Sag, 8};
+    const SayfaYeri yer{3, 4, 40, SatirBoyu(bicim.yazi)};
+    EXPECT_EQ(akis.Parca(u"a", Metin(15, u'x'), yer, bicim).yazi, (SayfaYazisi{12, true}));
+    const SayfaParcasi kuculen = akis.Parca(u"a", Metin(18, u'x'), yer, bicim);
+    EXPECT_EQ(kuculen.yazi, (SayfaYazisi{10, true}));
+    EXPECT_EQ(kuculen.yer, yer);
+    EXPECT_EQ(kuculen.hiza, Hiza::Sag);
+    const SayfaParcasi buyuyen = akis.Parca(u"a", Metin(50, u'x'), yer, bicim);
+    EXPECT_EQ(buyuyen.yazi, (SayfaYazisi{8, true}));
+    EXPECT_EQ(buyuyen.satirlar, (Satirlar{Metin(23, u'x'), Metin(23, u'x'), Metin(4, u'x')}));
+    EXPECT_DOUBLE_EQ(buyuyen.yer.boy, 3 * SatirBoyu({8, true}));
+}
+
+TEST(SayfaAkisi, What_does_not_fit_under_the_rest_begins_a_page_and_a_long_text_goes_over_pages) {
+    SayfaAkisi akis(EsitEnli);
+    const auto kutu = [](double boy) {
+        return std::vector<SayfaParcasi>{{ParcaTuru::Cerceve, u"k", {10, 2, 20, boy - 2}}};
+    };
+    akis.Koy(kutu(200));
+    akis.Bosluk(7);
+    akis.Koy(kutu(60)); // up to the margin
+    akis.Koy(kutu(9));
+    Metin yazi;
+    for (int satir = 1; satir <= 70; ++satir)
+        yazi += SayiMetni(satir) + u"\r\n";
+    akis.Akit(u"y", yazi, {10, false});
+    const auto& sayfalar = akis.Sayfalar();
+    ASSERT_EQ(sayfalar.size(), 3U);
+    EXPECT_EQ(sayfalar[0].parcalar.at(0).yer, (SayfaYeri{25, 17, 20, 198}));
+    EXPECT_EQ(sayfalar[0].parcalar.at(1).yer, (SayfaYeri{25, 224, 20, 58}));
+    EXPECT_EQ(sayfalar[1].parcalar.at(0).yer.ust, 17);
+    EXPECT_EQ(sayfalar[1].parcalar.at(1).yer.ust, 24);
+    EXPECT_EQ(sayfalar[1].parcalar.at(1).satirlar.size(), 60U) << "258 mm in lines of 4.23 mm";
+    EXPECT_EQ(sayfalar[2].parcalar.at(0).satirlar.front(), u"61");
+    SayfalarDuzgunOlmali(sayfalar);
+}
+
+} // namespace velora::test

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "documents/Sayfa.h"
+
+namespace velora::test {
+
+/// Letters of one width, half as wide as high; bold ones are a fifth wider.
+inline double EsitEnli(MetinBakis metin, const SayfaYazisi& yazi) {
+    return static_cast<double>(metin.size()) * yazi.punto * 25.4 / 72 / 2 * (yazi.kalin ? 1.2 : 1);
+}
+
+/// Nothing leaves the margins of the paper, no text is wider or higher than its place, and no two texts lie
+/// over each other.
+inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar) {
+    constexpr double kKenar = 15;
+    constexpr double kPay = 1e-3;
+    for (const Sayfa& sayfa : sayfalar) {
+        EXPECT_FALSE(sayfa.parcalar.empty());
+        for (std::size_t i = 0; i < sayfa.parcalar.size(); ++i) {
+            const SayfaParcasi& parca = sayfa.parcalar[i];
+            SCOPED_TRACE(testing::PrintToString(parca.ad));
+            EXPECT_GE(parca.yer.sol, kKenar - kPay);
+            EXPECT_GE(parca.yer.ust, kKenar - kPay);
+            EXPECT_LE(parca.yer.Sag(), kSayfaEni - kKenar + kPay);
+            EXPECT_LE(parca.yer.Alt(), kSayfaBoyu - kKenar + kPay);
+            const double yaziBoyu = static_cast<double>(parca.satirlar.size()) * SatirBoyu(parca.yazi);
+            EXPECT_TRUE(parca.tur == ParcaTuru::Cerceve || yaziBoyu <= parca.yer.boy + kPay);
+            for (const Metin& satir : parca.satirlar)
+                EXPECT_LE(EsitEnli(satir, parca.yazi), parca.yer.en + kPay);
+            for (std::size_t j = 0; j < i && parca.tur == ParcaTuru::Yazi; ++j) {
+                const SayfaYeri& oteki = sayfa.parcalar[j].yer;
+                const bool ayri = oteki.Alt() <= parca.yer.ust + kPay ||
+                                  parca.yer.Alt() <= oteki.ust + kPay ||
+                                  oteki.Sag() <= parca.yer.sol + kPay || parca.yer.Sag() <= oteki.sol + kPay;
+                EXPECT_TRUE(ayri || sayfa.parcalar[j].tur == ParcaTuru::Cerceve)
+                    << testing::PrintToString(sayfa.parcalar[j].ad);
+            }
+        }
+    }
+}
+
+/// All that a field shows, over all pages, its lines put together without what breaks them.
+inline Metin BosluksuzMetin(const std::vector<Sayfa>& sayfalar, MetinBakis ad) {
+    Metin metin;
+    for (const Sayfa& sayfa : sayfalar)
+        for (const SayfaParcasi& parca : sayfa.parcalar)
+            if (parca.ad == ad)
+                for (const Metin& satir : parca.satirlar)
+                    metin += satir;
+    std::erase(metin, u' ');
+    return metin;
+}
+
+} // namespace velora::test
