@@ -99,6 +99,7 @@ TEST_F(SplashTest, Only_a_whole_ok_counts_and_blanks_around_it_do_not_matter) {
     for (const auto& [cevap, sayilir] : cevaplar) {
         SCOPED_TRACE(::testing::PrintToString(cevap));
         program.Splash.Bosalt();
+        program.FormFirma.Bosalt();
         Baslat();
         ServisSor(cevap);
         if (sayilir == 1)
@@ -107,6 +108,7 @@ TEST_F(SplashTest, Only_a_whole_ok_counts_and_blanks_around_it_do_not_matter) {
         TikeDek(5);
         EXPECT_EQ(Acilis().Check1, sayilir);
         EXPECT_EQ(Acilis().Check2, sayilir);
+        EXPECT_EQ(program.FormFirma.Yuklu(), sayilir == 1) << "only a service that is there is sent to";
     }
 }
 

@@ -33,10 +33,14 @@ TEST_F(KasaEkle, Opens_on_the_hall_of_the_cash_book_and_today_and_waits_for_an_a
 }
 
 TEST_F(KasaEkle, In_another_year_the_date_is_pulled_to_its_nearer_end) {
-    for (const auto& [yil, gun] : {std::pair{u"2013", u"01.01.2013"}, {u"2010", u"31.12.2010"}}) {
+    struct Sinir {
+        MetinBakis yil;
+        MetinBakis gun;
+    };
+    for (const Sinir& sinir : {Sinir{u"2013", u"01.01.2013"}, Sinir{u"2010", u"31.12.2010"}}) {
         Prog();
-        kullanici.YilSec(yil);
-        KasaAc([&] { KasadanEkle([&] { EXPECT_EQ(TarihMetni(Ekle().DTPicker1.deger), gun); }); });
+        kullanici.YilSec(sinir.yil);
+        KasaAc([&] { KasadanEkle([&] { EXPECT_EQ(TarihMetni(Ekle().DTPicker1.deger), sinir.gun); }); });
     }
 }
 
