@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -108,14 +109,16 @@ class AcilisPenceresiTest : public QObject {
     void a_window_closed_while_the_service_is_asked_leaves_nothing_behind() {
         GuiFirma firma;
         int istekler = 0;
-        AgKoy(firma, istekler, [&firma] {
-            if (QWidget* acilis = firma.disDunya.Pencere(EkranAdi::Splash))
+        QPointer<QWidget> acilis;
+        AgKoy(firma, istekler, [&] {
+            if (acilis != nullptr)
                 acilis->close();
-            QTest::qWait(150);
+            QCoreApplication::processEvents();
+            QVERIFY(acilis != nullptr); // the handler that waits here is still its own
         });
-        Baslat(firma);
+        acilis = &Baslat(firma);
         QTRY_COMPARE(firma.bitisler, 1);
-        QTest::qWait(200);
+        QTRY_VERIFY(acilis == nullptr); // and with it the timer of the ladder
         QCOMPARE(istekler, 1);
         QVERIFY(!firma.program.Splash.Yuklu());
         QVERIFY(!firma.program.FormSifre.Yuklu());
