@@ -1,7 +1,7 @@
 #pragma once
 
-#include "documents/Sayfa.h"
 #include "screen/Kontroller.h"
+#include "screen/Sayfa.h"
 
 namespace velora {
 

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "documents/Sayfa.h"
+#include "screen/Sayfa.h"
 
 namespace velora {
 

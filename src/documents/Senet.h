@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "documents/Sayfa.h"
+#include "screen/Sayfa.h"
 
 namespace velora {
 

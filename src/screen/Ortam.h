@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "screen/EkranListesi.h"
+#include "screen/Sayfa.h"
 #include "storage/Metin.h"
 
 namespace velora {
@@ -30,6 +31,14 @@ struct GirdiKutusu {
     Metin baslangic;
 };
 
+/// Asks where a file is to be saved.
+struct KayitYeriKutusu {
+    Metin baslik; ///< of the box
+    Metin ad;     ///< the file name that it offers, without a folder
+    Metin tur;    ///< what such a file is called
+    Metin uzanti; ///< with its dot; put behind a name that has none
+};
+
 /// One request of the network: GET, and nothing but its address.
 struct AgIstegi {
     Metin adres;  ///< goes out as it stands, without any escaping
@@ -49,6 +58,9 @@ struct Ortam {
         std::function<Cevap(const MesajKutusu&)> mesaj;
         /// What was typed; empty text when it was cancelled.
         std::function<Metin(const GirdiKutusu&)> girdi;
+        /// The path of a file that may be written; one that is there already the user has given up. None
+        /// when it was cancelled.
+        std::function<std::optional<std::filesystem::path>(const KayitYeriKutusu&)> kayitYeri;
     } sor;
 
     struct Goster {
@@ -86,6 +98,20 @@ struct Ortam {
         /// isn't the address of a page.
         std::function<bool(const Metin& adres)> adresAc = [](const Metin&) { return false; };
     } kabuk;
+
+    struct Kagit {
+        /// How wide a text is in the type that pages are painted in.
+        YaziOlcer olcer;
+        /// Prints the pages in one job of that name on the user's default printer. Returns when the system
+        /// has taken the job; while it waits it lets pending events run. False: there is no default printer,
+        /// the system didn't take the job, or the program is ending.
+        std::function<bool(const std::vector<Sayfa>&, const Metin& isAdi)> yazdir;
+        /// Writes the pages as a PDF file of that title, its texts as texts. It waits and lets events run
+        /// as printing does, and needs no printer. False: it couldn't be written, and what stood there is
+        /// as it was.
+        std::function<bool(const std::vector<Sayfa>&, const Metin& isAdi, const std::filesystem::path&)>
+            pdfYaz;
+    } kagit;
 
     struct Odak {
         /// Gives the keyboard focus to a control of a screen, by its name.

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Sayfalar.h"
 #include "storage/KodSayfasi.h"
 #include "storage/dosya/Utf8.h"
 
@@ -32,6 +33,12 @@ std::string Tarif(const BeklenenEkran& ekran) {
 std::string Tarif(const BeklenenIstek& istek) {
     return "the request " + Tirnakli(istek.adres);
 }
+std::string Tarif(const BeklenenBaski& baski) {
+    return "the print " + Tirnakli(baski.isAdi);
+}
+std::string Tarif(const BeklenenKayitYeri& yer) {
+    return "the place to save " + Tirnakli(yer.ad);
+}
 
 } // namespace
 
@@ -47,6 +54,7 @@ Ortam SahteOrtam::Ver() {
     Ortam ortam;
     ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return MesajSor(kutu); };
     ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return GirdiSor(kutu); };
+    ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeriSor(kutu); };
     ortam.goster.ac = [this](EkranAdi ad, const std::function<void()>& gorununce) {
         acilanlar.push_back(ad);
         if (acilinca)
@@ -77,6 +85,14 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
+    ortam.kagit.olcer = EsitEnli;
+    ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
+        return Yazdir(sayfalar, isAdi);
+    };
+    ortam.kagit.pdfYaz = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
+                                const std::filesystem::path& dosya) {
+        return PdfYaz(sayfalar, isAdi, dosya);
+    };
     ortam.kopya.tek = [this] { return !baskaKopya; };
     ortam.ag.getir = [this](const AgIstegi& istek) { return Getir(istek); };
     ortam.ag.baglantiVar = [this] { return baglanti; };
@@ -157,6 +173,36 @@ Metin SahteOrtam::Getir(const AgIstegi& istek) {
     EXPECT_EQ(istek.sure, beklenen->sure.value_or(istek.sure)) << "seconds for " << Tirnakli(istek.adres);
     Icinde(beklenen->is);
     return istek.vazgecildi() ? Metin() : beklenen->cevap;
+}
+
+bool SahteOrtam::Yazdir(const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
+    const auto beklenen = SiradanAl<BeklenenBaski>("the print " + Tirnakli(isAdi));
+    if (!beklenen)
+        return false;
+    EXPECT_EQ(Tirnakli(isAdi), Tirnakli(beklenen->isAdi));
+    EXPECT_FALSE(sayfalar.empty()) << "a print without a page";
+    Icinde(beklenen->is);
+    if (beklenen->basilir)
+        basilanlar.push_back({isAdi, sayfalar});
+    return beklenen->basilir;
+}
+
+std::optional<std::filesystem::path> SahteOrtam::KayitYeriSor(const KayitYeriKutusu& kutu) {
+    const auto beklenen = SiradanAl<BeklenenKayitYeri>("the place to save " + Tirnakli(kutu.ad));
+    if (!beklenen)
+        return std::nullopt;
+    EXPECT_EQ(Tirnakli(kutu.ad), Tirnakli(beklenen->ad));
+    pdfSirasinda_ = beklenen->is;
+    return beklenen->secilen;
+}
+
+bool SahteOrtam::PdfYaz(const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
+                        const std::filesystem::path& dosya) {
+    EXPECT_FALSE(sayfalar.empty()) << "a file without a page";
+    Icinde(std::exchange(pdfSirasinda_, {}));
+    if (pdfYazilir)
+        pdfler.push_back({isAdi, sayfalar, dosya});
+    return pdfYazilir;
 }
 
 } // namespace velora::test

@@ -35,6 +35,27 @@ struct BeklenenEkran {
     std::function<void()> is = {};
 };
 
+/// A print that is expected next. Its pages are kept in `basilanlar`.
+struct BeklenenBaski {
+    Metin isAdi;
+    bool basilir = true;           ///< the printer takes it
+    std::function<void()> is = {}; ///< what happens while the system takes it
+};
+
+/// Where a file is to be saved is asked next, and what the user chooses; none is a cancel.
+struct BeklenenKayitYeri {
+    Metin ad; ///< the name that is offered
+    std::optional<std::filesystem::path> secilen = {};
+    std::function<void()> is = {}; ///< what happens while the file is written
+};
+
+/// Pages that went to paper or into a file.
+struct GidenSayfalar {
+    Metin isAdi;
+    std::vector<Sayfa> sayfalar;
+    std::filesystem::path dosya = {}; ///< empty on paper
+};
+
 /// A request that is expected to go out next, and its reply; an empty one is a failure.
 struct BeklenenIstek {
     Metin adres;
@@ -63,6 +84,8 @@ class SahteOrtam {
     void Bekle(BeklenenGirdi girdi) { SirayaKoy(std::move(girdi)); }
     void Bekle(BeklenenEkran ekran) { SirayaKoy(std::move(ekran)); }
     void Bekle(BeklenenIstek istek) { SirayaKoy(std::move(istek)); }
+    void Bekle(BeklenenBaski baski) { SirayaKoy(std::move(baski)); }
+    void Bekle(BeklenenKayitYeri yer) { SirayaKoy(std::move(yer)); }
 
     /// Runs when a screen is shown beside the others.
     std::function<void(EkranAdi)> acilinca;
@@ -80,6 +103,9 @@ class SahteOrtam {
     bool dosyaAcilir = true;                           ///< there is a program that shows files
     std::vector<Metin> acilanAdresler;                 ///< given to the user's browser
     bool adresAcilir = true;                           ///< there is a browser
+    std::vector<GidenSayfalar> basilanlar;             ///< taken by the printer
+    std::vector<GidenSayfalar> pdfler;                 ///< written as files, where they were to be
+    bool pdfYazilir = true;                            ///< the disk takes such files
     std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
     bool baglanti = true;                              ///< the machine has a connection
@@ -87,7 +113,8 @@ class SahteOrtam {
     std::optional<DonanimAdresi> donanim = DonanimAdresi{0x00, 0x1B, 0xC4, 0x0D, 0xE0, 0x9F};
 
   private:
-    using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran, BeklenenIstek>;
+    using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran, BeklenenIstek, BeklenenBaski,
+                                  BeklenenKayitYeri>;
 
     void SirayaKoy(Beklenen beklenen);
     /// Takes the next expected one. None when nothing was expected, or another kind: that fails the test.
@@ -97,11 +124,15 @@ class SahteOrtam {
     Metin GirdiSor(const GirdiKutusu& kutu);
     void ModalGoster(EkranAdi ad, const std::function<void()>& gorununce);
     Metin Getir(const AgIstegi& istek);
+    bool Yazdir(const std::vector<Sayfa>& sayfalar, const Metin& isAdi);
+    std::optional<std::filesystem::path> KayitYeriSor(const KayitYeriKutusu& kutu);
+    bool PdfYaz(const std::vector<Sayfa>& sayfalar, const Metin& isAdi, const std::filesystem::path& dosya);
     /// Runs what is done on a screen or during a request: what it expects comes next.
     void Icinde(const std::function<void()>& is);
 
     std::deque<Beklenen> beklenenler_;
-    std::size_t disaridakiler_ = 0; ///< expected before the work within began, and still to come
+    std::function<void()> pdfSirasinda_; ///< what happens while the next file is written
+    std::size_t disaridakiler_ = 0;      ///< expected before the work within began, and still to come
 };
 
 } // namespace velora::test

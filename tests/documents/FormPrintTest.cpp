@@ -3,7 +3,7 @@
 #include "access/Splash.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
-#include "documents/SayfaTest.h"
+#include "destek/Sayfalar.h"
 #include "screen/Program.h"
 
 namespace velora::test {

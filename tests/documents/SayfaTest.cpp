@@ -1,7 +1,7 @@
-#include "documents/Sayfa.h"
+#include "screen/Sayfa.h"
 
+#include "destek/Sayfalar.h"
 #include "documents/SayfaAkisi.h"
-#include "documents/SayfaTest.h"
 #include "storage/Sayi.h"
 
 namespace velora::test {

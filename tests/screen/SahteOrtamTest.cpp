@@ -243,4 +243,32 @@ TEST(SahteOrtamTest, What_is_expected_on_a_screen_comes_before_what_was_expected
     dis.sor.mesaj({u"6"});
 }
 
+TEST(SahteOrtamTest, Unexpected_and_missing_prints_fail_and_print_nothing) {
+    bool basildi = true;
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            basildi = ortam.Ver().kagit.yazdir({Sayfa{}}, u"Sözleşme");
+        },
+        "nothing was expected, but the print \"Sözleşme\" came");
+    EXPECT_FALSE(basildi);
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            ortam.Bekle(BeklenenBaski{.isAdi = u"Sözleşme"});
+        },
+        "the print \"Sözleşme\" was expected and never came");
+}
+
+TEST(SahteOrtamTest, A_place_to_save_that_nobody_expected_fails_and_is_a_cancel) {
+    std::optional<std::filesystem::path> yer = "x";
+    EXPECT_NONFATAL_FAILURE(
+        {
+            SahteOrtam ortam(kGun);
+            yer = ortam.Ver().sor.kayitYeri({.baslik = u"b", .ad = u"a.pdf", .tur = u"t", .uzanti = u".pdf"});
+        },
+        "nothing was expected, but the place to save \"a.pdf\" came");
+    EXPECT_FALSE(yer);
+}
+
 } // namespace velora::test

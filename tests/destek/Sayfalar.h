@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "documents/Sayfa.h"
+#include "screen/Sayfa.h"
 
 namespace velora::test {
 
@@ -23,8 +23,8 @@ inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar) {
             SCOPED_TRACE(testing::PrintToString(parca.ad));
             EXPECT_GE(parca.yer.sol, kKenar - kPay);
             EXPECT_GE(parca.yer.ust, kKenar - kPay);
-            EXPECT_LE(parca.yer.Sag(), kSayfaEni - kKenar + kPay);
-            EXPECT_LE(parca.yer.Alt(), kSayfaBoyu - kKenar + kPay);
+            EXPECT_LE(parca.yer.Sag(), sayfa.En() - kKenar + kPay);
+            EXPECT_LE(parca.yer.Alt(), sayfa.Boy() - kKenar + kPay);
             const double yaziBoyu = static_cast<double>(parca.satirlar.size()) * SatirBoyu(parca.yazi);
             EXPECT_TRUE(parca.tur == ParcaTuru::Cerceve || yaziBoyu <= parca.yer.boy + kPay);
             for (const Metin& satir : parca.satirlar)

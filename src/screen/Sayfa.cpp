@@ -1,4 +1,4 @@
-#include "documents/Sayfa.h"
+#include "screen/Sayfa.h"
 
 #include <cmath>
 
@@ -53,6 +53,10 @@ Metin ParcaMetni(const SayfaParcasi& parca) {
     const SayfaYeri& yer = parca.yer;
     Metin metin = parca.ad + u" " + OnlukMetni(yer.sol) + u"," + OnlukMetni(yer.ust) + u" " +
                   OnlukMetni(yer.en) + u"x" + OnlukMetni(yer.boy);
+    if (parca.renk != 0)
+        metin += u" #" + SayiMetni(parca.renk);
+    if (parca.zemin)
+        metin += u" /" + SayiMetni(*parca.zemin);
     if (parca.tur == ParcaTuru::Cerceve)
         return metin + u" []\n";
     metin += u" " + OnlukMetni(parca.yazi.punto) + (parca.yazi.kalin ? u"K" : u"");
@@ -83,7 +87,7 @@ std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& 
 Metin SayfalarMetni(const std::vector<Sayfa>& sayfalar) {
     Metin metin;
     for (const Sayfa& sayfa : sayfalar) {
-        metin += u"--\n";
+        metin += sayfa.yon == Yon::Dik ? u"--\n" : u"-- yatay\n";
         for (const SayfaParcasi& parca : sayfa.parcalar)
             metin += ParcaMetni(parca);
     }

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
-#include "storage/Metin.h"
+#include "screen/Kontroller.h"
 
 namespace velora {
 
-/// The paper: A4 upright, in millimetres.
+/// The paper: A4, upright, in millimetres.
 inline constexpr double kSayfaEni = 210;
 inline constexpr double kSayfaBoyu = 297;
+
+enum class Yon { Dik, Yatay };
 
 /// Where something stands on the paper, in millimetres from its upper left corner.
 struct SayfaYeri {
@@ -42,11 +45,17 @@ struct SayfaParcasi {
     SayfaYeri yer;
     SayfaYazisi yazi{};
     Hiza hiza = Hiza::Sol;
-    std::vector<Metin> satirlar{}; ///< broken already: each is painted as it stands
+    std::vector<Metin> satirlar{};     ///< broken already: each is painted as it stands
+    RenkDegeri renk = 0;               ///< of the letters, of a frame's line
+    std::optional<RenkDegeri> zemin{}; ///< what its place is filled with before
 };
 
 struct Sayfa {
-    std::vector<SayfaParcasi> parcalar;
+    Yon yon = Yon::Dik;
+    std::vector<SayfaParcasi> parcalar{};
+
+    double En() const { return yon == Yon::Dik ? kSayfaEni : kSayfaBoyu; }
+    double Boy() const { return yon == Yon::Dik ? kSayfaBoyu : kSayfaEni; }
 };
 
 /// How wide a text of one line is, in millimetres. Who paints the page says so, in the font that it is
@@ -60,7 +69,8 @@ double SatirBoyu(const SayfaYazisi& yazi);
 /// that is too wide for a line of its own. Blanks at a break go, all else stays. An empty text has no line.
 std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer);
 
-/// The pages as text, one line for each part: its field, its place, its size and its lines.
+/// The pages as text, one line for each part: its field, its place, its size, its colours where it isn't
+/// plain black, and its lines.
 Metin SayfalarMetni(const std::vector<Sayfa>& sayfalar);
 
 } // namespace velora
