@@ -1,9 +1,13 @@
 #include "qt/Kutular.h"
 
+#include <QComboBox>
+#include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 #include "qt/Ceviri.h"
 #include "qt/GirdiSuzgeci.h"
@@ -13,6 +17,7 @@ namespace velora {
 namespace {
 
 constexpr int kGirdiEni = 360; // room for a name
+constexpr QSize kDosyaKutusu(760, 480);
 
 QMessageBox::Icon SimgeTuru(Simge simge) {
     switch (simge) {
@@ -38,6 +43,55 @@ void GirdiyiDenetle(QLineEdit& satir) {
                              MetniKoy(satir, eski);
                      });
 }
+
+std::filesystem::path DosyaYolu(const QString& yol) {
+    return yol.toStdU16String();
+}
+
+/// The toolkit's own box on each system, in Turkish like all others.
+class KayitYeriPenceresi : public QFileDialog {
+  public:
+    KayitYeriPenceresi(QWidget* ust, const KayitYeriKutusu& kutu, const QString& klasor)
+        : QFileDialog(ust, QMetin(kutu.baslik), klasor), uzanti_(QMetin(kutu.uzanti)) {
+        setOption(QFileDialog::DontUseNativeDialog);
+        setAcceptMode(QFileDialog::AcceptSave);
+        setFileMode(QFileDialog::AnyFile);
+        setNameFilter(QMetin(kutu.tur) + QStringLiteral(" (*") + uzanti_ + u')');
+        Etiketle();
+        constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
+        findChild<QTreeView*>(QStringLiteral("treeView"))->hideColumn(kTurSutunu);
+        resize(kDosyaKutusu);
+        selectFile(QMetin(kutu.ad));
+    }
+
+    /// The ending first, then what the box asks about the name. It would give a name with a dot in it, as in
+    /// a date, no ending of its own.
+    void accept() override {
+        auto* satir = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        std::error_code hata;
+        if (!satir->text().isEmpty() && !satir->text().endsWith(uzanti_, Qt::CaseInsensitive) &&
+            !std::filesystem::is_directory(DosyaYolu(selectedFiles().value(0)), hata))
+            satir->setText(satir->text() + uzanti_);
+        QFileDialog::accept();
+    }
+
+  private:
+    /// The captions of the program's kind; the toolkit leaves two of them without their field.
+    void Etiketle() {
+        const std::pair<DialogLabel, QString> yazilar[]{{LookIn, QStringLiteral("&Klasör:")},
+                                                        {FileName, QStringLiteral("&Dosya adı:")},
+                                                        {FileType, QStringLiteral("Dosya &türü:")},
+                                                        {Accept, QStringLiteral("Kay&det")},
+                                                        {Reject, QStringLiteral("İ&ptal")}};
+        for (const auto& [etiket, yazi] : yazilar)
+            setLabelText(etiket, yazi);
+        for (const QString& ad : {QStringLiteral("lookIn"), QStringLiteral("fileType")})
+            findChild<QLabel*>(ad + QStringLiteral("Label"))
+                ->setBuddy(findChild<QComboBox*>(ad + QStringLiteral("Combo")));
+    }
+
+    QString uzanti_;
+};
 
 } // namespace
 
@@ -77,6 +131,14 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     satir->setMinimumWidth(kGirdiEni);
     // Of the line itself: the box is still told of the text as it was before it was made to fit.
     return pencere.exec() == QInputDialog::Accepted ? MetinYap(satir->text()) : Metin();
+}
+
+std::optional<std::filesystem::path> KayitYeriSor(QWidget* ust, const KayitYeriKutusu& kutu,
+                                                  const QString& klasor) {
+    KayitYeriPenceresi pencere(ust, kutu, klasor);
+    if (pencere.exec() != QFileDialog::Accepted)
+        return std::nullopt;
+    return DosyaYolu(pencere.selectedFiles().value(0));
 }
 
 } // namespace velora
