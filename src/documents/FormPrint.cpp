@@ -1,22 +1,18 @@
 #include "documents/FormPrint.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
-#include "documents/SayfaAkisi.h"
 #include "documents/Senet.h"
+#include "documents/SozlesmeParcalari.h"
 
 namespace velora {
 
 namespace {
 
 constexpr MetinBakis kYerTutucu = u"xxx";
-constexpr double kAra = 4; // between two blocks, in millimetres
-
-// The clauses in points: from their best size down to one that can still be read.
-constexpr double kEnBuyukMadde = 11;
-constexpr double kEnKucukMadde = 8;
-constexpr double kMaddeAdimi = 0.5;
+constexpr double kEnBuyukAciklama = 10; // points
 
 /// A line of the details: a caption, and the field beside it.
 struct BilgiSatiri {
@@ -46,24 +42,18 @@ constexpr std::array kSagBilgiler{
     BilgiSatiri{u"CAdres", u"Adres", &FormPrint::CAdres, 3},
 };
 
-// The two columns of the details and of the signatures, from the edge of the text.
-constexpr double kSutunEni = 88;
-constexpr double kSagSutun = SayfaAkisi::kEn - kSutunEni;
-
 /// The name of the firm in the middle, date and number at the right.
 void BasiKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
     constexpr double kUnvanEni = 90;
     constexpr double kKoseEni = 42;
-    constexpr SayfaYeri kUnvanYeri{(SayfaAkisi::kEn - kUnvanEni) / 2, 0, kUnvanEni, 14};
-    const AlanBicimi buyuk{{18, true}, Hiza::Orta, 9};
     const AlanBicimi kose{{10, false}, Hiza::Sag, 7};
-    auto unvan = akis.Parca(u"Unvan", sayfa.Unvan.baslik, kUnvanYeri, buyuk);
+    auto unvan = UnvanParcasi(akis, sayfa.Unvan.baslik, kUnvanEni);
     auto tarih = akis.Parca(u"Tarihi", sayfa.Tarihi.baslik,
                             {SayfaAkisi::kEn - kKoseEni, 0, kKoseEni, SatirBoyu(kose.yazi)}, kose);
     auto no = akis.Parca(u"SozNo", sayfa.SozNo.baslik,
                          {SayfaAkisi::kEn - kKoseEni, tarih.yer.Alt(), kKoseEni, SatirBoyu(kose.yazi)}, kose);
     akis.Koy({std::move(unvan), std::move(tarih), std::move(no)});
-    akis.Bosluk(kAra);
+    akis.Bosluk(kBlokArasi);
 }
 
 /// The lines of one column, each under the one before.
@@ -89,43 +79,30 @@ void BilgileriKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
     SutunEkle(blok, akis, sayfa, kSolBilgiler, 0);
     SutunEkle(blok, akis, sayfa, kSagBilgiler, kSagSutun);
     akis.Koy(std::move(blok));
-    akis.Bosluk(kAra);
+    akis.Bosluk(kBlokArasi);
 }
 
-/// Who signs, and the rule to sign on.
-void ImzalariKoy(SayfaAkisi& akis) {
-    constexpr double kImzaBoyu = 14;
-    constexpr double kCizgiEni = 60;
-    const AlanBicimi bicim{{10, true}, Hiza::Orta};
-    const double boy = SatirBoyu(bicim.yazi);
-    const Metin cizgi = akis.Sira(u'-', kCizgiEni, bicim.yazi);
-    std::vector<SayfaParcasi> blok;
-    for (const auto& [sol, baslik] :
-         {std::pair{0.0, u"Kiraya Veren İmza"}, std::pair{kSagSutun, u"Kiralayan İmza"}}) {
-        blok.push_back(akis.Parca(u"", baslik, {sol, 0, kSutunEni, boy}, bicim));
-        blok.push_back(akis.Parca(u"", cizgi, {sol, kImzaBoyu, kSutunEni, boy}, bicim));
-    }
-    akis.Koy(std::move(blok));
-    akis.Bosluk(kAra);
-}
-
-SayfaAkisi Diz(const FormPrint& sayfa, const YaziOlcer& olcer, double maddePuntosu) {
+SayfaAkisi SozlesmeyiDiz(const FormPrint& sayfa, const YaziOlcer& olcer, double punto) {
     SayfaAkisi akis(olcer);
     BasiKoy(akis, sayfa);
     const AlanBicimi baslik{{12, true}, Hiza::Orta, 9};
     akis.Koy({akis.Parca(u"Baslik", sayfa.Baslik.baslik, {0, 0, SayfaAkisi::kEn, SatirBoyu(baslik.yazi)},
                          baslik)});
-    akis.Bosluk(kAra / 2);
-    akis.Akit(u"Sozlesme", sayfa.Sozlesme.baslik, {maddePuntosu, false});
-    akis.Bosluk(kAra);
+    akis.Bosluk(kBlokArasi / 2);
+    akis.Akit(u"Sozlesme", sayfa.Sozlesme.baslik, {punto, false});
+    akis.Bosluk(kBlokArasi);
     BilgileriKoy(akis, sayfa);
-    ImzalariKoy(akis);
+    ImzalariKoy(akis, u"Kiraya Veren İmza", u"Kiralayan İmza");
+    akis.Bosluk(kBlokArasi);
     if (sayfa.Senet)
         akis.Koy(SenetBlogu(akis, sayfa.Label38.baslik, sayfa.Label50.baslik));
-    if (sayfa.Label55.gorunur)
-        akis.Akit(u"Label55", sayfa.Label55.baslik, {10, true});
+    const SayfaYazisi aciklama{std::min(punto, kEnBuyukAciklama), false};
+    if (sayfa.Label55.gorunur) {
+        akis.YerAc(3 * SatirBoyu(aciklama));
+        akis.Akit(u"Label55", sayfa.Label55.baslik, {kEnBuyukAciklama, true});
+    }
     if (sayfa.Onaciklama.gorunur)
-        akis.Akit(u"Onaciklama", sayfa.Onaciklama.baslik, {10, false});
+        akis.Akit(u"Onaciklama", sayfa.Onaciklama.baslik, aciklama);
     return akis;
 }
 
@@ -143,12 +120,7 @@ FormPrint::FormPrint(Program& /*program*/) {
 }
 
 std::vector<Sayfa> FormPrint::Sayfalar(const YaziOlcer& olcer) const {
-    for (double punto = kEnBuyukMadde; punto > kEnKucukMadde; punto -= kMaddeAdimi) {
-        const SayfaAkisi akis = Diz(*this, olcer, punto);
-        if (akis.Sayfalar().size() == 1)
-            return akis.Sayfalar();
-    }
-    return Diz(*this, olcer, kEnKucukMadde).Sayfalar();
+    return EnIyiBoyda([&](double punto) { return SozlesmeyiDiz(*this, olcer, punto); });
 }
 
 } // namespace velora

@@ -43,8 +43,7 @@ Metin SayfaAkisi::Sira(char16_t isaret, double en, const SayfaYazisi& yazi) cons
 
 void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
     const double boy = EnAlt(blok);
-    if (boy > Kalan() + kPay)
-        YeniSayfa();
+    YerAc(boy);
     for (SayfaParcasi& parca : blok) {
         parca.yer.sol += kKenar;
         parca.yer.ust += ust_;
@@ -57,8 +56,7 @@ void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi
     const auto satirlar = SatirlaraBol(metin, kEn, yazi, olcer_);
     const double satirBoyu = SatirBoyu(yazi);
     for (auto ilk = satirlar.begin(); ilk != satirlar.end();) {
-        if (satirBoyu > Kalan() + kPay)
-            YeniSayfa();
+        YerAc(satirBoyu);
         const auto sigan = static_cast<std::ptrdiff_t>((Kalan() + kPay) / satirBoyu);
         const auto son = ilk + std::min(sigan, satirlar.end() - ilk);
         const double boy = static_cast<double>(son - ilk) * satirBoyu;
@@ -67,7 +65,9 @@ void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi
     }
 }
 
-void SayfaAkisi::YeniSayfa() {
+void SayfaAkisi::YerAc(double boy) {
+    if (boy <= Kalan() + kPay)
+        return;
     // A block that is higher than a page still goes on one, not behind empty ones.
     if (!sayfalar_.back().parcalar.empty())
         sayfalar_.emplace_back();

@@ -32,13 +32,15 @@ class SayfaAkisi {
     void Koy(std::vector<SayfaParcasi> blok);
     /// Puts a text over the whole width, line by line: a new page may begin within it.
     void Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi);
+    /// Begins a new page unless so much is free under what is there: for a heading, which needs lines of its
+    /// text beside it.
+    void YerAc(double boy);
     /// Leaves so much free under what is there.
     void Bosluk(double boy) { ust_ += boy; }
 
     const std::vector<Sayfa>& Sayfalar() const { return sayfalar_; }
 
   private:
-    void YeniSayfa();
     double Kalan() const;
 
     YaziOlcer olcer_;

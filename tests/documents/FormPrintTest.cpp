@@ -101,19 +101,6 @@ Label50 19,161.2 172x4.2 10 <|TOKAT Mahkemeleri|
 Senet 15,117.7 180x74.6 []
 )";
 
-/// So many letters in words and lines, no two words alike.
-Metin UzunMetin(std::size_t harf) {
-    Metin metin;
-    for (int sira = 1; metin.size() < harf; ++sira)
-        metin += SayiMetni(sira) + (sira % 40 == 0 ? u".\r\n" : u" ğüşıöç ");
-    return metin.substr(0, harf);
-}
-
-Metin Bosluksuz(Metin metin) {
-    std::erase_if(metin, [](char16_t harf) { return harf == u' ' || harf == u'\r' || harf == u'\n'; });
-    return metin;
-}
-
 } // namespace
 
 /// A contract whose fields are all different.
