@@ -8,6 +8,7 @@
 
 #include "access/Splash.h"
 #include "documents/FormPrint.h"
+#include "documents/FormPrint2.h"
 #include "gui/Diyaloglar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
