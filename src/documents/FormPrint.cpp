@@ -12,7 +12,11 @@ namespace velora {
 namespace {
 
 constexpr MetinBakis kYerTutucu = u"xxx";
-constexpr double kEnBuyukAciklama = 10; // points
+constexpr double kBaslikArasi = 2; // between a heading and its text, in millimetres
+// The details in points: they are read more often than the clauses and get less small.
+constexpr double kEnBuyukBilgi = 11;
+constexpr double kEnKucukBilgi = 10;
+constexpr double kSenetOrani = 0.4; // of the room between two lines of the note to that between blocks
 
 /// A line of the details: a caption, and the field beside it.
 struct BilgiSatiri {
@@ -53,16 +57,15 @@ void BasiKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
     auto no = akis.Parca(u"SozNo", sayfa.SozNo.baslik,
                          {SayfaAkisi::kEn - kKoseEni, tarih.yer.Alt(), kKoseEni, SatirBoyu(kose.yazi)}, kose);
     akis.Koy({std::move(unvan), std::move(tarih), std::move(no)});
-    akis.Bosluk(kBlokArasi);
 }
 
 /// The lines of one column, each under the one before.
 void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const FormPrint& sayfa,
-               std::span<const BilgiSatiri> satirlar, double sol) {
-    constexpr double kBaslikEni = 32;
+               std::span<const BilgiSatiri> satirlar, double sol, double punto) {
+    constexpr double kBaslikEni = 36;
     constexpr double kIkiNokta = 3;
     constexpr double kDegerSol = kBaslikEni + kIkiNokta;
-    const AlanBicimi bicim{{10, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
+    const AlanBicimi bicim{{punto, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
     const double boy = SatirBoyu(bicim.yazi);
     double ust = 0;
     for (const BilgiSatiri& satir : satirlar) {
@@ -74,36 +77,33 @@ void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const Fo
     }
 }
 
-void BilgileriKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
+void BilgileriKoy(SayfaAkisi& akis, const FormPrint& sayfa, double punto) {
     std::vector<SayfaParcasi> blok;
-    SutunEkle(blok, akis, sayfa, kSolBilgiler, 0);
-    SutunEkle(blok, akis, sayfa, kSagBilgiler, kSagSutun);
+    SutunEkle(blok, akis, sayfa, kSolBilgiler, 0, punto);
+    SutunEkle(blok, akis, sayfa, kSagBilgiler, kSagSutun, punto);
     akis.Koy(std::move(blok));
-    akis.Bosluk(kBlokArasi);
 }
 
-SayfaAkisi SozlesmeyiDiz(const FormPrint& sayfa, const YaziOlcer& olcer, double punto) {
-    SayfaAkisi akis(olcer);
+void SozlesmeyiDiz(SayfaAkisi& akis, const FormPrint& sayfa, const SayfaDuzeni& duzen) {
     BasiKoy(akis, sayfa);
-    const AlanBicimi baslik{{12, true}, Hiza::Orta, 9};
+    const AlanBicimi baslik{{13, true}, Hiza::Orta, 9};
     akis.Koy({akis.Parca(u"Baslik", sayfa.Baslik.baslik, {0, 0, SayfaAkisi::kEn, SatirBoyu(baslik.yazi)},
                          baslik)});
-    akis.Bosluk(kBlokArasi / 2);
-    akis.Akit(u"Sozlesme", sayfa.Sozlesme.baslik, {punto, false});
-    akis.Bosluk(kBlokArasi);
-    BilgileriKoy(akis, sayfa);
+    akis.Bosluk(kBaslikArasi);
+    akis.Akit(u"Sozlesme", sayfa.Sozlesme.baslik, {duzen.punto, false});
+    akis.Bosluk(duzen.ara);
+    BilgileriKoy(akis, sayfa, std::clamp(duzen.punto, kEnKucukBilgi, kEnBuyukBilgi));
+    akis.Bosluk(duzen.ara);
     ImzalariKoy(akis, u"Kiraya Veren İmza", u"Kiralayan İmza");
-    akis.Bosluk(kBlokArasi);
+    akis.Bosluk(duzen.ara);
     if (sayfa.Senet)
-        akis.Koy(SenetBlogu(akis, sayfa.Label38.baslik, sayfa.Label50.baslik));
-    const SayfaYazisi aciklama{std::min(punto, kEnBuyukAciklama), false};
+        akis.DibeKoy(SenetBlogu(akis, sayfa.Label38.baslik, sayfa.Label50.baslik, duzen.ara * kSenetOrani));
     if (sayfa.Label55.gorunur) {
-        akis.YerAc(3 * SatirBoyu(aciklama));
-        akis.Akit(u"Label55", sayfa.Label55.baslik, {kEnBuyukAciklama, true});
+        akis.YerAc(3 * SatirBoyu({duzen.punto, true}));
+        akis.Akit(u"Label55", sayfa.Label55.baslik, {duzen.punto, true});
     }
     if (sayfa.Onaciklama.gorunur)
-        akis.Akit(u"Onaciklama", sayfa.Onaciklama.baslik, aciklama);
-    return akis;
+        akis.Akit(u"Onaciklama", sayfa.Onaciklama.baslik, {duzen.punto, false});
 }
 
 } // namespace
@@ -120,7 +120,9 @@ FormPrint::FormPrint(Program& /*program*/) {
 }
 
 std::vector<Sayfa> FormPrint::Sayfalar(const YaziOlcer& olcer) const {
-    return EnIyiBoyda([&](double punto) { return SozlesmeyiDiz(*this, olcer, punto); });
+    return EnIyiDuzende(olcer, SozNo.baslik + u"  -  ", [this](SayfaAkisi& akis, const SayfaDuzeni& duzen) {
+        SozlesmeyiDiz(akis, *this, duzen);
+    });
 }
 
 } // namespace velora

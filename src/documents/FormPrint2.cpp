@@ -6,10 +6,10 @@ namespace velora {
 
 namespace {
 
-constexpr SayfaYazisi kBaslikYazisi{11, true};
+constexpr SayfaYazisi kBaslikYazisi{12, true};
 
 void MenuAdiKoy(SayfaAkisi& akis, const FormPrint2& sayfa) {
-    const AlanBicimi ustteki{{12, true}, Hiza::Orta, 9};
+    const AlanBicimi ustteki{{13, true}, Hiza::Orta, 9};
     const AlanBicimi alttaki{{14, false}, Hiza::Orta, 9};
     std::vector<SayfaParcasi> blok;
     blok.push_back(akis.Parca(u"Label19", sayfa.Label19.baslik,
@@ -17,32 +17,38 @@ void MenuAdiKoy(SayfaAkisi& akis, const FormPrint2& sayfa) {
     blok.push_back(akis.Parca(u"Label4", sayfa.Label4.baslik,
                               {0, EnAlt(blok) + 1, SayfaAkisi::kEn, SatirBoyu(alttaki.yazi)}, alttaki));
     akis.Koy(std::move(blok));
-    akis.Bosluk(kBlokArasi);
 }
 
 /// A heading and the text under it, which may be empty: its place stays.
-void MetniKoy(SayfaAkisi& akis, const Metin& baslikAdi, MetinBakis baslik, const Metin& ad, MetinBakis metin,
-              double punto) {
-    const SayfaYazisi yazi{punto, false};
+struct BaslikliMetin {
+    MetinBakis baslikAdi;
+    MetinBakis baslik;
+    MetinBakis ad;
+    MetinBakis metin;
+};
+
+void MetniKoy(SayfaAkisi& akis, const BaslikliMetin& bolum, const SayfaDuzeni& duzen) {
+    const SayfaYazisi yazi{duzen.punto, false};
     akis.YerAc(SatirBoyu(kBaslikYazisi) + 2 * SatirBoyu(yazi));
-    akis.Akit(baslikAdi, baslik, kBaslikYazisi);
-    if (metin.empty())
+    akis.Akit(Metin(bolum.baslikAdi), bolum.baslik, kBaslikYazisi);
+    akis.Bosluk(1);
+    if (bolum.metin.empty())
         akis.Bosluk(SatirBoyu(yazi));
-    akis.Akit(ad, metin, yazi);
-    akis.Bosluk(kBlokArasi);
+    akis.Akit(Metin(bolum.ad), bolum.metin, yazi);
+    akis.Bosluk(duzen.ara);
 }
 
-SayfaAkisi MenuyuDiz(const FormPrint2& sayfa, const YaziOlcer& olcer, double punto) {
-    SayfaAkisi akis(olcer);
+void MenuyuDiz(SayfaAkisi& akis, const FormPrint2& sayfa, const SayfaDuzeni& duzen) {
     akis.Koy({UnvanParcasi(akis, sayfa.Unvan.baslik, SayfaAkisi::kEn)});
-    akis.Bosluk(kBlokArasi);
     MenuAdiKoy(akis, sayfa);
-    MetniKoy(akis, u"", u"Açıklama", u"Label20", sayfa.Label20.baslik, punto);
-    MetniKoy(akis, u"Label3", sayfa.Label3.baslik, u"OzelIstekler", sayfa.OzelIstekler.baslik, punto);
-    MetniKoy(akis, u"Label2", sayfa.Label2.baslik, u"Onaciklama", sayfa.Onaciklama.baslik, punto);
-    akis.Bosluk(kBlokArasi);
+    akis.Bosluk(duzen.ara);
+    for (const BaslikliMetin& bolum :
+         {BaslikliMetin{u"", u"Açıklama", u"Label20", sayfa.Label20.baslik},
+          BaslikliMetin{u"Label3", sayfa.Label3.baslik, u"OzelIstekler", sayfa.OzelIstekler.baslik},
+          BaslikliMetin{u"Label2", sayfa.Label2.baslik, u"Onaciklama", sayfa.Onaciklama.baslik}})
+        MetniKoy(akis, bolum, duzen);
+    akis.Bosluk(duzen.ara);
     ImzalariKoy(akis, sayfa.Label34.baslik, sayfa.Label28.baslik);
-    return akis;
 }
 
 } // namespace
@@ -56,7 +62,8 @@ FormPrint2::FormPrint2(Program& /*program*/) {
 }
 
 std::vector<Sayfa> FormPrint2::Sayfalar(const YaziOlcer& olcer) const {
-    return EnIyiBoyda([&](double punto) { return MenuyuDiz(*this, olcer, punto); });
+    return EnIyiDuzende(
+        olcer, {}, [this](SayfaAkisi& akis, const SayfaDuzeni& duzen) { MenuyuDiz(akis, *this, duzen); });
 }
 
 } // namespace velora

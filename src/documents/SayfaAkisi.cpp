@@ -1,6 +1,7 @@
 #include "documents/SayfaAkisi.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace velora {
 
@@ -74,8 +75,26 @@ void SayfaAkisi::YerAc(double boy) {
     ust_ = kKenar;
 }
 
+void SayfaAkisi::DibeKoy(std::vector<SayfaParcasi> blok) {
+    const double boy = EnAlt(blok);
+    YerAc(boy);
+    if (ust_ > kKenar)
+        ust_ += std::max(0.0, Kalan() - boy);
+    Koy(std::move(blok));
+}
+
+void SayfaAkisi::Numarala(MetinBakis metin) {
+    const AlanBicimi bicim{{9, false}, Hiza::Orta};
+    const double boy = SatirBoyu(bicim.yazi);
+    long long sira = 0;
+    for (Sayfa& sayfa : sayfalar_)
+        sayfa.parcalar.push_back(
+            Parca(u"", Metin(metin) + SayiMetni(++sira) + u" / " + SayiMetni(std::ssize(sayfalar_)),
+                  {kKenar, kSayfaBoyu - kKenar - boy, kEn, boy}, bicim));
+}
+
 double SayfaAkisi::Kalan() const {
-    return kSayfaBoyu - kKenar - ust_;
+    return kSayfaBoyu - kKenar - altlik_ - ust_;
 }
 
 } // namespace velora

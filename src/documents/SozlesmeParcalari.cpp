@@ -1,13 +1,15 @@
 #include "documents/SozlesmeParcalari.h"
 
+#include <array>
+
 namespace velora {
 
 namespace {
 
-// Running texts in points: from their best size down to one that can still be read.
-constexpr double kEnBuyuk = 11;
-constexpr double kEnKucuk = 8;
-constexpr double kPuntoAdimi = 0.5;
+// From the best size of the running texts down to one that can still be read.
+constexpr std::array kDuzenler{SayfaDuzeni{12, 8},   SayfaDuzeni{11.5, 7}, SayfaDuzeni{11, 6},
+                               SayfaDuzeni{10.5, 5}, SayfaDuzeni{10, 4},   SayfaDuzeni{9.5, 4},
+                               SayfaDuzeni{9, 4},    SayfaDuzeni{8.5, 4},  SayfaDuzeni{8, 4}};
 
 } // namespace
 
@@ -31,13 +33,23 @@ void ImzalariKoy(SayfaAkisi& akis, MetinBakis soldaki, MetinBakis sagdaki) {
     akis.Koy(std::move(blok));
 }
 
-std::vector<Sayfa> EnIyiBoyda(const std::function<SayfaAkisi(double punto)>& diz) {
-    for (double punto = kEnBuyuk; punto > kEnKucuk; punto -= kPuntoAdimi) {
-        const SayfaAkisi akis = diz(punto);
-        if (akis.Sayfalar().size() == 1)
+std::vector<Sayfa> EnIyiDuzende(const YaziOlcer& olcer, MetinBakis ad,
+                                const std::function<void(SayfaAkisi&, const SayfaDuzeni&)>& diz) {
+    constexpr double kAltlik = 6; // millimetres
+    const auto dizili = [&](const SayfaDuzeni& duzen, double altlik) {
+        SayfaAkisi akis(olcer, altlik);
+        diz(akis, duzen);
+        return akis;
+    };
+    for (const SayfaDuzeni& duzen : kDuzenler)
+        if (const SayfaAkisi akis = dizili(duzen, 0); akis.Sayfalar().size() == 1)
             return akis.Sayfalar();
-    }
-    return diz(kEnKucuk).Sayfalar();
+    SayfaAkisi enAz = dizili(kDuzenler.front(), kAltlik);
+    for (const SayfaDuzeni& duzen : kDuzenler)
+        if (SayfaAkisi akis = dizili(duzen, kAltlik); akis.Sayfalar().size() < enAz.Sayfalar().size())
+            enAz = std::move(akis);
+    enAz.Numarala(ad);
+    return enAz.Sayfalar();
 }
 
 } // namespace velora
