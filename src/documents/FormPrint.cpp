@@ -59,28 +59,36 @@ void BasiKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
     akis.Koy({std::move(unvan), std::move(tarih), std::move(no)});
 }
 
+/// A column of the details: its captions so wide, its values beside them.
+struct BilgiSutunu {
+    std::span<const BilgiSatiri> satirlar;
+    double sol;
+    double baslikEni;
+};
+constexpr std::array kSutunlar{BilgiSutunu{kSolBilgiler, 0, 36}, BilgiSutunu{kSagBilgiler, kSagSutun, 30}};
+
 /// The lines of one column, each under the one before.
 void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const FormPrint& sayfa,
-               std::span<const BilgiSatiri> satirlar, double sol, double punto) {
-    constexpr double kBaslikEni = 36;
+               const BilgiSutunu& sutun, double punto) {
     constexpr double kIkiNokta = 3;
-    constexpr double kDegerSol = kBaslikEni + kIkiNokta;
+    const double degerSol = sutun.baslikEni + kIkiNokta;
     const AlanBicimi bicim{{punto, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
     const double boy = SatirBoyu(bicim.yazi);
     double ust = 0;
-    for (const BilgiSatiri& satir : satirlar) {
-        blok.push_back(akis.Parca(u"", satir.baslik, {sol, ust, kBaslikEni, boy}, bicim));
-        blok.push_back(akis.Parca(u"", u":", {sol + kBaslikEni, ust, kIkiNokta, boy}, bicim));
+    for (const BilgiSatiri& satir : sutun.satirlar) {
+        blok.push_back(akis.Parca(u"", satir.baslik, {sutun.sol, ust, sutun.baslikEni, boy}, bicim));
+        blok.push_back(akis.Parca(u"", u":", {sutun.sol + sutun.baslikEni, ust, kIkiNokta, boy}, bicim));
         blok.push_back(akis.Parca(Metin(satir.ad), (sayfa.*satir.alan).baslik,
-                                  {sol + kDegerSol, ust, kSutunEni - kDegerSol, satir.satir * boy}, bicim));
+                                  {sutun.sol + degerSol, ust, kSutunEni - degerSol, satir.satir * boy},
+                                  bicim));
         ust = blok.back().yer.Alt();
     }
 }
 
 void BilgileriKoy(SayfaAkisi& akis, const FormPrint& sayfa, double punto) {
     std::vector<SayfaParcasi> blok;
-    SutunEkle(blok, akis, sayfa, kSolBilgiler, 0, punto);
-    SutunEkle(blok, akis, sayfa, kSagBilgiler, kSagSutun, punto);
+    for (const BilgiSutunu& sutun : kSutunlar)
+        SutunEkle(blok, akis, sayfa, sutun, punto);
     akis.Koy(std::move(blok));
 }
 
@@ -111,9 +119,8 @@ void SozlesmeyiDiz(SayfaAkisi& akis, const FormPrint& sayfa, const SayfaDuzeni& 
 FormPrint::FormPrint(Program& /*program*/) {
     for (Etiket* alan : {&Unvan, &Tarihi, &SozNo, &Baslik, &Sozlesme, &Onaciklama})
         alan->baslik = kYerTutucu;
-    for (const std::span<const BilgiSatiri> sutun :
-         {std::span<const BilgiSatiri>(kSolBilgiler), std::span<const BilgiSatiri>(kSagBilgiler)})
-        for (const BilgiSatiri& satir : sutun)
+    for (const BilgiSutunu& sutun : kSutunlar)
+        for (const BilgiSatiri& satir : sutun.satirlar)
             (this->*satir.alan).baslik = kYerTutucu;
     Label55.baslik = u"Ön Açıklama :";
     Label55.gorunur = Onaciklama.gorunur = false;

@@ -132,6 +132,35 @@ TEST_F(SozlesmeBaskisi, The_hall_is_the_one_that_the_main_screen_shows_when_it_i
     });
 }
 
+TEST_F(SozlesmeBaskisi, Long_clauses_a_tall_address_a_long_remark_and_a_long_menu_are_all_on_paper) {
+    const Metin maddeler = UzunMetin(5000);
+    MaddeKoy(maddeler);
+    DoluKayit([&] {
+        Kayit().Kay[AnaNo::Adres].metin = u"Çay Sk. 3\r\nGül Apt.\r\nKat 2\r\nDaire 7\r\nErgene Tekirdağ";
+        Kayit().Kay[AnaNo::OnAciklama].metin = UzunMetin(1900);
+        Kayit().Label20.metin = UzunMetin(4999);
+        Kayit().Aciklamalar.metin = UzunMetin(4990);
+        for (const Cevap senet : {Cevap::Evet, Cevap::Hayir}) {
+            SayfaSorusu(u"1");
+            SenetSorusu(senet);
+            BaskiBekle(kSozlesmeIsi);
+            MenuSorusu(Cevap::Evet);
+            BaskiBekle(kMenuIsi);
+            Yazdir();
+        }
+        for (const GidenSayfalar& baski : Basilanlar())
+            SayfalarDuzgunOlmali(baski.sayfalar);
+        for (const std::size_t sozlesme : {0U, 2U}) {
+            const auto& sayfalar = Basilanlar()[sozlesme].sayfalar;
+            EXPECT_EQ(BosluksuzMetin(sayfalar, u"Sozlesme"), Bosluksuz(maddeler));
+            EXPECT_EQ(BosluksuzMetin(sayfalar, u"CAdres"), Bosluksuz(Kayit().Kay[AnaNo::Adres].metin));
+        }
+        EXPECT_EQ(BosluksuzMetin(Basilanlar()[2].sayfalar, u"Onaciklama"), Bosluksuz(UzunMetin(1900)));
+        EXPECT_EQ(BosluksuzMetin(Basilanlar()[3].sayfalar, u"Label20"), Bosluksuz(UzunMetin(4999)));
+        EXPECT_EQ(BosluksuzMetin(Basilanlar()[3].sayfalar, u"OzelIstekler"), Bosluksuz(UzunMetin(4990)));
+    });
+}
+
 TEST_F(SozlesmeBaskisi, Empty_fields_and_masks_are_printed_as_they_stand) {
     YeniKayit([&] {
         Kayit().Kay[12].metin = Metin(kBosSaat);
