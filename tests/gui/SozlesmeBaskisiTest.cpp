@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -12,6 +13,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "gui/PdfOkuma.h"
 #include "qt/Ceviri.h"
 #include "reservation/FormKayit.h"
 
@@ -49,9 +51,6 @@ struct BaskiFirmasi : GuiFirma {
             if (const auto is = basarken)
                 is();
             return basilir;
-        };
-        program.ortam.kagit.olcer = [](MetinBakis metin, const SayfaYazisi& yazi) {
-            return static_cast<double>(metin.size()) * yazi.punto / 6;
         };
     }
 
@@ -209,6 +208,30 @@ class SozlesmeBaskisiTest : public QObject {
             QCOMPARE(firma.basilanlar, (QStringList{kIs, kIs}));
             QVERIFY(firma.program.FormKayit.Yuklu());
         });
+    }
+
+    void a_pdf_lies_where_it_was_wanted_and_can_be_searched() {
+        BaskiFirmasi firma(kMaddeli);
+        const std::filesystem::path dosya = firma.agac.Kok() / "sözleşme.pdf";
+        Kayitta(firma, [&](QDialog& kayit) {
+            firma.program.FormKayit->Kay[3].metin = u"Gülşah - Çağrı";
+            const auto yerSec = [&](QFileDialog& kutu) {
+                auto& ad = *kutu.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                QCOMPARE(ad.text(), kIs + QStringLiteral(".pdf"));
+                ad.setFocus();
+                ad.selectAll();
+                Yaz(QString::fromStdU16String(dosya.u16string()));
+                Tusla(Qt::Key_Return);
+            };
+            Pencerede([&] { Tikla(kayit, "Pdf"); },
+                      {TusBas(Qt::Key_Return), TusBas(Qt::Key_Return), Kutuda<QFileDialog>(yerSec)});
+            QVERIFY(kayit.isVisible());
+        });
+        const QString metin = PdfMetni(dosya);
+        for (const char* aranan : {"Gülşah - Çağrı", "1 - Kira", "Kiralayan İmza", "emre muharrer senedim",
+                                   "Menü Bilgileri", "Özel İstekler"})
+            QVERIFY2(metin.contains(QString::fromUtf8(aranan)), aranan);
+        QVERIFY(PdfBilgisi(dosya).contains(kIs));
     }
 
     void a_printer_that_takes_nothing_is_told_in_one_box() {
