@@ -1,6 +1,7 @@
 #include "documents/SayfaAkisi.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace velora {
 
@@ -43,8 +44,7 @@ Metin SayfaAkisi::Sira(char16_t isaret, double en, const SayfaYazisi& yazi) cons
 
 void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
     const double boy = EnAlt(blok);
-    if (boy > Kalan() + kPay)
-        YeniSayfa();
+    YerAc(boy);
     for (SayfaParcasi& parca : blok) {
         parca.yer.sol += kKenar;
         parca.yer.ust += ust_;
@@ -57,8 +57,7 @@ void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi
     const auto satirlar = SatirlaraBol(metin, kEn, yazi, olcer_);
     const double satirBoyu = SatirBoyu(yazi);
     for (auto ilk = satirlar.begin(); ilk != satirlar.end();) {
-        if (satirBoyu > Kalan() + kPay)
-            YeniSayfa();
+        YerAc(satirBoyu);
         const auto sigan = static_cast<std::ptrdiff_t>((Kalan() + kPay) / satirBoyu);
         const auto son = ilk + std::min(sigan, satirlar.end() - ilk);
         const double boy = static_cast<double>(son - ilk) * satirBoyu;
@@ -67,15 +66,35 @@ void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi
     }
 }
 
-void SayfaAkisi::YeniSayfa() {
+void SayfaAkisi::YerAc(double boy) {
+    if (boy <= Kalan() + kPay)
+        return;
     // A block that is higher than a page still goes on one, not behind empty ones.
     if (!sayfalar_.back().parcalar.empty())
         sayfalar_.emplace_back();
     ust_ = kKenar;
 }
 
+void SayfaAkisi::DibeKoy(std::vector<SayfaParcasi> blok) {
+    const double boy = EnAlt(blok);
+    YerAc(boy);
+    if (ust_ > kKenar)
+        ust_ += std::max(0.0, Kalan() - boy);
+    Koy(std::move(blok));
+}
+
+void SayfaAkisi::Numarala(MetinBakis metin) {
+    const AlanBicimi bicim{{9, false}, Hiza::Orta};
+    const double boy = SatirBoyu(bicim.yazi);
+    long long sira = 0;
+    for (Sayfa& sayfa : sayfalar_)
+        sayfa.parcalar.push_back(
+            Parca(u"", Metin(metin) + SayiMetni(++sira) + u" / " + SayiMetni(std::ssize(sayfalar_)),
+                  {kKenar, kSayfaBoyu - kKenar - boy, kEn, boy}, bicim));
+}
+
 double SayfaAkisi::Kalan() const {
-    return kSayfaBoyu - kKenar - ust_;
+    return kSayfaBoyu - kKenar - altlik_ - ust_;
 }
 
 } // namespace velora

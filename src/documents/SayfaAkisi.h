@@ -17,7 +17,8 @@ struct AlanBicimi {
 /// a text gets smaller down to its limit, then its place gets higher, then a new page begins.
 class SayfaAkisi {
   public:
-    explicit SayfaAkisi(YaziOlcer olcer) : olcer_(std::move(olcer)) {}
+    /// With so much kept free at the foot of each page.
+    explicit SayfaAkisi(YaziOlcer olcer, double altlik = 0) : olcer_(std::move(olcer)), altlik_(altlik) {}
 
     static constexpr double kKenar = 15; ///< what stays free on each side of the paper
     static constexpr double kEn = kSayfaEni - 2 * kKenar;
@@ -30,18 +31,26 @@ class SayfaAkisi {
     /// Puts a block, of parts whose places count from its corner, under what is there, on a new page when the
     /// rest of this one is too low.
     void Koy(std::vector<SayfaParcasi> blok);
+    /// The same at the bottom of the page; on a new one at its top.
+    void DibeKoy(std::vector<SayfaParcasi> blok);
     /// Puts a text over the whole width, line by line: a new page may begin within it.
     void Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi);
+    /// Begins a new page unless so much is free under what is there: for a heading, which needs lines of its
+    /// text beside it.
+    void YerAc(double boy);
     /// Leaves so much free under what is there.
     void Bosluk(double boy) { ust_ += boy; }
+
+    /// Writes a text and its number, "2 / 3", at the foot of each page, where there has to be room.
+    void Numarala(MetinBakis metin);
 
     const std::vector<Sayfa>& Sayfalar() const { return sayfalar_; }
 
   private:
-    void YeniSayfa();
     double Kalan() const;
 
     YaziOlcer olcer_;
+    double altlik_;
     std::vector<Sayfa> sayfalar_{Sayfa{}};
     double ust_ = kKenar; // where the next one goes
 };

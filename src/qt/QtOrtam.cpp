@@ -68,8 +68,13 @@ Ortam QtOrtam::Ver() {
     // Windows change hands with moments of none: only a screen ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     Ortam ortam;
-    ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return Kutuda(MesajGoster, Ondeki(), kutu); };
-    ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, Ondeki(), kutu); };
+    // A handler that the end of the program has overtaken asks nobody any more.
+    ortam.sor.mesaj = [this](const MesajKutusu& kutu) {
+        return bitti_ ? Cevap::Hayir : Kutuda(MesajGoster, Ondeki(), kutu);
+    };
+    ortam.sor.girdi = [this](const GirdiKutusu& kutu) {
+        return bitti_ ? Metin() : Kutuda(GirdiAl, Ondeki(), kutu);
+    };
     ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeri(kutu); };
     ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
     ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
@@ -157,6 +162,9 @@ void QtOrtam::Ac(EkranAdi ekran, const std::function<void()>& gorununce) {
         hafiza_.Yerlestir(*pencere, QMetin(EkranBul(ekran).ad));
         EkranaSigdir(*pencere);
     }
+    // A window beside the others can be used while one of them lets nobody else in, as its companion.
+    if (const QWidget* modal = QApplication::activeModalWidget(); modal != nullptr && !pencere->isModal())
+        SahibineBagla(*pencere, modal);
     std::erase_if(gosterilenler_, [pencere](const auto& biri) { return biri == nullptr || biri == pencere; });
     gosterilenler_.emplace_back(pencere);
     pencere->show();
@@ -170,6 +178,11 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
     QWidget* pencere = Hazirla(ekran);
     if (pencere == nullptr)
         return;
+    // One that stands beside the others comes anew: the toolkit makes no visible window modal.
+    if (pencere->isVisible()) {
+        Sakla(ekran);
+        pencere->hide();
+    }
     const Baglayici::KullaniciBekleme bekleme;
     QEventLoop dongu;
     const KapanisGozcusu gozcu(*pencere, dongu);

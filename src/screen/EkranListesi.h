@@ -29,6 +29,7 @@
     X(FormGiderler, Pencereli)                                                                               \
     X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
+    X(FormPrint2, Penceresiz)                                                                                \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
     X(FormIpMac, Penceresiz)                                                                                 \
