@@ -1,10 +1,12 @@
 #include "qt/QtOrtam.h"
 
 #include <algorithm>
+#include <atomic>
 
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QTimer>
 #include <QWindow>
 
 #include "qt/Baglayici.h"
@@ -85,12 +87,15 @@ Ortam QtOrtam::Ver() {
     ortam.kabuk.adresAc = AdresAc;
     ortam.kagit.olcer = SayfaOlcer();
     ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
-        return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)] { return YaziciyaBas(sayfalar, ad); });
+        return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)](const Vazgecildi& vazgecildi) {
+            return YaziciyaBas(sayfalar, ad, vazgecildi);
+        });
     };
     ortam.kagit.pdfYaz = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
                                 const std::filesystem::path& dosya) {
-        return Arkada(dosyaIscisi_,
-                      [sayfalar, ad = QMetin(isAdi), dosya] { return PdfYaz(sayfalar, ad, dosya); });
+        return Arkada(dosyaIscisi_, [sayfalar, ad = QMetin(isAdi), dosya](const Vazgecildi& vazgecildi) {
+            return PdfYaz(sayfalar, ad, dosya, vazgecildi);
+        });
     };
     ortam.olaylar.bitir = [this] { Bitir(); };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
@@ -228,16 +233,24 @@ std::optional<std::filesystem::path> QtOrtam::KayitYeri(const KayitYeriKutusu& k
     return yol;
 }
 
-bool QtOrtam::Arkada(Isci& isci, Isci::Is is) {
+bool QtOrtam::Arkada(Isci& isci, const std::function<bool(const Vazgecildi&)>& is) const {
     const Baglayici::KullaniciBekleme bekleme;
     QEventLoop dongu;
-    // The end of the program ends the waiting, and the job may come to its own end behind it.
+    QTimer sabir;
+    // The end of the program ends the waiting too, and the job may come to its own end behind it.
     const auto sonuc = std::make_shared<bool>(false);
-    isci.Ver(std::move(is), [sonuc, bekleyen = QPointer<QEventLoop>(&dongu)](bool tamam) {
-        *sonuc = tamam;
-        if (bekleyen != nullptr)
-            bekleyen->quit();
+    const auto gec = std::make_shared<std::atomic<bool>>(false);
+    QObject::connect(&sabir, &QTimer::timeout, &dongu, [&dongu, gec] {
+        *gec = true;
+        dongu.quit();
     });
+    sabir.start(sabir_);
+    isci.Ver([is, gec] { return is([gec] { return gec->load(); }); },
+             [sonuc, bekleyen = QPointer<QEventLoop>(&dongu)](bool tamam) {
+                 *sonuc = tamam;
+                 if (bekleyen != nullptr)
+                     bekleyen->quit();
+             });
     dongu.exec();
     return *sonuc;
 }
