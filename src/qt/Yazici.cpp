@@ -56,12 +56,9 @@ bool SistemAldi() {
 
 bool YaziciyaBas(const std::vector<Sayfa>& sayfalar, const QString& isAdi) {
     const QPrinterInfo bilgi = QPrinterInfo::defaultPrinter();
-    if (bilgi.isNull())
+    if (bilgi.isNull()) // the toolkit would write a file of its own
         return false;
     QPrinter yazici(bilgi, QPrinter::HighResolution);
-    // Without a printer behind it the toolkit would write a file of its own.
-    if (!yazici.isValid() || yazici.outputFormat() != QPrinter::NativeFormat)
-        return false;
     yazici.setDocName(isAdi);
     yazici.setCreator(QStringLiteral("Velora"));
     yazici.setFullPage(true);
