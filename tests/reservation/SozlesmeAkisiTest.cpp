@@ -64,6 +64,38 @@ TEST_F(SozlesmeAkisi, The_template_outlives_the_reservation_and_comes_by_its_men
                                           "artlar\",\"Yar\xFDm madde\"\r\n");
 }
 
+TEST_F(SozlesmeAkisi, The_pages_start_afresh_before_the_number_behind_it_and_behind_the_note) {
+    DoluKayit([&] {
+        int yer = 0;
+        const auto bosVeKirlet = [&] {
+            EXPECT_FALSE(Prog().FormPrint.Yuklu()) << yer;
+            EXPECT_FALSE(Prog().FormPrint2.Yuklu()) << yer;
+            Prog().FormPrint->Senet = true;
+            Prog().FormPrint2->Unvan.baslik = u"kalan";
+            ++yer;
+        };
+        Prog().FormPrint2->Unvan.baslik = u"kalan";
+        const auto sor = Prog().ortam.sor;
+        Prog().ortam.sor.girdi = [&](const GirdiKutusu& kutu) {
+            bosVeKirlet();
+            return sor.girdi(kutu);
+        };
+        Prog().ortam.sor.mesaj = [&](const MesajKutusu& kutu) {
+            if (yer == 1)
+                bosVeKirlet();
+            return sor.mesaj(kutu);
+        };
+        SayfaSorusu(u"1");
+        SenetSorusu(Cevap::Hayir);
+        BaskiBekle(kSozlesmeIsi, true, [&] { EXPECT_FALSE(Prog().FormPrint2.Yuklu()); });
+        MenuSorusu(Cevap::Hayir);
+        Yazdir();
+        Prog().ortam.sor = sor;
+        EXPECT_EQ(yer, 2);
+        EXPECT_EQ(Basilan(0, u"Senet"), u"-");
+    });
+}
+
 TEST_F(SozlesmeAkisi, Without_a_printer_there_is_one_box_and_the_rest_is_skipped) {
     DoluKayit([&] {
         SayfaSorusu(u"3");
