@@ -1,6 +1,7 @@
 #include "documents/SayfaAkisi.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velora {
 
@@ -46,7 +47,7 @@ void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
     if (boy > Kalan() + kPay)
         YeniSayfa();
     for (SayfaParcasi& parca : blok) {
-        parca.yer.sol += kKenar;
+        parca.yer.sol += kenar_;
         parca.yer.ust += ust_;
         sayfalar_.back().parcalar.push_back(std::move(parca));
     }
@@ -54,15 +55,22 @@ void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
 }
 
 void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi) {
-    const auto satirlar = SatirlaraBol(metin, kEn, yazi, olcer_);
-    const double satirBoyu = SatirBoyu(yazi);
-    for (auto ilk = satirlar.begin(); ilk != satirlar.end();) {
-        if (satirBoyu > Kalan() + kPay)
+    const double en = kSayfaEni - 2 * kenar_;
+    Akit({ParcaTuru::Yazi, ad, {0, 0, en, 0}, yazi, Hiza::Sol, SatirlaraBol(metin, en, yazi, olcer_)});
+}
+
+void SayfaAkisi::Akit(const SayfaParcasi& parca, std::vector<SayfaParcasi> yaninda) {
+    const double satirBoyu = SatirBoyu(parca.yazi);
+    for (auto ilk = parca.satirlar.begin(); ilk != parca.satirlar.end();) {
+        if (std::max(satirBoyu, EnAlt(yaninda)) > Kalan() + kPay)
             YeniSayfa();
         const auto sigan = static_cast<std::ptrdiff_t>((Kalan() + kPay) / satirBoyu);
-        const auto son = ilk + std::min(sigan, satirlar.end() - ilk);
-        const double boy = static_cast<double>(son - ilk) * satirBoyu;
-        Koy({{ParcaTuru::Yazi, ad, {0, 0, kEn, boy}, yazi, Hiza::Sol, {ilk, son}}});
+        const auto son = ilk + std::min(std::max(sigan, std::ptrdiff_t{1}), parca.satirlar.end() - ilk);
+        SayfaParcasi dilim = parca;
+        dilim.yer.boy = static_cast<double>(son - ilk) * satirBoyu;
+        dilim.satirlar.assign(ilk, son);
+        yaninda.push_back(std::move(dilim));
+        Koy(std::exchange(yaninda, {}));
         ilk = son;
     }
 }
@@ -71,11 +79,11 @@ void SayfaAkisi::YeniSayfa() {
     // A block that is higher than a page still goes on one, not behind empty ones.
     if (!sayfalar_.back().parcalar.empty())
         sayfalar_.emplace_back();
-    ust_ = kKenar;
+    ust_ = kenar_;
 }
 
 double SayfaAkisi::Kalan() const {
-    return kSayfaBoyu - kKenar - ust_;
+    return kSayfaBoyu - kenar_ - ust_;
 }
 
 } // namespace velora

@@ -17,9 +17,12 @@ struct AlanBicimi {
 /// a text gets smaller down to its limit, then its place gets higher, then a new page begins.
 class SayfaAkisi {
   public:
-    explicit SayfaAkisi(YaziOlcer olcer) : olcer_(std::move(olcer)) {}
-
     static constexpr double kKenar = 15; ///< what stays free on each side of the paper
+
+    /// `kenar` is what this one leaves free on each side: more, where a frame is put around all of it.
+    explicit SayfaAkisi(YaziOlcer olcer, double kenar = kKenar)
+        : olcer_(std::move(olcer)), kenar_(kenar), ust_(kenar) {}
+
     static constexpr double kEn = kSayfaEni - 2 * kKenar;
 
     /// A text of a block that isn't on a page yet; `yer` counts from the block's upper left corner. It gets
@@ -32,8 +35,13 @@ class SayfaAkisi {
     void Koy(std::vector<SayfaParcasi> blok);
     /// Puts a text over the whole width, line by line: a new page may begin within it.
     void Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi);
+    /// The same with a text that is broken already, as far from the left as its place says; what is `yaninda`
+    /// stands beside its first line.
+    void Akit(const SayfaParcasi& parca, std::vector<SayfaParcasi> yaninda = {});
     /// Leaves so much free under what is there.
     void Bosluk(double boy) { ust_ += boy; }
+    /// Where the next one goes, from the upper edge of the paper.
+    double Ust() const { return ust_; }
 
     const std::vector<Sayfa>& Sayfalar() const { return sayfalar_; }
 
@@ -42,8 +50,9 @@ class SayfaAkisi {
     double Kalan() const;
 
     YaziOlcer olcer_;
+    double kenar_;
     std::vector<Sayfa> sayfalar_{Sayfa{}};
-    double ust_ = kKenar; // where the next one goes
+    double ust_;
 };
 
 /// The lower edge of the lowest of some parts.

@@ -29,6 +29,7 @@
     X(FormGiderler, Pencereli)                                                                               \
     X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
+    X(FormMakbuzPrint, Penceresiz)                                                                           \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
     X(FormIpMac, Penceresiz)                                                                                 \
