@@ -30,6 +30,7 @@
     X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
     X(FormMakbuzPrint, Penceresiz)                                                                           \
+    X(FormTabloPrint, Penceresiz)                                                                            \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
     X(FormIpMac, Penceresiz)                                                                                 \

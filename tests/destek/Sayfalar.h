@@ -11,20 +11,19 @@ inline double EsitEnli(MetinBakis metin, const SayfaYazisi& yazi) {
     return static_cast<double>(metin.size()) * yazi.punto * 25.4 / 72 / 2 * (yazi.kalin ? 1.2 : 1);
 }
 
-/// Nothing leaves the margins of the paper, no text is wider or higher than its place, and no two texts lie
-/// over each other.
-inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar) {
-    constexpr double kKenar = 15;
+/// Nothing leaves the margins of the paper, `kenar` in millimetres, no text is wider or higher than its
+/// place, and no two texts lie over each other.
+inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar, double kenar = 15) {
     constexpr double kPay = 1e-3;
     for (const Sayfa& sayfa : sayfalar) {
         EXPECT_FALSE(sayfa.parcalar.empty());
         for (std::size_t i = 0; i < sayfa.parcalar.size(); ++i) {
             const SayfaParcasi& parca = sayfa.parcalar[i];
             SCOPED_TRACE(testing::PrintToString(parca.ad));
-            EXPECT_GE(parca.yer.sol, kKenar - kPay);
-            EXPECT_GE(parca.yer.ust, kKenar - kPay);
-            EXPECT_LE(parca.yer.Sag(), sayfa.En() - kKenar + kPay);
-            EXPECT_LE(parca.yer.Alt(), sayfa.Boy() - kKenar + kPay);
+            EXPECT_GE(parca.yer.sol, kenar - kPay);
+            EXPECT_GE(parca.yer.ust, kenar - kPay);
+            EXPECT_LE(parca.yer.Sag(), sayfa.En() - kenar + kPay);
+            EXPECT_LE(parca.yer.Alt(), sayfa.Boy() - kenar + kPay);
             const double yaziBoyu = static_cast<double>(parca.satirlar.size()) * SatirBoyu(parca.yazi);
             EXPECT_TRUE(parca.tur == ParcaTuru::Cerceve || yaziBoyu <= parca.yer.boy + kPay);
             for (const Metin& satir : parca.satirlar)
