@@ -14,6 +14,7 @@
 #include "qt/OlayKilidi.h"
 #include "qt/PencereYeri.h"
 #include "qt/Saat.h"
+#include "qt/SayfaCizimi.h"
 
 namespace velora {
 
@@ -74,6 +75,7 @@ Ortam QtOrtam::Ver() {
     ortam.olaylar.isle = OlaylariIsle;
     ortam.kabuk.dosyaAc = DosyaAc;
     ortam.kabuk.adresAc = AdresAc;
+    ortam.kagit.olcer = SayfaOlcer();
     ortam.olaylar.bitir = [this] { Bitir(); };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
     return ortam;

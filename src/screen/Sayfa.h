@@ -41,13 +41,15 @@ enum class ParcaTuru { Yazi, Cerceve };
 /// One thing on a page: lines of text, or a frame.
 struct SayfaParcasi {
     ParcaTuru tur = ParcaTuru::Yazi;
-    Metin ad; ///< of the field that it shows
-    SayfaYeri yer;
+    Metin ad{}; ///< of the field that it shows
+    SayfaYeri yer{};
     SayfaYazisi yazi{};
     Hiza hiza = Hiza::Sol;
     std::vector<Metin> satirlar{};     ///< broken already: each is painted as it stands
     RenkDegeri renk = 0;               ///< of the letters, of a frame's line
     std::optional<RenkDegeri> zemin{}; ///< what its place is filled with before
+
+    bool operator==(const SayfaParcasi&) const = default;
 };
 
 struct Sayfa {
@@ -56,6 +58,7 @@ struct Sayfa {
 
     double En() const { return yon == Yon::Dik ? kSayfaEni : kSayfaBoyu; }
     double Boy() const { return yon == Yon::Dik ? kSayfaBoyu : kSayfaEni; }
+    bool operator==(const Sayfa&) const = default;
 };
 
 /// How wide a text of one line is, in millimetres. Who paints the page says so, in the font that it is

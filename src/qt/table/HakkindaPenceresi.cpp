@@ -18,8 +18,8 @@ namespace velora {
 
 namespace {
 
-constexpr int kSimgeBoyu = 56;
-constexpr double kAdBuyumesi = 1.8; // of the name, beside the other texts
+constexpr int kHakkindaSimgeBoyu = 56;
+constexpr double kHakkindaAdBuyumesi = 1.8; // of the name, beside the other texts
 constexpr std::array kKitaplikEnleri{170, 240, kKalanEn};
 constexpr QSize kKitaplikListesi{700, 120};
 
@@ -46,13 +46,13 @@ HakkindaPenceresi::HakkindaPenceresi(Program& program) : EkranPenceresi(program.
 QLayout* HakkindaPenceresi::Baslik() {
     auto* simge = new QLabel;
     const double olcek = devicePixelRatioF();
-    QPixmap resim = ResimCiz(QStringLiteral("velora"), qRound(kSimgeBoyu * olcek));
+    QPixmap resim = ResimCiz(QStringLiteral("velora"), qRound(kHakkindaSimgeBoyu * olcek));
     resim.setDevicePixelRatio(olcek);
     simge->setPixmap(resim);
     auto* ad = new QLabel(QMetin(Model().Ad.baslik));
     ad->setObjectName(QStringLiteral("Ad"));
     QFont buyuk = ad->font();
-    buyuk.setPointSizeF(buyuk.pointSizeF() * kAdBuyumesi);
+    buyuk.setPointSizeF(buyuk.pointSizeF() * kHakkindaAdBuyumesi);
     buyuk.setBold(true);
     ad->setFont(buyuk);
     auto* surum = new QLabel(QMetin(Model().Surum.once + u" " + Model().Surum.baslik));
