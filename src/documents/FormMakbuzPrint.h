@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tuple>
+
 #include "screen/Kontroller.h"
 #include "screen/Sayfa.h"
 
@@ -33,6 +35,12 @@ struct FormMakbuzPrint {
     /// The page as its fields stand, in parts named by their fields: a frame about the upper half of the
     /// sheet. A long text gets smaller; at its smallest the frame grows, and goes on to another sheet.
     std::vector<Sayfa> Sayfalar(const YaziOlcer& olcer) const;
+
+    /// A copy of what the page shows, to see later whether it shows something else.
+    auto Gorunen() const {
+        return std::tuple(Firma, Label1, Label3, AdSoyad, Label4, Tarih, Label5, Aciklama, Label6, Tutar,
+                          Label2);
+    }
 
     Metin baslik = u"Makbuz";
     Etiket Firma;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <tuple>
 
 #include "screen/Kontroller.h"
 #include "screen/Sayfa.h"
@@ -20,6 +21,8 @@ struct BaskiGozu {
     RenkDegeri zemin = kBeyaz;
     RenkDegeri yazi = 0;
     BaskiIsareti isaret = BaskiIsareti::Yok;
+
+    bool operator==(const BaskiGozu&) const = default;
 };
 
 /// A mark told under the table: its name, and the grounds that it stands on, the upper slot's first.
@@ -27,6 +30,8 @@ struct BaskiAciklamasi {
     BaskiIsareti isaret = BaskiIsareti::Yok;
     Metin ad;
     std::array<RenkDegeri, 2> zeminler{};
+
+    bool operator==(const BaskiAciklamasi&) const = default;
 };
 
 /// The year table on paper, for a customer to take along. Who shows it fills it: it holds no data of its own,
@@ -43,6 +48,12 @@ struct FormTabloPrint {
     /// One sheet on its side, in parts named by their fields, the cells by their days. Where the texts about
     /// the table are long, they get smaller, then the rows lower.
     std::vector<Sayfa> Sayfalar(const YaziOlcer& olcer) const;
+
+    /// A copy of what the sheet shows, to see later whether it shows something else.
+    auto Gorunen() const {
+        return std::tuple(Unvan, Salon, Label1, Tarih, Label2, satirlar, ALabel, AyAdi, AyZemin, gunduzUstte,
+                          aciklamalar);
+    }
 
     BaskiGozu& Gozu(SatirAdi satir, int gun) { return satirlar[static_cast<std::size_t>(satir)][gun]; }
     const BaskiGozu& Gozu(SatirAdi satir, int gun) const {

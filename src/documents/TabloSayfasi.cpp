@@ -23,11 +23,11 @@ constexpr double kGunBoyu = 6;       // of the day heads
 constexpr double kAyArasi = 0.8;     // between two months
 constexpr double kBlokArasi = 2;     // above and under the table
 constexpr double kEnAzSatir = 4.4;   // a row that is lower can't be read well
-constexpr double kIsaretEni = 3.2;   // of a mark, at the right of its cell
-constexpr double kYaziBoslugu = 0.6; // free at both sides of a text in its cell, together
+constexpr double kIsaretEni = 2.6;   // of a mark, at the right of its cell
+constexpr double kYaziBoslugu = 0.4; // free at both sides of a text in its cell, together
 constexpr double kOrnekEni = 6;      // of a cell in the legend
 
-constexpr SayfaYazisi kTabloIsaretYazisi{9, false};
+constexpr SayfaYazisi kTabloIsaretYazisi{11, true};
 constexpr double kTabloBasligi = 10;
 constexpr double kGunAdi = 8;
 constexpr double kEnKucukTabloYazisi = 3;
@@ -119,7 +119,7 @@ class TabloYazari {
     void Gunler();
     void Aylar();
     void AyBasligi(int ay, double ust, const SayfaYazisi& adYazisi, const SayfaYazisi& dilimYazisi);
-    void Goz(SatirAdi satir, int gun, double ust, const SayfaYazisi& yazi);
+    void Goz(SatirAdi satir, int gun, double ust);
     SatirAdi SatirNo(int ay, int sira) const {
         return Satir(ay, (sira == 0) == tablo_.gunduzUstte[ay] ? GunduzGece::Gunduz : GunduzGece::Gece);
     }
@@ -131,6 +131,8 @@ class TabloYazari {
     Sayfa sayfa_{Yon::Yatay};
     double ust_ = 0;   // of the table
     double satir_ = 0; // the height of a row
+    SayfaYazisi gunYazisi_;
+    SayfaYazisi isaretYazisi_;
 };
 
 std::vector<SayfaParcasi> TabloYazari::Bas(double enKucuk) const {
@@ -144,7 +146,7 @@ std::vector<SayfaParcasi> TabloYazari::Bas(double enKucuk) const {
 
 std::vector<SayfaParcasi> TabloYazari::Alt(double enKucuk) const {
     constexpr double kTarihEni = 62;
-    const AlanBicimi not_{{9, false}, Hiza::Sol, std::min(7.0, enKucuk)};
+    const AlanBicimi not_{{10, false}, Hiza::Sol, std::min(7.0, enKucuk)};
     const double boy = SatirBoyu(not_.yazi);
     std::vector<SayfaParcasi> blok;
     Aciklamalar(blok);
@@ -159,7 +161,7 @@ std::vector<SayfaParcasi> TabloYazari::Alt(double enKucuk) const {
 void TabloYazari::Aciklamalar(std::vector<SayfaParcasi>& blok) const {
     constexpr double kAciklamaEni = 46;
     constexpr double kAciklamaBoyu = 5;
-    constexpr SayfaYazisi kYazi{9, false};
+    constexpr SayfaYazisi kYazi{10, false};
     double sol = 0;
     for (const BaskiAciklamasi& aciklama : tablo_.aciklamalar) {
         for (const RenkDegeri zemin : aciklama.zeminler) {
@@ -211,13 +213,15 @@ void TabloYazari::Aylar() {
                 gunler.push_back(goz.baslik);
     const SayfaYazisi ayYazisi = SiganYazi(aylar, kAyEni, 2 * satir_, {kTabloBasligi, true});
     const SayfaYazisi dilimYazisi = SiganYazi({u"Gündüz", u"Gece"}, kDilimEni, satir_, {kGunAdi, false});
-    const SayfaYazisi gunYazisi = SiganYazi(gunler, kGunEni - kIsaretEni, satir_, {kGunAdi, false});
+    gunYazisi_ = SiganYazi(gunler, kGunEni - kIsaretEni, satir_, {kGunAdi, false});
+    isaretYazisi_ = SiganYazi({Isaret(BaskiIsareti::Kesin), Isaret(BaskiIsareti::On)}, kIsaretEni, satir_,
+                              kTabloIsaretYazisi);
     for (int ay = 1; ay <= kAySayisi; ++ay) {
         const double ust = ust_ + kGunBoyu + (ay - 1) * (2 * satir_ + kAyArasi);
         AyBasligi(ay, ust, ayYazisi, dilimYazisi);
         for (int sira = 0; sira < 2; ++sira)
             for (int gun = 1; gun <= kGunSayisi; ++gun)
-                Goz(SatirNo(ay, sira), gun, ust + sira * satir_, gunYazisi);
+                Goz(SatirNo(ay, sira), gun, ust + sira * satir_);
     }
 }
 
@@ -237,7 +241,7 @@ void TabloYazari::AyBasligi(int ay, double ust, const SayfaYazisi& adYazisi, con
     }
 }
 
-void TabloYazari::Goz(SatirAdi satir, int gun, double ust, const SayfaYazisi& yazi) {
+void TabloYazari::Goz(SatirAdi satir, int gun, double ust) {
     const BaskiGozu& goz = tablo_.Gozu(satir, gun);
     if (!goz.gorunur)
         return;
@@ -248,12 +252,12 @@ void TabloYazari::Goz(SatirAdi satir, int gun, double ust, const SayfaYazisi& ya
     SayfaYeri yaziYeri = yer;
     if (isaretli)
         yaziYeri.en -= kIsaretEni;
-    SayfaParcasi metin = Ortada(ad, goz.baslik, yaziYeri, yazi, goz.yazi);
+    SayfaParcasi metin = Ortada(ad, goz.baslik, yaziYeri, gunYazisi_, goz.yazi);
     metin.zemin = OkunurZemin(goz.yazi, goz.zemin);
     sayfa_.parcalar.push_back(std::move(metin));
     if (isaretli)
         sayfa_.parcalar.push_back(Ortada(ad, Isaret(goz.isaret), {yaziYeri.Sag(), ust, kIsaretEni, satir_},
-                                         kTabloIsaretYazisi, OneCikan(goz.zemin)));
+                                         isaretYazisi_, OneCikan(goz.zemin)));
 }
 
 } // namespace

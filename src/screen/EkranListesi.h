@@ -29,8 +29,8 @@
     X(FormGiderler, Pencereli)                                                                               \
     X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
-    X(FormMakbuzPrint, Penceresiz)                                                                           \
-    X(FormTabloPrint, Penceresiz)                                                                            \
+    X(FormMakbuzPrint, Pencereli)                                                                            \
+    X(FormTabloPrint, Pencereli)                                                                             \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
     X(FormIpMac, Penceresiz)                                                                                 \

@@ -33,8 +33,11 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
     dugmeler->setSpacing(kAralik);
     dugmeler->addWidget(DugmeYap({"Command8", &FormKayit::Command8, &FormKayit::Command8_Click}));
     auto* sil = DugmeYap({"Command7", &FormKayit::Command7, &FormKayit::Command7_Click});
-    OdagiListeyeVer(*sil, *liste);
-    dugmeler->addWidget(sil);
+    auto* makbuz = DugmeYap({"Command9", &FormKayit::Command9, &FormKayit::Command9_Click});
+    for (QPushButton* dugme : {sil, makbuz}) {
+        OdagiListeyeVer(*dugme, *liste);
+        dugmeler->addWidget(dugme);
+    }
     dugmeler->addStretch(1);
     dugmeler->addLayout(Toplamlar());
     sutun->addWidget(liste, 1);
