@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <filesystem>
 #include <utility>
 
@@ -35,6 +36,9 @@ static int Calistir(char** argv) {
     program.Splash->Baslat();
     const int sonuc = disDunya.Bitti() ? 0 : QApplication::exec();
     disDunya.PencereleriBirak();
+    // A dead print service must not keep the process: every save is on the disk already.
+    if (!disDunya.IslerBitti())
+        std::_Exit(sonuc);
     return sonuc;
 }
 

@@ -1,5 +1,6 @@
 #include "qt/Kutular.h"
 
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -39,6 +40,44 @@ void GirdiyiDenetle(QLineEdit& satir) {
                      });
 }
 
+std::filesystem::path DosyaYolu(const QString& yol) {
+    return yol.toStdU16String();
+}
+
+/// The toolkit's own box on each system, in Turkish like all others.
+class KayitYeriPenceresi : public QFileDialog {
+  public:
+    KayitYeriPenceresi(QWidget* ust, const KayitYeriKutusu& kutu, const QString& klasor)
+        : QFileDialog(ust, QMetin(kutu.baslik), klasor), uzanti_(QMetin(kutu.uzanti)) {
+        setOption(QFileDialog::DontUseNativeDialog);
+        setAcceptMode(QFileDialog::AcceptSave);
+        setFileMode(QFileDialog::AnyFile);
+        setNameFilter(QMetin(kutu.tur) + QStringLiteral(" (*") + uzanti_ + u')');
+        const std::pair<DialogLabel, QString> yazilar[]{{LookIn, QStringLiteral("&Klasör:")},
+                                                        {FileName, QStringLiteral("&Dosya adı:")},
+                                                        {FileType, QStringLiteral("Dosya &türü:")},
+                                                        {Accept, QStringLiteral("Kay&det")},
+                                                        {Reject, QStringLiteral("İ&ptal")}};
+        for (const auto& [etiket, yazi] : yazilar)
+            setLabelText(etiket, yazi);
+        selectFile(QMetin(kutu.ad));
+    }
+
+    /// The ending first, then what the box asks about the name. It would give a name with a dot in it, as in
+    /// a date, no ending of its own.
+    void accept() override {
+        const QString secilen = selectedFiles().value(0);
+        std::error_code hata;
+        if (!secilen.isEmpty() && !secilen.endsWith(uzanti_, Qt::CaseInsensitive) &&
+            !std::filesystem::is_directory(DosyaYolu(secilen), hata))
+            selectFile(secilen + uzanti_);
+        QFileDialog::accept();
+    }
+
+  private:
+    QString uzanti_;
+};
+
 } // namespace
 
 Cevap MesajGoster(QWidget* ust, const MesajKutusu& kutu) {
@@ -77,6 +116,14 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu) {
     satir->setMinimumWidth(kGirdiEni);
     // Of the line itself: the box is still told of the text as it was before it was made to fit.
     return pencere.exec() == QInputDialog::Accepted ? MetinYap(satir->text()) : Metin();
+}
+
+std::optional<std::filesystem::path> KayitYeriSor(QWidget* ust, const KayitYeriKutusu& kutu,
+                                                  const QString& klasor) {
+    KayitYeriPenceresi pencere(ust, kutu, klasor);
+    if (pencere.exec() != QFileDialog::Accepted)
+        return std::nullopt;
+    return DosyaYolu(pencere.selectedFiles().value(0));
 }
 
 } // namespace velora

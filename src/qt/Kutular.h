@@ -2,6 +2,7 @@
 
 #include "screen/Ortam.h"
 
+class QString;
 class QWidget;
 
 namespace velora {
@@ -11,5 +12,10 @@ Cevap MesajGoster(QWidget* ust, const MesajKutusu& kutu);
 
 /// Asks for one line of text. Empty when it was cancelled.
 Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu);
+
+/// Asks where a file is to be saved, beginning in `klasor`. What lies in the way of the name chosen is given
+/// up only after a question. None when it was cancelled.
+std::optional<std::filesystem::path> KayitYeriSor(QWidget* ust, const KayitYeriKutusu& kutu,
+                                                  const QString& klasor);
 
 } // namespace velora

@@ -3,9 +3,9 @@
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTreeWidget>
 
+#include "qt/Klasorler.h"
 #include "qt/PencereYeri.h"
 
 namespace velora {
@@ -47,7 +47,7 @@ QVariantList SutunEnleri(const QTreeWidget& liste) {
 } // namespace
 
 QString PencereHafizasi::KullaniciDosyasi() {
-    const QString klasor = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    const QString klasor = AyarKlasoru();
     return klasor.isEmpty() ? QString() : klasor + QStringLiteral("/pencereler.ini");
 }
 

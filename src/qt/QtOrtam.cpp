@@ -10,11 +10,13 @@
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "qt/Kabuk.h"
+#include "qt/Klasorler.h"
 #include "qt/Kutular.h"
 #include "qt/OlayKilidi.h"
 #include "qt/PencereYeri.h"
 #include "qt/Saat.h"
 #include "qt/SayfaCizimi.h"
+#include "qt/Yazici.h"
 
 namespace velora {
 
@@ -68,6 +70,7 @@ Ortam QtOrtam::Ver() {
     Ortam ortam;
     ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return Kutuda(MesajGoster, Ondeki(), kutu); };
     ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, Ondeki(), kutu); };
+    ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeri(kutu); };
     ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
     ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
     ortam.goster.gizle = [this](EkranAdi ekran) { Gizle(ekran); };
@@ -76,6 +79,14 @@ Ortam QtOrtam::Ver() {
     ortam.kabuk.dosyaAc = DosyaAc;
     ortam.kabuk.adresAc = AdresAc;
     ortam.kagit.olcer = SayfaOlcer();
+    ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
+        return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)] { return YaziciyaBas(sayfalar, ad); });
+    };
+    ortam.kagit.pdfYaz = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
+                                const std::filesystem::path& dosya) {
+        return Arkada(dosyaIscisi_,
+                      [sayfalar, ad = QMetin(isAdi), dosya] { return PdfYaz(sayfalar, ad, dosya); });
+    };
     ortam.olaylar.bitir = [this] { Bitir(); };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
     return ortam;
@@ -192,6 +203,30 @@ void QtOrtam::OdakVer(EkranAdi ekran, MetinBakis kontrol) const {
         return;
     if (auto* parca = pencere->findChild<QWidget*>(QMetin(kontrol)))
         parca->setFocus(Qt::OtherFocusReason);
+}
+
+std::optional<std::filesystem::path> QtOrtam::KayitYeri(const KayitYeriKutusu& kutu) {
+    const auto sor = [this](QWidget* pencere, const KayitYeriKutusu& sorulan) {
+        return KayitYeriSor(pencere, sorulan, kayitKlasoru_.isEmpty() ? BelgeKlasoru() : kayitKlasoru_);
+    };
+    const auto yol = Kutuda(sor, Ondeki(), kutu);
+    if (yol)
+        kayitKlasoru_ = QString::fromStdU16String(yol->parent_path().u16string());
+    return yol;
+}
+
+bool QtOrtam::Arkada(Isci& isci, Isci::Is is) {
+    const Baglayici::KullaniciBekleme bekleme;
+    QEventLoop dongu;
+    // The end of the program ends the waiting, and the job may come to its own end behind it.
+    const auto sonuc = std::make_shared<bool>(false);
+    isci.Ver(std::move(is), [sonuc, bekleyen = QPointer<QEventLoop>(&dongu)](bool tamam) {
+        *sonuc = tamam;
+        if (bekleyen != nullptr)
+            bekleyen->quit();
+    });
+    dongu.exec();
+    return *sonuc;
 }
 
 void QtOrtam::Bitir() {

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "qt/Isci.h"
 #include "qt/PencereHafizasi.h"
 #include "screen/Ortam.h"
 
@@ -40,6 +41,10 @@ class QtOrtam {
     /// True when the program was told to end.
     bool Bitti() const { return bitti_; }
 
+    /// Waits for what still goes to the printer or the disk, for a program that ends. False: after some
+    /// seconds it hangs there, and the process must end without taking anything from under it.
+    bool IslerBitti() { return dosyaIscisi_.Bekle() && basimIscisi_.Bekle(); }
+
   private:
     /// A window may be dropped by a handler of its own: the toolkit gets its turn first.
     struct SonraSil {
@@ -54,12 +59,18 @@ class QtOrtam {
     void Gizle(EkranAdi ekran);
     void Sakla(EkranAdi ekran) const;
     void OdakVer(EkranAdi ekran, MetinBakis kontrol) const;
+    std::optional<std::filesystem::path> KayitYeri(const KayitYeriKutusu& kutu);
+    /// Waits for a job of another thread; events run meanwhile.
+    static bool Arkada(Isci& isci, Isci::Is is);
     void Bitir();
 
     std::map<EkranAdi, Uretici> ureticiler_;
     std::map<EkranAdi, std::unique_ptr<QWidget, SonraSil>> pencereler_;
     std::vector<QPointer<QWidget>> gosterilenler_; // in their order; some have gone
     PencereHafizasi hafiza_;
+    QString kayitKlasoru_; // where a file was saved last
+    Isci basimIscisi_;     // a print system that hangs keeps no file waiting
+    Isci dosyaIscisi_;
     bool bitti_ = false;
 };
 
