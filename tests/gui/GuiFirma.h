@@ -48,8 +48,8 @@ class GuiFirma {
     std::function<void()> arada;
     /// Files that were given to the user's own programs; none is started.
     std::vector<std::filesystem::path> acilanDosyalar;
-    /// While set, boxes aren't shown but answered so, and screens aren't shown over others but closed at
-    /// once.
+    /// While set, boxes aren't shown but answered so, screens aren't shown over others but closed at once, and
+    /// pages go nowhere.
     std::optional<Cevap> hazirCevap;
 
     /// How often the program was told to end. It goes on all the same, unless `gercektenBiter`: the event

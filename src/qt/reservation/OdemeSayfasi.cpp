@@ -39,15 +39,17 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
         dugmeler->addWidget(dugme);
     }
     dugmeler->addStretch(1);
-    dugmeler->addLayout(Toplamlar());
     sutun->addWidget(liste, 1);
+    // Beside the buttons the totals would make the window wider than a small screen.
     sutun->addLayout(dugmeler);
+    sutun->addLayout(Toplamlar());
     return sayfa;
 }
 
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
+    serit->addStretch(1);
     for (const auto& [ad, model] : {std::pair{"ToplamUcret", &Model().ToplamUcret},
                                     {"Kayam9", &Model().Kayam9},
                                     {"Kayam10", &Model().Kayam10}}) {
