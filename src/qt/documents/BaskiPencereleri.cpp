@@ -8,7 +8,7 @@ namespace velora {
 namespace {
 
 // Large enough for the half sheet of a receipt, and for the whole sheet of the table.
-constexpr QSize kMakbuzBoyu(680, 560);
+constexpr QSize kMakbuzBoyu(680, 600);
 constexpr QSize kTabloSayfasiBoyu(1180, 900);
 
 } // namespace
