@@ -1,10 +1,13 @@
 #include "qt/Kutular.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 #include "qt/Ceviri.h"
 #include "qt/GirdiSuzgeci.h"
@@ -14,6 +17,7 @@ namespace velora {
 namespace {
 
 constexpr int kGirdiEni = 360; // room for a name
+constexpr QSize kDosyaKutusu(760, 480);
 
 QMessageBox::Icon SimgeTuru(Simge simge) {
     switch (simge) {
@@ -53,6 +57,27 @@ class KayitYeriPenceresi : public QFileDialog {
         setAcceptMode(QFileDialog::AcceptSave);
         setFileMode(QFileDialog::AnyFile);
         setNameFilter(QMetin(kutu.tur) + QStringLiteral(" (*") + uzanti_ + u')');
+        Etiketle();
+        constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
+        findChild<QTreeView*>(QStringLiteral("treeView"))->hideColumn(kTurSutunu);
+        resize(kDosyaKutusu);
+        selectFile(QMetin(kutu.ad));
+    }
+
+    /// The ending first, then what the box asks about the name. It would give a name with a dot in it, as in
+    /// a date, no ending of its own.
+    void accept() override {
+        auto* satir = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        std::error_code hata;
+        if (!satir->text().isEmpty() && !satir->text().endsWith(uzanti_, Qt::CaseInsensitive) &&
+            !std::filesystem::is_directory(DosyaYolu(selectedFiles().value(0)), hata))
+            satir->setText(satir->text() + uzanti_);
+        QFileDialog::accept();
+    }
+
+  private:
+    /// The captions of the program's kind; the toolkit leaves two of them without their field.
+    void Etiketle() {
         const std::pair<DialogLabel, QString> yazilar[]{{LookIn, QStringLiteral("&Klasör:")},
                                                         {FileName, QStringLiteral("&Dosya adı:")},
                                                         {FileType, QStringLiteral("Dosya &türü:")},
@@ -60,21 +85,11 @@ class KayitYeriPenceresi : public QFileDialog {
                                                         {Reject, QStringLiteral("İ&ptal")}};
         for (const auto& [etiket, yazi] : yazilar)
             setLabelText(etiket, yazi);
-        selectFile(QMetin(kutu.ad));
+        for (const QString& ad : {QStringLiteral("lookIn"), QStringLiteral("fileType")})
+            findChild<QLabel*>(ad + QStringLiteral("Label"))
+                ->setBuddy(findChild<QComboBox*>(ad + QStringLiteral("Combo")));
     }
 
-    /// The ending first, then what the box asks about the name. It would give a name with a dot in it, as in
-    /// a date, no ending of its own.
-    void accept() override {
-        const QString secilen = selectedFiles().value(0);
-        std::error_code hata;
-        if (!secilen.isEmpty() && !secilen.endsWith(uzanti_, Qt::CaseInsensitive) &&
-            !std::filesystem::is_directory(DosyaYolu(secilen), hata))
-            selectFile(secilen + uzanti_);
-        QFileDialog::accept();
-    }
-
-  private:
     QString uzanti_;
 };
 

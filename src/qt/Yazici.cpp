@@ -69,7 +69,14 @@ bool YaziciyaBas(const std::vector<Sayfa>& sayfalar, const QString& isAdi) {
 }
 
 bool PdfYaz(const std::vector<Sayfa>& sayfalar, const QString& isAdi, const std::filesystem::path& dosya) {
+    // A device or a pipe would be replaced by the file.
+    std::error_code hata;
+    const auto orada = std::filesystem::status(dosya, hata).type();
+    if (orada != std::filesystem::file_type::not_found && orada != std::filesystem::file_type::regular)
+        return false;
     QBuffer baytlar;
+    if (!baytlar.open(QIODevice::WriteOnly))
+        return false;
     {
         QPdfWriter pdf(&baytlar);
         pdf.setTitle(isAdi);
@@ -79,10 +86,11 @@ bool PdfYaz(const std::vector<Sayfa>& sayfalar, const QString& isAdi, const std:
         if (!SayfalariBas(pdf, sayfalar))
             return false;
     }
-    // Beside the old file first; it takes its place only when all of it is on the disk.
+    // Beside the old file first; it takes its place only when all of it is on the disk. A write that is kept
+    // back would fail unseen.
     QSaveFile hedef(QString::fromStdU16String(dosya.u16string()));
-    return hedef.open(QIODevice::WriteOnly) && hedef.write(baytlar.data()) == baytlar.size() &&
-           hedef.commit();
+    return hedef.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+           hedef.write(baytlar.data()) == baytlar.size() && hedef.commit();
 }
 
 } // namespace velora

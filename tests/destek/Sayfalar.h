@@ -13,7 +13,8 @@ inline double EsitEnli(MetinBakis metin, const SayfaYazisi& yazi) {
 
 /// Nothing leaves the margins of the paper, `kenar` in millimetres, no text is wider or higher than its
 /// place, and no two texts lie over each other.
-inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar, double kenar = 15) {
+inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar, double kenar = 15,
+                                 const YaziOlcer& olcer = EsitEnli) {
     constexpr double kPay = 1e-3;
     for (const Sayfa& sayfa : sayfalar) {
         EXPECT_FALSE(sayfa.parcalar.empty());
@@ -27,7 +28,7 @@ inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar, double kena
             const double yaziBoyu = static_cast<double>(parca.satirlar.size()) * SatirBoyu(parca.yazi);
             EXPECT_TRUE(parca.tur == ParcaTuru::Cerceve || yaziBoyu <= parca.yer.boy + kPay);
             for (const Metin& satir : parca.satirlar)
-                EXPECT_LE(EsitEnli(satir, parca.yazi), parca.yer.en + kPay);
+                EXPECT_LE(olcer(satir, parca.yazi), parca.yer.en + kPay);
             for (std::size_t j = 0; j < i && parca.tur == ParcaTuru::Yazi; ++j) {
                 const SayfaYeri& oteki = sayfa.parcalar[j].yer;
                 const bool ayri = oteki.Alt() <= parca.yer.ust + kPay ||
