@@ -11,6 +11,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "gui/PdfOkuma.h"
 #include "qt/Baglayici.h"
 #include "qt/documents/SayfaGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
@@ -223,7 +224,8 @@ class BaskiPencereleriTest : public QObject {
                 Tusla(Qt::Key_Return); // the button that is gone isn't pressed
                 QCOMPARE(yazici.isler.size(), 1);
                 QTest::mouseClick(&Dugmesi(pencere, "Pdf"), Qt::LeftButton);
-                QVERIFY(std::filesystem::file_size(dosya) > 1000);
+                QVERIFY(PdfMetni(dosya).contains(QStringLiteral("HAZİRAN")));
+                QVERIFY(PdfMetni(dosya).contains(QStringLiteral("●")));
                 QVERIFY(pencere.isVisible());
                 if (carpi)
                     pencere.close();
