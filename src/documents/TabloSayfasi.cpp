@@ -24,7 +24,8 @@ constexpr double kAyArasi = 0.8;     // between two months
 constexpr double kBlokArasi = 2;     // above and under the table
 constexpr double kEnAzSatir = 4.4;   // a row that is lower can't be read well
 constexpr double kIsaretEni = 2.6;   // of a mark, at the right of its cell
-constexpr double kYaziBoslugu = 0.4; // free at both sides of a text in its cell, together
+constexpr double kYaziBoslugu = 0.5; // free at both sides of a text in its cell, together
+constexpr double kLevhaPayi = 0.3;   // of the ground that shows around the shade under a text
 constexpr double kOrnekEni = 6;      // of a cell in the legend
 
 constexpr SayfaYazisi kTabloIsaretYazisi{11, true};
@@ -252,9 +253,13 @@ void TabloYazari::Goz(SatirAdi satir, int gun, double ust) {
     SayfaYeri yaziYeri = yer;
     if (isaretli)
         yaziYeri.en -= kIsaretEni;
-    SayfaParcasi metin = Ortada(ad, goz.baslik, yaziYeri, gunYazisi_, goz.yazi);
-    metin.zemin = OkunurZemin(goz.yazi, goz.zemin);
-    sayfa_.parcalar.push_back(std::move(metin));
+    if (const auto ton = OkunurZemin(goz.yazi, goz.zemin)) {
+        const SayfaYeri levha{yaziYeri.sol + kLevhaPayi, ust + kLevhaPayi, yaziYeri.en - 2 * kLevhaPayi,
+                              satir_ - 2 * kLevhaPayi};
+        Kutu(ad, levha, *ton);
+        sayfa_.parcalar.back().renk = *ton;
+    }
+    sayfa_.parcalar.push_back(Ortada(ad, goz.baslik, yaziYeri, gunYazisi_, goz.yazi));
     if (isaretli)
         sayfa_.parcalar.push_back(Ortada(ad, Isaret(goz.isaret), {yaziYeri.Sag(), ust, kIsaretEni, satir_},
                                          isaretYazisi_, OneCikan(goz.zemin)));

@@ -170,10 +170,11 @@ TEST_F(FormTabloPrintTest, A_free_cell_has_ground_and_weekday_a_taken_one_a_mark
     EXPECT_EQ(kesin[2].satirlar, std::vector<Metin>{u"●"});
     EXPECT_EQ(kesin[2].renk, kBeyaz) << "on red";
     const auto on = Parcalar(u"21.06 - Gece");
-    ASSERT_EQ(on.size(), 3U);
-    EXPECT_EQ(on[1].satirlar, std::vector<Metin>{u"Cum"});
-    EXPECT_EQ(on[2].satirlar, std::vector<Metin>{u"○"});
-    EXPECT_EQ(on[2].renk, 0) << "on light green";
+    ASSERT_EQ(on.size(), 4U);
+    EXPECT_EQ(on[0].zemin, 65280);
+    EXPECT_EQ(on[2].satirlar, std::vector<Metin>{u"Cum"});
+    EXPECT_EQ(on[3].satirlar, std::vector<Metin>{u"○"});
+    EXPECT_EQ(on[3].renk, 0) << "on light green";
 }
 
 TEST_F(FormTabloPrintTest, The_legend_tells_both_marks_as_they_stand_in_the_table) {
@@ -227,13 +228,16 @@ TEST_F(FormTabloPrintTest, Long_names_get_smaller_then_the_rows_lower_and_nothin
 }
 
 TEST_F(FormTabloPrintTest, A_weekday_that_its_ground_hides_stands_on_a_shade_of_it_unless_that_is_meant) {
-    const auto on = Parcalar(u"21.06 - Gece").at(1); // white on light green
-    ASSERT_TRUE(on.zemin.has_value());
-    EXPECT_GE(KagittaKarsitlik(kBeyaz, on.zemin.value_or(0)), 3);
-    EXPECT_EQ(on.renk, kBeyaz) << "its own colour stays";
-    EXPECT_FALSE(Parcalar(u"20.06 - Gündüz").at(1).zemin.has_value());
+    const auto on = Parcalar(u"21.06 - Gece"); // white on light green
+    ASSERT_EQ(on.size(), 4U);
+    EXPECT_GE(KagittaKarsitlik(kBeyaz, on[1].zemin.value_or(kBeyaz)), 3);
+    EXPECT_EQ(on[1].renk, on[1].zemin) << "without a line about it";
+    EXPECT_GT(on[1].yer.sol, on[0].yer.sol) << "the ground itself shows around it";
+    EXPECT_LT(on[1].yer.Sag(), on[3].yer.sol) << "and under the mark";
+    EXPECT_EQ(on[2].renk, kBeyaz) << "its own colour stays";
+    EXPECT_EQ(Parcalar(u"20.06 - Gündüz").size(), 3U);
     baski->Gozu(HaziranGunduz, 20).yazi = 255;
-    EXPECT_FALSE(Parcalar(u"20.06 - Gündüz").at(1).zemin.has_value());
+    EXPECT_EQ(Parcalar(u"20.06 - Gündüz").size(), 3U);
 }
 
 TEST(Karsitlik, Is_the_lower_one_of_colour_and_grey) {
