@@ -3,6 +3,7 @@
 #include "destek/Eylemler.h"
 #include "destek/Kullanici.h"
 #include "destek/Sayfalar.h"
+#include "online/FormFirma.h"
 #include "storage/Sayi.h"
 
 namespace velora::test {
@@ -90,6 +91,12 @@ TEST_F(FormMakbuzPrintTest, Behind_an_expense_a_payment_has_the_captions_of_a_pa
         EXPECT_EQ(Yazilar(), kOdemeYazilari);
         EXPECT_TRUE(Ekran().Command1.gorunur && Ekran().Command2.gorunur);
     });
+}
+
+TEST_F(FormMakbuzPrintTest, The_firm_is_named_as_its_profile_has_it_now) {
+    Goster(odeme, [&] { EXPECT_EQ(Ekran().Firma.baslik, u"Gül Düğün Salonları"); });
+    program.FormFirma->t1.metin = u"Nergis";
+    Goster(odeme, [&] { EXPECT_EQ(Ekran().Firma.baslik, u"Nergis"); });
 }
 
 TEST_F(FormMakbuzPrintTest, Printing_hides_the_commands_first_and_closes_it) {
