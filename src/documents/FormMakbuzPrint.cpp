@@ -113,7 +113,7 @@ FormMakbuzPrint::FormMakbuzPrint(Program& program) : program_(program) {
 
 std::vector<Sayfa> FormMakbuzPrint::Sayfalar(const YaziOlcer& olcer) const {
     constexpr double kSatirPayi = 6 + kMakbuzAra; // of a line that nothing makes higher
-    SayfaAkisi akis(olcer, SayfaAkisi::kKenar + kCerceveIci);
+    SayfaAkisi akis(olcer, 0, SayfaAkisi::kKenar + kCerceveIci);
     MakbuzBasiniKoy(akis, *this);
     auto kalan = static_cast<double>(kMakbuzSatirlari.size());
     for (const MakbuzSatiri& satir : kMakbuzSatirlari)

@@ -1,22 +1,22 @@
 #include "documents/FormPrint.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
-#include "documents/SayfaAkisi.h"
 #include "documents/Senet.h"
+#include "documents/SozlesmeParcalari.h"
 
 namespace velora {
 
 namespace {
 
 constexpr MetinBakis kYerTutucu = u"xxx";
-constexpr double kAra = 4; // between two blocks, in millimetres
-
-// The clauses in points: from their best size down to one that can still be read.
-constexpr double kEnBuyukMadde = 11;
-constexpr double kEnKucukMadde = 8;
-constexpr double kMaddeAdimi = 0.5;
+constexpr double kBaslikArasi = 2; // between a heading and its text, in millimetres
+// The details in points: they are read more often than the clauses and get less small.
+constexpr double kEnBuyukBilgi = 11;
+constexpr double kEnKucukBilgi = 10;
+constexpr double kSenetOrani = 0.4; // of the room between two lines of the note to that between blocks
 
 /// A line of the details: a caption, and the field beside it.
 struct BilgiSatiri {
@@ -46,87 +46,72 @@ constexpr std::array kSagBilgiler{
     BilgiSatiri{u"CAdres", u"Adres", &FormPrint::CAdres, 3},
 };
 
-// The two columns of the details and of the signatures, from the edge of the text.
-constexpr double kSutunEni = 88;
-constexpr double kSagSutun = SayfaAkisi::kEn - kSutunEni;
-
 /// The name of the firm in the middle, date and number at the right.
 void BasiKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
     constexpr double kUnvanEni = 90;
     constexpr double kKoseEni = 42;
-    constexpr SayfaYeri kUnvanYeri{(SayfaAkisi::kEn - kUnvanEni) / 2, 0, kUnvanEni, 14};
-    const AlanBicimi buyuk{{18, true}, Hiza::Orta, 9};
     const AlanBicimi kose{{10, false}, Hiza::Sag, 7};
-    auto unvan = akis.Parca(u"Unvan", sayfa.Unvan.baslik, kUnvanYeri, buyuk);
+    auto unvan = UnvanParcasi(akis, sayfa.Unvan.baslik, kUnvanEni);
     auto tarih = akis.Parca(u"Tarihi", sayfa.Tarihi.baslik,
                             {SayfaAkisi::kEn - kKoseEni, 0, kKoseEni, SatirBoyu(kose.yazi)}, kose);
     auto no = akis.Parca(u"SozNo", sayfa.SozNo.baslik,
                          {SayfaAkisi::kEn - kKoseEni, tarih.yer.Alt(), kKoseEni, SatirBoyu(kose.yazi)}, kose);
     akis.Koy({std::move(unvan), std::move(tarih), std::move(no)});
-    akis.Bosluk(kAra);
 }
+
+/// A column of the details: its captions so wide, its values beside them.
+struct BilgiSutunu {
+    std::span<const BilgiSatiri> satirlar;
+    double sol;
+    double baslikEni;
+};
+constexpr std::array kSutunlar{BilgiSutunu{kSolBilgiler, 0, 36}, BilgiSutunu{kSagBilgiler, kSagSutun, 30}};
 
 /// The lines of one column, each under the one before.
 void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const FormPrint& sayfa,
-               std::span<const BilgiSatiri> satirlar, double sol) {
-    constexpr double kBaslikEni = 32;
+               const BilgiSutunu& sutun, double punto) {
     constexpr double kIkiNokta = 3;
-    constexpr double kDegerSol = kBaslikEni + kIkiNokta;
-    const AlanBicimi bicim{{10, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
+    const double degerSol = sutun.baslikEni + kIkiNokta;
+    const AlanBicimi bicim{{punto, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
     const double boy = SatirBoyu(bicim.yazi);
     double ust = 0;
-    for (const BilgiSatiri& satir : satirlar) {
-        blok.push_back(akis.Parca(u"", satir.baslik, {sol, ust, kBaslikEni, boy}, bicim));
-        blok.push_back(akis.Parca(u"", u":", {sol + kBaslikEni, ust, kIkiNokta, boy}, bicim));
+    for (const BilgiSatiri& satir : sutun.satirlar) {
+        blok.push_back(akis.Parca(u"", satir.baslik, {sutun.sol, ust, sutun.baslikEni, boy}, bicim));
+        blok.push_back(akis.Parca(u"", u":", {sutun.sol + sutun.baslikEni, ust, kIkiNokta, boy}, bicim));
         blok.push_back(akis.Parca(Metin(satir.ad), (sayfa.*satir.alan).baslik,
-                                  {sol + kDegerSol, ust, kSutunEni - kDegerSol, satir.satir * boy}, bicim));
+                                  {sutun.sol + degerSol, ust, kSutunEni - degerSol, satir.satir * boy},
+                                  bicim));
         ust = blok.back().yer.Alt();
     }
 }
 
-void BilgileriKoy(SayfaAkisi& akis, const FormPrint& sayfa) {
+void BilgileriKoy(SayfaAkisi& akis, const FormPrint& sayfa, double punto) {
     std::vector<SayfaParcasi> blok;
-    SutunEkle(blok, akis, sayfa, kSolBilgiler, 0);
-    SutunEkle(blok, akis, sayfa, kSagBilgiler, kSagSutun);
+    for (const BilgiSutunu& sutun : kSutunlar)
+        SutunEkle(blok, akis, sayfa, sutun, punto);
     akis.Koy(std::move(blok));
-    akis.Bosluk(kAra);
 }
 
-/// Who signs, and the rule to sign on.
-void ImzalariKoy(SayfaAkisi& akis) {
-    constexpr double kImzaBoyu = 14;
-    constexpr double kCizgiEni = 60;
-    const AlanBicimi bicim{{10, true}, Hiza::Orta};
-    const double boy = SatirBoyu(bicim.yazi);
-    const Metin cizgi = akis.Sira(u'-', kCizgiEni, bicim.yazi);
-    std::vector<SayfaParcasi> blok;
-    for (const auto& [sol, baslik] :
-         {std::pair{0.0, u"Kiraya Veren İmza"}, std::pair{kSagSutun, u"Kiralayan İmza"}}) {
-        blok.push_back(akis.Parca(u"", baslik, {sol, 0, kSutunEni, boy}, bicim));
-        blok.push_back(akis.Parca(u"", cizgi, {sol, kImzaBoyu, kSutunEni, boy}, bicim));
-    }
-    akis.Koy(std::move(blok));
-    akis.Bosluk(kAra);
-}
-
-SayfaAkisi Diz(const FormPrint& sayfa, const YaziOlcer& olcer, double maddePuntosu) {
-    SayfaAkisi akis(olcer);
+void SozlesmeyiDiz(SayfaAkisi& akis, const FormPrint& sayfa, const SayfaDuzeni& duzen) {
     BasiKoy(akis, sayfa);
-    const AlanBicimi baslik{{12, true}, Hiza::Orta, 9};
+    const AlanBicimi baslik{{13, true}, Hiza::Orta, 9};
     akis.Koy({akis.Parca(u"Baslik", sayfa.Baslik.baslik, {0, 0, SayfaAkisi::kEn, SatirBoyu(baslik.yazi)},
                          baslik)});
-    akis.Bosluk(kAra / 2);
-    akis.Akit(u"Sozlesme", sayfa.Sozlesme.baslik, {maddePuntosu, false});
-    akis.Bosluk(kAra);
-    BilgileriKoy(akis, sayfa);
-    ImzalariKoy(akis);
+    akis.Bosluk(kBaslikArasi);
+    akis.Akit(u"Sozlesme", sayfa.Sozlesme.baslik, {duzen.punto, false});
+    akis.Bosluk(duzen.ara);
+    BilgileriKoy(akis, sayfa, std::clamp(duzen.punto, kEnKucukBilgi, kEnBuyukBilgi));
+    akis.Bosluk(duzen.ara);
+    ImzalariKoy(akis, u"Kiraya Veren İmza", u"Kiralayan İmza");
+    akis.Bosluk(duzen.ara);
     if (sayfa.Senet)
-        akis.Koy(SenetBlogu(akis, sayfa.Label38.baslik, sayfa.Label50.baslik));
-    if (sayfa.Label55.gorunur)
-        akis.Akit(u"Label55", sayfa.Label55.baslik, {10, true});
+        akis.DibeKoy(SenetBlogu(akis, sayfa.Label38.baslik, sayfa.Label50.baslik, duzen.ara * kSenetOrani));
+    if (sayfa.Label55.gorunur) {
+        akis.YerAc(3 * SatirBoyu({duzen.punto, true}));
+        akis.Akit(u"Label55", sayfa.Label55.baslik, {duzen.punto, true});
+    }
     if (sayfa.Onaciklama.gorunur)
-        akis.Akit(u"Onaciklama", sayfa.Onaciklama.baslik, {10, false});
-    return akis;
+        akis.Akit(u"Onaciklama", sayfa.Onaciklama.baslik, {duzen.punto, false});
 }
 
 } // namespace
@@ -134,21 +119,17 @@ SayfaAkisi Diz(const FormPrint& sayfa, const YaziOlcer& olcer, double maddePunto
 FormPrint::FormPrint(Program& /*program*/) {
     for (Etiket* alan : {&Unvan, &Tarihi, &SozNo, &Baslik, &Sozlesme, &Onaciklama})
         alan->baslik = kYerTutucu;
-    for (const std::span<const BilgiSatiri> sutun :
-         {std::span<const BilgiSatiri>(kSolBilgiler), std::span<const BilgiSatiri>(kSagBilgiler)})
-        for (const BilgiSatiri& satir : sutun)
+    for (const BilgiSutunu& sutun : kSutunlar)
+        for (const BilgiSatiri& satir : sutun.satirlar)
             (this->*satir.alan).baslik = kYerTutucu;
     Label55.baslik = u"Ön Açıklama :";
     Label55.gorunur = Onaciklama.gorunur = false;
 }
 
 std::vector<Sayfa> FormPrint::Sayfalar(const YaziOlcer& olcer) const {
-    for (double punto = kEnBuyukMadde; punto > kEnKucukMadde; punto -= kMaddeAdimi) {
-        const SayfaAkisi akis = Diz(*this, olcer, punto);
-        if (akis.Sayfalar().size() == 1)
-            return akis.Sayfalar();
-    }
-    return Diz(*this, olcer, kEnKucukMadde).Sayfalar();
+    return EnIyiDuzende(olcer, SozNo.baslik + u"  -  ", [this](SayfaAkisi& akis, const SayfaDuzeni& duzen) {
+        SozlesmeyiDiz(akis, *this, duzen);
+    });
 }
 
 } // namespace velora

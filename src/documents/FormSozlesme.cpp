@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "documents/Baski.h"
+#include "documents/FormPrint.h"
 #include "online/FormFirma.h"
 #include "online/Iller.h"
 #include "screen/Program.h"
@@ -19,6 +21,10 @@ std::array<Alan, 2> SozlesmeAlanlari(Metin& baslik, Metin& maddeler) {
     return {MetinAlani(baslik), MetinAlani(maddeler)};
 }
 
+Metin OrnekAdi() {
+    return BaskiAdi({u"Örnek Sözleşme"});
+}
+
 /// A quote within a text would end it in the file.
 Metin Tirnaksiz(Metin metin) {
     std::erase(metin, u'"');
@@ -34,6 +40,7 @@ FormSozlesme::FormSozlesme(Program& program) : program_(program) {
     Sozlesme.baslik = u"Sözleşme";
     for (const Il& il : Iller())
         Sehir.ogeler.emplace_back(il.ad);
+    Command1.baslik = u"Örnek Baskı";
     Command2.baslik = u"Kaydet";
     Command3.baslik = u"İptal";
 }
@@ -45,6 +52,27 @@ void FormSozlesme::Load() {
     if (const Metin sehir = firma->t8.Metni(); sehir != kSehirSeciniz)
         Sehir.MetinAta(sehir);
     AlanlariOku(program_.dosyalar, SozlesmeYolu(program_), SozlesmeAlanlari(Baslik.metin, Sozlesme.metin));
+}
+
+/// No customer's data that a print has left there stand on the sample, and nothing of the sample stays.
+std::vector<Sayfa> FormSozlesme::OrnekSayfalar() const {
+    Program& p = program_;
+    p.FormPrint.Bosalt();
+    const auto sayfa = p.FormPrint.Tut();
+    sayfa->Unvan.baslik = Unvan.metin;
+    sayfa->Baslik.baslik = Baslik.metin;
+    sayfa->Sozlesme.baslik = Sozlesme.metin;
+    p.OlaylariIsle();
+    p.FormPrint.Bosalt();
+    return sayfa->Sayfalar(p.ortam.kagit.olcer);
+}
+
+void FormSozlesme::Command1_Click() {
+    Yazdir(program_, OrnekSayfalar(), OrnekAdi());
+}
+
+void FormSozlesme::Pdf_Click() {
+    PdfKaydet(program_, OrnekSayfalar(), OrnekAdi());
 }
 
 void FormSozlesme::Command2_Click() {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "screen/Kontroller.h"
+#include "screen/Sayfa.h"
 
 namespace velora {
 
@@ -18,6 +19,10 @@ struct FormSozlesme {
     /// read whole leaves both empty. A profile in which no city is chosen leaves the city empty.
     void Load();
 
+    /// "Örnek Baskı": prints the contract once with the texts as they stand here, saved or not, and with
+    /// placeholders for all that a customer would bring. Without a printer nothing is said.
+    void Command1_Click();
+    void Pdf_Click(); ///< the same as a file
     /// "Kaydet": writes heading and clauses without their double quotes and unloads the screen, whose own
     /// fields keep them. What fails of writing is passed over.
     void Command2_Click();
@@ -28,10 +33,14 @@ struct FormSozlesme {
     AcilirListe Sehir;
     MetinKutusu Baslik;
     MetinKutusu Sozlesme; ///< the clauses, with CR LF between them
+    Dugme Command1;
+    Dugme Pdf{u"PDF", u"PDF dosyası olarak kaydet"};
     Dugme Command2;
     Dugme Command3;
 
   private:
+    std::vector<Sayfa> OrnekSayfalar() const;
+
     Program& program_;
 };
 

@@ -1,6 +1,7 @@
 #include "documents/SayfaAkisi.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace velora {
@@ -44,8 +45,7 @@ Metin SayfaAkisi::Sira(char16_t isaret, double en, const SayfaYazisi& yazi) cons
 
 void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
     const double boy = EnAlt(blok);
-    if (boy > Kalan() + kPay)
-        YeniSayfa();
+    YerAc(boy);
     for (SayfaParcasi& parca : blok) {
         parca.yer.sol += kenar_;
         parca.yer.ust += ust_;
@@ -62,8 +62,7 @@ void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi
 void SayfaAkisi::Akit(const SayfaParcasi& parca, std::vector<SayfaParcasi> yaninda) {
     const double satirBoyu = SatirBoyu(parca.yazi);
     for (auto ilk = parca.satirlar.begin(); ilk != parca.satirlar.end();) {
-        if (std::max(satirBoyu, EnAlt(yaninda)) > Kalan() + kPay)
-            YeniSayfa();
+        YerAc(std::max(satirBoyu, EnAlt(yaninda)));
         const auto sigan = static_cast<std::ptrdiff_t>((Kalan() + kPay) / satirBoyu);
         const auto son = ilk + std::min(std::max(sigan, std::ptrdiff_t{1}), parca.satirlar.end() - ilk);
         SayfaParcasi dilim = parca;
@@ -75,15 +74,35 @@ void SayfaAkisi::Akit(const SayfaParcasi& parca, std::vector<SayfaParcasi> yanin
     }
 }
 
-void SayfaAkisi::YeniSayfa() {
+void SayfaAkisi::YerAc(double boy) {
+    if (boy <= Kalan() + kPay)
+        return;
     // A block that is higher than a page still goes on one, not behind empty ones.
     if (!sayfalar_.back().parcalar.empty())
         sayfalar_.emplace_back();
     ust_ = kenar_;
 }
 
+void SayfaAkisi::DibeKoy(std::vector<SayfaParcasi> blok) {
+    const double boy = EnAlt(blok);
+    YerAc(boy);
+    if (ust_ > kenar_)
+        ust_ += std::max(0.0, Kalan() - boy);
+    Koy(std::move(blok));
+}
+
+void SayfaAkisi::Numarala(MetinBakis metin) {
+    const AlanBicimi bicim{{9, false}, Hiza::Orta};
+    const double boy = SatirBoyu(bicim.yazi);
+    long long sira = 0;
+    for (Sayfa& sayfa : sayfalar_)
+        sayfa.parcalar.push_back(
+            Parca(u"", Metin(metin) + SayiMetni(++sira) + u" / " + SayiMetni(std::ssize(sayfalar_)),
+                  {kenar_, kSayfaBoyu - kenar_ - boy, kSayfaEni - 2 * kenar_, boy}, bicim));
+}
+
 double SayfaAkisi::Kalan() const {
-    return kSayfaBoyu - kenar_ - ust_;
+    return kSayfaBoyu - kenar_ - altlik_ - ust_;
 }
 
 } // namespace velora

@@ -1,6 +1,8 @@
 #include "documents/Senet.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "documents/SayfaAkisi.h"
 
@@ -10,7 +12,6 @@ namespace {
 
 constexpr double kIcKenar = 4; // between the frame and what is in it, in millimetres
 constexpr double kIcEn = SayfaAkisi::kEn - 2 * kIcKenar;
-constexpr double kSenetAra = 1.5; // between two lines
 constexpr SayfaYazisi kSenetYazisi{10, false};
 
 // The heads with a dotted cell under each, and how wide they are, of all.
@@ -36,7 +37,7 @@ constexpr std::array<MetinBakis, 4> kBorclu{u"Adı - Soyadı", u"Adresi", u"", u
 /// Puts parts into the frame from the top to the bottom.
 class SenetYazari {
   public:
-    explicit SenetYazari(const SayfaAkisi& akis) : akis_(akis) {}
+    SenetYazari(const SayfaAkisi& akis, double ara) : akis_(akis), ara_(ara) {}
 
     void Ekle(Metin ad, MetinBakis metin, double sol, double en, Hiza hiza = Hiza::Sol) {
         const AlanBicimi bicim{kSenetYazisi, hiza, 7};
@@ -48,18 +49,30 @@ class SenetYazari {
         Ekle(u"", akis_.Sira(isaret, en, kSenetYazisi), sol, en);
     }
     /// The next one goes under all that is there.
-    void Alta() { ust_ = EnAlt(blok_) + kSenetAra; }
+    void Alta() { ust_ = std::max(EnAlt(blok_), EnAlt(gozler_)) + ara_; }
+    /// A cell from the top of the frame down to what is there.
+    void Gozle(double sol, double en) {
+        SayfaParcasi goz{.tur = ParcaTuru::Cerceve};
+        goz.yer = {kIcKenar + sol, kIcKenar - kGozPayi, en, 0};
+        goz.yer.boy = EnAlt(blok_) + kGozPayi - goz.yer.ust;
+        gozler_.push_back(std::move(goz));
+    }
 
     std::vector<SayfaParcasi> Blok() {
-        SayfaParcasi cerceve{.tur = ParcaTuru::Cerceve, .ad = u"Senet", .yer = {}};
+        std::ranges::move(gozler_, std::back_inserter(blok_));
+        SayfaParcasi cerceve{.tur = ParcaTuru::Cerceve, .ad = u"Senet"};
         cerceve.yer = {0, 0, SayfaAkisi::kEn, EnAlt(blok_) + kIcKenar};
         blok_.push_back(std::move(cerceve));
         return std::move(blok_);
     }
 
   private:
+    static constexpr double kGozPayi = 1; // around what is in a cell
+
     const SayfaAkisi& akis_;
+    double ara_;
     std::vector<SayfaParcasi> blok_;
+    std::vector<SayfaParcasi> gozler_;
     double ust_ = kIcKenar;
 };
 
@@ -75,8 +88,15 @@ void BaslariEkle(SenetYazari& yazar) {
                 yazar.Sirala(u'.', sol + en * kBosPay, en * (1 - 2 * kBosPay));
             sol += en;
         }
-        yazar.Alta();
+        if (baslik)
+            yazar.Alta();
     }
+    double sol = 0;
+    for (const SenetBasi& bas : kBaslar) {
+        yazar.Gozle(sol, bas.pay * kIcEn);
+        sol += bas.pay * kIcEn;
+    }
+    yazar.Alta();
 }
 
 /// Who owes, and at the right the place to sign.
@@ -101,8 +121,9 @@ void BorcluyuEkle(SenetYazari& yazar) {
 
 } // namespace
 
-std::vector<SayfaParcasi> SenetBlogu(const SayfaAkisi& akis, MetinBakis muacceliyet, MetinBakis mahkeme) {
-    SenetYazari yazar(akis);
+std::vector<SayfaParcasi> SenetBlogu(const SayfaAkisi& akis, MetinBakis muacceliyet, MetinBakis mahkeme,
+                                     double ara) {
+    SenetYazari yazar(akis, ara);
     BaslariEkle(yazar);
     for (const MetinBakis satir : kSatirlar) {
         yazar.Ekle(u"", satir, 0, kIcEn);

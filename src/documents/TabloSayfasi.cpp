@@ -29,7 +29,7 @@ constexpr double kLevhaPayi = 0.3;   // of the ground that shows around the shad
 constexpr double kOrnekEni = 6;      // of a cell in the legend
 
 constexpr SayfaYazisi kTabloIsaretYazisi{11, true};
-constexpr double kTabloBasligi = 10;
+constexpr double kTabloBaslikPuntosu = 10;
 constexpr double kGunAdi = 8;
 constexpr double kEnKucukTabloYazisi = 3;
 
@@ -194,7 +194,7 @@ void TabloYazari::Gunler() {
     std::vector<Metin> metinler;
     for (const Etiket& gun : tablo_.ALabel)
         metinler.push_back(gun.baslik);
-    const SayfaYazisi yazi = SiganYazi(metinler, kGunEni, kGunBoyu, {kTabloBasligi, true});
+    const SayfaYazisi yazi = SiganYazi(metinler, kGunEni, kGunBoyu, {kTabloBaslikPuntosu, true});
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
         const Etiket& baslik = tablo_.ALabel[gun];
         const SayfaYeri yer{GunSolu(gun), ust_, kGunEni, kGunBoyu};
@@ -212,7 +212,7 @@ void TabloYazari::Aylar() {
         for (const BaskiGozu& goz : satir)
             if (goz.gorunur && std::ranges::find(gunler, goz.baslik) == gunler.end())
                 gunler.push_back(goz.baslik);
-    const SayfaYazisi ayYazisi = SiganYazi(aylar, kAyEni, 2 * satir_, {kTabloBasligi, true});
+    const SayfaYazisi ayYazisi = SiganYazi(aylar, kAyEni, 2 * satir_, {kTabloBaslikPuntosu, true});
     const SayfaYazisi dilimYazisi = SiganYazi({u"Gündüz", u"Gece"}, kDilimEni, satir_, {kGunAdi, false});
     gunYazisi_ = SiganYazi(gunler, kGunEni - kIsaretEni, satir_, {kGunAdi, false});
     isaretYazisi_ = SiganYazi({Isaret(BaskiIsareti::Kesin), Isaret(BaskiIsareti::On)}, kIsaretEni, satir_,

@@ -43,13 +43,15 @@ class EkranPenceresi : public Diyalog {
         return Diyalog::DugmeYap(tanim.ad, ekran_.*tanim.dugme, Isle(tanim.tiklandi));
     }
 
-    /// The row of a dialog that confirms or cancels: Enter presses the first, Esc the second.
-    QHBoxLayout* TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal) {
+    /// The row of a dialog that confirms or cancels: Enter presses the first, Esc the second. Other buttons
+    /// stand at its left end.
+    QHBoxLayout* TamamIptal(const DugmeTanimi& tamam, const DugmeTanimi& iptal,
+                            std::initializer_list<QPushButton*> soldakiler = {}) {
         auto* tamamDugmesi = DugmeYap(tamam);
         auto* iptalDugmesi = DugmeYap(iptal);
         tamamDugmesi->setDefault(true);
         IptalDugmesi(iptalDugmesi);
-        return DugmeSeridi({tamamDugmesi, iptalDugmesi});
+        return DugmeSeridi({tamamDugmesi, iptalDugmesi}, soldakiler);
     }
 
     /// The buttons of a screen that keeps a list: "Ekle" and "Sil", which are 1 and 2, "Düzenle", and

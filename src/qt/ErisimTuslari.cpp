@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSet>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -29,8 +30,8 @@ constexpr QChar kNoktaliBuyukI = u'İ'; // its key brings "i" and never this sig
 constexpr QChar kKaydetTusu = u'K';
 constexpr QStringView kKaydet = u"Kaydet";
 
-/// Who chooses its key first.
-enum class Oncelik { Varsayilan, Digerleri, Iptal };
+/// Who chooses its key first. What can be reached by another key all the same takes what is left.
+enum class Oncelik { Varsayilan, Digerleri, Iptal, Yedek };
 
 /// A caption on the display.
 struct Baslik {
@@ -71,10 +72,27 @@ bool AlanAdi(const QLabel& etiket) {
     return etiket.buddy() != nullptr && etiket.buddy()->focusPolicy() != Qt::NoFocus;
 }
 
+/// A button that turns to the page of that name.
+bool SayfaAcar(const QAbstractButton& dugme) {
+    for (const auto* sayfalar : dugme.window()->findChildren<QTabWidget*>())
+        for (int i = 0; i < sayfalar->count(); ++i)
+            if (sayfalar->tabText(i).remove(u'&') == dugme.text().remove(u'&'))
+                return true;
+    return false;
+}
+
+/// Of some exclusive choices any but the first: the arrow keys lead on from that one.
+bool SonrakiSecenek(const QAbstractButton& dugme) {
+    return qobject_cast<const QRadioButton*>(&dugme) != nullptr &&
+           dugme.parentWidget()->findChild<QRadioButton*>({}, Qt::FindDirectChildrenOnly) != &dugme;
+}
+
 Oncelik DugmeninOnceligi(const QAbstractButton& dugme, const QAbstractButton* iptal) {
     const auto* basmali = qobject_cast<const QPushButton*>(&dugme);
     if (basmali != nullptr && basmali->isDefault())
         return Oncelik::Varsayilan;
+    if (SayfaAcar(dugme) || SonrakiSecenek(dugme))
+        return Oncelik::Yedek;
     return &dugme == iptal ? Oncelik::Iptal : Oncelik::Digerleri;
 }
 

@@ -16,6 +16,9 @@ namespace velora {
 /// The button that Enter presses chooses first, the one that cancels (`iptal`) last. "K" is the key of
 /// "Kaydet" and of nothing else.
 ///
+/// Where letters are too few, a button goes without that only turns to a page, and so do exclusive choices
+/// behind the first one: the tab and the arrow keys lead there.
+///
 /// No two captions that are seen at the same time share a key; those on different pages may. A caption that
 /// is marked already keeps its mark, and one for which no letter is left gets none. Costs nothing where all
 /// are marked: meant to run after every refresh.

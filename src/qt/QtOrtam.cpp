@@ -1,10 +1,12 @@
 #include "qt/QtOrtam.h"
 
 #include <algorithm>
+#include <atomic>
 
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QTimer>
 #include <QWindow>
 
 #include "qt/Baglayici.h"
@@ -68,8 +70,13 @@ Ortam QtOrtam::Ver() {
     // Windows change hands with moments of none: only a screen ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     Ortam ortam;
-    ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return Kutuda(MesajGoster, Ondeki(), kutu); };
-    ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return Kutuda(GirdiAl, Ondeki(), kutu); };
+    // A handler that the end of the program has overtaken asks nobody any more.
+    ortam.sor.mesaj = [this](const MesajKutusu& kutu) {
+        return bitti_ ? Cevap::Hayir : Kutuda(MesajGoster, Ondeki(), kutu);
+    };
+    ortam.sor.girdi = [this](const GirdiKutusu& kutu) {
+        return bitti_ ? Metin() : Kutuda(GirdiAl, Ondeki(), kutu);
+    };
     ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeri(kutu); };
     ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
     ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
@@ -80,12 +87,15 @@ Ortam QtOrtam::Ver() {
     ortam.kabuk.adresAc = AdresAc;
     ortam.kagit.olcer = SayfaOlcer();
     ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
-        return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)] { return YaziciyaBas(sayfalar, ad); });
+        return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)](const Vazgecildi& vazgecildi) {
+            return YaziciyaBas(sayfalar, ad, vazgecildi);
+        });
     };
     ortam.kagit.pdfYaz = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
                                 const std::filesystem::path& dosya) {
-        return Arkada(dosyaIscisi_,
-                      [sayfalar, ad = QMetin(isAdi), dosya] { return PdfYaz(sayfalar, ad, dosya); });
+        return Arkada(dosyaIscisi_, [sayfalar, ad = QMetin(isAdi), dosya](const Vazgecildi& vazgecildi) {
+            return PdfYaz(sayfalar, ad, dosya, vazgecildi);
+        });
     };
     ortam.olaylar.bitir = [this] { Bitir(); };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
@@ -157,6 +167,9 @@ void QtOrtam::Ac(EkranAdi ekran, const std::function<void()>& gorununce) {
         hafiza_.Yerlestir(*pencere, QMetin(EkranBul(ekran).ad));
         EkranaSigdir(*pencere);
     }
+    // A window beside the others can be used while one of them lets nobody else in, as its companion.
+    if (const QWidget* modal = QApplication::activeModalWidget(); modal != nullptr && !pencere->isModal())
+        SahibineBagla(*pencere, modal);
     std::erase_if(gosterilenler_, [pencere](const auto& biri) { return biri == nullptr || biri == pencere; });
     gosterilenler_.emplace_back(pencere);
     pencere->show();
@@ -170,6 +183,11 @@ void QtOrtam::Modal(EkranAdi ekran, const std::function<void()>& gorununce) {
     QWidget* pencere = Hazirla(ekran);
     if (pencere == nullptr)
         return;
+    // One that stands beside the others comes anew: the toolkit makes no visible window modal.
+    if (pencere->isVisible()) {
+        Sakla(ekran);
+        pencere->hide();
+    }
     const Baglayici::KullaniciBekleme bekleme;
     QEventLoop dongu;
     const KapanisGozcusu gozcu(*pencere, dongu);
@@ -215,16 +233,24 @@ std::optional<std::filesystem::path> QtOrtam::KayitYeri(const KayitYeriKutusu& k
     return yol;
 }
 
-bool QtOrtam::Arkada(Isci& isci, Isci::Is is) {
+bool QtOrtam::Arkada(Isci& isci, const std::function<bool(const Vazgecildi&)>& is) const {
     const Baglayici::KullaniciBekleme bekleme;
     QEventLoop dongu;
-    // The end of the program ends the waiting, and the job may come to its own end behind it.
+    QTimer sabir;
+    // The end of the program ends the waiting too, and the job may come to its own end behind it.
     const auto sonuc = std::make_shared<bool>(false);
-    isci.Ver(std::move(is), [sonuc, bekleyen = QPointer<QEventLoop>(&dongu)](bool tamam) {
-        *sonuc = tamam;
-        if (bekleyen != nullptr)
-            bekleyen->quit();
+    const auto gec = std::make_shared<std::atomic<bool>>(false);
+    QObject::connect(&sabir, &QTimer::timeout, &dongu, [&dongu, gec] {
+        *gec = true;
+        dongu.quit();
     });
+    sabir.start(sabir_);
+    isci.Ver([is, gec] { return is([gec] { return gec->load(); }); },
+             [sonuc, bekleyen = QPointer<QEventLoop>(&dongu)](bool tamam) {
+                 *sonuc = tamam;
+                 if (bekleyen != nullptr)
+                     bekleyen->quit();
+             });
     dongu.exec();
     return *sonuc;
 }

@@ -10,6 +10,7 @@
 
 #include "qt/Isci.h"
 #include "qt/PencereHafizasi.h"
+#include "qt/Yazici.h"
 #include "screen/Ortam.h"
 
 namespace velora {
@@ -34,6 +35,9 @@ class QtOrtam {
 
     /// Where windows are remembered; before the first is shown. Without it none is.
     void HafizaVer(PencereHafizasi hafiza) { hafiza_ = std::move(hafiza); }
+
+    /// How long a handler waits for the printer or the disk before it goes on as if they had failed.
+    void SabirVer(std::chrono::milliseconds sabir) { sabir_ = sabir; }
 
     /// Drops all windows, before the screens go.
     void PencereleriBirak();
@@ -61,7 +65,7 @@ class QtOrtam {
     void OdakVer(EkranAdi ekran, MetinBakis kontrol) const;
     std::optional<std::filesystem::path> KayitYeri(const KayitYeriKutusu& kutu);
     /// Waits for a job of another thread; events run meanwhile.
-    static bool Arkada(Isci& isci, Isci::Is is);
+    bool Arkada(Isci& isci, const std::function<bool(const Vazgecildi&)>& is) const;
     void Bitir();
 
     std::map<EkranAdi, Uretici> ureticiler_;
@@ -69,7 +73,8 @@ class QtOrtam {
     std::vector<QPointer<QWidget>> gosterilenler_; // in their order; some have gone
     PencereHafizasi hafiza_;
     QString kayitKlasoru_; // where a file was saved last
-    Isci basimIscisi_;     // a print system that hangs keeps no file waiting
+    std::chrono::milliseconds sabir_{20'000};
+    Isci basimIscisi_; // a print system that hangs keeps no file waiting
     Isci dosyaIscisi_;
     bool bitti_ = false;
 };

@@ -54,21 +54,21 @@ bool SistemAldi() {
 
 } // namespace
 
-bool YaziciyaBas(const std::vector<Sayfa>& sayfalar, const QString& isAdi) {
+bool YaziciyaBas(const std::vector<Sayfa>& sayfalar, const QString& isAdi, const Vazgecildi& vazgecildi) {
     const QPrinterInfo bilgi = QPrinterInfo::defaultPrinter();
-    if (bilgi.isNull())
+    if (bilgi.isNull()) // the toolkit would write a file of its own
         return false;
     QPrinter yazici(bilgi, QPrinter::HighResolution);
-    // Without a printer behind it the toolkit would write a file of its own.
-    if (!yazici.isValid() || yazici.outputFormat() != QPrinter::NativeFormat)
-        return false;
     yazici.setDocName(isAdi);
     yazici.setCreator(QStringLiteral("Velora"));
     yazici.setFullPage(true);
+    if (vazgecildi())
+        return false;
     return SayfalariBas(yazici, sayfalar) && SistemAldi();
 }
 
-bool PdfYaz(const std::vector<Sayfa>& sayfalar, const QString& isAdi, const std::filesystem::path& dosya) {
+bool PdfYaz(const std::vector<Sayfa>& sayfalar, const QString& isAdi, const std::filesystem::path& dosya,
+            const Vazgecildi& vazgecildi) {
     // A device or a pipe would be replaced by the file.
     std::error_code hata;
     const auto orada = std::filesystem::status(dosya, hata).type();
@@ -90,7 +90,7 @@ bool PdfYaz(const std::vector<Sayfa>& sayfalar, const QString& isAdi, const std:
     // back would fail unseen.
     QSaveFile hedef(QString::fromStdU16String(dosya.u16string()));
     return hedef.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-           hedef.write(baytlar.data()) == baytlar.size() && hedef.commit();
+           hedef.write(baytlar.data()) == baytlar.size() && !vazgecildi() && hedef.commit();
 }
 
 } // namespace velora

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "screen/Kontroller.h"
+#include "screen/Sayfa.h"
 #include "storage/RezervasyonDosyalari.h"
 
 namespace velora {
@@ -59,6 +60,13 @@ struct FormKayit {
     void Command12();    ///< "listeyi topla": the totals
     void Kaydet() const; ///< writes `OdemeDosyasi`; an empty list leaves no file
 
+    // --- the contract (SozlesmeBaskisi.cpp) ---
+    /// "Sözleşme Yazdır": asks for the number of copies, the note and the menu, and prints what the fields
+    /// show, saved or not; each copy is a job of its own. Nothing goes on once the screen has gone.
+    void Command3_Click();
+    /// The same as one file, the menu behind the contract. It needs no printer.
+    void Pdf_Click();
+
     Metin baslik = u"Yeni Kayıt";
     std::array<Metin, 4> sayfalar{u"Genel Bilgiler ", u"Ödemeler", u"Menüler", u"Hizmetler"};
     int SSTab1 = 1; ///< the page shown, 1 to 4
@@ -92,6 +100,7 @@ struct FormKayit {
     Dugme Command1{u"Oluştur", u"Rezervasyonu oluştur"};
     Dugme Command2{u"Kapat", u"Rezervasyonu Oluşturmadan Kapat"};
     Dugme Command3{u"Sözleşme Yazdır", {}};
+    Dugme Pdf{u"PDF", u"PDF dosyası olarak kaydet"};
     Dugme Command4{u"Ödemeler", u"Ödemeler Listesi / Ödeme Ekle"};
     Dugme Command7{u"Sil", u"Ödemeyi Sil", false};
     Dugme Command8{u"Ekle", u"Ödeme Ekle"};
@@ -113,6 +122,9 @@ struct FormKayit {
     /// The path of this day in the hall and year that are selected now.
     Metin GunYolu() const;
     void SayaciYaz() const;
+    /// Whether the screen still stands, behind what lets events run.
+    bool Duruyor() const;
+    bool KopyalariBas(const std::vector<Sayfa>& baskilar, const Metin& ad, double kopya) const;
 
     Program& program_;
 };

@@ -29,6 +29,7 @@
     X(FormGiderler, Pencereli)                                                                               \
     X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
+    X(FormPrint2, Penceresiz)                                                                                \
     X(FormMakbuzPrint, Pencereli)                                                                            \
     X(FormTabloPrint, Pencereli)                                                                             \
     X(FormWebteYayinla, Penceresiz)                                                                          \

@@ -104,7 +104,7 @@ struct Ortam {
         YaziOlcer olcer;
         /// Prints the pages in one job of that name on the user's default printer. Returns when the system
         /// has taken the job; while it waits it lets pending events run. False: there is no default printer,
-        /// the system didn't take the job, or the program is ending.
+        /// the system didn't take the job in time, or the program is ending.
         std::function<bool(const std::vector<Sayfa>&, const Metin& isAdi)> yazdir;
         /// Writes the pages as a PDF file of that title, its texts as texts. It waits and lets events run
         /// as printing does, and needs no printer. False: it couldn't be written, and what stood there is

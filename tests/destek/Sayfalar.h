@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/Sayfa.h"
+#include "storage/Sayi.h"
 
 namespace velora::test {
 
@@ -39,6 +40,20 @@ inline void SayfalarDuzgunOlmali(const std::vector<Sayfa>& sayfalar, double kena
             }
         }
     }
+}
+
+/// So many letters in words and lines, no two words alike.
+inline Metin UzunMetin(std::size_t harf) {
+    Metin metin;
+    for (int sira = 1; metin.size() < harf; ++sira)
+        metin += SayiMetni(sira) + (sira % 40 == 0 ? u".\r\n" : u" ğüşıöç ");
+    return metin.substr(0, harf);
+}
+
+/// Without what a page may break a text at.
+inline Metin Bosluksuz(Metin metin) {
+    std::erase_if(metin, [](char16_t harf) { return harf == u' ' || harf == u'\r' || harf == u'\n'; });
+    return metin;
 }
 
 /// All that a field shows, over all pages, its lines put together without what breaks them.

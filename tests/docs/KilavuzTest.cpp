@@ -72,10 +72,26 @@ class Kilavuz : public ::testing::Test {
 };
 
 TEST_F(Kilavuz, Chapters_go_by_task_in_the_order_of_a_desk_and_end_with_the_owners) {
-    const std::vector<std::string> bolumler{
-        "ilk-gun", "giris",   "tablo",  "yeni-rezervasyon", "odeme",       "tasima", "iptal",
-        "arama",   "rapor",   "kasa",   "uyarilar",         "acma-kapama", "yedek",  "kullanicilar",
-        "firma",   "ayarlar", "tuslar", "sozluk",           "sahibine"};
+    const std::vector<std::string> bolumler{"ilk-gun",
+                                            "giris",
+                                            "tablo",
+                                            "yeni-rezervasyon",
+                                            "sozlesme-yazdirma",
+                                            "odeme",
+                                            "tasima",
+                                            "iptal",
+                                            "arama",
+                                            "rapor",
+                                            "kasa",
+                                            "uyarilar",
+                                            "acma-kapama",
+                                            "yedek",
+                                            "kullanicilar",
+                                            "firma",
+                                            "ayarlar",
+                                            "tuslar",
+                                            "sozluk",
+                                            "sahibine"};
     EXPECT_EQ(Aralar(sayfa, "<section id=\"", "\""), bolumler);
     std::vector<std::string> icindekiler = Aralar(Aralar(sayfa, "<nav", "</nav>").at(0), "href=\"#", "\"");
     EXPECT_EQ(icindekiler, bolumler);

@@ -4,6 +4,7 @@
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "destek/Sayfalar.h"
+#include "documents/SayfaAkisi.h"
 #include "screen/Program.h"
 
 namespace velora::test {
@@ -15,104 +16,95 @@ constexpr MetinBakis kAciklamaliSayfa = uR"(--
 Unvan 60,15 90x14 18K =|Gül Düğün Salonları|
 Tarihi 153,15 42x4.2 10 >|Tarih : 03.02.2012|
 SozNo 153,19.2 42x4.2 10 >|Sözleşme No : 418|
-Baslik 15,33 180x5.1 12K =|Şartlar|
-Sozlesme 15,40.1 180x9.3 11 <|1 - Kira peşin.|2 - İçki yok.|
- 15,53.4 32x4.2 10 <|Salon İsmi|
- 47,53.4 3x4.2 10 <|:|
-CSalon 50,53.4 53x4.2 10 <|Nergis Salonu|
- 15,57.6 32x4.2 10 <|Rezervasyon Türü|
- 47,57.6 3x4.2 10 <|:|
-CTuru 50,57.6 53x4.2 10 <|Nişan|
- 15,61.9 32x4.2 10 <|Rezervasyon Tarihi|
- 47,61.9 3x4.2 10 <|:|
-CTarihi 50,61.9 53x4.2 10 <|05.05.2012|
- 15,66.1 32x4.2 10 <|Rezervasyon Saati |
- 47,66.1 3x4.2 10 <|:|
-CSaati 50,66.1 53x4.2 10 <|11:00 - 15:30|
- 15,70.3 32x4.2 10 <|Davetli Sayısı|
- 47,70.3 3x4.2 10 <|:|
-Cdavetli 50,70.3 53x4.2 10 <|350 Kişi|
- 15,74.6 32x4.2 10 <|Toplam Ücret|
- 47,74.6 3x4.2 10 <|:|
-CTutar 50,74.6 53x4.2 10 <|12500 TL|
- 15,78.8 32x4.2 10 <|Ödenen Peşinat  |
- 47,78.8 3x4.2 10 <|:|
-COdenen 50,78.8 53x4.2 10 <|2500 TL|
- 15,83 32x4.2 10 <|Kalan Ücret|
- 47,83 3x4.2 10 <|:|
-CKalan 50,83 53x4.2 10 <|10000 TL|
- 107,53.4 32x4.2 10 <|T.C.Kimlik No|
- 139,53.4 3x4.2 10 <|:|
-Ctcno 142,53.4 53x4.2 10 <|12345678901|
- 107,57.6 32x4.2 10 <|Adı - Soyadı |
- 139,57.6 3x4.2 10 <|:|
-CAdi 142,57.6 53x4.2 10 <|Ayşe Yılmaz|
- 107,61.9 32x4.2 10 <|Gelin ve Damat |
- 139,61.9 3x4.2 10 <|:|
-CGelin 142,61.9 53x4.2 10 <|Elif - Can|
- 107,66.1 32x4.2 10 <|Yöresi|
- 139,66.1 3x4.2 10 <|:|
-CYore 142,66.1 53x4.2 10 <|Tokat|
- 107,70.3 32x4.2 10 <|Telefon|
- 139,70.3 3x4.2 10 <|:|
-CTel 142,70.3 53x4.2 10 <|0212 1|
- 107,74.6 32x4.2 10 <|Cep|
- 139,74.6 3x4.2 10 <|:|
-CCep 142,74.6 53x4.2 10 <|0532 2|
- 107,78.8 32x4.2 10 <|Adres|
- 139,78.8 3x4.2 10 <|:|
-CAdres 142,78.8 53x12.7 10 <|Çay Sk. 3|
- 15,95.5 88x4.2 10K =|Kiraya Veren İmza|
- 15,109.5 88x4.2 10K =|----------------------------|
- 107,95.5 88x4.2 10K =|Kiralayan İmza|
- 107,109.5 88x4.2 10K =|----------------------------|
-Label55 15,117.7 180x4.2 10K <|Ön Açıklama :|
-Onaciklama 15,122 180x4.2 10 <|Masa düzeni U olacak.|
+Baslik 15,29 180x5.5 13K =|Şartlar|
+Sozlesme 15,36.5 180x10.2 12 <|1 - Kira peşin.|2 - İçki yok.|
+ 15,54.7 36x4.7 11 <|Salon İsmi|
+ 51,54.7 3x4.7 11 <|:|
+CSalon 54,54.7 49x4.7 11 <|Nergis Salonu|
+ 15,59.3 36x4.7 11 <|Rezervasyon Türü|
+ 51,59.3 3x4.7 11 <|:|
+CTuru 54,59.3 49x4.7 11 <|Nişan|
+ 15,64 36x4.7 11 <|Rezervasyon Tarihi|
+ 51,64 3x4.7 11 <|:|
+CTarihi 54,64 49x4.7 11 <|05.05.2012|
+ 15,68.6 36x4.7 11 <|Rezervasyon Saati |
+ 51,68.6 3x4.7 11 <|:|
+CSaati 54,68.6 49x4.7 11 <|11:00 - 15:30|
+ 15,73.3 36x4.7 11 <|Davetli Sayısı|
+ 51,73.3 3x4.7 11 <|:|
+Cdavetli 54,73.3 49x4.7 11 <|350 Kişi|
+ 15,77.9 36x4.7 11 <|Toplam Ücret|
+ 51,77.9 3x4.7 11 <|:|
+CTutar 54,77.9 49x4.7 11 <|12500 TL|
+ 15,82.6 36x4.7 11 <|Ödenen Peşinat  |
+ 51,82.6 3x4.7 11 <|:|
+COdenen 54,82.6 49x4.7 11 <|2500 TL|
+ 15,87.3 36x4.7 11 <|Kalan Ücret|
+ 51,87.3 3x4.7 11 <|:|
+CKalan 54,87.3 49x4.7 11 <|10000 TL|
+ 107,54.7 30x4.7 11 <|T.C.Kimlik No|
+ 137,54.7 3x4.7 11 <|:|
+Ctcno 140,54.7 55x4.7 11 <|12345678901|
+ 107,59.3 30x4.7 11 <|Adı - Soyadı |
+ 137,59.3 3x4.7 11 <|:|
+CAdi 140,59.3 55x4.7 11 <|Ayşe Yılmaz|
+ 107,64 30x4.7 11 <|Gelin ve Damat |
+ 137,64 3x4.7 11 <|:|
+CGelin 140,64 55x4.7 11 <|Elif - Can|
+ 107,68.6 30x4.7 11 <|Yöresi|
+ 137,68.6 3x4.7 11 <|:|
+CYore 140,68.6 55x4.7 11 <|Tokat|
+ 107,73.3 30x4.7 11 <|Telefon|
+ 137,73.3 3x4.7 11 <|:|
+CTel 140,73.3 55x4.7 11 <|0212 1|
+ 107,77.9 30x4.7 11 <|Cep|
+ 137,77.9 3x4.7 11 <|:|
+CCep 140,77.9 55x4.7 11 <|0532 2|
+ 107,82.6 30x4.7 11 <|Adres|
+ 137,82.6 3x4.7 11 <|:|
+CAdres 140,82.6 55x14 11 <|Çay Sk. 3|
+ 15,104.6 88x4.2 10K =|Kiraya Veren İmza|
+ 15,118.6 88x4.2 10K =|----------------------------|
+ 107,104.6 88x4.2 10K =|Kiralayan İmza|
+ 107,118.6 88x4.2 10K =|----------------------------|
+Label55 15,130.8 180x5.1 12K <|Ön Açıklama :|
+Onaciklama 15,135.9 180x5.1 12 <|Masa düzeni U olacak.|
 )";
 
 // Of the page with the note, from the last rule to sign on.
-constexpr MetinBakis kSenetinYeri = uR"( 107,109.5 88x4.2 10K =|----------------------------|
- 19,121.7 60.2x4.2 10 =|    Ödeme Tarihi    |
- 79.2,121.7 60.2x4.2 10 =|    Türk Lirası    |
- 139.4,121.7 25.8x4.2 10 =|  Kuruş  |
- 165.2,121.7 25.8x4.2 10 =| No |
- 25,127.5 48.2x4.2 10 <|...........................|
- 85.2,127.5 48.2x4.2 10 <|...........................|
- 142,127.5 20.6x4.2 10 <|...........|
- 167.8,127.5 20.6x4.2 10 <|...........|
- 19,133.2 172x5.9 7 <|İş bu emre muharrer senedim................ mukabilinde|.......................................................................................... tarihinde|
- 19,140.6 172x5.9 7 <|Bay..............................................................................................................................veya emrü|Havale..............................|
- 19,148 172x5.9 7 <|yukarıda yazılı Yanlız.....................................................TL..........Krş. Ödeyeceği...........Bedeli ............|ahzolunmuştur.|
-Label38 19,155.5 172x4.2 10 <|Otuz sekiz|
-Label50 19,161.2 172x4.2 10 <|TOKAT Mahkemeleri|
- 19,166.9 26x4.2 10 <|Adı - Soyadı|
- 45,166.9 3x4.2 10 <|:|
- 48,166.9 85x4.2 10 <|................................................|
- 143,166.9 48x4.2 10 =|İMZA|
- 19,172.7 26x4.2 10 <|Adresi|
- 45,172.7 3x4.2 10 <|:|
- 48,172.7 85x4.2 10 <|................................................|
- 45,178.4 3x4.2 10 <|:|
- 48,178.4 85x4.2 10 <|................................................|
- 19,184.1 26x4.2 10 <|Tel & Gsm|
- 45,184.1 3x4.2 10 <|:|
- 48,184.1 85x4.2 10 <|................................................|
- 143,184.1 48x4.2 10 <|---------------------------|
-Senet 15,117.7 180x74.6 []
+constexpr MetinBakis kSenetinYeri = uR"( 107,118.6 88x4.2 10K =|----------------------------|
+ 19,193.4 60.2x4.2 10 =|    Ödeme Tarihi    |
+ 79.2,193.4 60.2x4.2 10 =|    Türk Lirası    |
+ 139.4,193.4 25.8x4.2 10 =|  Kuruş  |
+ 165.2,193.4 25.8x4.2 10 =| No |
+ 25,200.8 48.2x4.2 10 <|...........................|
+ 85.2,200.8 48.2x4.2 10 <|...........................|
+ 142,200.8 20.6x4.2 10 <|...........|
+ 167.8,200.8 20.6x4.2 10 <|...........|
+ 19,209.2 172x5.9 7 <|İş bu emre muharrer senedim................ mukabilinde|.......................................................................................... tarihinde|
+ 19,218.3 172x5.9 7 <|Bay..............................................................................................................................veya emrü|Havale..............................|
+ 19,227.5 172x5.9 7 <|yukarıda yazılı Yanlız.....................................................TL..........Krş. Ödeyeceği...........Bedeli ............|ahzolunmuştur.|
+Label38 19,236.6 172x4.2 10 <|Otuz sekiz|
+Label50 19,244 172x4.2 10 <|TOKAT Mahkemeleri|
+ 19,251.5 26x4.2 10 <|Adı - Soyadı|
+ 45,251.5 3x4.2 10 <|:|
+ 48,251.5 85x4.2 10 <|................................................|
+ 143,251.5 48x4.2 10 =|İMZA|
+ 19,258.9 26x4.2 10 <|Adresi|
+ 45,258.9 3x4.2 10 <|:|
+ 48,258.9 85x4.2 10 <|................................................|
+ 45,266.3 3x4.2 10 <|:|
+ 48,266.3 85x4.2 10 <|................................................|
+ 19,273.8 26x4.2 10 <|Tel & Gsm|
+ 45,273.8 3x4.2 10 <|:|
+ 48,273.8 85x4.2 10 <|................................................|
+ 143,273.8 48x4.2 10 <|---------------------------|
+ 19,192.4 60.2x13.7 []
+ 79.2,192.4 60.2x13.7 []
+ 139.4,192.4 25.8x13.7 []
+ 165.2,192.4 25.8x13.7 []
+Senet 15,189.4 180x92.6 []
 )";
-
-/// So many letters in words and lines, no two words alike.
-Metin UzunMetin(std::size_t harf) {
-    Metin metin;
-    for (int sira = 1; metin.size() < harf; ++sira)
-        metin += SayiMetni(sira) + (sira % 40 == 0 ? u".\r\n" : u" ğüşıöç ");
-    return metin.substr(0, harf);
-}
-
-Metin Bosluksuz(Metin metin) {
-    std::erase_if(metin, [](char16_t harf) { return harf == u' ' || harf == u'\r' || harf == u'\n'; });
-    return metin;
-}
 
 } // namespace
 
@@ -188,7 +180,7 @@ TEST_F(FormPrintTest, Every_field_has_its_place_from_top_to_bottom) {
 
 TEST_F(FormPrintTest, The_note_takes_the_place_of_the_remark) {
     sayfa.Senet = true;
-    EXPECT_EQ(MetniSuradan(u" 107,109.5 "), kSenetinYeri);
+    EXPECT_EQ(MetniSuradan(u" 107,118.6 "), kSenetinYeri);
 }
 
 TEST_F(FormPrintTest, The_sentences_of_the_note_stand_whole_in_their_order) {
@@ -234,15 +226,41 @@ TEST_F(FormPrintTest, The_eight_clauses_of_a_new_firm_fit_on_one_sheet_with_the_
 }
 
 TEST_F(FormPrintTest, Clauses_get_smaller_before_they_go_on_to_another_sheet) {
-    EXPECT_EQ(MaddePuntosu(), 11);
+    EXPECT_EQ(MaddePuntosu(), 12);
     sayfa.Senet = true;
     sayfa.Sozlesme.baslik = UzunMetin(2000);
     EXPECT_EQ(Sayfalar().size(), 1U);
-    EXPECT_LT(MaddePuntosu(), 11);
-    EXPECT_GT(MaddePuntosu(), 8);
+    EXPECT_LT(MaddePuntosu(), 12);
+    EXPECT_GE(MaddePuntosu(), 8);
+    // What goes over all the same is as large as it can be there.
     sayfa.Sozlesme.baslik = UzunMetin(5000);
     EXPECT_EQ(Sayfalar().size(), 2U);
-    EXPECT_EQ(MaddePuntosu(), 8);
+    EXPECT_GT(MaddePuntosu(), 10);
+    sayfa.Sozlesme.baslik = UzunMetin(9500);
+    EXPECT_EQ(Sayfalar().size(), 2U);
+    EXPECT_LE(MaddePuntosu(), 9);
+}
+
+TEST_F(FormPrintTest, Several_sheets_tell_the_contract_and_their_number_and_one_does_not) {
+    sayfa.Sozlesme.baslik = UzunMetin(16000);
+    const std::vector<Sayfa> sayfalar = Sayfalar();
+    ASSERT_EQ(sayfalar.size(), 3U);
+    EXPECT_EQ(sayfalar[0].parcalar.back().satirlar, std::vector<Metin>{u"Sözleşme No : 418  -  1 / 3"});
+    EXPECT_EQ(sayfalar[2].parcalar.back().satirlar, std::vector<Metin>{u"Sözleşme No : 418  -  3 / 3"});
+    HepsiGorunmeli(sayfa.Sozlesme, u"Sozlesme");
+    sayfa.Sozlesme.baslik = u"Kısa";
+    EXPECT_EQ(SayfalarMetni(Sayfalar()).find(u"1 / 1"), Metin::npos);
+}
+
+TEST_F(FormPrintTest, The_note_stands_at_the_foot_of_its_sheet_to_be_cut_off) {
+    sayfa.Senet = true;
+    for (const std::size_t harf : {30, 1500}) {
+        sayfa.Sozlesme.baslik = UzunMetin(harf);
+        const std::vector<Sayfa> sayfalar = Sayfalar();
+        ASSERT_EQ(sayfalar.size(), 1U);
+        EXPECT_EQ(sayfalar[0].parcalar.back().ad, u"Senet");
+        EXPECT_NEAR(sayfalar[0].parcalar.back().yer.Alt(), kSayfaBoyu - SayfaAkisi::kKenar, 1e-6);
+    }
 }
 
 TEST_F(FormPrintTest, Five_thousand_letters_of_clauses_or_of_a_remark_lose_none) {

@@ -7,6 +7,8 @@
 #include "access/Splash.h"
 #include "destek/Eylemler.h"
 #include "destek/Kullanici.h"
+#include "destek/Sayfalar.h"
+#include "documents/FormPrint.h"
 #include "online/FormFirma.h"
 
 namespace velora::test {
@@ -35,6 +37,18 @@ class FormSozlesmeTest : public ::testing::Test {
 
     FormSozlesme& Ekran() { return *program.FormSozlesme.Tut(); }
 
+    /// The contract of "Nergis" with its two clauses and of nobody.
+    static void OrnekOlmali(const std::vector<Sayfa>& sayfalar) {
+        EXPECT_EQ(BosluksuzMetin(sayfalar, u"Unvan"), u"Nergis");
+        EXPECT_EQ(BosluksuzMetin(sayfalar, u"Baslik"), u"Kurallar");
+        EXPECT_EQ(BosluksuzMetin(sayfalar, u"Sozlesme"), u"1-Nakit.2-Peşin.");
+        int yerTutucular = 0;
+        for (const SayfaParcasi& parca : sayfalar.at(0).parcalar)
+            yerTutucular += parca.satirlar == std::vector<Metin>{u"xxx"} ? 1 : 0;
+        EXPECT_EQ(yerTutucular, 17) << "date, number, eight details at the left, seven at the right";
+        EXPECT_EQ(BosluksuzMetin(sayfalar, u"Onaciklama"), u"");
+    }
+
     GeciciAgac agac;
     SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{3}, std::chrono::day{5}}};
     Program program{ortam.Ver(), agac.Kok()};
@@ -53,6 +67,9 @@ TEST_F(FormSozlesmeTest, The_controls_have_their_captions) {
     EXPECT_EQ(Ekran().Sehir.baslik, u"Şehir");
     EXPECT_EQ(Ekran().Baslik.baslik, u"Başlık");
     EXPECT_EQ(Ekran().Sozlesme.baslik, u"Sözleşme");
+    EXPECT_EQ(Ekran().Command1.baslik, u"Örnek Baskı");
+    EXPECT_EQ(Ekran().Pdf.baslik, u"PDF");
+    EXPECT_EQ(Ekran().Pdf.ipucu, u"PDF dosyası olarak kaydet");
     EXPECT_EQ(Ekran().Command2.baslik, u"Kaydet");
     EXPECT_EQ(Ekran().Command3.baslik, u"İptal");
 }
@@ -166,6 +183,48 @@ TEST_F(FormSozlesmeTest, A_print_reads_it_afresh_but_with_what_is_typed_while_it
     EXPECT_EQ(TazeSozlesme(program)->Baslik.metin, u"Yazılan");
     VELORA_BAS(program.FormSozlesme, Command3);
     EXPECT_EQ(TazeSozlesme(program)->Baslik.metin, u"Şartlar, Gül");
+}
+
+TEST_F(FormSozlesmeTest, A_sample_shows_what_is_typed_and_placeholders_for_all_else_and_is_printed_once) {
+    AlanaYaz(Ekran().Unvan, u"Nergis");
+    AlanaYaz(Ekran().Baslik, u"Kurallar");
+    SatirlaraYaz(Ekran().Sozlesme, u"1 - Nakit.\r\n2 - Peşin.");
+    ortam.Bekle(BeklenenBaski{.isAdi = u"Örnek Sözleşme"});
+    VELORA_BAS(program.FormSozlesme, Command1);
+    ASSERT_EQ(ortam.basilanlar.size(), 1U);
+    OrnekOlmali(ortam.basilanlar[0].sayfalar);
+    EXPECT_EQ(agac.Bayt(u"Sozlesme.dat"), kSartlar);
+    EXPECT_TRUE(program.FormSozlesme.Yuklu());
+}
+
+TEST_F(FormSozlesmeTest, A_sample_never_shows_the_last_customer_and_leaves_nothing_for_the_next) {
+    const auto dolu = program.FormPrint.Tut();
+    dolu->CAdi.baslik = u"Ayşe Yılmaz";
+    dolu->Senet = dolu->Onaciklama.gorunur = true;
+    AlanaYaz(Ekran().Unvan, u"Nergis");
+    AlanaYaz(Ekran().Baslik, u"Kurallar");
+    SatirlaraYaz(Ekran().Sozlesme, u"1 - Nakit.\r\n2 - Peşin.");
+    ortam.Bekle(BeklenenKayitYeri{.ad = u"Örnek Sözleşme.pdf", .secilen = "/yer/örnek.pdf"});
+    VELORA_BAS(program.FormSozlesme, Pdf);
+    ASSERT_EQ(ortam.pdfler.size(), 1U);
+    EXPECT_EQ(ortam.pdfler[0].dosya, "/yer/örnek.pdf");
+    OrnekOlmali(ortam.pdfler[0].sayfalar);
+    EXPECT_EQ(program.FormPrint->Unvan.baslik, u"xxx");
+}
+
+TEST_F(FormSozlesmeTest, Without_a_printer_the_sample_fails_in_silence_on_purpose) {
+    ortam.Bekle(BeklenenBaski{.isAdi = u"Örnek Sözleşme", .basilir = false});
+    Ekran();
+    VELORA_BAS(program.FormSozlesme, Command1);
+    EXPECT_TRUE(program.FormSozlesme.Yuklu());
+}
+
+TEST_F(FormSozlesmeTest, A_sample_bears_that_its_screen_goes_while_it_is_made) {
+    ortam.olayda = [&](int) { program.FormSozlesme.Bosalt(); };
+    ortam.Bekle(BeklenenBaski{.isAdi = u"Örnek Sözleşme"});
+    Ekran();
+    VELORA_BAS(program.FormSozlesme, Command1);
+    EXPECT_FALSE(program.FormSozlesme.Yuklu());
 }
 
 TEST(SozlesmeGirdisi, Opens_it_with_the_firm_as_the_profile_has_it_now) {

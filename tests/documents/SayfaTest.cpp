@@ -78,7 +78,7 @@ TEST(SayfaAkisi, What_does_not_fit_under_the_rest_begins_a_page_and_a_long_text_
 }
 
 TEST(SayfaAkisi, A_text_that_flows_has_what_stands_beside_it_on_the_page_of_its_first_line) {
-    SayfaAkisi akis(EsitEnli, 40);
+    SayfaAkisi akis(EsitEnli, 0, 40);
     akis.Bosluk(297 - 2 * 40 - 3); // no line fits any more
     const SayfaParcasi baslik{ParcaTuru::Yazi, u"b", {0, 0, 30, 9}, {12, true}, Hiza::Sol, {u"Ad"}};
     SayfaParcasi metin{ParcaTuru::Yazi, u"m", {50, 0, 60, 0}, {10, false}, Hiza::Sol, {}};

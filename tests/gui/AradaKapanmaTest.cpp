@@ -8,6 +8,7 @@
 
 #include "access/Splash.h"
 #include "documents/FormPrint.h"
+#include "documents/FormPrint2.h"
 #include "gui/Diyaloglar.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
@@ -153,6 +154,7 @@ Sonuc AradaKapat(GuiFirma& firma, const Diyalog& diyalog, std::size_t basilan, i
 
 void HalkiDoldur(GuiFirma& firma) {
     firma.agac.KoyMetin(u"Menuler.dat", u"\"Kına\",\"Meşrubat\"\r\n");
+    firma.agac.KoyMetin(u"Sozlesme.dat", u"\"Kurallar\",\"1 - Kira\"\r\n");
     firma.agac.Koy(u"User.dll", "\"can\",\"c9\",1,1,1,1,1,1,1,1,1,0,1\r\n");
     firma.Rezervasyon(kSalonA, u"10.05.2026 - Gece", true);
     firma.Ac();

@@ -109,6 +109,7 @@ BaskiKuyrugu::BaskiKuyrugu() {
 }
 
 BaskiKuyrugu::~BaskiKuyrugu() {
+    Uyandir();
     servis_.terminate();
     if (!servis_.waitForFinished(kBaslamaMs)) {
         servis_.kill();
@@ -155,6 +156,14 @@ bool BaskiKuyrugu::Basla() {
 
 void BaskiKuyrugu::Komut(const char* program) {
     Cikti(QString::fromLatin1(program), {kKuyruk});
+}
+
+void BaskiKuyrugu::Uyut() const {
+    kill(static_cast<pid_t>(servis_.processId()), SIGSTOP);
+}
+
+void BaskiKuyrugu::Uyandir() const {
+    kill(static_cast<pid_t>(servis_.processId()), SIGCONT);
 }
 
 void BaskiKuyrugu::KuyruguSil() {

@@ -26,6 +26,9 @@ class BaskiKuyrugu {
 
     /// A command of the service on the queue, as "cupsreject".
     static void Komut(const char* program);
+    /// The service answers nobody, until it goes on.
+    void Uyut() const;
+    void Uyandir() const;
     /// The queue goes; then there is no printer.
     static void KuyruguSil();
 

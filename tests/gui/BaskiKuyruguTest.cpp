@@ -154,6 +154,21 @@ class BaskiKuyruguTest : public QObject {
         QVERIFY(!kuyruk_->Basilan(1).empty());
     }
 
+    void a_job_that_nobody_waits_for_any_more_is_not_printed_later() {
+        disDunya_->SabirVer(std::chrono::milliseconds(300));
+        kuyruk_->Uyut();
+        QElapsedTimer sure;
+        sure.start();
+        QVERIFY(!ortam_.kagit.yazdir(Sayfalar(), Metin(kIsAdi)));
+        QVERIFY2(sure.elapsed() > 200 && sure.elapsed() < 2000, qPrintable(QString::number(sure.elapsed())));
+        kuyruk_->Uyandir();
+        QVERIFY2(disDunya_->IslerBitti(), "it goes on with the service");
+        QVERIFY(!std::filesystem::exists(kuyruk_->Verilen(1)));
+        disDunya_->SabirVer(std::chrono::seconds(20));
+        QVERIFY(ortam_.kagit.yazdir(Sayfalar(), Metin(kIsAdi)));
+        QVERIFY(std::filesystem::exists(kuyruk_->Verilen(1)));
+    }
+
     void a_service_without_a_printer_is_a_failure_at_once() {
         BaskiKuyrugu::KuyruguSil();
         QElapsedTimer sure;

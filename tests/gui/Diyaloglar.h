@@ -140,12 +140,12 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command1",
      "Command2",
      {"Kay1 Kay2 Kay3 Kay4 Kay5 Kay6 Kay7 Kay8 Command4 Kay11 Kay12 Kay15 Kay13 Kay14 Kay16 Kay17 Option1 "
-      "Check18 Check19 Command1 Command2 qt_tabwidget_tabbar",
-      "Liste Command8 Command1 Command2 qt_tabwidget_tabbar",
-      "Combo1 Label20 Aciklamalar Command1 Command2 qt_tabwidget_tabbar",
+      "Check18 Check19 Command3 Pdf Command1 Command2 qt_tabwidget_tabbar",
+      "Liste Command8 Command3 Pdf Command1 Command2 qt_tabwidget_tabbar",
+      "Combo1 Label20 Aciklamalar Command3 Pdf Command1 Command2 qt_tabwidget_tabbar",
       "Check1 Check2 Check3 Check4 Check5 Check6 Check7 Check8 Check9 Check10 Check11 Check12 Check13 "
       "Check14 "
-      "Check15 Check16 Check17 Command1 Command2 qt_tabwidget_tabbar"}},
+      "Check15 Check16 Check17 Command3 Pdf Command1 Command2 qt_tabwidget_tabbar"}},
     {EkranAdi::FormOdemeAl,
      EkraniAc<&Program::FormOdemeAl>,
      "Command1",
@@ -186,7 +186,7 @@ inline constexpr Diyalog kDiyaloglar[]{
      EkraniAc<&Program::FormSozlesme>,
      "Command2",
      "Command3",
-     {"Sozlesme Command2 Command3 Unvan Sehir Baslik"}},
+     {"Sozlesme Command1 Pdf Command2 Command3 Unvan Sehir Baslik"}},
     {EkranAdi::FormMakbuzPrint,
      EkraniAc<&Program::FormMakbuzPrint>,
      "Command1",

@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -38,6 +39,12 @@ void AdVer(QFileDialog& kutu, const QString& ad) {
 QString Okunusu(QWidget& parca) {
     const QAccessibleInterface* arayuz = QAccessible::queryAccessibleInterface(&parca);
     return arayuz == nullptr ? QString() : arayuz->text(QAccessible::Name);
+}
+
+/// The caption that it finds for one.
+QString Etiketi(QWidget& parca) {
+    const auto bagliler = QAccessible::queryAccessibleInterface(&parca)->relations(QAccessible::Label);
+    return bagliler.isEmpty() ? QString() : bagliler.first().first->text(QAccessible::Name);
 }
 
 QString Klasoru(const QFileDialog& kutu) {
@@ -94,6 +101,8 @@ class KayitYeriTest : public QObject {
                 if (const auto* etiket = qobject_cast<QLabel*>(parca))
                     yazilar << Isaretsiz(etiket->text());
             }
+            QCOMPARE(Etiketi(Parcasi<QComboBox>(kutu, "lookInCombo")), QStringLiteral("Klasör:"));
+            QCOMPARE(Etiketi(Parcasi<QComboBox>(kutu, "fileTypeCombo")), QStringLiteral("Dosya türü:"));
             yazilar.removeAll(QString());
             yazilar.sort();
             QCOMPARE(yazilar, QStringList({"Ayrıntılı Görünüm", "Dosya adı:", "Dosya türü:", "Geri", "Kaydet",

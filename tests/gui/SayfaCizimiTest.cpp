@@ -105,6 +105,9 @@ class SayfaCizimiTest : public QObject {
         }
         QVERIFY(taze(u"Ağustos", {9, true}) > taze(u"Ağustos", {9, false}));
         QCOMPARE(taze(u"", {9, false}), 0.0);
+        QCOMPARE(taze(u"bir\tiki\x07üç\u00ADdört", {9, false}), taze(u"bir iki üç-dört", {9, false}));
+        // A long dash is as wide as its letters are high, and 72 points are an inch.
+        QVERIFY(std::abs(taze(u"———", {24, false}) - 25.4) < 0.1);
     }
 
     void a_line_stands_at_its_side_of_its_place() {

@@ -146,6 +146,15 @@ class YaziciTest : public QObject {
             PdfBilgisi(agac_.Yol(u"uzun.pdf")).contains(QRegularExpression(QStringLiteral("Pages: +400\n"))));
     }
 
+    void a_file_that_nobody_waits_for_any_more_leaves_what_stood_there() {
+        agac_.Koy(u"eski.pdf", "yesterday's contract");
+        disDunya_->SabirVer(std::chrono::milliseconds(1));
+        QVERIFY(!ortam_.kagit.pdfYaz(std::vector<Sayfa>(400, OrnekYuz(u"Geç")), Metin(kAd),
+                                     agac_.Yol(u"eski.pdf")));
+        QVERIFY(disDunya_->IslerBitti());
+        QCOMPARE(agac_.Bayt(u"eski.pdf"), std::string("yesterday's contract"));
+    }
+
     void nothing_to_print_is_no_job() {
         QVERIFY(!ortam_.kagit.pdfYaz({}, Metin(kAd), agac_.Yol(u"bos.pdf")));
         QVERIFY(!agac_.Var(u"bos.pdf"));

@@ -45,6 +45,12 @@ TEST_F(KayitBasliklariTest, Fields_of_the_first_page) {
           {Kayit().Check19.baslik, u"Bu Tarihte Hatırlat"}});
 }
 
+TEST_F(KayitBasliklariTest, The_buttons_of_the_contract) {
+    Ayni({{Kayit().Command3.baslik, u"Sözleşme Yazdır"},
+          {Kayit().Pdf.baslik, u"PDF"},
+          {Kayit().Pdf.ipucu, u"PDF dosyası olarak kaydet"}});
+}
+
 TEST_F(KayitBasliklariTest, Pages_and_what_stands_on_the_other_ones) {
     EXPECT_EQ(Kayit().sayfalar,
               (std::array<Metin, 4>{u"Genel Bilgiler ", u"Ödemeler", u"Menüler", u"Hizmetler"}));

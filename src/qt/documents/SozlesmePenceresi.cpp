@@ -22,8 +22,11 @@ SozlesmePenceresi::SozlesmePenceresi(Program& program) : EkranPenceresi(program.
     SatirEkle<QLineEdit>(*form, QStringLiteral("Baslik"), Model().Baslik);
     SatirEkle<QPlainTextEdit>(*form, QStringLiteral("Sozlesme"), Model().Sozlesme);
     sutun->addLayout(form, 1);
+    auto* ornek = DugmeYap({"Command1", &FormSozlesme::Command1, &FormSozlesme::Command1_Click});
+    auto* pdf = DugmeYap({"Pdf", &FormSozlesme::Pdf, &FormSozlesme::Pdf_Click});
     sutun->addLayout(TamamIptal({"Command2", &FormSozlesme::Command2, &FormSozlesme::Command2_Click},
-                                {"Command3", &FormSozlesme::Command3, &FormSozlesme::Command3_Click}));
+                                {"Command3", &FormSozlesme::Command3, &FormSozlesme::Command3_Click},
+                                {ornek, pdf}));
     resize(720, 480);
     IlkOdak("Sozlesme");
 }

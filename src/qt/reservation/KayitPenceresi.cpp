@@ -61,8 +61,11 @@ KayitPenceresi::KayitPenceresi(Program& program)
     for (QWidget* sayfa : {GenelSayfasi(), OdemeSayfasi(), MenuSayfasi(), HizmetSayfasi()})
         sayfalar_->addTab(sayfa, QMetin(Model().sayfalar[no++]));
     // Behind the pages for the Tab key too.
+    auto* yazdir = DugmeYap({"Command3", &FormKayit::Command3, &FormKayit::Command3_Click});
+    auto* pdf = DugmeYap({"Pdf", &FormKayit::Pdf, &FormKayit::Pdf_Click});
     sutun->addLayout(TamamIptal({"Command1", &FormKayit::Command1, &FormKayit::Command1_Click},
-                                {"Command2", &FormKayit::Command2, &FormKayit::Command2_Click}));
+                                {"Command2", &FormKayit::Command2, &FormKayit::Command2_Click},
+                                {yazdir, pdf}));
     connect(sayfalar_, &QTabWidget::tabBarClicked, this,
             [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     connect(sayfalar_, &QTabWidget::currentChanged, this,
