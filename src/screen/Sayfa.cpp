@@ -15,11 +15,20 @@ constexpr double kYazilanOnluk = 10.0; // places are told to a tenth
 
 /// Up to which sign of a line's text it is no wider than it may be; at least one, or nothing would move on.
 std::size_t SiganHarf(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer) {
+    // Of a long text a line holds little: all that is left isn't measured for each.
+    constexpr std::size_t kTahmin = 128;
+    const auto sigar = [&](std::size_t harf) {
+        return olcer(metin.substr(0, harf), yazi) <= en + kYuvarlama;
+    };
     std::size_t sigan = 1;
-    std::size_t sigmayan = metin.size() + 1;
+    std::size_t sigmayan = std::min(kTahmin, metin.size() + 1);
+    while (sigmayan <= metin.size() && sigar(sigmayan)) {
+        sigan = sigmayan;
+        sigmayan = std::min(2 * sigmayan, metin.size() + 1);
+    }
     while (sigmayan - sigan > 1) {
         const std::size_t orta = sigan + (sigmayan - sigan) / 2;
-        (olcer(metin.substr(0, orta), yazi) <= en + kYuvarlama ? sigan : sigmayan) = orta;
+        (sigar(orta) ? sigan : sigmayan) = orta;
     }
     return sigan;
 }

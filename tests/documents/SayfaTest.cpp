@@ -31,6 +31,19 @@ TEST(SatirlaraBol, A_word_wider_than_the_line_is_broken_within) {
     EXPECT_EQ(Bol(u"abc", 0.5), (Satirlar{u"a", u"b", u"c"})) << "no line is too narrow to go on";
 }
 
+TEST(SatirlaraBol, A_line_holds_as_many_letters_as_fit_however_many_these_are) {
+    const Metin metin(1000, u'a');
+    for (const std::size_t en : {1U, 127U, 128U, 129U, 255U, 256U, 257U, 300U, 999U, 1000U, 1500U}) {
+        const Satirlar satirlar = Bol(metin, static_cast<double>(en));
+        EXPECT_EQ(satirlar.size(), (metin.size() + en - 1) / en) << en;
+        EXPECT_EQ(satirlar.front().size(), std::min(en, metin.size()));
+        Metin hepsi;
+        for (const Metin& satir : satirlar)
+            hepsi += satir;
+        EXPECT_EQ(hepsi, metin);
+    }
+}
+
 TEST(SatirlaraBol, Keeps_its_line_ends_of_any_kind_and_the_blanks_before_a_line) {
     EXPECT_EQ(Bol(u"a\r\n\r\n  b\nc\rd", 9), (Satirlar{u"a", u"", u"  b", u"c", u"d"}));
     EXPECT_EQ(Bol(u"  abcdef", 5), (Satirlar{u"  abc", u"def"}));
