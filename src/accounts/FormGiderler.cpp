@@ -4,6 +4,8 @@
 #include "accounts/FormKasaEkle.h"
 #include "accounts/KasaListesi.h"
 #include "accounts/RaporAlanlari.h"
+#include "documents/Baski.h"
+#include "documents/FormMakbuzPrint.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
 #include "storage/Sayi.h"
@@ -19,7 +21,7 @@ FormGiderler::FormGiderler(Program& program) : Liste(KasaListesi(u"Giderler")), 
     DTPicker2.baslik = u"Bitiş Tarihi";
     DTPicker4.baslik = u"Bu Gün";
     Giderler.once = u"Gider Toplamı";
-    Liste.secimDugmeleri.dugmeler = {&Command4};
+    Liste.secimDugmeleri.dugmeler = {&Command2, &Command4};
     Combo2.tiklandi = [this] { ListeleGun(); };
     DTPicker3.degisti = [this] { DTPicker3_Change(); };
 }
@@ -71,6 +73,20 @@ void FormGiderler::ListeleGun() {
 
 void FormGiderler::Liste_Click() {
     Liste.secimDugmeleri.Ac(true);
+}
+
+void FormGiderler::Command2_Click() {
+    const ListeSatiri* satir = Liste.Secili();
+    if (satir == nullptr)
+        return;
+    const Metin& tarih = satir->sutun[KasaSutunu::Tarih];
+    const Metin& aciklama = satir->sutun[KasaSutunu::Aciklama];
+    MakbuzGoster(program_, {.tur = MakbuzTuru::Gider,
+                            .tarih = tarih,
+                            .tutar = TutarDegeri(satir->sutun[KasaSutunu::Tutar]),
+                            .aciklama = aciklama,
+                            .adSoyad = program_.FormTablo->UserNamem,
+                            .isAdi = BaskiAdi({tarih, Combo2.Metni(), aciklama, u"Gider Makbuzu"})});
 }
 
 void FormGiderler::Command3_Click() {

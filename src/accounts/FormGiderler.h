@@ -20,6 +20,7 @@ struct FormGiderler {
     void DTPicker3_Change(); ///< the range becomes the whole year
     void ListeleGun();
     void Liste_Click();
+    void Command2_Click(); ///< "Makbuz"
     void Command3_Click(); ///< "Ekle"
     void Command4_Click(); ///< "Sil"
     /// "Kaydet": the rows become the file, which goes when the range then holds none. A file that is there
@@ -38,6 +39,7 @@ struct FormGiderler {
     ListeGorunumu Liste;
     Etiket Giderler; ///< "Gider Toplamı"
 
+    Dugme Command2{u"Makbuz", {}, false};
     Dugme Command3{u"Ekle", {}};
     Dugme Command4{u"Sil", {}, false};
     Dugme Kaydet{u"Kaydet", {}};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace velora {
 
@@ -46,7 +47,7 @@ void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
     const double boy = EnAlt(blok);
     YerAc(boy);
     for (SayfaParcasi& parca : blok) {
-        parca.yer.sol += kKenar;
+        parca.yer.sol += kenar_;
         parca.yer.ust += ust_;
         sayfalar_.back().parcalar.push_back(std::move(parca));
     }
@@ -54,14 +55,21 @@ void SayfaAkisi::Koy(std::vector<SayfaParcasi> blok) {
 }
 
 void SayfaAkisi::Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi) {
-    const auto satirlar = SatirlaraBol(metin, kEn, yazi, olcer_);
-    const double satirBoyu = SatirBoyu(yazi);
-    for (auto ilk = satirlar.begin(); ilk != satirlar.end();) {
-        YerAc(satirBoyu);
+    const double en = kSayfaEni - 2 * kenar_;
+    Akit({ParcaTuru::Yazi, ad, {0, 0, en, 0}, yazi, Hiza::Sol, SatirlaraBol(metin, en, yazi, olcer_)});
+}
+
+void SayfaAkisi::Akit(const SayfaParcasi& parca, std::vector<SayfaParcasi> yaninda) {
+    const double satirBoyu = SatirBoyu(parca.yazi);
+    for (auto ilk = parca.satirlar.begin(); ilk != parca.satirlar.end();) {
+        YerAc(std::max(satirBoyu, EnAlt(yaninda)));
         const auto sigan = static_cast<std::ptrdiff_t>((Kalan() + kPay) / satirBoyu);
-        const auto son = ilk + std::min(sigan, satirlar.end() - ilk);
-        const double boy = static_cast<double>(son - ilk) * satirBoyu;
-        Koy({{ParcaTuru::Yazi, ad, {0, 0, kEn, boy}, yazi, Hiza::Sol, {ilk, son}}});
+        const auto son = ilk + std::min(std::max(sigan, std::ptrdiff_t{1}), parca.satirlar.end() - ilk);
+        SayfaParcasi dilim = parca;
+        dilim.yer.boy = static_cast<double>(son - ilk) * satirBoyu;
+        dilim.satirlar.assign(ilk, son);
+        yaninda.push_back(std::move(dilim));
+        Koy(std::exchange(yaninda, {}));
         ilk = son;
     }
 }
@@ -72,13 +80,13 @@ void SayfaAkisi::YerAc(double boy) {
     // A block that is higher than a page still goes on one, not behind empty ones.
     if (!sayfalar_.back().parcalar.empty())
         sayfalar_.emplace_back();
-    ust_ = kKenar;
+    ust_ = kenar_;
 }
 
 void SayfaAkisi::DibeKoy(std::vector<SayfaParcasi> blok) {
     const double boy = EnAlt(blok);
     YerAc(boy);
-    if (ust_ > kKenar)
+    if (ust_ > kenar_)
         ust_ += std::max(0.0, Kalan() - boy);
     Koy(std::move(blok));
 }
@@ -90,11 +98,11 @@ void SayfaAkisi::Numarala(MetinBakis metin) {
     for (Sayfa& sayfa : sayfalar_)
         sayfa.parcalar.push_back(
             Parca(u"", Metin(metin) + SayiMetni(++sira) + u" / " + SayiMetni(std::ssize(sayfalar_)),
-                  {kKenar, kSayfaBoyu - kKenar - boy, kEn, boy}, bicim));
+                  {kenar_, kSayfaBoyu - kenar_ - boy, kSayfaEni - 2 * kenar_, boy}, bicim));
 }
 
 double SayfaAkisi::Kalan() const {
-    return kSayfaBoyu - kKenar - altlik_ - ust_;
+    return kSayfaBoyu - kenar_ - altlik_ - ust_;
 }
 
 } // namespace velora

@@ -17,10 +17,13 @@ struct AlanBicimi {
 /// a text gets smaller down to its limit, then its place gets higher, then a new page begins.
 class SayfaAkisi {
   public:
-    /// With so much kept free at the foot of each page.
-    explicit SayfaAkisi(YaziOlcer olcer, double altlik = 0) : olcer_(std::move(olcer)), altlik_(altlik) {}
+    /// With so much kept free at the foot of each page, and on each side `kenar`: more than the paper's own
+    /// margin, where a frame is put around all of it.
+    explicit SayfaAkisi(YaziOlcer olcer, double altlik = 0, double kenar = kKenar)
+        : olcer_(std::move(olcer)), altlik_(altlik), kenar_(kenar), ust_(kenar) {}
 
     static constexpr double kKenar = 15; ///< what stays free on each side of the paper
+
     static constexpr double kEn = kSayfaEni - 2 * kKenar;
 
     /// A text of a block that isn't on a page yet; `yer` counts from the block's upper left corner. It gets
@@ -35,11 +38,16 @@ class SayfaAkisi {
     void DibeKoy(std::vector<SayfaParcasi> blok);
     /// Puts a text over the whole width, line by line: a new page may begin within it.
     void Akit(const Metin& ad, MetinBakis metin, const SayfaYazisi& yazi);
+    /// The same with a text that is broken already, as far from the left as its place says; what is `yaninda`
+    /// stands beside its first line.
+    void Akit(const SayfaParcasi& parca, std::vector<SayfaParcasi> yaninda = {});
     /// Begins a new page unless so much is free under what is there: for a heading, which needs lines of its
     /// text beside it.
     void YerAc(double boy);
     /// Leaves so much free under what is there.
     void Bosluk(double boy) { ust_ += boy; }
+    /// Where the next one goes, from the upper edge of the paper.
+    double Ust() const { return ust_; }
 
     /// Writes a text and its number, "2 / 3", at the foot of each page, where there has to be room.
     void Numarala(MetinBakis metin);
@@ -51,8 +59,9 @@ class SayfaAkisi {
 
     YaziOlcer olcer_;
     double altlik_;
+    double kenar_;
     std::vector<Sayfa> sayfalar_{Sayfa{}};
-    double ust_ = kKenar; // where the next one goes
+    double ust_;
 };
 
 /// The lower edge of the lowest of some parts.

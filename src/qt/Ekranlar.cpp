@@ -6,6 +6,7 @@
 #include "qt/access/SplashPenceresi.h"
 #include "qt/accounts/BakiyePenceresi.h"
 #include "qt/accounts/KasaPencereleri.h"
+#include "qt/documents/BaskiPencereleri.h"
 #include "qt/documents/SozlesmePenceresi.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
@@ -55,6 +56,8 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<KasaEklePenceresi>(ortam, program, EkranAdi::FormKasaEkle);
     Tanit<GiderlerPenceresi>(ortam, program, EkranAdi::FormGiderler);
     Tanit<SozlesmePenceresi>(ortam, program, EkranAdi::FormSozlesme);
+    Tanit<MakbuzPenceresi>(ortam, program, EkranAdi::FormMakbuzPrint);
+    Tanit<TabloPrintPenceresi>(ortam, program, EkranAdi::FormTabloPrint);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,8 +59,7 @@ class KayitYeriPenceresi : public QFileDialog {
         setFileMode(QFileDialog::AnyFile);
         setNameFilter(QMetin(kutu.tur) + QStringLiteral(" (*") + uzanti_ + u')');
         Etiketle();
-        constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
-        findChild<QTreeView*>(QStringLiteral("treeView"))->hideColumn(kTurSutunu);
+        SutunlariDuzenle();
         resize(kDosyaKutusu);
         selectFile(QMetin(kutu.ad));
     }
@@ -88,6 +88,16 @@ class KayitYeriPenceresi : public QFileDialog {
         for (const QString& ad : {QStringLiteral("lookIn"), QStringLiteral("fileType")})
             findChild<QLabel*>(ad + QStringLiteral("Label"))
                 ->setBuddy(findChild<QComboBox*>(ad + QStringLiteral("Combo")));
+    }
+
+    void SutunlariDuzenle() {
+        constexpr int kAdSutunu = 0;
+        constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
+        constexpr int kTarihSutunu = 3;
+        auto* liste = findChild<QTreeView*>(QStringLiteral("treeView"));
+        liste->hideColumn(kTurSutunu);
+        liste->header()->setSectionResizeMode(kAdSutunu, QHeaderView::Stretch);
+        liste->header()->setSectionResizeMode(kTarihSutunu, QHeaderView::ResizeToContents);
     }
 
     QString uzanti_;

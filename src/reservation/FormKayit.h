@@ -54,6 +54,7 @@ struct FormKayit {
     // --- payments (Odemeler.cpp) ---
     void Command7_Click(); ///< "Sil"
     void Command8_Click(); ///< "Ekle"
+    void Command9_Click(); ///< "Makbuz": of the marked payment, saved or not (Makbuz.cpp)
     void Liste_ItemClick();
     void Command10();    ///< "Listele": adds what `OdemeDosyasi` holds
     void Command12();    ///< "listeyi topla": the totals

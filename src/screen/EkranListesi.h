@@ -30,6 +30,8 @@
     X(FormSozlesme, Pencereli)                                                                               \
     X(FormPrint, Penceresiz)                                                                                 \
     X(FormPrint2, Penceresiz)                                                                                \
+    X(FormMakbuzPrint, Pencereli)                                                                            \
+    X(FormTabloPrint, Pencereli)                                                                             \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
     X(FormIpMac, Penceresiz)                                                                                 \

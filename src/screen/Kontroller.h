@@ -64,6 +64,8 @@ struct Etiket {
     Yer yer{};
     Metin once{};  ///< what a text that changes says: stands before it
     Metin sonra{}; ///< stands behind it, as "TL"
+
+    bool operator==(const Etiket&) const = default;
 };
 
 struct MetinKutusu {

@@ -203,12 +203,15 @@ void FormTablo::Saatsay_Tick() {
     }
 }
 
-void FormTablo::SaatiYaz() {
+std::array<Metin, 2> FormTablo::TarihVeSaat() const {
     const auto simdi = program_.ortam.zaman.simdi();
     const std::chrono::hh_mm_ss gunIci(simdi - std::chrono::floor<std::chrono::days>(simdi));
-    StatusBar1Saati = {TarihMetni(program_.Bugun()),
-                       IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
-                           IkiHane(static_cast<unsigned>(gunIci.minutes().count()))};
+    return {TarihMetni(program_.Bugun()), IkiHane(static_cast<unsigned>(gunIci.hours().count())) + u":" +
+                                              IkiHane(static_cast<unsigned>(gunIci.minutes().count()))};
+}
+
+void FormTablo::SaatiYaz() {
+    StatusBar1Saati = TarihVeSaat();
 }
 
 void FormTablo::DuyuruKontrol_Tick() {

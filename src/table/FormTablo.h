@@ -2,10 +2,13 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "screen/Kontroller.h"
+#include "screen/TabloSatirlari.h"
 #include "storage/VeriAgaci.h"
+#include "table/GozDurumu.h"
 #include "table/Komutlar.h"
 
 namespace velora {
@@ -14,54 +17,13 @@ struct Program;
 class YilOkumasi;
 struct AnaDegerler;
 struct HatirlatmaDegerleri;
-
-inline constexpr int kAySayisi = 12;
-inline constexpr int kGunSayisi = 31;
-inline constexpr int kSatirSayisi = 24;
+struct FormTabloPrint;
 
 /// The mark of a head picked for the ruler: red 255, green 128, blue 0. It stands in no setting.
 inline constexpr RenkDegeri kBaslikIsareti = 33023;
 
 /// The half period of the blinking frames, in milliseconds.
 inline constexpr int kYanipSonme = 300;
-
-/// The rows of the table, January to December, in each month the day slot first.
-enum SatirAdi {
-    OcakGunduz,
-    OcakGece,
-    SubatGunduz,
-    SubatGece,
-    MartGunduz,
-    MartGece,
-    NisanGunduz,
-    NisanGece,
-    MayisGunduz,
-    MayisGece,
-    HaziranGunduz,
-    HaziranGece,
-    TemmuzGunduz,
-    TemmuzGece,
-    AgustosGunduz,
-    AgustosGece,
-    EylulGunduz,
-    EylulGece,
-    EkimGunduz,
-    EkimGece,
-    KasimGunduz,
-    KasimGece,
-    AralikGunduz,
-    AralikGece
-};
-
-constexpr SatirAdi Satir(int ay, GunduzGece dilim) {
-    return static_cast<SatirAdi>(2 * (ay - 1) + (dilim == GunduzGece::Gece ? 1 : 0));
-}
-constexpr int SatirAyi(SatirAdi satir) {
-    return satir / 2 + 1;
-}
-constexpr GunduzGece SatirDilimi(SatirAdi satir) {
-    return satir % 2 == 0 ? GunduzGece::Gunduz : GunduzGece::Gece;
-}
 
 /// One slot of one day. Its back colour is the day's state for all other logic: it has no other record of
 /// being taken.
@@ -146,6 +108,8 @@ struct FormTablo {
     void newkay_Click();
     void TasimaModuAc_Click();
     void iptals_Click();
+    /// Shows the table as it stands now, as it will be printed (TabloBaskisi.cpp).
+    void rezrapor_Click();
     void iptalsebepss_Click(); ///< the log of cancellations, there or not, in the user's text viewer
 
     // --- the panel of warnings (UyariPaneli.cpp) ---
@@ -242,6 +206,8 @@ struct FormTablo {
     /// What a cell is called where it isn't seen: day, slot, and the state that its colour shows. Empty for a
     /// cell that isn't shown.
     Metin GozAdi(SatirAdi satir, int gun) const;
+    /// The state that the back colour of a cell shows; none for a colour of no state.
+    std::optional<GozDurumu> Durumu(SatirAdi satir, int gun) const;
     /// True when the year in `Sene` is the year of today.
     bool BuYil() const;
 
@@ -265,6 +231,9 @@ struct FormTablo {
     void GecmisBoya(int ay, int ilkGun, int sonGun);
     bool BosRenkte(SatirAdi satir, int gun) const;
     bool DoluRenkte(SatirAdi satir, int gun) const;
+    std::array<Metin, 2> TarihVeSaat() const;
+    void BaskiyaKopyala(FormTabloPrint& baski) const;
+    void BaskiMetinleriniKoy(FormTabloPrint& baski) const;
     Metin GozAnahtari(SatirAdi satir, int gun) const;
     Metin GozTarihi(SatirAdi satir, int gun) const;
     void RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi);

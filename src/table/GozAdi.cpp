@@ -9,25 +9,28 @@
 
 namespace velora {
 
-namespace {
-
-struct DurumAdi {
-    int zemin; // slot of the colour list
-    MetinBakis ad;
-};
-
-/// The states by their back colours. Where two have the same, the free one holds, as for the menu of a cell.
-std::array<DurumAdi, 6> Durumlar(GunduzGece dilim) {
+std::array<DurumTanimi, 6> Durumlar(GunduzGece dilim) {
     const SatirRenkleri& renkler = Renkler(dilim);
-    return {{{renkler.bos.zemin, u"Boş"},
-             {renkler.haftaSonu.zemin, u"Boş, hafta sonu"},
-             {kTatilRengi.zemin, u"Boş, tatil"},
-             {renkler.kesin.zemin, u"Kesin rezervasyon"},
-             {renkler.on.zemin, u"Ön rezervasyon"},
-             {kGecmisRengi.zemin, u"Geçmiş"}}};
+    return {{{GozDurumu::Bos, renkler.bos.zemin, u"Boş"},
+             {GozDurumu::HaftaSonu, renkler.haftaSonu.zemin, u"Boş, hafta sonu"},
+             {GozDurumu::Tatil, kTatilRengi.zemin, u"Boş, tatil"},
+             {GozDurumu::Kesin, renkler.kesin.zemin, u"Kesin rezervasyon"},
+             {GozDurumu::On, renkler.on.zemin, u"Ön rezervasyon"},
+             {GozDurumu::Gecmis, kGecmisRengi.zemin, u"Geçmiş"}}};
 }
 
-} // namespace
+DurumTanimi Durum(GozDurumu durum, GunduzGece dilim) {
+    return Durumlar(dilim)[static_cast<std::size_t>(durum)];
+}
+
+std::optional<GozDurumu> FormTablo::Durumu(SatirAdi satir, int gun) const {
+    const auto ayarlar = program_.FormAyarlar.Tut();
+    const auto durumlar = Durumlar(SatirDilimi(satir));
+    const auto bu = std::ranges::find_if(durumlar, [&](const DurumTanimi& durum) {
+        return ayarlar->Renk(durum.zemin) == Gozu(satir, gun).zemin;
+    });
+    return bu == durumlar.end() ? std::nullopt : std::optional(bu->durum);
+}
 
 Metin FormTablo::GozTarihi(SatirAdi satir, int gun) const {
     return IkiHane(static_cast<unsigned>(gun)) + AyEki(static_cast<unsigned>(SatirAyi(satir))) + Sene.Metni();
@@ -47,10 +50,8 @@ Metin FormTablo::GozAdi(SatirAdi satir, int gun) const {
     Metin ad = SayiMetni(gun) + u" " + ayarlar->Aylar[SatirAyi(satir)].baslik + u" " + Sene.Metni() + u" " +
                Bicimle(GozTarihi(satir, gun), u"dddd") +
                (dilim == velora::GunduzGece::Gunduz ? u", Gündüz" : u", Gece");
-    const auto durumlar = Durumlar(dilim);
-    const auto rengi = [&](const DurumAdi& durum) { return ayarlar->Renk(durum.zemin) == hucre.zemin; };
-    if (const auto durum = std::ranges::find_if(durumlar, rengi); durum != durumlar.end())
-        ad += u", " + Metin(durum->ad);
+    if (const auto durum = Durumu(satir, gun))
+        ad += u", " + Metin(Durum(*durum, dilim).ad);
     return ad;
 }
 

@@ -19,6 +19,8 @@ enum class Komut {
     BakiyeRaporss,
     kasarapors,
     aline1,
+    rezrapor,
+    linooomm,
     iptalsebepss,
     FirmaBilgiss,
     firmcizgi,

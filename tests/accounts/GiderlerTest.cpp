@@ -1,5 +1,6 @@
 // The list of a year's expenses, and the file that it leaves.
 #include "accounts/KasaTest.h"
+#include "documents/FormMakbuzPrint.h"
 
 namespace velora::test {
 
@@ -133,6 +134,33 @@ TEST_F(GiderlerTesti, A_no_deletes_nothing_and_the_row_has_to_be_clicked_again) 
         EXPECT_FALSE(Giderler().Command4.etkin);
         EXPECT_EQ(kullanici.ortam.hayirdaBaslayanlar.size(), 1U);
         EXPECT_TRUE(Kasa().Liste.satirlar.empty());
+    });
+}
+
+TEST_F(GiderlerTesti, A_receipt_is_of_the_clicked_row_by_the_active_user) {
+    agac.KoyMetin(u"Firma.dll",
+                  u"\"Gül\",\"b\",\"c\",\"d\",\"e\",\"f\",\"g\",\"ADANA\",\"i\",\"j\",\"k\",\"l\",\"4\"\r\n");
+    agac.Koy(kGiderYolu, kUcAy);
+    GiderleriAc([&] {
+        kullanici.Tablo().UserNamem = u"zeynep";
+        EXPECT_FALSE(Giderler().Command2.etkin);
+        SatiraTikla(Giderler().Liste, 1, [&] { Giderler().Liste_Click(); });
+        EkranBekle(EkranAdi::FormMakbuzPrint, [&] {
+            const auto makbuz = Prog().FormMakbuzPrint.Tut();
+            Metin yazilar;
+            for (const Etiket* etiket :
+                 {&makbuz->Firma, &makbuz->Label1, &makbuz->Label3, &makbuz->AdSoyad, &makbuz->Label4,
+                  &makbuz->Tarih, &makbuz->Label5, &makbuz->Aciklama, &makbuz->Label6, &makbuz->Tutar})
+                yazilar += etiket->baslik + u"|";
+            EXPECT_EQ(yazilar, u"Gül|GİDER MAKBUZU|DÜZENLEYEN|: zeynep|GİDER TARİHİ|: 11.06.2012|"
+                               u"GİDER AÇIKLAMASI|: b|GİDER BEDELİ|: 300 TL|");
+            EXPECT_EQ(makbuz->isAdi, u"11.06.2012 - Salon A - b - Gider Makbuzu");
+            VELORA_BAS(Prog().FormMakbuzPrint, Command2);
+        });
+        VELORA_BAS(Prog().FormGiderler, Command2);
+        EXPECT_FALSE(Giderler().Command2.etkin) << "the screen has come to the front again";
+        EXPECT_FALSE(Giderler().Command4.etkin);
+        EXPECT_EQ(agac.Bayt(kGiderYolu), kUcAy);
     });
 }
 

@@ -77,4 +77,24 @@ TEST(SayfaAkisi, What_does_not_fit_under_the_rest_begins_a_page_and_a_long_text_
     SayfalarDuzgunOlmali(sayfalar);
 }
 
+TEST(SayfaAkisi, A_text_that_flows_has_what_stands_beside_it_on_the_page_of_its_first_line) {
+    SayfaAkisi akis(EsitEnli, 0, 40);
+    akis.Bosluk(297 - 2 * 40 - 3); // no line fits any more
+    const SayfaParcasi baslik{ParcaTuru::Yazi, u"b", {0, 0, 30, 9}, {12, true}, Hiza::Sol, {u"Ad"}};
+    SayfaParcasi metin{ParcaTuru::Yazi, u"m", {50, 0, 60, 0}, {10, false}, Hiza::Sol, {}};
+    for (int satir = 1; satir <= 60; ++satir)
+        metin.satirlar.push_back(SayiMetni(satir));
+    akis.Akit(metin, {baslik});
+    const auto& sayfalar = akis.Sayfalar();
+    ASSERT_EQ(sayfalar.size(), 2U) << "the empty page is filled, not left behind";
+    ASSERT_EQ(sayfalar[0].parcalar.size(), 2U);
+    EXPECT_EQ(sayfalar[0].parcalar[0].yer, (SayfaYeri{40, 40, 30, 9}));
+    EXPECT_EQ(sayfalar[0].parcalar[1].yer.sol, 90);
+    EXPECT_EQ(sayfalar[0].parcalar[1].yer.ust, 40);
+    EXPECT_EQ(sayfalar[0].parcalar[1].satirlar.size(), 51U) << "217 mm in lines of 4.23 mm";
+    ASSERT_EQ(sayfalar[1].parcalar.size(), 1U);
+    EXPECT_EQ(sayfalar[1].parcalar[0].satirlar.front(), u"52");
+    SayfalarDuzgunOlmali(sayfalar, 40);
+}
+
 } // namespace velora::test

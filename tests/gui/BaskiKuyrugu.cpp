@@ -20,8 +20,8 @@ const QString kAyarKlasoru = QStringLiteral("/etc/cups");
 const QString kAyarBasi = QStringLiteral("cups-pdf-veloratest");
 const QString kTanim = QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd");
 const QString kKuyruk = QStringLiteral("velora");
-constexpr int kBaslamaMs = 5'000;
-constexpr int kBasmaMs = 15'000;
+constexpr int kBaslamaMs = 20'000;
+constexpr int kBasmaMs = 30'000;
 
 constexpr const char* kServisAyari = R"(LogLevel warn
 Listen %1/soket

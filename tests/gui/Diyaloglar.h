@@ -10,7 +10,9 @@
 #include "accounts/FormGiderler.h"
 #include "accounts/FormKasa.h"
 #include "accounts/FormKasaEkle.h"
+#include "documents/FormMakbuzPrint.h"
 #include "documents/FormSozlesme.h"
+#include "documents/FormTabloPrint.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -63,6 +65,11 @@ inline void HatirlatmaAc(Program& program) {
         DetayYaz(program.dosyalar, yol + Metin(kDetayEki), {});
     }
     program.FormOzelHatirlatma.GosterModal();
+}
+
+/// Filled from the table.
+inline void TabloBaskisiAc(Program& program) {
+    program.FormTablo->rezrapor_Click();
 }
 
 inline constexpr std::size_t kEnCokSayfa = 4;
@@ -180,6 +187,12 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command2",
      "Command3",
      {"Sozlesme Command1 Pdf Command2 Command3 Unvan Sehir Baslik"}},
+    {EkranAdi::FormMakbuzPrint,
+     EkraniAc<&Program::FormMakbuzPrint>,
+     "Command1",
+     "Command2",
+     {"Command1 Pdf Command2 Sayfa"}},
+    {EkranAdi::FormTabloPrint, TabloBaskisiAc, "Command1", "Command2", {"Command1 Pdf Command2 Sayfa"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

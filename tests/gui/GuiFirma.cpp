@@ -82,6 +82,25 @@ Ortam GuiFirma::Dis() {
         AradaCalis();
         return true;
     };
+    ortam.sor.kayitYeri = [this, sor = ortam.sor.kayitYeri](const KayitYeriKutusu& kutu) {
+        if (!hazirCevap)
+            return sor(kutu);
+        AradaCalis();
+        return std::optional(agac.Kok() / kutu.ad);
+    };
+    ortam.kagit.yazdir = [this, yazdir = ortam.kagit.yazdir](const auto& sayfalar, const Metin& isAdi) {
+        if (!hazirCevap)
+            return yazdir(sayfalar, isAdi);
+        AradaCalis();
+        return true;
+    };
+    ortam.kagit.pdfYaz = [this, yaz = ortam.kagit.pdfYaz](const auto& sayfalar, const Metin& isAdi,
+                                                          const std::filesystem::path& dosya) {
+        if (!hazirCevap)
+            return yaz(sayfalar, isAdi, dosya);
+        AradaCalis();
+        return true;
+    };
     ortam.goster.modal = [this, modal = ortam.goster.modal](EkranAdi ekran, const auto& gorununce) {
         if (!hazirCevap)
             return modal(ekran, gorununce);

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <set>
 
 #include <QImage>
 #include <QPainter>
@@ -7,7 +8,10 @@
 
 #include "access/Splash.h"
 #include "destek/Sayfalar.h"
+#include "documents/FormMakbuzPrint.h"
 #include "documents/FormPrint.h"
+#include "documents/FormTabloPrint.h"
+#include "documents/TabloSayfasi.h"
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "qt/SayfaCizimi.h"
@@ -32,12 +36,12 @@ Metin Maddeler(std::size_t harf) {
 }
 
 /// The whole page in the real type: what a page must be, told by the checks of the other tests.
-void DuzgunOlmali(const std::vector<Sayfa>& sayfalar) {
+void DuzgunOlmali(const std::vector<Sayfa>& sayfalar, double kenar = kKenar) {
     testing::TestPartResultArray kusurlar;
     {
         const testing::ScopedFakeTestPartResultReporter dinleyen(
             testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &kusurlar);
-        SayfalarDuzgunOlmali(sayfalar, kKenar, SayfaOlcer());
+        SayfalarDuzgunOlmali(sayfalar, kenar, SayfaOlcer());
     }
     QVERIFY2(kusurlar.size() == 0, kusurlar.size() == 0 ? "" : kusurlar.GetTestPartResult(0).summary());
 }
@@ -68,7 +72,7 @@ void SayfalaraBak(const std::vector<Sayfa>& sayfalar) {
 
 } // namespace
 
-/// The contract in the type that it is printed in, with what doesn't fit easily.
+/// What is printed in the type that it is printed in, with what doesn't fit easily.
 class KagitOlculeriTest : public QObject {
     Q_OBJECT
 
@@ -123,6 +127,42 @@ class KagitOlculeriTest : public QObject {
              {&sayfa.Unvan, &sayfa.SozNo, &sayfa.CAdi, &sayfa.CSalon, &sayfa.Baslik, &sayfa.Label50})
             alan->baslik = Metin(130, u'W') + Metin(130, u'ı');
         IkisineDeBak(sayfa);
+    }
+
+    void a_receipt_keeps_each_text_in_its_place() {
+        GuiFirma firma;
+        FormMakbuzPrint makbuz(firma.program);
+        makbuz.Firma.baslik = u"Gül Düğün Salonları ve Organizasyon Hizmetleri Sanayi ve Ticaret Ltd. Şti.";
+        for (const std::size_t harf : {20U, 700U, 5000U}) {
+            makbuz.Aciklama.baslik = u": " + Maddeler(harf);
+            SayfalaraBak(makbuz.Sayfalar(SayfaOlcer()));
+        }
+        makbuz.AdSoyad.baslik = u": " + Metin(130, u'W') + Metin(130, u'ı');
+        SayfalaraBak(makbuz.Sayfalar(SayfaOlcer()));
+    }
+
+    void the_year_table_keeps_each_text_in_its_place_and_its_marks_are_drawn() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"20.06.2026 - Gündüz", false);
+        firma.Rezervasyon(kSalonA, u"21.06.2026 - Gece", true);
+        firma.Ac();
+        firma.hazirCevap = Cevap::Evet; // it is filled and not shown
+        firma.Model().rezrapor_Click();
+        const auto baski = firma.program.FormTabloPrint.Tut();
+        baski->Unvan.baslik = u"Gül Düğün Salonları ve Organizasyon Ltd. Şti.";
+        const std::vector<Sayfa> sayfalar = baski->Sayfalar(SayfaOlcer());
+        DuzgunOlmali(sayfalar, kTabloKenari);
+        std::set<Metin> bakilanlar;
+        for (const SayfaParcasi& parca : sayfalar.at(0).parcalar)
+            if (!parca.satirlar.empty() && bakilanlar.insert(parca.satirlar[0]).second) {
+                SayfaParcasi siyah = parca;
+                siyah.renk = 0;
+                YerindeKalmali(sayfalar[0], siyah);
+            }
+        QVERIFY(bakilanlar.contains(u"●") && bakilanlar.contains(u"○") && bakilanlar.contains(u"Cmt"));
+        baski->Unvan.baslik = Metin(130, u'W') + Metin(130, u'ı');
+        baski->Salon.baslik = Metin(300, u'W');
+        DuzgunOlmali(baski->Sayfalar(SayfaOlcer()), kTabloKenari);
     }
 };
 

@@ -146,13 +146,14 @@ class KomutMenuleriTest : public QObject {
             ipuclari << girdi->toolTip();
             QVERIFY2(Boyali(girdi->icon()), qPrintable(girdi->text()));
         }
-        QCOMPARE(adlar, (QStringList{"Ara", "-", "Rapor", "-", "Kasa", "-", QStringLiteral(" Uyarılar"), "-",
-                                     " Ayarlar ", "-"}));
-        QCOMPARE(ipuclari, (QStringList{QStringLiteral("Kayıt Ara (F2)"), "Rezervasyon Raporu (F3)",
-                                        "Kasa Raporu (F4)", QStringLiteral("Yaklaşan Rezervasyonlar"),
-                                        QStringLiteral("Program Ayarları (F7)")}));
-        QCOMPARE(serit.actions()[8]->objectName(), QStringLiteral("Toolbar1_13"));
-        QCOMPARE(serit.actions()[9]->objectName(), QStringLiteral("Toolbar1_14"));
+        QCOMPARE(adlar, (QStringList{"Ara", "-", "Rapor", "-", "Kasa", "-", QStringLiteral("Yazdır"), "-",
+                                     QStringLiteral(" Uyarılar"), "-", " Ayarlar ", "-"}));
+        QCOMPARE(ipuclari,
+                 (QStringList{QStringLiteral("Kayıt Ara (F2)"), "Rezervasyon Raporu (F3)", "Kasa Raporu (F4)",
+                              "Rezervasyon Tablosu (F5)", QStringLiteral("Yaklaşan Rezervasyonlar"),
+                              QStringLiteral("Program Ayarları (F7)")}));
+        QCOMPARE(serit.actions()[10]->objectName(), QStringLiteral("Toolbar1_13"));
+        QCOMPARE(serit.actions()[11]->objectName(), QStringLiteral("Toolbar1_14"));
     }
 
     void a_button_takes_the_ruler_away_and_opens_its_screen_and_a_hidden_one_goes_without_its_line() {
@@ -170,8 +171,8 @@ class KomutMenuleriTest : public QObject {
                   }});
         firma.Model().Toolbar1[13].gorunur = false;
         Baglayici::HepsiniTazele();
-        QVERIFY(!serit.actions()[8]->isVisible());
-        QVERIFY(serit.actions()[9]->isVisible());
+        QVERIFY(!serit.actions()[10]->isVisible());
+        QVERIFY(serit.actions()[11]->isVisible());
     }
 
     void the_button_of_the_warnings_lists_them_or_tells_that_there_are_none() {
@@ -190,12 +191,12 @@ class KomutMenuleriTest : public QObject {
         firma.Ac();
         firma.Bul<QToolButton>("Toolbar1_1").setFocus(Qt::TabFocusReason);
         QStringList sira;
-        for (int i = 0; i < 6; ++i) {
+        for (int i = 0; i < 7; ++i) {
             sira << Odaktaki();
             Tusla(Qt::Key_Tab);
         }
-        QCOMPARE(sira, (QStringList{"Toolbar1_1", "Toolbar1_3", "Toolbar1_5", "Toolbar1_9", "Toolbar1_13",
-                                    "Salon"}));
+        QCOMPARE(sira, (QStringList{"Toolbar1_1", "Toolbar1_3", "Toolbar1_5", "Toolbar1_7", "Toolbar1_9",
+                                    "Toolbar1_13", "Salon"}));
         for (const auto tus : {Qt::Key_Space, Qt::Key_Return}) {
             firma.Bul<QToolButton>("Toolbar1_3").setFocus(Qt::TabFocusReason);
             Pencerede([&] { Tusla(tus); }, {[](QDialog& pencere) {
@@ -227,20 +228,21 @@ class KomutMenuleriTest : public QObject {
         int acilan = 0;
         for (const auto& acan : {std::pair{Qt::Key_F2, QStringLiteral("Kayıt Arama")},
                                  {Qt::Key_F3, QStringLiteral("Rezervasyon Raporu")},
+                                 {Qt::Key_F5, QStringLiteral("Rezervasyon Tablosu")},
                                  {Qt::Key_F7, QStringLiteral("Genel Program Ayarları")}}) {
-            Pencerede(
-                [&] { Tusla(acan.first); }, {[&](QDialog& pencere) {
-                    ++acilan;
-                    QCOMPARE(pencere.windowTitle(), acan.second);
-                    for (const auto oteki : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F7, Qt::Key_F12}) {
-                        Tusla(oteki); // nothing comes over it
-                        QTest::keyClick(&firma.Tablo(), oteki);
-                    }
-                    QCOMPARE(QApplication::activeModalWidget(), &pencere);
-                    QTest::keyClick(&pencere, Qt::Key_Escape);
-                }});
+            Pencerede([&] { Tusla(acan.first); }, {[&](QDialog& pencere) {
+                          ++acilan;
+                          QCOMPARE(pencere.windowTitle(), acan.second);
+                          for (const auto oteki :
+                               {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F5, Qt::Key_F7, Qt::Key_F12}) {
+                              Tusla(oteki); // nothing comes over it
+                              QTest::keyClick(&firma.Tablo(), oteki);
+                          }
+                          QCOMPARE(QApplication::activeModalWidget(), &pencere);
+                          QTest::keyClick(&pencere, Qt::Key_Escape);
+                      }});
         }
-        QCOMPARE(acilan, 3);
+        QCOMPARE(acilan, 4);
     }
 
     void f12_does_nothing_on_purpose() {

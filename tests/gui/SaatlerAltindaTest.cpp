@@ -16,6 +16,7 @@
 #include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/documents/SayfaGorunumu.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -145,6 +146,13 @@ void ListedeCalis(Gunluk& gunluk, QTreeWidget& liste) {
         QStringLiteral("%1 %2").arg(liste.currentIndex().row()).arg(liste.verticalScrollBar()->value()));
 }
 
+void SayfadaCalis(Gunluk& gunluk, SayfaGorunumu& sayfa) {
+    gunluk.Tusla(sayfa, Qt::Key_Down);
+    gunluk.Tusla(sayfa, Qt::Key_PageDown);
+    gunluk.Bekle();
+    gunluk.Not(sayfa, QString::number(sayfa.verticalScrollBar()->value()));
+}
+
 /// Everything in the window that takes the focus is worked on.
 void HerYerindeCalis(Gunluk& gunluk, QWidget& pencere) {
     for (auto* parca : pencere.findChildren<QWidget*>()) {
@@ -165,6 +173,8 @@ void HerYerindeCalis(Gunluk& gunluk, QWidget& pencere) {
             SecimdeCalis(gunluk, *secim);
         else if (auto* liste = qobject_cast<QTreeWidget*>(parca))
             ListedeCalis(gunluk, *liste);
+        else if (auto* sayfa = dynamic_cast<SayfaGorunumu*>(parca))
+            SayfadaCalis(gunluk, *sayfa);
     }
 }
 

@@ -25,11 +25,11 @@ struct Tuslari {
 };
 
 const std::vector<Tuslari> kTuslar{
-    {{}, {u"F1", u"Ctrl+F1", u"F2", u"F3", u"F4", u"F7"}},
-    {{1}, {u"F1", u"Ctrl+F1", u"F2", u"F4", u"F7"}},
-    {{5}, {u"F1", u"Ctrl+F1", u"F2", u"F3", u"F4"}},
-    {{6, 11}, {u"F1", u"Ctrl+F1", u"F2", u"F3", u"F7"}},
-    {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, {u"F1", u"Ctrl+F1", u"F2"}},
+    {{}, {u"F1", u"Ctrl+F1", u"F2", u"F3", u"F4", u"F5", u"F7"}},
+    {{1}, {u"F1", u"Ctrl+F1", u"F2", u"F4", u"F5", u"F7"}},
+    {{5}, {u"F1", u"Ctrl+F1", u"F2", u"F3", u"F4", u"F5"}},
+    {{6, 11}, {u"F1", u"Ctrl+F1", u"F2", u"F3", u"F5", u"F7"}},
+    {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, {u"F1", u"Ctrl+F1", u"F2", u"F5"}},
 };
 
 /// All of them, whether a command has it or not.

@@ -1,3 +1,4 @@
+#include "documents/FormMakbuzPrint.h"
 #include "reservation/KayitTest.h"
 
 namespace velora::test {
@@ -213,6 +214,50 @@ TEST_F(OdemelerTest, A_delete_without_a_marked_row_removes_nothing_and_totals_al
         VELORA_BAS(Prog().FormKayit, Command7);
         EXPECT_EQ(Kayit().Liste.satirlar.size(), 1U);
         EXPECT_EQ(Kayit().Kay[9].metin, u"50");
+    });
+}
+
+TEST_F(OdemelerTest, A_receipt_is_of_the_marked_row_saved_or_not_and_a_row_must_be_clicked_again) {
+    agac.KoyMetin(u"Firma.dll",
+                  u"\"Gül\",\"b\",\"c\",\"d\",\"e\",\"f\",\"g\",\"ADANA\",\"i\",\"j\",\"k\",\"l\",\"4\"\r\n");
+    YeniKayit([&] {
+        Doldur();
+        OdemeAl(u"50");
+        OdemeAl(u"1750");
+        EXPECT_FALSE(Kayit().Command9.etkin);
+        OdemeSec(1);
+        EkranBekle(EkranAdi::FormMakbuzPrint, [&] {
+            const auto makbuz = Prog().FormMakbuzPrint.Tut();
+            EXPECT_EQ(makbuz->Firma.baslik, u"Gül");
+            EXPECT_EQ(makbuz->Label1.baslik, u"A L I N D I   M A K B U Z U");
+            EXPECT_EQ(makbuz->Tarih.baslik, u": 15.06.2012");
+            EXPECT_EQ(makbuz->Tutar.baslik, u": 1.750 TL");
+            EXPECT_EQ(makbuz->Aciklama.baslik, u": 58 - ali usta");
+            EXPECT_EQ(makbuz->AdSoyad.baslik, u": ali usta");
+            EXPECT_EQ(makbuz->isAdi, u"15.06.2012 - Salon A - ali usta - Makbuz");
+            EXPECT_TRUE(makbuz->Command1.gorunur && makbuz->Command2.gorunur);
+            VELORA_BAS(Prog().FormMakbuzPrint, Command2);
+        });
+        VELORA_BAS(Prog().FormKayit, Command9);
+        EXPECT_FALSE(Kayit().Command9.etkin || Kayit().Command7.etkin);
+        EXPECT_FALSE(OdemeVar());
+    });
+}
+
+TEST_F(OdemelerTest, A_receipt_of_an_amount_of_nothing_shows_none_on_purpose) {
+    RezervasyonKoy(Metin(kGun));
+    OdemeKoy("\"03.04.2012\",\"0\",\"Bedelsiz\"\r\n");
+    KayitAc([&] {
+        OdemeSec(0);
+        EkranBekle(EkranAdi::FormMakbuzPrint, [&] {
+            EXPECT_EQ(Prog().FormMakbuzPrint->Tutar.baslik, u":  TL");
+            EXPECT_EQ(Prog().FormMakbuzPrint->Tarih.baslik, u": 03.04.2012");
+            EXPECT_EQ(Prog().FormMakbuzPrint->Aciklama.baslik, u": Bedelsiz");
+        });
+        VELORA_BAS(Prog().FormKayit, Command9);
+        Kayit().Liste.secili = -1; // a click beside the rows
+        Kayit().Liste_ItemClick();
+        VELORA_BAS(Prog().FormKayit, Command9); // nothing is expected to come
     });
 }
 

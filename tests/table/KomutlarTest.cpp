@@ -33,6 +33,9 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::kasarapors, Menu::Raporsss, u"kasarapors", u"Kasa Raporu", u"F4", 5, u"Kasa",
      u"Kasa Raporu (F4)"},
     {Komut::aline1, Menu::Raporsss, u"aline1", u"-", u""},
+    {Komut::rezrapor, Menu::Raporsss, u"rezrapor", u"Rezervasyon Tablosu", u"F5", 7, u"Yazdır",
+     u"Rezervasyon Tablosu (F5)"},
+    {Komut::linooomm, Menu::Raporsss, u"linooomm", u"-", u""},
     {Komut::iptalsebepss, Menu::Raporsss, u"iptalsebepss", u"İptal Sebepleri", u""},
     {Komut::FirmaBilgiss, Menu::ayarsd, u"FirmaBilgiss", u"Firma Bilgileri", u""},
     {Komut::firmcizgi, Menu::ayarsd, u"firmcizgi", u"-", u""},
@@ -125,6 +128,7 @@ TEST_F(KomutTablosu, A_button_of_the_tool_bar_takes_the_ruler_away_before_its_co
     for (const auto& [dugme, ekran] : {std::pair{u"Ara", EkranAdi::FormArama},
                                        {u"Rapor", EkranAdi::FormBakiye},
                                        {u"Kasa", EkranAdi::FormKasa},
+                                       {u"Yazdır", EkranAdi::FormTabloPrint},
                                        {u" Ayarlar ", EkranAdi::FormAyarlar}}) {
         kullanici.GunBasligina(7);
         kullanici.AyBasligina(9);

@@ -127,6 +127,15 @@ void OdemeAlDoldur(Program& program, QWidget& /*pencere*/) {
     program.FormOdemeAl->Text1_Change();
 }
 
+void MakbuzAc(Program& program) {
+    const auto kayit = program.FormKayit.Tut();
+    kayit->SalonAdi.baslik = program.FormTablo->Salon.Metni();
+    kayit->Kay[AnaNo::AdiSoyadi].metin = u"Hasan Ertürk";
+    kayit->Liste.satirlar.push_back({{u"21.05.2026", u"15000", u"418 - Hasan Ertürk"}, {}, 0});
+    kayit->Liste.secili = 0;
+    kayit->Command9_Click();
+}
+
 void HatirlatmaAc(Program& program) {
     program.FormTablo->Image3_Click();
 }

@@ -170,6 +170,8 @@ constexpr ResimTanimi kResimler[]{
     {EkranAdi::FormKasaEkle, u"gider-ekle", Modal<&P::FormKasaEkle>, GiderYaz},
     {EkranAdi::FormGiderler, u"giderler", Modal<&P::FormGiderler>, SatirSec<&P::FormGiderler, 2>, {720, 420}},
     {EkranAdi::FormSozlesme, u"sozlesme", Modal<&P::FormSozlesme>, nullptr, {720, 320}},
+    {EkranAdi::FormMakbuzPrint, u"makbuz", MakbuzAc, nullptr, {680, 580}},
+    {EkranAdi::FormTabloPrint, u"tablo-baski", TabloBaskisiAc, nullptr, {1000, 690}},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},

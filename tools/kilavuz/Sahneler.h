@@ -16,6 +16,7 @@ void TabloCetvel(Program& program, QWidget& pencere);
 void TabloSagTus(Program& program, QWidget& pencere);
 void TabloTasima(Program& program, QWidget& pencere);
 void UyariSec(Program& program, QWidget& pencere);
+void TabloBaskisiAc(Program& program);
 
 // --- the reservation ---
 void YeniKayitAc(Program& program);
@@ -23,6 +24,7 @@ void YeniKayitDoldur(Program& program, QWidget& pencere);
 void DoluKayitAc(Program& program);
 void OdemeAlAc(Program& program);
 void OdemeAlDoldur(Program& program, QWidget& pencere);
+void MakbuzAc(Program& program);
 void MenuSayfasi(Program& program, QWidget& pencere);
 void HizmetSayfasi(Program& program, QWidget& pencere);
 

@@ -93,4 +93,8 @@ void UyariSec(Program& program, QWidget& /*pencere*/) {
     tablo->Liste_Click();
 }
 
+void TabloBaskisiAc(Program& program) {
+    program.FormTablo->rezrapor_Click();
+}
+
 } // namespace velora::kilavuz

@@ -108,12 +108,14 @@ GiderlerPenceresi::GiderlerPenceresi(Program& program) : EkranPenceresi(program.
     auto* ekle = DugmeYap({"Command3", &FormGiderler::Command3, &FormGiderler::Command3_Click});
     auto* sil = DugmeYap({"Command4", &FormGiderler::Command4, &FormGiderler::Command4_Click});
     auto* kaydet = DugmeYap({"Kaydet", &FormGiderler::Kaydet, &FormGiderler::Kaydet_Click});
+    auto* makbuz = DugmeYap({"Command2", &FormGiderler::Command2, &FormGiderler::Command2_Click});
     auto* kapat = DugmeYap({"Command1", &FormGiderler::Command1, &FormGiderler::Command1_Click});
     listele->setDefault(true);
     IptalDugmesi(kapat);
     BulunanaGotur(*listele, *liste);
-    OdagiListeyeVer(*sil, *liste);
-    sutun->addLayout(DugmeSeridi({ekle, sil, kaydet, kapat}));
+    for (QPushButton* dugme : {sil, makbuz})
+        OdagiListeyeVer(*dugme, *liste);
+    sutun->addLayout(DugmeSeridi({ekle, sil, kaydet, makbuz, kapat}));
     resize(720, 520);
     IlkOdak("Combo2");
 }

@@ -33,18 +33,23 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
     dugmeler->setSpacing(kAralik);
     dugmeler->addWidget(DugmeYap({"Command8", &FormKayit::Command8, &FormKayit::Command8_Click}));
     auto* sil = DugmeYap({"Command7", &FormKayit::Command7, &FormKayit::Command7_Click});
-    OdagiListeyeVer(*sil, *liste);
-    dugmeler->addWidget(sil);
+    auto* makbuz = DugmeYap({"Command9", &FormKayit::Command9, &FormKayit::Command9_Click});
+    for (QPushButton* dugme : {sil, makbuz}) {
+        OdagiListeyeVer(*dugme, *liste);
+        dugmeler->addWidget(dugme);
+    }
     dugmeler->addStretch(1);
-    dugmeler->addLayout(Toplamlar());
     sutun->addWidget(liste, 1);
+    // Beside the buttons the totals would make the window wider than a small screen.
     sutun->addLayout(dugmeler);
+    sutun->addLayout(Toplamlar());
     return sayfa;
 }
 
 QLayout* KayitPenceresi::Toplamlar() {
     auto* serit = new QHBoxLayout;
     serit->setSpacing(kAralik);
+    serit->addStretch(1);
     for (const auto& [ad, model] : {std::pair{"ToplamUcret", &Model().ToplamUcret},
                                     {"Kayam9", &Model().Kayam9},
                                     {"Kayam10", &Model().Kayam10}}) {
