@@ -61,6 +61,21 @@ struct BaskiFirmasi : GuiFirma {
     bool basilir = true;
 };
 
+/// Counts the boxes that come up while it stands, also one that is gone at once.
+class KutuSayaci : public QObject {
+  public:
+    KutuSayaci() { qApp->installEventFilter(this); }
+    int Sayi() const { return sayi_; }
+    bool eventFilter(QObject* nesne, QEvent* olay) override {
+        if (olay->type() == QEvent::Show && qobject_cast<QMessageBox*>(nesne) != nullptr)
+            ++sayi_;
+        return QObject::eventFilter(nesne, olay);
+    }
+
+  private:
+    int sayi_ = 0;
+};
+
 constexpr std::string_view kMaddeli = "\"Kurallar\",\"1 - Kira\"\r\n";
 constexpr std::string_view kMaddesiz = "\"Kurallar\",\"\"\r\n";
 const QString kIs = QStringLiteral("20.06.2026 - Gül Salonu - Ali - Sözleşme");
@@ -250,26 +265,18 @@ class SozlesmeBaskisiTest : public QObject {
         firma.basilir = false;
         firma.basarken = [&] { firma.program.ortam.olaylar.bitir(); };
         firma.Ac();
-        int kutular = 0;
+        const KutuSayaci kutular;
         QTimer::singleShot(0, qApp, [&] {
-            firma.Model().SeciliTarih = kGun;
             firma.program.FormKayit->Tarih = kGun;
             firma.program.ortam.sor.girdi = [](const GirdiKutusu&) { return Metin(u"3"); };
-            const auto sor = firma.program.ortam.sor.mesaj;
-            firma.program.ortam.sor.mesaj = [&, sor](const MesajKutusu& kutu) {
-                if (!firma.disDunya.Bitti())
-                    return Cevap::Evet;
-                QTimer::singleShot(
-                    0, qApp, [&kutular] { kutular += QApplication::activeModalWidget() == nullptr ? 0 : 1; });
-                return sor(kutu);
+            firma.program.ortam.sor.mesaj = [&, sor = firma.program.ortam.sor.mesaj](const auto& kutu) {
+                return firma.disDunya.Bitti() ? sor(kutu) : Cevap::Evet;
             };
             firma.program.FormKayit->Command3_Click();
-            for (const QWidget* pencere : QApplication::topLevelWidgets())
-                kutular += qobject_cast<const QMessageBox*>(pencere) == nullptr ? 0 : 1;
         });
         QCOMPARE(QApplication::exec(), 0);
         QCOMPARE(firma.basilanlar.size(), 1);
-        QCOMPARE(kutular, 0);
+        QCOMPARE(kutular.Sayi(), 0);
     }
 };
 
