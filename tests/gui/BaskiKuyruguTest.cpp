@@ -160,7 +160,7 @@ class BaskiKuyruguTest : public QObject {
         QElapsedTimer sure;
         sure.start();
         QVERIFY(!ortam_.kagit.yazdir(Sayfalar(), Metin(kIsAdi)));
-        QVERIFY2(sure.elapsed() > 200 && sure.elapsed() < 2000, qPrintable(QString::number(sure.elapsed())));
+        QVERIFY2(sure.elapsed() > 200 && sure.elapsed() < 15000, qPrintable(QString::number(sure.elapsed())));
         kuyruk_->Uyandir();
         QVERIFY2(disDunya_->IslerBitti(), "it goes on with the service");
         QVERIFY(!std::filesystem::exists(kuyruk_->Verilen(1)));
@@ -174,7 +174,7 @@ class BaskiKuyruguTest : public QObject {
         QElapsedTimer sure;
         sure.start();
         QVERIFY(!ortam_.kagit.yazdir(Sayfalar(), Metin(kIsAdi)));
-        QVERIFY(sure.elapsed() < 2000);
+        QVERIFY(sure.elapsed() < 10000);
     }
 
   private:
