@@ -67,20 +67,34 @@ struct BilgiSutunu {
 };
 constexpr std::array kSutunlar{BilgiSutunu{kSolBilgiler, 0, 36}, BilgiSutunu{kSagBilgiler, kSagSutun, 30}};
 
+/// A value is to be read: its place grows. Only one that would take the sheet for itself gets as small as it
+/// must.
+SayfaParcasi DegerParcasi(const SayfaAkisi& akis, Metin ad, MetinBakis deger, SayfaYeri yer,
+                          AlanBicimi bicim) {
+    constexpr double kEnYuksek = 90; // millimetres
+    constexpr double kEnKucuk = 4;   // points
+    SayfaParcasi parca = akis.Parca(std::move(ad), deger, yer, bicim);
+    if (parca.yer.boy <= kEnYuksek)
+        return parca;
+    yer.boy = kEnYuksek;
+    bicim.enKucuk = kEnKucuk;
+    return akis.Parca(std::move(parca.ad), deger, yer, bicim);
+}
+
 /// The lines of one column, each under the one before.
 void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const FormPrint& sayfa,
                const BilgiSutunu& sutun, double punto) {
     constexpr double kIkiNokta = 3;
     const double degerSol = sutun.baslikEni + kIkiNokta;
-    const AlanBicimi bicim{{punto, false}, Hiza::Sol, 9}; // an address is to be read: its place grows
+    const AlanBicimi bicim{{punto, false}, Hiza::Sol, 9};
     const double boy = SatirBoyu(bicim.yazi);
     double ust = 0;
     for (const BilgiSatiri& satir : sutun.satirlar) {
         blok.push_back(akis.Parca(u"", satir.baslik, {sutun.sol, ust, sutun.baslikEni, boy}, bicim));
         blok.push_back(akis.Parca(u"", u":", {sutun.sol + sutun.baslikEni, ust, kIkiNokta, boy}, bicim));
-        blok.push_back(akis.Parca(Metin(satir.ad), (sayfa.*satir.alan).baslik,
-                                  {sutun.sol + degerSol, ust, kSutunEni - degerSol, satir.satir * boy},
-                                  bicim));
+        blok.push_back(DegerParcasi(akis, Metin(satir.ad), (sayfa.*satir.alan).baslik,
+                                    {sutun.sol + degerSol, ust, kSutunEni - degerSol, satir.satir * boy},
+                                    bicim));
         ust = blok.back().yer.Alt();
     }
 }

@@ -92,12 +92,14 @@ class KayitYeriPenceresi : public QFileDialog {
 
     void SutunlariDuzenle() {
         constexpr int kAdSutunu = 0;
+        constexpr int kBoySutunu = 1;
         constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
         constexpr int kTarihSutunu = 3;
         auto* liste = findChild<QTreeView*>(QStringLiteral("treeView"));
         liste->hideColumn(kTurSutunu);
         liste->header()->setSectionResizeMode(kAdSutunu, QHeaderView::Stretch);
-        liste->header()->setSectionResizeMode(kTarihSutunu, QHeaderView::ResizeToContents);
+        for (const int sutun : {kBoySutunu, kTarihSutunu})
+            liste->header()->setSectionResizeMode(sutun, QHeaderView::ResizeToContents);
     }
 
     QString uzanti_;

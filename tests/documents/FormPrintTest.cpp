@@ -279,6 +279,16 @@ TEST_F(FormPrintTest, An_address_of_five_lines_pushes_down_what_is_under_it) {
     EXPECT_NE(MetniSuradan(u"CAdres ").find(u" 9 <|Çay Sk. 3|Gül Apt.|Kat 2|"), Metin::npos);
 }
 
+TEST_F(FormPrintTest, An_address_as_long_as_clauses_stays_on_its_sheet) {
+    Metin adres;
+    for (int satir = 1; adres.size() < 4000; ++satir)
+        adres += u"Apartman " + SayiMetni(satir) + u" yanındaki dükkan\r\n";
+    for (const std::size_t boy : {1500U, 3000U, 4000U}) {
+        sayfa.CAdres.baslik = adres.substr(0, boy);
+        HepsiGorunmeli(sayfa.CAdres, u"CAdres");
+    }
+}
+
 TEST_F(FormPrintTest, Names_without_a_blank_are_broken_and_never_cut_off) {
     const std::pair<Etiket*, MetinBakis> alanlar[]{{&sayfa.Unvan, u"Unvan"},    {&sayfa.SozNo, u"SozNo"},
                                                    {&sayfa.Tarihi, u"Tarihi"},  {&sayfa.CAdi, u"CAdi"},
