@@ -227,7 +227,7 @@ std::optional<std::filesystem::path> QtOrtam::KayitYeri(const KayitYeriKutusu& k
     const auto sor = [this](QWidget* pencere, const KayitYeriKutusu& sorulan) {
         return KayitYeriSor(pencere, sorulan, kayitKlasoru_.isEmpty() ? BelgeKlasoru() : kayitKlasoru_);
     };
-    const auto yol = Kutuda(sor, Ondeki(), kutu);
+    auto yol = Kutuda(sor, Ondeki(), kutu);
     if (yol)
         kayitKlasoru_ = QString::fromStdU16String(yol->parent_path().u16string());
     return yol;

@@ -34,6 +34,16 @@ void GuiFirma::AradaCalis() const {
         is();
 }
 
+template <class Donus, class... Girdi, class Cevaplayan>
+void GuiFirma::HazirCevapla(std::function<Donus(Girdi...)>& islev, Cevaplayan cevapla) {
+    islev = [this, asil = islev, cevapla](Girdi... girdi) -> Donus {
+        if (!hazirCevap)
+            return asil(girdi...);
+        AradaCalis();
+        return cevapla(girdi...);
+    };
+}
+
 Ortam GuiFirma::Dis() {
     Ortam ortam = disDunya.Ver();
     ortam.zaman.simdi = [this] { return simdi; };
@@ -51,61 +61,15 @@ Ortam GuiFirma::Dis() {
         AradaCalis();
         return true;
     };
-    ortam.sor.mesaj = [this, sor = ortam.sor.mesaj](const MesajKutusu& kutu) {
-        if (!hazirCevap)
-            return sor(kutu);
-        AradaCalis();
-        return *hazirCevap;
-    };
-    ortam.sor.girdi = [this, sor = ortam.sor.girdi](const GirdiKutusu& kutu) {
-        if (!hazirCevap)
-            return sor(kutu);
-        AradaCalis();
-        return Metin(u"2 Yeni"); // a name, and a number of copies
-    };
-    ortam.sor.kayitYeri = [this, sor = ortam.sor.kayitYeri](const KayitYeriKutusu& kutu) {
-        if (!hazirCevap)
-            return sor(kutu);
-        AradaCalis();
-        return std::optional(agac.Kok() / kutu.ad);
-    };
-    ortam.kagit.yazdir = [this, yazdir = ortam.kagit.yazdir](const auto& sayfalar, const Metin& isAdi) {
-        if (!hazirCevap)
-            return yazdir(sayfalar, isAdi);
-        AradaCalis();
-        return true;
-    };
-    ortam.kagit.pdfYaz = [this, yaz = ortam.kagit.pdfYaz](const auto& sayfalar, const Metin& isAdi,
-                                                          const std::filesystem::path& dosya) {
-        if (!hazirCevap)
-            return yaz(sayfalar, isAdi, dosya);
-        AradaCalis();
-        return true;
-    };
-    ortam.sor.kayitYeri = [this, sor = ortam.sor.kayitYeri](const KayitYeriKutusu& kutu) {
-        if (!hazirCevap)
-            return sor(kutu);
-        AradaCalis();
-        return std::optional(agac.Kok() / kutu.ad);
-    };
-    ortam.kagit.yazdir = [this, yazdir = ortam.kagit.yazdir](const auto& sayfalar, const Metin& isAdi) {
-        if (!hazirCevap)
-            return yazdir(sayfalar, isAdi);
-        AradaCalis();
-        return true;
-    };
-    ortam.kagit.pdfYaz = [this, yaz = ortam.kagit.pdfYaz](const auto& sayfalar, const Metin& isAdi,
-                                                          const std::filesystem::path& dosya) {
-        if (!hazirCevap)
-            return yaz(sayfalar, isAdi, dosya);
-        AradaCalis();
-        return true;
-    };
-    ortam.goster.modal = [this, modal = ortam.goster.modal](EkranAdi ekran, const auto& gorununce) {
-        if (!hazirCevap)
-            return modal(ekran, gorununce);
-        AradaCalis();
-    };
+    HazirCevapla(ortam.sor.mesaj, [this](const MesajKutusu&) { return *hazirCevap; });
+    HazirCevapla(ortam.sor.girdi, [](const GirdiKutusu&) { return Metin(u"2 Yeni"); }); // a name, and a
+                                                                                        // number
+    HazirCevapla(ortam.sor.kayitYeri,
+                 [this](const KayitYeriKutusu& kutu) { return std::optional(agac.Kok() / kutu.ad); });
+    HazirCevapla(ortam.kagit.yazdir, [](const auto&, const Metin&) { return true; });
+    HazirCevapla(ortam.kagit.pdfYaz,
+                 [](const auto&, const Metin&, const std::filesystem::path&) { return true; });
+    HazirCevapla(ortam.goster.modal, [](EkranAdi, const auto&) {});
     return ortam;
 }
 

@@ -48,8 +48,8 @@ class GuiFirma {
     std::function<void()> arada;
     /// Files that were given to the user's own programs; none is started.
     std::vector<std::filesystem::path> acilanDosyalar;
-    /// While set, boxes aren't shown but answered so, screens aren't shown over others but closed at once, and
-    /// pages go nowhere.
+    /// While set, boxes aren't shown but answered so, screens aren't shown over others but closed at once,
+    /// and pages go nowhere.
     std::optional<Cevap> hazirCevap;
 
     /// How often the program was told to end. It goes on all the same, unless `gercektenBiter`: the event
@@ -66,6 +66,9 @@ class GuiFirma {
     QWidget& PencereParcasi();
     Ortam Dis();
     void AradaCalis() const;
+    /// While answers are ready the outside isn't asked but `cevapla`.
+    template <class Donus, class... Girdi, class Cevaplayan>
+    void HazirCevapla(std::function<Donus(Girdi...)>& islev, Cevaplayan cevapla);
 };
 
 inline constexpr MetinBakis kSalonA = u"Gül Salonu";
