@@ -67,16 +67,14 @@ struct BilgiSutunu {
 };
 constexpr std::array kSutunlar{BilgiSutunu{kSolBilgiler, 0, 36}, BilgiSutunu{kSagBilgiler, kSagSutun, 30}};
 
-/// A value is to be read: its place grows. Only one that would take the sheet for itself gets as small as it
-/// must.
-SayfaParcasi DegerParcasi(const SayfaAkisi& akis, Metin ad, MetinBakis deger, SayfaYeri yer,
-                          AlanBicimi bicim) {
-    constexpr double kEnYuksek = 90; // millimetres
-    constexpr double kEnKucuk = 4;   // points
+/// A value is to be read: its place grows. Only one that would grow beyond `enCok` gets as small as it must.
+SayfaParcasi DegerParcasi(const SayfaAkisi& akis, Metin ad, MetinBakis deger, SayfaYeri yer, AlanBicimi bicim,
+                          double enCok) {
+    constexpr double kEnKucuk = 4; // points
     SayfaParcasi parca = akis.Parca(std::move(ad), deger, yer, bicim);
-    if (parca.yer.boy <= kEnYuksek)
+    if (parca.yer.boy <= enCok)
         return parca;
-    yer.boy = kEnYuksek;
+    yer.boy = enCok;
     bicim.enKucuk = kEnKucuk;
     return akis.Parca(std::move(parca.ad), deger, yer, bicim);
 }
@@ -88,13 +86,20 @@ void SutunEkle(std::vector<SayfaParcasi>& blok, const SayfaAkisi& akis, const Fo
     const double degerSol = sutun.baslikEni + kIkiNokta;
     const AlanBicimi bicim{{punto, false}, Hiza::Sol, 9};
     const double boy = SatirBoyu(bicim.yazi);
+    constexpr double kEnYuksekDeger = 90; // millimetres
+    constexpr double kEnYuksekSutun = 200;
     double ust = 0;
+    double altinda = 0; // what the lines below need at least
+    for (const BilgiSatiri& satir : sutun.satirlar)
+        altinda += satir.satir * boy;
     for (const BilgiSatiri& satir : sutun.satirlar) {
+        altinda -= satir.satir * boy;
+        const double enCok = std::clamp(kEnYuksekSutun - ust - altinda, satir.satir * boy, kEnYuksekDeger);
         blok.push_back(akis.Parca(u"", satir.baslik, {sutun.sol, ust, sutun.baslikEni, boy}, bicim));
         blok.push_back(akis.Parca(u"", u":", {sutun.sol + sutun.baslikEni, ust, kIkiNokta, boy}, bicim));
         blok.push_back(DegerParcasi(akis, Metin(satir.ad), (sayfa.*satir.alan).baslik,
                                     {sutun.sol + degerSol, ust, kSutunEni - degerSol, satir.satir * boy},
-                                    bicim));
+                                    bicim, enCok));
         ust = blok.back().yer.Alt();
     }
 }

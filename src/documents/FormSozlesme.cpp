@@ -6,6 +6,7 @@
 #include "documents/FormPrint.h"
 #include "online/FormFirma.h"
 #include "online/Iller.h"
+#include "screen/Bayrak.h"
 #include "screen/Program.h"
 #include "storage/AlanDosyasi.h"
 
@@ -68,10 +69,12 @@ std::vector<Sayfa> FormSozlesme::OrnekSayfalar() const {
 }
 
 void FormSozlesme::Command1_Click() {
+    const Bayrak suren(baskida);
     Yazdir(program_, OrnekSayfalar(), OrnekAdi());
 }
 
 void FormSozlesme::Pdf_Click() {
+    const Bayrak suren(baskida);
     PdfKaydet(program_, OrnekSayfalar(), OrnekAdi());
 }
 

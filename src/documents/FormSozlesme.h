@@ -29,6 +29,7 @@ struct FormSozlesme {
     void Command3_Click(); ///< "İptal"
 
     Metin baslik = u"Sözleşme Ayarları";
+    bool baskida = false; ///< a sample goes to paper or into a file, and its handler waits for it
     MetinKutusu Unvan;
     AcilirListe Sehir;
     MetinKutusu Baslik;

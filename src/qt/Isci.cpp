@@ -66,9 +66,10 @@ Isci::~Isci() {
 
 void Isci::Ver(Is is, std::function<void(bool)> bitince) {
     if (!ic_) {
-        ic_ = std::make_shared<Ic>();
-        ic_->alici = &alici_;
-        is_ = std::thread([ic = ic_] { Calis(*ic); });
+        auto ic = std::make_shared<Ic>();
+        ic->alici = &alici_;
+        is_ = std::thread([ic] { Calis(*ic); });
+        ic_ = std::move(ic); // only once somebody works on it
     }
     {
         const std::lock_guard kilit(ic_->kilit);

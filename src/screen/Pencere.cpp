@@ -4,10 +4,10 @@
 
 namespace velora {
 
-void EkranYigini::Koy(EkranAdi ad, Etkinlestir etkinlestir) {
+void EkranYigini::Koy(EkranAdi ad, Durus durus, Etkinlestir etkinlestir) {
     // Shown again, a screen that stands already comes to the front.
     Al(ad);
-    kayitlar_.push_back({ad, std::move(etkinlestir)});
+    kayitlar_.push_back({ad, durus, std::move(etkinlestir)});
 }
 
 void EkranYigini::Al(EkranAdi ad) {
@@ -17,11 +17,16 @@ void EkranYigini::Al(EkranAdi ad) {
         kayitlar_.erase(std::next(yer).base());
 }
 
-void EkranYigini::UsttekiniEtkinlestir() const {
-    if (kayitlar_.empty())
-        return;
-    const Etkinlestir etkinlestir = kayitlar_.back().etkinlestir;
-    etkinlestir();
+void EkranYigini::UsttekileriEtkinlestir() const {
+    // Copies: who is activated may show and close screens.
+    std::vector<Etkinlestir> sirayla;
+    for (auto kayit = kayitlar_.rbegin(); kayit != kayitlar_.rend(); ++kayit) {
+        sirayla.push_back(kayit->etkinlestir);
+        if (kayit->durus == Durus::Ustunde)
+            break;
+    }
+    for (const Etkinlestir& etkinlestir : sirayla)
+        etkinlestir();
 }
 
 bool EkranYigini::Acik(EkranAdi ad) const {

@@ -10,6 +10,9 @@ namespace velora {
 
 struct Program;
 
+/// How a screen stands on the display: beside the others, or so that nobody gets at those below.
+enum class Durus { Yaninda, Ustunde };
+
 /// The screens that stand on the display, from the lowest to the topmost. A screen is activated when it is
 /// first shown, and again when a screen that stood over it closes. Boxes, menus and other programs activate
 /// nothing.
@@ -17,16 +20,18 @@ class EkranYigini {
   public:
     using Etkinlestir = std::function<void()>;
 
-    void Koy(EkranAdi ad, Etkinlestir etkinlestir);
+    void Koy(EkranAdi ad, Durus durus, Etkinlestir etkinlestir);
     void Al(EkranAdi ad);
-    /// Activates the topmost screen.
-    void UsttekiniEtkinlestir() const;
+    /// Activates those that the user can get at: from the topmost screen down to the first one that stands
+    /// over the others. One beside that one doesn't keep it from knowing that a third has closed.
+    void UsttekileriEtkinlestir() const;
     bool Acik(EkranAdi ad) const;
     bool Bos() const { return kayitlar_.empty(); }
 
   private:
     struct Kayit {
         EkranAdi ad;
+        Durus durus;
         Etkinlestir etkinlestir;
     };
     std::vector<Kayit> kayitlar_;

@@ -51,7 +51,7 @@ std::shared_ptr<Ekran> Pencere<Ekran>::Tut() {
 template <class Ekran>
 void Pencere<Ekran>::Goster() {
     Tut();
-    program_.yigin.Koy(ad_, [this] { Etkinlestir(); });
+    program_.yigin.Koy(ad_, Durus::Yaninda, [this] { Etkinlestir(); });
     program_.ortam.goster.ac(ad_, [this] { Etkinlestir(); });
 }
 
@@ -66,10 +66,10 @@ void Pencere<Ekran>::GosterModal(const std::function<bool()>& hazirla) {
     if (hazirla && !Yuklu())
         return;
     Tut();
-    program_.yigin.Koy(ad_, [this] { Etkinlestir(); });
+    program_.yigin.Koy(ad_, Durus::Ustunde, [this] { Etkinlestir(); });
     program_.ortam.goster.modal(ad_, [this] { Etkinlestir(); });
     program_.yigin.Al(ad_);
-    program_.yigin.UsttekiniEtkinlestir();
+    program_.yigin.UsttekileriEtkinlestir();
 }
 
 template <class Ekran>

@@ -138,6 +138,9 @@ void FormTablo::Cikissssss_Click() {
 }
 
 void FormTablo::Sozduzenss_Click() {
+    // Shown over the others its window would wait for its own handler, and that one for the window.
+    if (program_.FormSozlesme.Yuklu() && program_.FormSozlesme->baskida)
+        return;
     program_.FormSozlesme.GosterModal([this] {
         TazeSozlesme(program_);
         return true;

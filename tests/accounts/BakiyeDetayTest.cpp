@@ -50,7 +50,7 @@ TEST_F(BakiyeDetay, A_row_opens_its_record_as_an_existing_one_on_its_own_day) {
     });
 }
 
-TEST_F(BakiyeDetay, Payments_shown_and_saved_are_those_of_the_rows_day_wherever_the_pointer_was) {
+TEST_F(BakiyeDetay, Payments_shown_and_saved_are_those_of_the_rows_day_wherever_the_pointer_was_on_purpose) {
     RezervasyonKoy(Metin(kGun));
     RezervasyonKoy(Metin(kOtekiGun));
     const std::string gunun = "\"01.02.2012\",\"700\",\"x\"\r\n";

@@ -29,7 +29,7 @@ TEST_F(BakiyeListesi, Both_slots_of_a_day_are_two_rows) {
     YiliListele([&] { EXPECT_EQ(Gunler(), (Adlar{u"20.06.2012 - Gece", u"20.06.2012 - Gündüz"})); });
 }
 
-TEST_F(BakiyeListesi, Rows_stand_in_the_order_of_the_folder_by_day_before_month) {
+TEST_F(BakiyeListesi, Rows_stand_in_the_order_of_the_folder_by_day_before_month_on_purpose) {
     for (const char16_t* gun : {u"02.01.2012 - Gece", u"01.12.2012 - Gece", u"31.05.2012 - Gece"})
         RezervasyonKoy(gun);
     YiliListele([&] {
@@ -58,7 +58,8 @@ TEST_F(BakiyeListesi, A_range_that_ends_before_it_begins_holds_nothing) {
     });
 }
 
-TEST_F(BakiyeListesi, Each_type_lists_its_own_and_a_record_in_neither_state_is_a_firm_one_only_among_all) {
+TEST_F(BakiyeListesi,
+       Each_type_lists_its_own_and_a_record_in_neither_state_is_a_firm_one_only_among_all_on_purpose) {
     DurumluKoy(u"01.06.2012 - Gece", u"1", u"0");
     DurumluKoy(u"02.06.2012 - Gece", u"0", u"1");
     DurumluKoy(u"03.06.2012 - Gece", u"0", u"0");
@@ -150,7 +151,7 @@ TEST_F(BakiyeListesi, Expenses_payments_details_and_names_outside_the_pattern_ar
     YiliListele([&] { EXPECT_EQ(Gunler(), Adlar{u"20.06.2012 - Gece"}); });
 }
 
-TEST_F(BakiyeListesi, The_day_of_a_row_is_cut_after_19_signs_and_its_path_is_not) {
+TEST_F(BakiyeListesi, The_day_of_a_row_is_cut_after_19_signs_and_its_path_is_not_on_purpose) {
     RezervasyonKoy(u"20.06.2012 - Gece eski");
     YiliListele([&] {
         EXPECT_EQ(Gunler(), Adlar{u"20.06.2012 - Gece e"});

@@ -16,7 +16,7 @@ class BakiyeToplami : public BakiyeTest {
     unsigned gun_ = 0;
 };
 
-TEST_F(BakiyeToplami, Nothing_in_the_range_shows_zeros_and_a_box) {
+TEST_F(BakiyeToplami, Nothing_in_the_range_shows_zeros_and_a_box_on_purpose) {
     RaporAc([&] {
         BosKutuBekle();
         Rapor().ListeleGun();
@@ -39,7 +39,7 @@ TEST_F(BakiyeToplami, Each_kind_has_its_total_and_every_other_one_shares_the_las
     });
 }
 
-TEST_F(BakiyeToplami, A_kind_in_other_letters_or_with_blanks_counts_as_another_one) {
+TEST_F(BakiyeToplami, A_kind_in_other_letters_or_with_blanks_counts_as_another_one_on_purpose) {
     for (const char16_t* nitelik : {u"DÜĞÜN", u"düğün", u" Düğün", u"Düğün "})
         Koy(nitelik, u"10");
     YiliListele([&] {

@@ -43,9 +43,9 @@ TEST_F(GiderlerTesti, Captions) {
     EXPECT_EQ(Giderler().Giderler.once, u"Gider Toplamı");
     Metin dugmeler;
     for (const Dugme* dugme : {&Giderler().Listele, &Giderler().Command3, &Giderler().Command4,
-                               &Giderler().Kaydet, &Giderler().Command1})
+                               &Giderler().Kaydet, &Giderler().Command2, &Giderler().Command1})
         dugmeler += dugme->baslik + u" / ";
-    EXPECT_EQ(dugmeler, u"Listele / Ekle / Sil / Kaydet / Kapat / ");
+    EXPECT_EQ(dugmeler, u"Listele / Ekle / Sil / Kaydet / Makbuz / Kapat / ");
     EXPECT_EQ(Giderler().Liste.basliklar, (std::vector<Metin>{u"Tarih", u"Tutar", u"İşlem", u"Açıklama"}));
 }
 
@@ -87,7 +87,8 @@ TEST_F(GiderlerTesti, Another_year_lists_the_whole_of_it) {
     });
 }
 
-TEST_F(GiderlerTesti, The_same_expense_is_listed_alike_here_and_in_the_cash_book_before_and_after_a_save) {
+TEST_F(GiderlerTesti,
+       The_same_expense_is_listed_alike_here_and_in_the_cash_book_before_and_after_a_save_on_purpose) {
     agac.Koy(kGiderYolu, "#2012-05-03#,\"150\",\"Elektrik\"\r\n");
     const Satirlar beklenen{{u"03.05.2012", u"150", u"Gider", u"Elektrik"}};
     GiderleriAc([&] {
@@ -185,6 +186,18 @@ TEST_F(GiderlerTesti, A_save_of_a_year_without_a_file_leaves_none) {
         VELORA_BAS(Prog().FormGiderler, Kaydet);
         EXPECT_EQ(isler, (std::vector{DosyaIsi::Yaz, DosyaIsi::Sil}));
         EXPECT_FALSE(agac.Var(kGiderYolu));
+    });
+}
+
+TEST_F(GiderlerTesti, A_save_in_a_year_without_a_folder_writes_nothing_and_says_nothing) {
+    GiderleriAc([&] {
+        TarihSec(Giderler().DTPicker3, TarihCoz(u"07.03.2031").value());
+        const std::string once = agac.Resim();
+        VELORA_BAS(Prog().FormGiderler, Kaydet);
+        EXPECT_EQ(agac.Resim(), once);
+        EXPECT_FALSE(agac.KlasorVar(u"Salon A/2031"));
+        EXPECT_TRUE(Prog().FormGiderler.Yuklu());
+        EXPECT_EQ(Giderler().Giderler.baslik, u":  TL");
     });
 }
 

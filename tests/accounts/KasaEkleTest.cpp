@@ -27,6 +27,7 @@ TEST_F(KasaEkle, Opens_on_the_hall_of_the_cash_book_and_today_and_waits_for_an_a
             EXPECT_EQ(Ekle().DTPicker1.baslik, u"Tarih");
             EXPECT_EQ(Ekle().Tutar.baslik + u'/' + Ekle().Tutar.sonra, u"Gider/TL");
             EXPECT_EQ(Ekle().Aciklama.baslik, u"Açıklama");
+            EXPECT_EQ(Ekle().Command1.baslik + u'/' + Ekle().Command2.baslik, u"Tamam/İptal");
             EXPECT_EQ(Ekle().Ornek.baslik, u"(Örn : Piyanist, Elektrik, Su Faturası)");
         });
     });
@@ -58,7 +59,7 @@ TEST_F(KasaEkle, Only_digits_get_into_the_amount_and_blanks_are_none) {
     });
 }
 
-TEST_F(KasaEkle, An_expense_goes_to_the_end_of_the_file_with_its_day_as_a_literal) {
+TEST_F(KasaEkle, An_expense_goes_to_the_end_of_the_file_with_its_day_as_a_literal_on_purpose) {
     agac.Koy(kGiderYolu, "\"15.06.2012\",\"7\",\"a\"\r\n");
     KasaAc([&] {
         KasadanEkle([&] {
@@ -126,6 +127,26 @@ TEST_F(KasaEkle, On_a_full_disk_the_file_keeps_what_it_had) {
         Prog().dosyalar.bosYer = 3;
         KasadanEkle([&] { GiderGir(u"150", u"Su"); });
         EXPECT_EQ(agac.Bayt(kGiderYolu), "\"15.06.2012\",\"7\",\"a\"\r\n");
+    });
+}
+
+TEST_F(KasaEkle, A_quote_in_a_description_is_not_cleaned_and_slides_the_expenses_behind_it_on_purpose) {
+    KasaAc([&] {
+        KasaAraligi(u"01.05.2012", u"31.05.2012");
+        const auto ekle = [&](MetinBakis gun, MetinBakis tutar, MetinBakis aciklama) {
+            KasadanEkle([&, gun, tutar, aciklama] {
+                TarihSec(Ekle().DTPicker1, TarihCoz(gun).value());
+                GiderGir(tutar, aciklama);
+            });
+        };
+        ekle(u"03.05.2012", u"150", u"5\" boru");
+        EXPECT_EQ(agac.Bayt(kGiderYolu), "#2012-05-03#,\"150\",\"5\" boru\"\r\n");
+        ekle(u"04.05.2012", u"90", u"Su");
+        const Satirlar satirlar = Okunan(Kasa().Liste);
+        ASSERT_FALSE(satirlar.empty());
+        EXPECT_EQ(satirlar.front(), (std::vector<Metin>{u"03.05.2012", u"150", u"Gider", u"5"}));
+        for (const auto& satir : satirlar)
+            EXPECT_NE(satir[1], u"90") << "what lies behind the quote isn't seen any more";
     });
 }
 

@@ -37,7 +37,8 @@ TEST_F(KasaListesiTesti, Captions) {
     EXPECT_EQ(dugmeler, u"Listele / Excel'e Aktar / Giderler Listesi / Gider Ekle / Kapat / ");
 }
 
-TEST_F(KasaListesiTesti, Income_and_expenses_of_all_years_stand_in_the_order_of_years_names_and_records) {
+TEST_F(KasaListesiTesti,
+       Income_and_expenses_of_all_years_stand_in_the_order_of_years_names_and_records_on_purpose) {
     agac.Koy(u"Salon A/2012/20.12.2012 - Gece-Odeme",
              "\"31.12.2012\",\"1250.50\",\"7 - Ali\"\r\n\"02.12.2012\",\"250\",\"7 - Ali\"\r\n");
     agac.Koy(u"Salon A/2012/31.12.2012 - Gece-Odeme", "\"20.12.2012\",\"1.250\",\"8\"\r\n");
@@ -150,13 +151,24 @@ TEST_F(KasaListesiTesti, The_record_that_an_empty_file_repeats_is_the_one_read_l
     });
 }
 
-TEST_F(KasaListesiTesti, An_empty_file_before_any_record_gives_no_row_and_a_new_listing_remembers_none) {
+TEST_F(KasaListesiTesti,
+       An_empty_file_before_any_record_gives_no_row_and_a_new_listing_remembers_none_on_purpose) {
     agac.Koy(u"Salon A/2012/01.06.2012 - Gece-Odeme", "");
     agac.Koy(kGiderYolu, "\"15.06.2012\",\"7\",\"a\"\r\n");
     KasayiListele(u"01.06.2012", u"30.06.2012", [&] {
         ToplamOlmali(u":  TL", u": 7 TL", u": -7 TL");
         Kasa().ListeleGun();
         ToplamOlmali(u":  TL", u": 7 TL", u": -7 TL");
+    });
+}
+
+TEST_F(KasaListesiTesti, A_year_without_a_folder_repeats_nothing_of_the_year_before) {
+    agac.Koy(u"Salon A/2012/01.06.2012 - Gece-Odeme", "\"15.06.2012\",\"7\",\"a\"\r\n");
+    agac.Koy(u"Salon A/2014/Gider.dat", "\"02.03.2014\",\"90\",\"b\"\r\n");
+    EXPECT_FALSE(agac.KlasorVar(u"Salon A/2013"));
+    KasayiListele(u"01.01.2012", u"31.12.2014", [&] {
+        EXPECT_EQ(Okunan(Kasa().Liste),
+                  (Satirlar{{u"15.06.2012", u"7", u"Gelir", u"a"}, {u"02.03.2014", u"90", u"Gider", u"b"}}));
     });
 }
 

@@ -289,6 +289,13 @@ TEST_F(FormPrintTest, An_address_as_long_as_clauses_stays_on_its_sheet) {
     }
 }
 
+TEST_F(FormPrintTest, Several_long_values_share_the_height_of_their_column) {
+    for (Etiket* deger : {&sayfa.CAdi, &sayfa.CGelin, &sayfa.CYore, &sayfa.CTel})
+        deger->baslik = Metin(780, u'W') + deger->baslik;
+    HepsiGorunmeli(sayfa.CAdi, u"CAdi");
+    HepsiGorunmeli(sayfa.CTel, u"CTel");
+}
+
 TEST_F(FormPrintTest, Names_without_a_blank_are_broken_and_never_cut_off) {
     const std::pair<Etiket*, MetinBakis> alanlar[]{{&sayfa.Unvan, u"Unvan"},    {&sayfa.SozNo, u"SozNo"},
                                                    {&sayfa.Tarihi, u"Tarihi"},  {&sayfa.CAdi, u"CAdi"},

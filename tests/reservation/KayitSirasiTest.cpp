@@ -32,7 +32,8 @@ class KayitSirasiTest : public KayitTest {
         };
         Ortam& ortam = Prog().ortam;
         ortam.goster.gizle = [this, eski = ortam.goster.gizle](EkranAdi ekran) {
-            adimlar.emplace_back(ekran == EkranAdi::FormKayit ? "kapanış" : "başka kapanış");
+            if (ekran != EkranAdi::FormIpMac) // the table, which comes to the front, reads the key
+                adimlar.emplace_back(ekran == EkranAdi::FormKayit ? "kapanış" : "başka kapanış");
             eski(ekran);
         };
         ortam.goster.ac = [this, eski = ortam.goster.ac](EkranAdi ekran, const auto& gorununce) {

@@ -274,4 +274,27 @@ TEST_F(SozlesmeAkisi, A_pdf_bears_that_the_reservation_goes_while_its_questions_
     });
 }
 
+TEST_F(SozlesmeAkisi, The_totals_follow_a_payment_also_while_the_template_stands_beside) {
+    MaddeKoy(u"");
+    DoluKayit([&] {
+        SayfaSorusu(u"1");
+        MaddeYokKutusu();
+        Yazdir();
+        ASSERT_TRUE(Prog().yigin.Acik(EkranAdi::FormSozlesme));
+        OdemeAl(u"400");
+        EXPECT_EQ(Kayit().Kay[AnaNo::AlinanOdeme].metin, u"2900");
+        EXPECT_EQ(Kayit().Kay[AnaNo::KalanOdeme].metin, u"9600");
+        EXPECT_FALSE(Kayit().Command9.etkin) << "a payment must be clicked again";
+    });
+}
+
+TEST_F(SozlesmeAkisi, The_template_does_not_come_over_all_while_its_own_sample_is_printed) {
+    Prog().FormSozlesme.Goster();
+    BaskiBekle(u"Örnek Sözleşme", true, [&] { kullanici.KomutSec(Komut::Sozduzenss); });
+    VELORA_BAS(Prog().FormSozlesme, Command1);
+    EXPECT_EQ(Basilanlar().size(), 1U);
+    EkranBekle(EkranAdi::FormSozlesme, [] {}); // and afterwards it does
+    kullanici.KomutSec(Komut::Sozduzenss);
+}
+
 } // namespace velora::test

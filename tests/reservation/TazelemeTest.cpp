@@ -133,4 +133,24 @@ TEST_F(TazelemeTest, A_save_loads_neither_report_nor_search) {
     EXPECT_FALSE(Prog().FormArama.Yuklu());
 }
 
+TEST_F(TazelemeTest, A_report_that_stops_at_a_broken_name_stops_nothing_of_the_save_on_purpose) {
+    EkranlariAc();
+    Prog().Splash->Check1 = Prog().Splash->Check2 = 1;
+    agac.Koy(u"Salon A/2012/00.yedek", "");
+    const Metin toplam = Prog().FormBakiye->Toplam.baslik;
+    KayitAc([&] {
+        Gir(1, u"Can Yılmaz");
+        Gir(AnaNo::ToplamUcret, u"77");
+        Tikla(Kayit().Check18);
+        KutuBekle(u"Hiç kayıt bulunamadı!");
+        KutuBekle(u"Hatırlatmalarda yaklaşan rezervasyon yok.");
+        KaydeteBas();
+        EXPECT_FALSE(Prog().FormKayit.Yuklu());
+    });
+    EXPECT_TRUE(Prog().FormBakiye->Liste.satirlar.empty());
+    EXPECT_EQ(Prog().FormBakiye->Toplam.baslik, toplam) << "the labels keep what they showed";
+    EXPECT_EQ(Prog().FormBakiye->Label19.baslik, u": 1");
+    EXPECT_EQ(Yayinlar(), 1);
+}
+
 } // namespace velora::test

@@ -61,7 +61,7 @@ TEST_F(PencereTest, A_screen_shown_again_comes_to_the_front_and_stands_there_onc
     alt.Goster();
     alt.Bosalt();
     Gunluk().clear();
-    program.yigin.UsttekiniEtkinlestir();
+    program.yigin.UsttekileriEtkinlestir();
     EXPECT_EQ(Gunluk(), std::vector<std::string>{"üst öne geldi"});
     EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormTablo));
 }
@@ -181,6 +181,25 @@ TEST_F(PencereTest, A_screen_that_went_while_it_was_filled_is_not_shown_empty) {
 
 TEST_F(PencereTest, Today_comes_from_the_outside_world) {
     EXPECT_EQ(TarihMetni(program.Bugun()), u"15.06.2012");
+}
+
+TEST_F(PencereTest,
+       A_screen_beside_one_that_stands_over_all_does_not_keep_that_one_from_coming_to_the_front) {
+    std::vector<std::string> etkinler;
+    const auto yaz = [&](const char* ad) { return [&etkinler, ad] { etkinler.emplace_back(ad); }; };
+    EkranYigini yigin;
+    yigin.UsttekileriEtkinlestir();
+    yigin.Koy(EkranAdi::FormTablo, Durus::Yaninda, yaz("tablo"));
+    yigin.Koy(EkranAdi::FormArama, Durus::Ustunde, yaz("arama"));
+    yigin.Koy(EkranAdi::FormKayit, Durus::Ustunde, yaz("kayıt"));
+    yigin.Koy(EkranAdi::FormSozlesme, Durus::Yaninda, yaz("şablon"));
+    yigin.UsttekileriEtkinlestir();
+    EXPECT_EQ(etkinler, (std::vector<std::string>{"şablon", "kayıt"}));
+    yigin.Al(EkranAdi::FormKayit);
+    yigin.Al(EkranAdi::FormArama);
+    etkinler.clear();
+    yigin.UsttekileriEtkinlestir();
+    EXPECT_EQ(etkinler, (std::vector<std::string>{"şablon", "tablo"}));
 }
 
 } // namespace velora::test
