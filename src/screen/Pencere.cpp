@@ -1,6 +1,7 @@
 #include "screen/Pencere.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace velora {
 
@@ -20,9 +21,9 @@ void EkranYigini::Al(EkranAdi ad) {
 void EkranYigini::UsttekileriEtkinlestir() const {
     // Copies: who is activated may show and close screens.
     std::vector<Etkinlestir> sirayla;
-    for (auto kayit = kayitlar_.rbegin(); kayit != kayitlar_.rend(); ++kayit) {
-        sirayla.push_back(kayit->etkinlestir);
-        if (kayit->durus == Durus::Ustunde)
+    for (const Kayit& kayit : std::views::reverse(kayitlar_)) {
+        sirayla.push_back(kayit.etkinlestir);
+        if (kayit.durus == Durus::Ustunde)
             break;
     }
     for (const Etkinlestir& etkinlestir : sirayla)
