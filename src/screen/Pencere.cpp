@@ -1,7 +1,7 @@
 #include "screen/Pencere.h"
 
 #include <algorithm>
-#include <ranges>
+#include <iterator>
 
 namespace velora {
 
@@ -19,15 +19,13 @@ void EkranYigini::Al(EkranAdi ad) {
 }
 
 void EkranYigini::UsttekileriEtkinlestir() const {
+    const auto ustunde = std::find_if(kayitlar_.rbegin(), kayitlar_.rend(),
+                                      [](const Kayit& kayit) { return kayit.durus == Durus::Ustunde; });
     // Copies: who is activated may show and close screens.
-    std::vector<Etkinlestir> sirayla;
-    for (const Kayit& kayit : std::views::reverse(kayitlar_)) {
-        sirayla.push_back(kayit.etkinlestir);
-        if (kayit.durus == Durus::Ustunde)
-            break;
-    }
-    for (const Etkinlestir& etkinlestir : sirayla)
-        etkinlestir();
+    const std::vector<Kayit> usttekiler(kayitlar_.rbegin(),
+                                        ustunde == kayitlar_.rend() ? ustunde : std::next(ustunde));
+    for (const Kayit& kayit : usttekiler)
+        kayit.etkinlestir();
 }
 
 bool EkranYigini::Acik(EkranAdi ad) const {
