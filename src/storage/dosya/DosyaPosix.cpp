@@ -285,6 +285,17 @@ bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& ver) {
     return false;
 }
 
+std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
+    constexpr std::int64_t kSaniye = 1'000'000'000;
+    constexpr mode_t kHaklar = 07777;
+    struct stat bilgi {};
+    if (::stat(yol.c_str(), &bilgi) != 0 || (!BuTur(Tur::Dosya, bilgi) && !BuTur(Tur::Klasor, bilgi)))
+        return std::nullopt;
+    return OgeBilgisi{BuTur(Tur::Dosya, bilgi) ? Tur::Dosya : Tur::Klasor,
+                      static_cast<std::uint64_t>(bilgi.st_size),
+                      bilgi.st_mtim.tv_sec * kSaniye + bilgi.st_mtim.tv_nsec, bilgi.st_mode & kHaklar};
+}
+
 bool Var(const std::filesystem::path& yol, Tur tur) {
     struct stat bilgi {};
     return ::stat(yol.c_str(), &bilgi) == 0 && BuTur(tur, bilgi);

@@ -220,6 +220,21 @@ bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& /*ver*/) {
     return false;
 }
 
+std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
+    constexpr DWORD kHaklar = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    constexpr std::int64_t kYuzNanosaniye = 100;
+    constexpr unsigned kUst = 32;
+    WIN32_FILE_ATTRIBUTE_DATA veri{};
+    if (!::GetFileAttributesExW(UzunYol(yol).c_str(), GetFileExInfoStandard, &veri))
+        return std::nullopt;
+    const auto birlestir = [](DWORD ust, DWORD alt) { return (std::uint64_t{ust} << kUst) | alt; };
+    const std::uint64_t an =
+        birlestir(veri.ftLastWriteTime.dwHighDateTime, veri.ftLastWriteTime.dwLowDateTime);
+    return OgeBilgisi{BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
+                      birlestir(veri.nFileSizeHigh, veri.nFileSizeLow),
+                      static_cast<std::int64_t>(an) * kYuzNanosaniye, veri.dwFileAttributes & kHaklar};
+}
+
 bool Var(const std::filesystem::path& yol, Tur tur) {
     return BuTur(tur, ::GetFileAttributesW(UzunYol(yol).c_str()));
 }

@@ -106,6 +106,17 @@ class Gozcu {
     std::unique_ptr<Ic> ic_;
 };
 
+/// What the system tells of an entry, links followed.
+struct OgeBilgisi {
+    Tur tur;
+    std::uint64_t boy;     ///< bytes
+    std::int64_t degisme;  ///< when it was written to last: nanoseconds, of this system's own beginning of time
+    std::uint32_t ozellik; ///< its attributes: who may do what with it, hidden or not
+};
+
+/// Nothing for what isn't there or is neither a file nor a folder.
+std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol);
+
 /// Whether that is there, under a name that the system takes for this one.
 bool Var(const std::filesystem::path& yol, Tur tur);
 bool DosyaSil(const std::filesystem::path& yol);

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+namespace velora {
+
+/// What the comparison says of a file. The bits from `KaynakYeni` on combine.
+namespace EslemeDurumu {
+inline constexpr int YalnizKaynakta = -2;
+inline constexpr int YalnizHedefte = -1;
+inline constexpr int Ayni = 0;
+inline constexpr int KaynakYeni = 1; ///< by a second or more
+inline constexpr int HedefYeni = 2;  ///< by a second or more
+inline constexpr int BoyFarkli = 4;
+inline constexpr int OzellikFarkli = 8;
+} // namespace EslemeDurumu
+
+struct EslemeSatiri {
+    std::filesystem::path ad; ///< of the file, without its folder
+    int durum = EslemeDurumu::Ayni;
+
+    bool operator==(const EslemeSatiri&) const = default;
+};
+
+/// Brings folders in line, file by file. It deletes nothing. Whatever fails is passed over and the rest goes
+/// on: a file that couldn't be copied whole stays as it was at its target, or away.
+///
+/// Plain files and folders only. Links are followed; one that leads back to a folder above itself is passed
+/// over, or the walk would never end.
+class FileSync {
+  public:
+    using Yol = std::filesystem::path;
+
+    /// `olaylar` runs behind each file and folder: whatever it does, the walk goes on. `atlanan` are folders
+    /// that no walk enters, as the backups' own.
+    explicit FileSync(std::function<void()> olaylar, std::vector<Yol> atlanan = {});
+
+    /// The files of two folders, without those below them: first all of the source, then those that only the
+    /// target has, each part sorted by name.
+    static std::vector<EslemeSatiri> Compare(const Yol& kaynak, const Yol& hedef);
+
+    /// Copies what differs of two folders' files. From the source to the target, unless the target's is the
+    /// newer one; with `ikiYonlu` that one, and what only the target has, is copied back.
+    void SyncFiles(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const;
+
+    /// The same for whole trees. A source that isn't there does nothing; a target that isn't there is made.
+    void SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const;
+
+  private:
+    void SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
+                         bool ikiYonlu) const;
+    void Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const;
+    bool Girilir(const Yol& gercek, const std::vector<Yol>& ustler) const;
+
+    std::function<void()> olaylar_;
+    std::vector<Yol> atlanan_;
+};
+
+} // namespace velora

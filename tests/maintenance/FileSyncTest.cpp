@@ -1,0 +1,196 @@
+#include "maintenance/FileSync.h"
+
+#include <fstream>
+
+#include "destek/GeciciAgac.h"
+
+#include <gtest/gtest.h>
+
+namespace velora::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using Satirlar = std::vector<EslemeSatiri>;
+
+/// Two folders, "kaynak" and "hedef", in which each file says where it is from.
+class FileSyncTest : public ::testing::Test {
+  protected:
+    FileSyncTest() {
+        agac.KlasorKoy(u"kaynak");
+        agac.KlasorKoy(u"hedef");
+    }
+
+    fs::path Kaynak(const fs::path& ad = {}) const {
+        return ad.empty() ? agac.Yol(u"kaynak") : agac.Yol(u"kaynak") / ad;
+    }
+    fs::path Hedef(const fs::path& ad = {}) const {
+        return ad.empty() ? agac.Yol(u"hedef") : agac.Yol(u"hedef") / ad;
+    }
+    static void Koy(const fs::path& yol, const std::string& bayt, fs::file_time_type zaman) {
+        fs::create_directories(yol.parent_path());
+        std::ofstream(yol, std::ios::binary) << bayt;
+        fs::last_write_time(yol, zaman);
+    }
+    static std::string Oku(const fs::path& yol) {
+        std::ifstream dosya(yol, std::ios::binary);
+        return {std::istreambuf_iterator<char>(dosya), {}};
+    }
+    void Esle(bool ikiYonlu = false) {
+        FileSync([this] { ++olaylar; }).SyncFolders(Kaynak(), Hedef(), ikiYonlu);
+    }
+
+    GeciciAgac agac;
+    const fs::file_time_type an = fs::file_time_type::clock::now() - 48h;
+    int olaylar = 0;
+};
+
+} // namespace
+
+TEST_F(FileSyncTest, Each_file_gets_its_status_and_the_bits_combine) {
+    Koy(Kaynak("a"), "aa", an);
+    Koy(Hedef("a"), "bb", an);
+    Koy(Kaynak("b"), "b", an);
+    Koy(Kaynak("c"), "cc", an + 5s);
+    Koy(Hedef("c"), "c", an);
+    Koy(Kaynak("d"), "d", an);
+    Koy(Hedef("d"), "ddd", an + 7s);
+    Koy(Kaynak("e"), "e", an);
+    Koy(Hedef("e"), "f", an);
+    fs::permissions(Hedef("e"), fs::perms::owner_read);
+    Koy(Hedef("f"), "f", an);
+    Koy(Kaynak("alt/g"), "g", an); // of a folder below nothing is said
+    EXPECT_EQ(FileSync::Compare(Kaynak(), Hedef()),
+              (Satirlar{{"a", 0}, {"b", -2}, {"c", 1 + 4}, {"d", 2 + 4}, {"e", 8}, {"f", -1}}));
+}
+
+TEST_F(FileSyncTest, Times_less_than_a_second_apart_are_the_same) {
+    Koy(Kaynak("a"), "a", an + 999ms);
+    Koy(Hedef("a"), "b", an);
+    Koy(Kaynak("b"), "a", an);
+    Koy(Hedef("b"), "b", an + 999ms);
+    Koy(Kaynak("c"), "a", an + 1s);
+    Koy(Hedef("c"), "b", an);
+    Koy(Kaynak("d"), "a", an);
+    Koy(Hedef("d"), "b", an + 1s);
+    EXPECT_EQ(FileSync::Compare(Kaynak(), Hedef()), (Satirlar{{"a", 0}, {"b", 0}, {"c", 1}, {"d", 2}}));
+}
+
+TEST_F(FileSyncTest, One_way_copies_what_is_new_or_newer_and_keeps_the_time) {
+    Koy(Kaynak("yeni"), "kaynak", an + 10s);
+    Koy(Kaynak("ayni"), "kaynak", an);
+    Koy(Hedef("ayni"), "hedef.", an);
+    Koy(Kaynak("eski"), "kaynak", an + 3s);
+    Koy(Hedef("eski"), "hedef", an);
+    Koy(Kaynak("boyu"), "kaynak", an);
+    Koy(Hedef("boyu"), "h", an);
+    Koy(Hedef("fazla"), "hedef", an);
+    Esle();
+    EXPECT_EQ(Oku(Hedef("yeni")), "kaynak");
+    EXPECT_EQ(fs::last_write_time(Hedef("yeni")), an + 10s);
+    EXPECT_EQ(Oku(Hedef("ayni")), "hedef.");
+    EXPECT_EQ(Oku(Hedef("eski")), "kaynak");
+    EXPECT_EQ(fs::last_write_time(Hedef("eski")), an + 3s);
+    EXPECT_EQ(Oku(Hedef("boyu")), "kaynak");
+    EXPECT_EQ(Oku(Hedef("fazla")), "hedef") << "what is gone from the source stays in the backup";
+    EXPECT_FALSE(fs::exists(Kaynak("fazla")));
+    EXPECT_EQ(olaylar, 5);
+}
+
+TEST_F(FileSyncTest, A_newer_one_in_the_target_of_another_size_is_not_copied_on_purpose) {
+    Koy(Kaynak("a"), "kaynak", an);
+    Koy(Hedef("a"), "hedef", an + 60s);
+    Esle();
+    EXPECT_EQ(Oku(Hedef("a")), "hedef");
+    EXPECT_EQ(Oku(Kaynak("a")), "kaynak");
+    Esle(true);
+    EXPECT_EQ(Oku(Kaynak("a")), "hedef") << "both ways it comes back";
+}
+
+TEST_F(FileSyncTest, Files_that_differ_in_attributes_alone_are_not_copied_on_purpose) {
+    Koy(Kaynak("a"), "kaynak", an);
+    Koy(Hedef("a"), "hedef.", an);
+    fs::permissions(Kaynak("a"), fs::perms::owner_read);
+    Esle(true);
+    EXPECT_EQ(Oku(Hedef("a")), "hedef.");
+    EXPECT_EQ(Oku(Kaynak("a")), "kaynak");
+}
+
+TEST_F(FileSyncTest, Whole_trees_go_along_and_both_ways_brings_back_what_only_the_target_has) {
+    Koy(Kaynak("Gül Salonu/2012/05.01.2012 - Gündüz"), "rez", an);
+    Koy(Kaynak("Gül Salonu/2013/Gider.dat"), "gider", an);
+    fs::create_directories(Kaynak("boş"));
+    Koy(Hedef("öteki/alt/x"), "x", an);
+    Koy(Hedef("Gül Salonu/y"), "y", an);
+    Esle();
+    EXPECT_EQ(Oku(Hedef("Gül Salonu/2012/05.01.2012 - Gündüz")), "rez");
+    EXPECT_EQ(Oku(Hedef("Gül Salonu/2013/Gider.dat")), "gider");
+    EXPECT_TRUE(fs::is_directory(Hedef("boş")));
+    EXPECT_FALSE(fs::exists(Kaynak("öteki")));
+    Esle(true);
+    EXPECT_EQ(Oku(Kaynak("öteki/alt/x")), "x");
+    EXPECT_EQ(Oku(Kaynak("Gül Salonu/y")), "y");
+}
+
+TEST_F(FileSyncTest, A_second_run_copies_nothing) {
+    Koy(Kaynak("alt/a"), "kaynak", an);
+    Esle();
+    Koy(Hedef("alt/a"), "değişti", an); // a copy would put it right: its size differs
+    Koy(Hedef("alt/a"), "hedef.", an);
+    Esle();
+    EXPECT_EQ(Oku(Hedef("alt/a")), "hedef.");
+}
+
+TEST_F(FileSyncTest, A_missing_source_does_nothing_and_a_missing_target_is_made) {
+    FileSync([] {}).SyncFolders(Kaynak("yok"), Hedef("yok"), true);
+    EXPECT_FALSE(fs::exists(Hedef("yok")));
+    Koy(Kaynak("a"), "a", an);
+    FileSync([] {}).SyncFolders(Kaynak(), Hedef("bir/iki"), false);
+    EXPECT_EQ(Oku(Hedef("bir/iki/a")), "a");
+}
+
+TEST_F(FileSyncTest, A_target_within_the_source_is_not_copied_into_itself) {
+    Koy(Kaynak("a"), "a", an);
+    Koy(Kaynak("VRYedek/21_05_2026/a"), "dün", an);
+    FileSync([] {}, {Kaynak("VRYedek")}).SyncFolders(Kaynak(), Kaynak("VRYedek/22_05_2026"), false);
+    EXPECT_EQ(Oku(Kaynak("VRYedek/22_05_2026/a")), "a");
+    EXPECT_FALSE(fs::exists(Kaynak("VRYedek/22_05_2026/VRYedek")));
+}
+
+TEST_F(FileSyncTest, A_target_within_the_source_ends_also_when_nobody_said_so) {
+    Koy(Kaynak("a"), "a", an);
+    FileSync([] {}).SyncFolders(Kaynak(), Kaynak("alt/yedek"), true);
+    EXPECT_EQ(Oku(Kaynak("alt/yedek/a")), "a");
+    EXPECT_FALSE(fs::exists(Kaynak("alt/yedek/alt/yedek")));
+}
+
+TEST_F(FileSyncTest, A_link_that_points_in_a_circle_ends_and_other_links_are_followed) {
+    Koy(Kaynak("alt/a"), "a", an);
+    Koy(agac.Yol(u"dışarısı/b"), "b", an);
+    fs::create_directory_symlink(Kaynak(), Kaynak("alt/daire"));
+    fs::create_directory_symlink("kendisi", Kaynak("kendisi"));
+    fs::create_directory_symlink(agac.Yol(u"dışarısı"), Kaynak("salon"));
+    fs::create_symlink("hiç", Kaynak("kopuk"));
+    Esle();
+    EXPECT_EQ(Oku(Hedef("alt/a")), "a");
+    EXPECT_FALSE(fs::exists(Hedef("alt/daire")));
+    EXPECT_EQ(Oku(Hedef("salon/b")), "b") << "a hall on another disk is in the backup, too";
+    EXPECT_FALSE(fs::is_symlink(Hedef("salon")));
+}
+
+TEST_F(FileSyncTest, What_cannot_be_read_or_written_is_passed_over_and_leaves_nothing_half) {
+    Koy(Kaynak("a"), "kaynak", an);
+    Koy(Kaynak("b"), "kaynak", an);
+    fs::create_directories(Hedef("a/içi dolu")); // a folder where the file would go
+    Koy(Hedef("c"), "hedef", an);
+    Koy(Kaynak("c/içi"), "kaynak", an); // and the other way round
+    Esle();
+    EXPECT_TRUE(fs::is_directory(Hedef("a/içi dolu")));
+    EXPECT_EQ(Oku(Hedef("b")), "kaynak");
+    EXPECT_EQ(Oku(Hedef("c")), "hedef");
+    for (const auto& oge : fs::recursive_directory_iterator(Hedef()))
+        EXPECT_EQ(oge.path().string().find("veloraYeni"), std::string::npos) << oge.path();
+}
+
+} // namespace velora::test
