@@ -34,6 +34,7 @@
     X(FormTabloPrint, Pencereli)                                                                             \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
+    X(FormYedekAl, Penceresiz)                                                                               \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)
