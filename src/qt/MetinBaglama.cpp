@@ -65,15 +65,21 @@ struct SonHal {
 };
 
 /// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor
-/// afterwards.
+/// afterwards. One that comes back from a menu or another window to the field that it had left for that
+/// selects nothing: what is typed there goes on.
 class OdaktaSecen : public QObject {
   public:
     explicit OdaktaSecen(QLineEdit& kutu) : QObject(&kutu) { kutu.installEventFilter(this); }
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        if (olay->type() == QEvent::FocusIn)
+        if (olay->type() == QEvent::FocusOut)
+            donecek_ = Baglayici::OdakDonecek(*olay);
+        if (olay->type() == QEvent::FocusIn && !(donecek_ && Baglayici::OdakDonecek(*olay)))
             QMetaObject::invokeMethod(nesne, "selectAll", Qt::QueuedConnection);
         return QObject::eventFilter(nesne, olay);
     }
+
+  private:
+    bool donecek_ = false; // it went for a while only
 };
 
 /// A click into a date chooses the part that it falls on: what is typed next takes its place. The toolkit
