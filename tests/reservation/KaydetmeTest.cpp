@@ -36,8 +36,13 @@ TEST_F(KaydetmeTest, A_record_with_everything_in_it_writes_these_bytes) {
         Doldur();
         Gir(2, u"ıĞDIR");
         Gir(3, u"elif / can");
+        Gir(4, u"kına gecesi");
+        Gir(5, u"ev 0212");
+        Gir(6, u"iş 0532");
         Gir(7, u"gül sokak\r\nno 5, ankara");
         Gir(11, u"dikkat, \"acil\"");
+        Gir(16, u"tc 1234");
+        Gir(17, u"yüz kişi");
         Tikla(Kayit().Check18);
         Tikla(Kayit().Check19);
         Gir(18, u"01.06.2012");
@@ -51,9 +56,9 @@ TEST_F(KaydetmeTest, A_record_with_everything_in_it_writes_these_bytes) {
     });
     EXPECT_EQ(AnaBaytlari(),
               "\"Ali Usta\",\"I\xF0"
-              "d\xFDr\",\"Elif / Can\",\"D\xFC\xF0\xFCn\",\"\",\"\","
+              "d\xFDr\",\"Elif / Can\",\"k\xFDna gecesi\",\"ev 0212\",\"i\xFE 0532\","
               "\"G\xFCl Sokak\r\nNo 5. Ankara\",\"5000\",\"100\",\"4900\",\"dikkat. acil\",\"11:00\","
-              "\"15.06.2012\",\"58\",\"16:00\",\"\",\"\",\"01.06.2012\",0,1\r\n");
+              "\"15.06.2012\",\"58\",\"16:00\",\"tc 1234\",\"y\xFCz ki\xFEi\",\"01.06.2012\",0,1\r\n");
     const std::string detay = "0\r\n0\r\n1\r\n" + kBosHizmetler.substr(9) + "\"\"\r\n\"\"\r\n" +
                               "\"iki '\xFEi\xFE"
                               "e'. so\xF0uk\"\r\n" +
@@ -81,6 +86,7 @@ TEST_F(KaydetmeTest, The_six_questions_come_in_their_order_one_after_the_other) 
         Kayit().Kay[12].metin = u" __:__ ";
         Kayit().Kay[13].metin = u"__.__.____";
         Kayit().Kay[1].metin = u"  ";
+        Kayit().Kay[4].metin = u" Lütfen Seçiniz ";
         Tikla(Kayit().Check19);
         for (const auto& [no, mesaj, dogru] : sorular) {
             KutuBekle(mesaj);
@@ -161,10 +167,13 @@ TEST_F(KaydetmeTest,
         kullanici.SalonSec(u"Salon B");
         Kayit().Tag.insert(0, u"  "); // a path that isn't
         Gir(8, u"6000");
+        SatirlaraYaz(Kayit().Aciklamalar, u"yeni istek");
         OdemeAl(u"5");
         KaydeteBas();
     });
     EXPECT_NE(AnaBaytlari().find("\"5000\""), std::string::npos) << "the main path is not trimmed";
+    EXPECT_NE(DetayBaytlari().find("\"yeni istek\""), std::string::npos) << "the path of the details is";
+    EXPECT_FALSE(agac.DosyaVar(u"Salon B/2012/20.06.2012 - Gündüz-Detay"));
     EXPECT_TRUE(agac.DosyaVar(u"Salon B/2012/20.06.2012 - Gündüz-Odeme"));
     EXPECT_FALSE(OdemeVar());
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"57\"\r\n") << "no new number was given out";
@@ -316,6 +325,12 @@ TEST_F(KaydetmeTest, The_save_without_checks_leaves_payments_and_counter_of_an_e
     });
     EXPECT_EQ(OdemeBaytlari(), "\"01.01.2012\",\"10\",\"x\"\r\n");
     EXPECT_EQ(agac.Bayt(u"Count.dat"), "\"57\"\r\n");
+    std::filesystem::remove(agac.Yol(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));
+    KayitAc([&] {
+        OdemeAl(u"5");
+        Kayit().Command11();
+    });
+    EXPECT_FALSE(OdemeVar()) << "an empty one is made for a new record alone";
 }
 
 TEST_F(KaydetmeTest, A_record_without_a_day_is_not_saved_at_all_and_stays_as_it_was_typed) {

@@ -117,6 +117,21 @@ TEST_F(KayitYukleTest, The_price_is_locked_on_an_existing_record_only_without_th
     KayitAc([&] { EXPECT_TRUE(Kayit().Kay[8].kilitli); });
 }
 
+TEST_F(KayitYukleTest, The_price_opens_again_when_the_screen_comes_to_the_front_with_the_right_back) {
+    Koy(kAna, kDetay);
+    Prog();
+    kullanici.Tablo().TutarDegistir = 0;
+    KayitAc([&] {
+        EXPECT_TRUE(Kayit().Kay[8].kilitli);
+        kullanici.Tablo().TutarDegistir = 1;
+        OdemeAl(u"50");
+        EXPECT_FALSE(Kayit().Kay[8].kilitli);
+        kullanici.Tablo().TutarDegistir = 0;
+        OdemeAl(u"70");
+        EXPECT_TRUE(Kayit().Kay[8].kilitli);
+    });
+}
+
 TEST_F(KayitYukleTest, Without_a_date_the_heading_is_the_selected_day) {
     Koy(kAna, kDetay);
     Prog();
@@ -206,6 +221,16 @@ TEST_F(KayitYukleTest, With_neither_state_in_the_file_the_firm_one_stands) {
     KayitAc([&] {
         EXPECT_EQ(Kayit().Option1.deger, 1);
         EXPECT_EQ(Kayit().Option2.deger, 0);
+    });
+}
+
+TEST_F(KayitYukleTest, With_both_states_in_the_file_the_later_one_stands_as_the_pre_reservation_on_purpose) {
+    std::string detay = kDetay;
+    detay.replace(detay.find("\"0\",\"1\""), 7, "\"1\",\"1\"");
+    Koy(kAna, detay);
+    KayitAc([&] {
+        EXPECT_EQ(Kayit().Option1.deger, 0);
+        EXPECT_EQ(Kayit().Option2.deger, 1);
     });
 }
 

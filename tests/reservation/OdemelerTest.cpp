@@ -81,6 +81,46 @@ TEST_F(OdemelerTest, The_dialogue_offers_today_and_a_note_and_waits_for_an_amoun
     });
 }
 
+TEST_F(OdemelerTest, The_day_that_was_picked_and_the_note_that_was_typed_stand_in_the_list_and_in_the_file) {
+    YeniKayit([&] {
+        Doldur();
+        EkranBekle(EkranAdi::FormOdemeAl, [this] {
+            const auto odeme = Prog().FormOdemeAl.Tut();
+            TarihSec(odeme->DTPicker1, TarihCoz(u"09.03.2011").value());
+            AlanaYaz(odeme->Aciklama, u"kapora, elden");
+            AlanaYaz(odeme->Text1, u"750", {.degisti = [&] { odeme->Text1_Change(); }});
+            VELORA_BAS(Prog().FormOdemeAl, Command1);
+        });
+        VELORA_BAS(Prog().FormKayit, Command8);
+        ASSERT_EQ(Kayit().Liste.satirlar.size(), 1U);
+        EXPECT_EQ(Kayit().Liste.satirlar[0].sutun,
+                  (std::vector<Metin>{u"09.03.2011", u"750", u"kapora, elden"}));
+        KaydeteBas();
+    });
+    EXPECT_EQ(OdemeBaytlari(), "\"09.03.2011\",\"750\",\"kapora, elden\"\r\n");
+}
+
+TEST_F(OdemelerTest, Payments_are_read_where_the_table_stands_though_the_record_lies_elsewhere_on_purpose) {
+    KayitKoy(agac, u"Salon B/2011/" + Metin(kGun), {.ad = u"Nur Can"}, false,
+             u"\"02.03.2011\",\"40\",\"öteki\"\r\n");
+    OdemeKoy("\"05.04.2012\",\"300\",\"buradaki\"\r\n");
+    const Metin yol = Prog().agac.GunYolu(u"Salon B", u"2011", kGun);
+    EkranBekle(EkranAdi::FormKayit, [&] {
+        EXPECT_EQ(Kayit().Tag, yol);
+        EXPECT_EQ(Kayit().Kay[AnaNo::AdiSoyadi].metin, u"Nur Can");
+        ASSERT_EQ(Kayit().Liste.satirlar.size(), 1U);
+        EXPECT_EQ(Kayit().Liste.satirlar[0].sutun, (std::vector<Metin>{u"05.04.2012", u"300", u"buradaki"}));
+        KapataBas();
+    });
+    KayitYukle(Prog(), yol, Metin(kGun));
+}
+
+TEST_F(OdemelerTest, Parts_of_an_amount_are_added_up_too) {
+    RezervasyonKoy(Metin(kGun));
+    OdemeKoy("\"01.01.2012\",\"10.5\",\"x\"\r\n\"03.02.2012\",\"0.25\",\"y\"\r\n");
+    KayitAc([&] { ToplamOlmali(u"10.75", u"4989.25", u"11", u"4.989"); });
+}
+
 TEST_F(OdemelerTest, The_default_note_without_a_number_starts_with_the_dash) {
     AyarKoy(33, u"1");
     YeniKayit([&] {

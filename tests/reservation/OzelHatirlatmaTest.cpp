@@ -58,6 +58,8 @@ TEST_F(OzelHatirlatmaTest, The_bell_lists_what_is_due_in_the_selected_hall_and_y
     RezervasyonKoy(u"06.01.2012 - Gece", {.ad = u"Kapalı", .hatirlat = u"15.06.2012", .check19 = 0});
     RezervasyonKoy(u"07.01.2012 - Gece", {.ad = u"Dün", .hatirlat = u"14.06.2012", .check19 = 1});
     RezervasyonKoy(u"08.01.2012 - Gece", {.ad = u"Kısa", .hatirlat = u"15.6.2012", .check19 = 1});
+    RezervasyonKoy(u"09.01.2012 - Gece", {.ad = u"İki", .hatirlat = u"15.06.2012", .check19 = 2});
+    RezervasyonKoy(u"10.01.2012 - Gece", {.ad = u"Boşluklu", .hatirlat = u" 15.06.2012", .check19 = 1});
     KayitKoy(agac, u"Salon B/2012/03.03.2012 - Gece", Bugunku(u"Öteki salon"));
     KayitKoy(agac, u"Salon A/2013/03.03.2013 - Gece", Bugunku(u"Öteki yıl"));
     ZileTikla([&] {

@@ -18,6 +18,18 @@ TEST_F(SozlesmeBaskisi, Cancel_an_empty_answer_and_zero_ask_nothing_more_and_lea
     });
 }
 
+TEST_F(SozlesmeBaskisi, Without_clauses_nothing_is_said_of_them_when_no_page_is_wanted) {
+    MaddeKoy(u"");
+    DoluKayit([&] {
+        for (const MetinBakis cevap : {u"", u"  ", u"0"}) {
+            SayfaSorusu(Metin(cevap));
+            Yazdir();
+        }
+        EXPECT_TRUE(Basilanlar().empty());
+        EXPECT_FALSE(Prog().yigin.Acik(EkranAdi::FormSozlesme));
+    });
+}
+
 TEST_F(SozlesmeBaskisi, Each_copy_is_a_print_of_its_own_and_the_menus_come_behind_the_contracts) {
     DoluKayit([&] {
         IkiserBekle(u" 2.5x", Cevap::Hayir);

@@ -89,6 +89,16 @@ TEST_F(UyariTest, A_couple_of_just_0_keeps_a_firm_reservation_out_on_purpose_and
     UyarilarOlmali({u"16.06.2012 - Gündüz Ön"});
 }
 
+TEST_F(UyariTest, A_couple_of_a_blank_and_0_is_a_couple) {
+    agac.KoyMetin(u"Salon A/2012/17.06.2012 - Gece",
+                  u"\"Can\",\"\",\" 0\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\","
+                  u"\"\",\"\",1,0\r\n");
+    agac.KoyMetin(u"Salon A/2012/17.06.2012 - Gece-Detay", DetayMetni(false));
+    Prog();
+    UyarilarOlmali({u"17.06.2012 - Gece Kesin"});
+    EXPECT_EQ(Tablo().Liste.satirlar[0].sutun[3], u" 0");
+}
+
 TEST_F(UyariTest, A_companion_that_reads_like_a_record_is_never_listed) {
     RezervasyonKoy(u"16.06.2012 - Gece");
     agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece-Odeme", AnaMetni());
