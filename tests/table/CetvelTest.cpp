@@ -96,6 +96,21 @@ TEST_F(Cetvel, Frame_blinks_with_its_timer) {
     EXPECT_TRUE(kullanici.Tablo().HizliSecim.gorunur);
 }
 
+TEST_F(Cetvel, A_tick_with_nothing_picked_hides_the_frame_and_with_one_pick_it_blinks_on_purpose) {
+    kullanici.ProgramiAc();
+    FormTablo& tablo = kullanici.Tablo();
+    tablo.HizliSecim.gorunur = false; // a tick alone would show it
+    tablo.CetvelTimer_Tick();
+    EXPECT_FALSE(tablo.HizliSecim.gorunur);
+    for (const auto& [ay, gun] : {std::pair{4, 0}, std::pair{0, 7}}) {
+        tablo.HizliAy = ay;
+        tablo.HizliGun = gun;
+        tablo.HizliSecim.gorunur = false;
+        tablo.CetvelTimer_Tick();
+        EXPECT_TRUE(tablo.HizliSecim.gorunur) << ay << '/' << gun;
+    }
+}
+
 TEST_F(Cetvel, Frame_can_stand_over_a_month_that_is_off) {
     AyKapat(3);
     kullanici.ProgramiAc();

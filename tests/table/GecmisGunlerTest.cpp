@@ -31,6 +31,11 @@ TEST_F(GecmisGunler, No_day_is_past_on_the_first_of_January) {
     GecmisOlmali(1, 1);
 }
 
+TEST_F(GecmisGunler, Fourteen_days_of_January_are_past_on_the_fifteenth) {
+    Bugun(2012, 1, 15);
+    GecmisOlmali(1, 15);
+}
+
 TEST_F(GecmisGunler, January_and_February_are_past_on_the_first_of_March) {
     Bugun(2012, 3, 1);
     GecmisOlmali(3, 1);

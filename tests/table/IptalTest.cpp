@@ -41,6 +41,18 @@ TEST_F(Iptal, Removes_the_three_files_and_logs_one_line_with_the_reason) {
               std::vector<Metin>{u"Seçili kaydı silmek istediğinizden emin misiniz?"});
 }
 
+TEST_F(Iptal, A_cancelled_Saturday_shows_the_colours_of_the_weekend_again) {
+    RezervasyonKoy(u"23.06.2012 - Gündüz");
+    RezervasyonKoy(u"23.06.2012 - Gece", {}, true);
+    kullanici.ProgramiAc();
+    RenkOlmali(23, 6, kGunduz, 6, 7);
+    IptalEt({23, 6, kGunduz}, u"x");
+    RenkOlmali(23, 6, kGunduz, 8, 9);
+    RenkOlmali(23, 6, kGece, 21, 22);
+    IptalEt({23, 6, kGece}, u"y");
+    RenkOlmali(23, 6, kGece, 10, 11);
+}
+
 TEST_F(Iptal, Cancel_in_the_reason_box_still_cancels_and_the_line_ends_in_the_separator_on_purpose) {
     agac.KoyMetin(u"Salon A/2012/05.01.2012 - Gündüz", AnaMetni({.ad = u"Ali"}));
     kullanici.ProgramiAc();

@@ -58,6 +58,25 @@ TEST_F(TasimaModu, Makes_taken_cells_of_both_kinds_and_slots_draggable_and_no_fr
     EXPECT_EQ(kullanici.Tablo().Girdi(Komut::TasimaModuAc).baslik, u"Taşıma Modunu Aç");
 }
 
+TEST_F(TasimaModu,
+       A_taken_colour_of_the_other_slots_rows_makes_nothing_draggable_and_bars_no_drop_on_purpose) {
+    UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
+    kullanici.ProgramiAc();
+    const auto ayarlar = kullanici.Prog().FormAyarlar.Tut();
+    const std::string once = agac.Resim();
+    int gun = 2;
+    for (const auto& [dilim, renk] :
+         {std::pair{kGunduz, 12}, std::pair{kGunduz, 21}, std::pair{kGece, 6}, std::pair{kGece, 19}}) {
+        const TabloGozu hedef{++gun, 9, dilim};
+        kullanici.Goz(hedef.gun, hedef.ay, dilim).zemin = ayarlar->Renk(renk);
+        kullanici.KomutSec(Komut::TasimaModuAc);
+        EXPECT_EQ(Suruklenebilen(), 1) << renk;
+        SoruBekle(Cevap::Hayir);
+        EXPECT_TRUE(kullanici.Surukle({20, 6, kGunduz}, hedef));
+    }
+    EXPECT_EQ(agac.Resim(), once);
+}
+
 TEST_F(TasimaModu, Past_reservation_is_not_draggable) {
     AyarKoy(28, u"1");
     RezervasyonKoy(u"10.06.2012 - Gündüz");

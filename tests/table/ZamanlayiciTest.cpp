@@ -93,6 +93,21 @@ TEST_F(TabloZamanlayici, Running_timer_shows_nothing_in_another_year_and_brings_
     EXPECT_TRUE(BuGunGorunur());
 }
 
+TEST_F(TabloZamanlayici, A_tick_in_another_year_leaves_the_frame_as_it_is_shown_or_hidden) {
+    agac.KoyMetin(u"Salon A/2013/15.06.2012 - Gece", AnaMetni());
+    kullanici.ProgramiAc();
+    kullanici.YilSec(u"2013");
+    kullanici.Tablo().Command6();
+    EXPECT_EQ(GunAraligi(), 300);
+    for (const bool gorunen : {true, false}) {
+        kullanici.Tablo().BuGun.gorunur = gorunen;
+        for (int tik = 0; tik < 3; ++tik) {
+            kullanici.ZamanGecir(300);
+            EXPECT_EQ(BuGunGorunur(), gorunen) << tik;
+        }
+    }
+}
+
 TEST_F(TabloZamanlayici, Todays_slots_are_looked_for_in_the_folder_of_the_selected_year_on_purpose) {
     agac.KoyMetin(u"Salon A/2013/15.06.2012 - Gece", AnaMetni());
     kullanici.ProgramiAc();
