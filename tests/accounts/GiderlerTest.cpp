@@ -174,6 +174,42 @@ TEST_F(GiderlerTesti, The_last_row_takes_the_file_with_it) {
     });
 }
 
+TEST_F(GiderlerTesti, A_date_in_another_form_is_listed_and_written_back_as_it_stood) {
+    agac.Koy(kGiderYolu, "\"5.1.2012\",\"20\",\"a\"\r\n#2012-02-03#,\"300\",\"b\"\r\n");
+    GiderleriAc([&] {
+        EXPECT_EQ(Okunan(Giderler().Liste),
+                  (Satirlar{{u"5.1.2012", u"20", u"Gider", u"a"}, {u"03.02.2012", u"300", u"Gider", u"b"}}));
+        VELORA_BAS(Prog().FormGiderler, Kaydet);
+        EXPECT_EQ(agac.Bayt(kGiderYolu), "\"5.1.2012\",\"20\",\"a\"\r\n\"03.02.2012\",\"300\",\"b\"\r\n");
+    });
+}
+
+// An empty file would list the payment before it a second time, as an expense.
+TEST_F(GiderlerTesti, With_the_last_expense_its_file_goes_before_the_cash_book_is_listed_anew) {
+    agac.Koy(u"Salon A/2012/20.06.2012 - Gece-Odeme", "\"10.06.2012\",\"100\",\"7 - Ali\"\r\n");
+    agac.Koy(kGiderYolu, "\"11.06.2012\",\"20\",\"a\"\r\n");
+    GiderleriAc([&] {
+        Kasa().ListeleGun();
+        EXPECT_EQ(Kasa().Liste.satirlar.size(), 2U);
+        GideriSil(0, Cevap::Evet);
+        EXPECT_EQ(Okunan(Kasa().Liste), (Satirlar{{u"10.06.2012", u"100", u"Gelir", u"7 - Ali"}}));
+        ToplamOlmali(u": 100 TL", u":  TL", u": 100 TL");
+    });
+}
+
+TEST_F(GiderlerTesti, After_a_change_of_the_hall_no_row_is_clicked_and_its_buttons_are_off) {
+    agac.Koy(kGiderYolu, kUcAy);
+    agac.Koy(u"Salon B/2012/Gider.dat", "\"10.05.2012\",\"20\",\"a\"\r\n");
+    GiderleriAc([&] {
+        SatiraTikla(Giderler().Liste, 0, [&] { Giderler().Liste_Click(); });
+        EXPECT_TRUE(Giderler().Command4.etkin && Giderler().Command2.etkin);
+        ListedenSec(Giderler().Combo2, u"Salon B");
+        EXPECT_FALSE(Giderler().Command4.etkin);
+        EXPECT_FALSE(Giderler().Command2.etkin);
+        EXPECT_EQ(Giderler().Liste.secili, -1);
+    });
+}
+
 TEST_F(GiderlerTesti, A_save_of_a_year_without_a_file_leaves_none) {
     agac.KlasorKoy(u"Salon A/2012");
     GiderleriAc([&] {

@@ -106,6 +106,17 @@ TEST_F(KasaEkle, Without_a_description_it_asks_in_these_letters_on_purpose_and_s
     });
 }
 
+TEST_F(KasaEkle, A_description_of_blanks_is_one_on_purpose) {
+    agac.KlasorKoy(u"Salon A/2012");
+    KasaAc([&] {
+        KasadanEkle([&] {
+            GiderGir(u"150", u"  ");
+            EXPECT_FALSE(Prog().FormKasaEkle.Yuklu());
+        });
+        EXPECT_EQ(agac.Bayt(kGiderYolu), "#2012-06-15#,\"150\",\"  \"\r\n");
+    });
+}
+
 TEST_F(KasaEkle, In_a_year_without_a_folder_nothing_is_written_nothing_said_and_it_closes_on_purpose) {
     Prog();
     kullanici.YilSec(u"2011");

@@ -182,6 +182,16 @@ TEST_F(KasaListesiTesti, A_file_that_can_not_be_opened_gives_no_row) {
     KasayiListele(u"01.06.2012", u"30.06.2012", [&] { ToplamOlmali(u": 7 TL", u": 900 TL", u": -893 TL"); });
 }
 
+TEST_F(KasaListesiTesti, A_date_in_another_form_stands_as_it_reads) {
+    agac.Koy(u"Salon A/2012/20.06.2012 - Gece-Odeme",
+             "\"5.1.2012\",\"40\",\"a\"\r\n\"31.12.2011\",\"7\",\"b\"\r\n");
+    agac.Koy(kGiderYolu, "\"6.1.2012\",\"300\",\"c\"\r\n");
+    KasayiListele(u"05.01.2012", u"06.01.2012", [&] {
+        EXPECT_EQ(Okunan(Kasa().Liste),
+                  (Satirlar{{u"5.1.2012", u"40", u"Gelir", u"a"}, {u"6.1.2012", u"300", u"Gider", u"c"}}));
+    });
+}
+
 TEST_F(KasaListesiTesti, A_record_whose_date_is_none_repeats_the_one_before_it_on_purpose) {
     agac.Koy(kGiderYolu, "\"31.02.2012\",\"1\",\"a\"\r\n\"15.06.2012\",\"20\",\"b\"\r\n"
                          "\"yok\",\"300\",\"c\"\r\n#2012-13-01#,\"4\",\"d\"\r\n#2012-06-16#,\"5\",\"e\"\r\n");
