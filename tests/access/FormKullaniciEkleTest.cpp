@@ -85,6 +85,7 @@ TEST_F(FormKullaniciEkleTest, What_is_missing_is_asked_for_in_order_and_gets_the
         EXPECT_TRUE(program.FormKullaniciEkle.Yuklu());
     });
     EXPECT_EQ(ortam.odaklar, (std::vector<Metin>{u"Text1", u"Text2", u"Text3", u"Text3"}));
+    EXPECT_EQ(ortam.odakEkranlari, std::vector(4, EkranAdi::FormKullaniciEkle));
     EXPECT_EQ(Dosya(), admin + can);
 }
 

@@ -44,6 +44,7 @@ TEST_F(FormSifreDegistirTest, What_is_missing_is_asked_for_in_order_and_gets_the
     KutuBekle(u"Lütfen parola tekrarını kontrol ediniz!");
     YazVeTamam(u"x", u"X");
     EXPECT_EQ(ortam.odaklar, (std::vector<Metin>{u"Text1", u"Text2", u"Text2"}));
+    EXPECT_EQ(ortam.odakEkranlari, std::vector(3, EkranAdi::FormSifreDegistir));
     EXPECT_FALSE(agac.Var(u"User.dll"));
 }
 

@@ -125,6 +125,7 @@ TEST_F(FormSifreTest, Wrong_password_is_told_and_both_fields_are_emptied) {
     EXPECT_EQ(Sifre().Text1.metin, u"");
     EXPECT_EQ(Sifre().Text2.metin, u"");
     EXPECT_EQ(ortam.odaklar, std::vector<Metin>{u"Text2"});
+    EXPECT_EQ(ortam.odakEkranlari, std::vector{EkranAdi::FormSifre});
     EXPECT_FALSE(program.FormTablo.Yuklu());
     EXPECT_EQ(program.oturum.UserNamem, u"");
     for (int kez = 0; kez < 20; ++kez) { // there is no limit
@@ -140,6 +141,7 @@ TEST_F(FormSifreTest, Without_a_password_it_is_asked_for_and_the_name_stays) {
     Gir(u"can", u"");
     EXPECT_EQ(Sifre().Text1.metin, u"can");
     EXPECT_EQ(ortam.odaklar, std::vector<Metin>{u"Text2"});
+    EXPECT_EQ(ortam.odakEkranlari, std::vector{EkranAdi::FormSifre});
 }
 
 TEST_F(FormSifreTest, Case_of_a_name_counts_and_another_admin_is_no_admin) {

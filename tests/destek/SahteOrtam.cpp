@@ -84,7 +84,10 @@ Ortam SahteOrtam::Ver() {
         return adresAcilir;
     };
     ortam.olaylar.bitir = [this] { bitti = true; };
-    ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
+    ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) {
+        odaklar.emplace_back(kontrol);
+        odakEkranlari.push_back(ekran);
+    };
     ortam.kagit.olcer = EsitEnli;
     ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
         return Yazdir(sayfalar, isAdi);

@@ -108,6 +108,7 @@ class SahteOrtam {
     bool pdfYazilir = true;                            ///< the disk takes such files
     std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
+    std::vector<EkranAdi> odakEkranlari;               ///< the screens of these controls
     bool baglanti = true;                              ///< the machine has a connection
     bool baskaKopya = false;                           ///< another copy of the program runs
     std::optional<DonanimAdresi> donanim = DonanimAdresi{0x00, 0x1B, 0xC4, 0x0D, 0xE0, 0x9F};

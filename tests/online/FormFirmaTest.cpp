@@ -135,7 +135,7 @@ TEST_F(FormFirmaTest, What_is_missing_is_asked_for_in_this_order_and_gets_the_fo
     }
     VELORA_BAS(program.FormFirma, Command1);
     EXPECT_TRUE(agac.Var(u"Firma.dll"));
-    EXPECT_EQ(ortam.odaklar.size(), 10U);
+    EXPECT_EQ(ortam.odakEkranlari, std::vector(10, EkranAdi::FormFirma));
 }
 
 TEST_F(FormFirmaTest,
@@ -150,6 +150,13 @@ TEST_F(FormFirmaTest,
     EXPECT_FALSE(program.FormFirma.Yuklu());
     EXPECT_FALSE(program.FormSunucu.Yuklu());
     EXPECT_EQ(Firma().t9.metin, u"Aydıntepe");
+}
+
+TEST_F(FormFirmaTest, OK_keeps_that_the_firm_is_not_published) {
+    agac.Koy(u"Sunucu.dat", "\"eski\",0\r\n");
+    Doldur();
+    VELORA_BAS(program.FormFirma, Command1);
+    EXPECT_EQ(agac.Bayt(u"Sunucu.dat"), "\"00-1B-C4-0D-E0-9F\",0\r\n");
 }
 
 TEST_F(FormFirmaTest, Save_writes_the_fields_as_they_stand_unchecked_and_stays) {

@@ -68,6 +68,7 @@ TEST_F(FormMenuEkleTest, Name_with_no_content_is_refused_and_the_focus_goes_to_t
     });
     VELORA_BAS(program.FormMenuAyar, Command1);
     EXPECT_EQ(ortam.odaklar, std::vector<Metin>{u"Text2"});
+    EXPECT_EQ(ortam.odakEkranlari, std::vector{EkranAdi::FormMenuEkle});
     EXPECT_TRUE(program.FormMenuEkle.Yuklu());
     EXPECT_EQ(Ekle().Text1.metin, u"yeni menü") << "not yet in proper case";
     EXPECT_EQ(agac.Resim(), once);

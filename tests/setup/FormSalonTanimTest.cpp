@@ -80,6 +80,18 @@ TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing
     EXPECT_EQ(agac.Resim(), once);
 }
 
+TEST_F(FormSalonTanimTest, Close_is_on_already_while_the_name_is_asked_for) {
+    kullanici.ProgramiAc();
+    Tanim().Command3.etkin = false;
+    bool acik = false;
+    kullanici.Prog().ortam.sor.girdi = [&](const GirdiKutusu&) {
+        acik = Tanim().Command3.etkin;
+        return Metin(u" ");
+    };
+    VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
+    EXPECT_TRUE(acik);
+}
+
 // A trim takes blanks alone.
 TEST_F(FormSalonTanimTest, Tab_is_no_blank_and_makes_a_hall_without_a_folder) {
     kullanici.ProgramiAc();
