@@ -14,6 +14,7 @@
 #include "gui/Kullanim.h"
 #include "qt/Baglayici.h"
 #include "qt/table/TabloPenceresi.h"
+#include "storage/Tarih.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -38,6 +39,20 @@ class KasaPencereleriTest : public QObject {
                                     "\"09.07.2026\",\"5000\",\"Kira\"\r\n");
     }
     static QString Yazi(QWidget& pencere, const char* ad) { return Parcasi<QLabel>(pencere, ad).text(); }
+    static QRect PenceredeYeri(const QWidget& parca) {
+        return {parca.mapTo(parca.window(), QPoint()), parca.size()};
+    }
+    /// The text that stands in the row of a label, next to it on its left.
+    static QString SolundaYazan(QDialog& pencere, const char* ad) {
+        const QRect yer = PenceredeYeri(Parcasi<QLabel>(pencere, ad));
+        const QLabel* enYakin = nullptr;
+        for (const auto* yazi : pencere.findChildren<QLabel*>())
+            if (const QRect y = PenceredeYeri(*yazi);
+                y.right() < yer.left() && y.contains(y.left(), yer.center().y()) && !yazi->text().isEmpty() &&
+                (enYakin == nullptr || y.left() > PenceredeYeri(*enYakin).left()))
+                enYakin = yazi;
+        return enYakin == nullptr ? QString() : enYakin->text();
+    }
 
   private slots:
     void F4_opens_the_cash_book_and_enter_lists_it_with_its_totals() {
@@ -89,6 +104,62 @@ class KasaPencereleriTest : public QObject {
                     }});
             QCOMPARE(firma.agac.Bayt(GiderYolu()), std::string("#2026-05-21#,\"150\",\"I\xFE\xFDk\"\r\n"));
             QCOMPARE(Parcasi<QTreeWidget>(kasa, "Liste").topLevelItemCount(), 1);
+        });
+    }
+
+    void each_date_and_each_total_of_the_cash_book_has_its_own_name_and_value() {
+        GuiFirma firma;
+        firma.Ac();
+        Kasada(firma, [&](QDialog& pencere) {
+            const auto model = firma.program.FormKasa.Tut();
+            const auto tarih = [&](const char* ad) { return Parcasi<QDateEdit>(pencere, ad).text(); };
+            QCOMPARE(tarih("DTPicker1"), QStringLiteral("01.05.2026"));
+            QCOMPARE(tarih("DTPicker2"), QStringLiteral("31.05.2026"));
+            for (const auto& [ad, gun] : {std::pair{"DTPicker1", 3}, std::pair{"DTPicker2", 28}})
+                Parcasi<QDateEdit>(pencere, ad).setDate(QDate(2025, 4, gun));
+            QVERIFY(TarihMetni(model->DTPicker1.deger) == u"03.04.2025");
+            QVERIFY(TarihMetni(model->DTPicker2.deger) == u"28.04.2025");
+            for (const auto& [ad, baslik] :
+                 {std::pair{"Gelirler", u"Gelir Toplam"}, std::pair{"Giderler", u"Gider Toplam"},
+                  std::pair{"GenelTop", u"Genel Toplam"}})
+                QCOMPARE(SolundaYazan(pencere, ad), QString::fromUtf16(baslik));
+        });
+    }
+
+    void an_amount_has_its_currency_behind_it() {
+        GuiFirma firma;
+        firma.Ac();
+        Kasada(firma, [&](QDialog& kasa) {
+            Basinca(kasa, "Command6", {[](QDialog& pencere) {
+                        const QRect tutar = PenceredeYeri(Parcasi<QLineEdit>(pencere, "Tutar"));
+                        QStringList arkasinda;
+                        for (const auto* yazi : pencere.findChildren<QLabel*>())
+                            if (const QRect yer = PenceredeYeri(*yazi);
+                                yer.left() >= tutar.right() && yer.contains(yer.left(), tutar.center().y()))
+                                arkasinda << yazi->text();
+                        QCOMPARE(arkasinda, QStringList{QStringLiteral("TL")});
+                    }});
+        });
+    }
+
+    void save_and_add_of_the_expenses_do_their_own_work_by_a_click() {
+        GuiFirma firma;
+        GiderlerKoy(firma);
+        firma.Ac();
+        Kasada(firma, [&](QDialog& kasa) {
+            Basinca(kasa, "Command3", {[&](QDialog& pencere) {
+                        Tikla(pencere, "Kaydet");
+                        QCOMPARE(firma.agac.Bayt(GiderYolu()),
+                                 std::string("\"03.05.2026\",\"150\",\"Elektrik\"\r\n\"04.05.2026\",\"90\","
+                                             "\"Su\"\r\n\"09.07.2026\",\"5000\",\"Kira\"\r\n"));
+                        Basinca(pencere, "Command3", {[](QDialog& ekle) {
+                                    QCOMPARE(ekle.windowTitle(), QStringLiteral("Gider Ekle"));
+                                    AlanaYaz(ekle, "Tutar", QStringLiteral("7"));
+                                    AlanaYaz(ekle, "Aciklama", QStringLiteral("Tuz"));
+                                    Tikla(ekle, "Command1");
+                                }});
+                        QCOMPARE(Yazi(pencere, "Giderler"), QStringLiteral(": 5.247 TL"));
+                    }});
         });
     }
 

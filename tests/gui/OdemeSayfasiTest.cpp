@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -73,6 +74,23 @@ class OdemeSayfasiTest : public QObject {
             QCOMPARE(Liste(pencere).topLevelItemCount(), 3);
             QCOMPARE(Satir(pencere, 2), (QStringList{"21.05.2026", "1500", "7 - Ali Veli"}));
             QCOMPARE(Toplamlar(pencere), (QStringList{"5.000", "1.850", "3.150"}));
+        });
+    }
+
+    void another_day_and_another_note_come_into_the_row() {
+        GuiFirma firma;
+        Odemelerde(firma, [](QDialog& pencere) {
+            Ekle(pencere, [](QDialog& odeme) {
+                Yaz(QStringLiteral("640"));
+                auto& tarih = Parcasi<QDateEdit>(odeme, "DTPicker1");
+                tarih.setFocus();
+                tarih.setSelectedSection(QDateTimeEdit::DaySection);
+                Tusla(Qt::Key_Up);
+                Tusla(Qt::Key_Up);
+                AlanaYaz(odeme, "Aciklama", QStringLiteral("elden, Nur"));
+                Tikla(odeme, "Command1");
+            });
+            QCOMPARE(Satir(pencere, 2), (QStringList{"23.05.2026", "640", "elden, Nur"}));
         });
     }
 

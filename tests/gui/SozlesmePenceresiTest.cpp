@@ -93,6 +93,28 @@ class SozlesmePenceresiTest : public QObject {
         QVERIFY(firma.agac.Bayt(u"Sozlesme.dat").starts_with("\"Kurallar\",\"1 - Kira"));
     }
 
+    void sample_and_pdf_do_their_own_work_by_a_click() {
+        SozlesmeliFirma firma;
+        QStringList isler;
+        firma.program.ortam.kagit.yazdir = [&](const std::vector<Sayfa>& /*sayfalar*/, const Metin& ad) {
+            isler << QStringLiteral("baskı ") + QString::fromStdU16String(ad);
+            return true;
+        };
+        firma.program.ortam.sor.kayitYeri = [&](const KayitYeriKutusu& kutu) {
+            isler << QStringLiteral("dosya ") + QString::fromStdU16String(kutu.ad);
+            return std::optional<std::filesystem::path>();
+        };
+        Sozlesmede(firma, [&](QDialog& pencere) {
+            Tikla(pencere, "Command1");
+            QCOMPARE(isler, QStringList{QStringLiteral("baskı Örnek Sözleşme")});
+            isler.clear();
+            Tikla(pencere, "Pdf");
+            QCOMPARE(isler, QStringList{QStringLiteral("dosya Örnek Sözleşme.pdf")});
+            QVERIFY(pencere.isVisible());
+        });
+        firma.program.FormSozlesme.Bosalt();
+    }
+
     void who_has_no_right_to_it_does_not_see_its_entry() {
         SozlesmeliFirma firma;
         QVERIFY(firma.Bul<QAction>("Sozduzenss").isVisible());

@@ -155,6 +155,24 @@ class ZilDugmesiTest : public QObject {
         QTRY_COMPARE(Odaktaki(), QStringLiteral("Picture4"));
     }
 
+    void a_double_click_on_a_row_opens_its_record() {
+        GuiFirma firma;
+        HatirlatmaKoy(firma, u"10.09.2026 - Gece", u"Nur");
+        HatirlatmaKoy(firma, u"11.10.2026 - Gündüz", u"Can");
+        firma.Ac();
+        const auto ac = [&](QDialog& pencere) {
+            const auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+            SatiraTikla(liste, 1); // a double click begins with one
+            Pencerede([&] { SatiraCiftTikla(liste, 1); }, {[&](QDialog& kayit) {
+                          QCOMPARE(kayit.windowTitle(), QStringLiteral("Kayıt Düzenle"));
+                          QCOMPARE(firma.program.FormKayit->Tarih, Metin(u"11.10.2026 - Gündüz"));
+                          QTest::keyClick(&kayit, Qt::Key_Escape);
+                      }});
+            QTest::keyClick(&pencere, Qt::Key_Escape);
+        };
+        Pencerede([&] { QTest::mouseClick(&Zil(firma), Qt::LeftButton); }, {ac});
+    }
+
     void with_nothing_due_any_more_no_window_even_flashes() {
         GuiFirma firma;
         HatirlatmaKoy(firma, u"10.09.2026 - Gece", u"Nur");

@@ -95,7 +95,7 @@ TEST_F(UyariTest, A_couple_of_a_blank_and_0_is_a_couple) {
                   u"\"\",\"\",1,0\r\n");
     agac.KoyMetin(u"Salon A/2012/17.06.2012 - Gece-Detay", DetayMetni(false));
     Prog();
-    UyarilarOlmali({u"17.06.2012 - Gece Kesin"});
+    ASSERT_EQ(Uyarilar(), std::vector<Metin>{u"17.06.2012 - Gece Kesin"});
     EXPECT_EQ(Tablo().Liste.satirlar[0].sutun[3], u" 0");
 }
 
