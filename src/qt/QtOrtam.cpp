@@ -267,6 +267,15 @@ void BeklerkenGoster(Ortam& ortam) {
         const Baglayici::KullaniciBekleme bekleme;
         return getir(istek);
     };
+    ortam.ag.aktarimAc = [ac = ortam.ag.aktarimAc](const AktarimIstegi& istek) {
+        const Aktarim aktarim = ac(istek);
+        Aktarim gosteren = aktarim;
+        gosteren.basliklar = [basliklar = aktarim.basliklar] {
+            const Baglayici::KullaniciBekleme bekleme;
+            return basliklar();
+        };
+        return gosteren;
+    };
 }
 
 } // namespace velora

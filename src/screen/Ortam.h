@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "screen/EkranListesi.h"
 #include "screen/Sayfa.h"
@@ -45,6 +47,30 @@ struct AgIstegi {
     int sure = 0; ///< seconds that it may take in all
     /// Asked again and again while it goes on; true gives it up.
     std::function<bool()> vazgecildi = [] { return false; };
+};
+
+/// The fetch of a file over the network: GET, and the lines that are asked for.
+struct AktarimIstegi {
+    Metin adres;                    ///< goes out as it stands, without any escaping
+    Metin kullanici = {};           ///< for a server that asks for one
+    Metin parola = {};              ///< sent only with a user
+    std::vector<Metin> basliklar{}; ///< header lines of the request, without their line ends
+    int verisizSure = 0;            ///< seconds that may go by without a byte
+    /// Asked again and again while it is waited for; true gives it up.
+    std::function<bool()> vazgecildi = [] { return false; };
+};
+
+/// A fetch that goes on, as long as a copy of it is held. What waits lets pending events run, and screens may
+/// come and go meanwhile.
+struct Aktarim {
+    /// The header lines of the reply with their line ends, as they came; empty when none came, or it was
+    /// given up. Redirects aren't followed.
+    std::function<Metin()> basliklar = [] { return Metin(); };
+    /// The next bytes of the reply's body, at most so many. Empty behind the last one, when the connection
+    /// breaks off or stands still for too long, and when it was given up.
+    std::function<std::string(std::size_t enCok)> parca = [](std::size_t) { return std::string(); };
+    /// Gives it up.
+    std::function<void()> iptal = [] {};
 };
 
 /// The six bytes that a network adapter is known by.
@@ -97,6 +123,10 @@ struct Ortam {
         /// Opens a page in the user's browser, and doesn't wait. False: no browser has been started, or it
         /// isn't the address of a page.
         std::function<bool(const Metin& adres)> adresAc = [](const Metin&) { return false; };
+        /// Starts a program, in its own folder, and doesn't wait for it. False: it hasn't been started.
+        std::function<bool(const std::filesystem::path&)> calistir = [](const std::filesystem::path&) {
+            return false;
+        };
     } kabuk;
 
     struct Kagit {
@@ -123,6 +153,10 @@ struct Ortam {
         /// The body of the reply; empty text on every failure. While it waits it lets pending events run, so
         /// that screens may come and go meanwhile, and other requests begin and end.
         std::function<Metin(const AgIstegi&)> getir = [](const AgIstegi&) { return Metin(); };
+        /// Begins to fetch a file.
+        std::function<Aktarim(const AktarimIstegi&)> aktarimAc = [](const AktarimIstegi&) {
+            return Aktarim();
+        };
         /// Whether the machine has a connection at all, to whatever.
         std::function<bool()> baglantiVar = [] { return false; };
         /// The hardware address of the machine, if it has one.

@@ -1,6 +1,7 @@
 #include "destek/SahteOrtam.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,9 @@ std::string Tarif(const BeklenenIstek& istek) {
 }
 std::string Tarif(const BeklenenBaski& baski) {
     return "the print " + Tirnakli(baski.isAdi);
+}
+std::string Tarif(const BeklenenAktarim& aktarim) {
+    return "the fetch of " + Tirnakli(aktarim.adres);
 }
 std::string Tarif(const BeklenenKayitYeri& yer) {
     return "the place to save " + Tirnakli(yer.ad);
@@ -83,6 +87,10 @@ Ortam SahteOrtam::Ver() {
         acilanAdresler.push_back(adres);
         return adresAcilir;
     };
+    ortam.kabuk.calistir = [this](const std::filesystem::path& yol) {
+        calisanlar.push_back(yol);
+        return calisir;
+    };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
     ortam.kagit.olcer = EsitEnli;
@@ -95,6 +103,7 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.kopya.tek = [this] { return !baskaKopya; };
     ortam.ag.getir = [this](const AgIstegi& istek) { return Getir(istek); };
+    ortam.ag.aktarimAc = [this](const AktarimIstegi& istek) { return AktarimAc(istek); };
     ortam.ag.baglantiVar = [this] { return baglanti; };
     ortam.ag.donanimAdresi = [this] { return donanim; };
     return ortam;
@@ -173,6 +182,32 @@ Metin SahteOrtam::Getir(const AgIstegi& istek) {
     EXPECT_EQ(istek.sure, beklenen->sure.value_or(istek.sure)) << "seconds for " << Tirnakli(istek.adres);
     Icinde(beklenen->is);
     return istek.vazgecildi() ? Metin() : beklenen->cevap;
+}
+
+Aktarim SahteOrtam::AktarimAc(const AktarimIstegi& istek) {
+    aktarimlar.push_back(istek);
+    const auto beklenen = SiradanAl<BeklenenAktarim>("the fetch of " + Tirnakli(istek.adres));
+    if (!beklenen)
+        return {};
+    EXPECT_EQ(Tirnakli(istek.adres), Tirnakli(beklenen->adres));
+    const auto sira = std::make_shared<std::size_t>(0);
+    // What is waited for comes only when it wasn't given up meanwhile.
+    const auto bekle = [this, is = beklenen->is, sira, vazgecildi = istek.vazgecildi] {
+        const std::size_t bu = (*sira)++;
+        if (is)
+            Icinde([&] { is(bu); });
+        return !vazgecildi();
+    };
+    return {.basliklar = [beklenen, bekle] { return bekle() ? beklenen->basliklar : Metin(); },
+            .parca =
+                [beklenen, bekle, sira](std::size_t enCok) {
+                    const std::size_t no = *sira - 1;
+                    if (!bekle() || no >= beklenen->parcalar.size())
+                        return std::string();
+                    EXPECT_LE(beklenen->parcalar[no].size(), enCok);
+                    return beklenen->parcalar[no];
+                },
+            .iptal = [this] { ++birakilanAktarim; }};
 }
 
 bool SahteOrtam::Yazdir(const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
