@@ -85,6 +85,7 @@ Ortam QtOrtam::Ver() {
     ortam.olaylar.isle = OlaylariIsle;
     ortam.kabuk.dosyaAc = DosyaAc;
     ortam.kabuk.adresAc = AdresAc;
+    ortam.kabuk.calistir = ProgramCalistir;
     ortam.kagit.olcer = SayfaOlcer();
     ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
         return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)](const Vazgecildi& vazgecildi) {

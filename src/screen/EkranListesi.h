@@ -13,7 +13,9 @@
     X(FormTablo, Pencereli)                                                                                  \
     X(FormHakkinda, Pencereli)                                                                               \
     X(FormAyarlar, Pencereli)                                                                                \
-    X(FormResmiTatil, Penceresiz)                                                                            \
+    X(FormResmiTatil, Pencereli)                                                                             \
+    X(FormResmiTatilEkle, Pencereli)                                                                         \
+    X(FormResmiTatilYukle, Pencereli)                                                                        \
     X(FormRenk, Pencereli)                                                                                   \
     X(FormSalonTanim, Pencereli)                                                                             \
     X(FormSalonTanimAd, Pencereli)                                                                           \
@@ -33,7 +35,7 @@
     X(FormMakbuzPrint, Pencereli)                                                                            \
     X(FormTabloPrint, Pencereli)                                                                             \
     X(FormWebteYayinla, Penceresiz)                                                                          \
-    X(FormDownloadManager, Penceresiz)                                                                       \
+    X(FormDownloadManager, Pencereli)                                                                        \
     X(FormYedekAl, Penceresiz)                                                                               \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \

@@ -6,6 +6,7 @@
 #include "accounts/FormBakiye.h"
 #include "accounts/FormKasa.h"
 #include "documents/FormSozlesme.h"
+#include "maintenance/FormResmiTatil.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
@@ -70,6 +71,8 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::ResTatilss, u"ResTatilss", Menu::ayarsd, u"Resmi Tatil ve Özel Gün Tanımları",
+     &T::EkranAc<&P::FormResmiTatil>},
     {Komut::aline8, u"aline8", Menu::ayarsd, u"-"},
     {Komut::KulTanimssss, u"KulTanimssss", Menu::ayarsd, u"Kullanıcı ve Yetki Tanımları",
      &T::EkranAc<&P::FormKullanicilar>},

@@ -28,6 +28,7 @@ enum class Komut {
     Salontanimss,
     aline4,
     MenuAyars,
+    ResTatilss,
     aline8,
     KulTanimssss,
     Guvenliksss,

@@ -43,6 +43,7 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::Salontanimss, Menu::ayarsd, u"Salontanimss", u"Salon Tanımları", u""},
     {Komut::aline4, Menu::ayarsd, u"aline4", u"-", u""},
     {Komut::MenuAyars, Menu::ayarsd, u"MenuAyars", u"Menü Tanımları", u""},
+    {Komut::ResTatilss, Menu::ayarsd, u"ResTatilss", u"Resmi Tatil ve Özel Gün Tanımları", u""},
     {Komut::aline8, Menu::ayarsd, u"aline8", u"-", u""},
     {Komut::KulTanimssss, Menu::ayarsd, u"KulTanimssss", u"Kullanıcı ve Yetki Tanımları", u""},
     {Komut::Guvenliksss, Menu::ayarsd, u"Guvenliksss", u"Güvenlik Ayarları", u""},
