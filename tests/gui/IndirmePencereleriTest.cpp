@@ -67,18 +67,32 @@ int CubukDegeri(const QWidget& pencere) {
     return Parcasi<QProgressBar>(pencere, "ProgressBar").value();
 }
 
-/// Does something as soon as half of the file has come.
-void YarisiGelince(SiteliFirma& firma, EkranAdi ekran, const std::function<void(QWidget&)>& is) {
+/// Does something as soon as the window of a screen stands so. The screen waits for its end meanwhile.
+void Olunca(SiteliFirma& firma, EkranAdi ekran, const std::function<bool(QWidget&)>& oldu,
+            const std::function<void(QWidget&)>& is) {
     auto* bak = new QTimer(&firma.Pencere());
-    QObject::connect(bak, &QTimer::timeout, bak, [bak, is, ekran, &firma] {
+    QObject::connect(bak, &QTimer::timeout, bak, [bak, oldu, is, ekran, &firma] {
         QWidget* pencere = firma.disDunya.Pencere(ekran);
-        if (pencere == nullptr || CubukDegeri(*pencere) != 50)
+        if (pencere == nullptr || !oldu(*pencere))
             return;
-        bak->deleteLater();
         bak->stop();
+        bak->deleteLater();
         is(*pencere);
     });
     bak->start(5);
+}
+
+/// Half of the file has come.
+bool Yarida(QWidget& pencere) {
+    return CubukDegeri(pencere) == 50;
+}
+
+bool Bosta(QWidget& pencere) {
+    return KomutYazisi(pencere) == QStringLiteral("Yeniden Dene");
+}
+
+void KomutaBas(QWidget& pencere) {
+    Tikla(pencere, "Command");
 }
 
 } // namespace
@@ -105,42 +119,47 @@ class IndirmePencereleriTest : public QObject {
     void stop_answers_at_once_while_the_server_stalls_also_behind_a_second_try() {
         SiteliFirma firma({YaridaSus(), YaridaSus()});
         firma.kutular.start(10);
-        QElapsedTimer gecen;
+        const EkranAdi ekran = EkranAdi::FormResmiTatilYukle;
         int denemeler = 0;
-        const auto durdur = [&](QWidget& pencere) {
+        const std::function<void(QWidget&)> durdur = [&](QWidget& pencere) {
             QCOMPARE(KomutYazisi(pencere), QStringLiteral("Durdur"));
-            gecen.start();
-            Tikla(pencere, "Command");
-            QCOMPARE(KomutYazisi(pencere), QStringLiteral("Yeniden Dene"));
+            KomutaBas(pencere);
+            QVERIFY(Bosta(pencere));
             QCOMPARE(CubukDegeri(pencere), 0);
             QVERIFY(!firma.agac.Var(u"Tatiller.dat"));
             ++denemeler;
+            const bool ikinci = denemeler == 2;
+            QTimer::singleShot(50, &pencere, [&, ikinci] {
+                if (ikinci)
+                    return QTest::keyClick(&pencere, Qt::Key_Escape);
+                Olunca(firma, ekran, Yarida, durdur);
+                KomutaBas(pencere);
+            });
         };
-        YarisiGelince(firma, EkranAdi::FormResmiTatilYukle, durdur);
-        QTimer::singleShot(0, &firma.Pencere(), [&] { firma.program.FormResmiTatilYukle.GosterModal(); });
-        QTRY_COMPARE(denemeler, 1);
-        QVERIFY(gecen.elapsed() < 1000);
-        YarisiGelince(firma, EkranAdi::FormResmiTatilYukle, durdur);
-        QTest::qWait(50);
-        Tikla(firma.Indirme(), "Command"); // returns when the second one was stopped
+        Olunca(firma, ekran, Yarida, durdur);
+        QElapsedTimer gecen;
+        gecen.start();
+        firma.program.FormResmiTatilYukle.GosterModal();
         QCOMPARE(denemeler, 2);
-        QVERIFY(gecen.elapsed() < 1000);
+        QVERIFY2(gecen.elapsed() < 10'000, "it has waited for the server");
+        QVERIFY(!firma.program.FormResmiTatilYukle.Yuklu());
         QCOMPARE(firma.yazilar, QStringList());
-        QTest::keyClick(&firma.Indirme(), Qt::Key_Escape);
-        QTRY_VERIFY(!firma.program.FormResmiTatilYukle.Yuklu());
     }
 
     void esc_in_the_middle_of_a_second_try_closes_the_window_and_leaves_nothing() {
         SiteliFirma firma({HamYolla(""), YaridaSus()});
         firma.kutular.start(10);
-        YarisiGelince(firma, EkranAdi::FormResmiTatilYukle,
-                      [&](QWidget& pencere) { QTest::keyClick(&pencere, Qt::Key_Escape); });
-        QTimer::singleShot(0, &firma.Pencere(), [&] { firma.program.FormResmiTatilYukle.GosterModal(); });
-        QTRY_COMPARE(firma.yazilar.size(), 1);
-        QTRY_COMPARE(KomutYazisi(firma.Indirme()), QStringLiteral("Yeniden Dene"));
-        Tikla(firma.Indirme(), "Command");
-        QVERIFY(!firma.program.FormResmiTatilYukle.Yuklu());
-        QTRY_VERIFY(firma.disDunya.Pencere(EkranAdi::FormResmiTatilYukle) == nullptr);
+        const EkranAdi ekran = EkranAdi::FormResmiTatilYukle;
+        const auto hatadanSonra = [&](QWidget& pencere) {
+            return !firma.yazilar.isEmpty() && Bosta(pencere);
+        };
+        Olunca(firma, ekran, hatadanSonra, [&](QWidget& bosta) {
+            Olunca(firma, ekran, Yarida, [](QWidget& pencere) { QTest::keyClick(&pencere, Qt::Key_Escape); });
+            KomutaBas(bosta);
+            QVERIFY(!firma.program.FormResmiTatilYukle.Yuklu());
+        });
+        firma.program.FormResmiTatilYukle.GosterModal();
+        QVERIFY(firma.disDunya.Pencere(ekran) == nullptr);
         QVERIFY(!firma.agac.Var(u"Tatiller.dat"));
         QCOMPARE(firma.yazilar.size(), 1);
     }
@@ -172,7 +191,7 @@ class IndirmePencereleriTest : public QObject {
     void the_x_of_a_new_version_that_stalls_ends_its_window_with_nothing_left() {
         SiteliFirma firma({YaridaSus()});
         firma.kutular.start(10);
-        YarisiGelince(firma, EkranAdi::FormDownloadManager, [](QWidget& pencere) { pencere.close(); });
+        Olunca(firma, EkranAdi::FormDownloadManager, Yarida, [](QWidget& pencere) { pencere.close(); });
         firma.program.FormDownloadManager.GosterModal();
         QVERIFY(!firma.program.FormDownloadManager.Yuklu());
         QVERIFY(!firma.agac.Var(u"VeloraYeni.exe"));
