@@ -11,10 +11,12 @@ namespace velora {
 void AgiBagla(Ortam& ortam) {
     const auto istemci = std::make_shared<AgIstemcisi>();
     ortam.ag.getir = [istemci, isle = ortam.olaylar.isle](const AgIstegi& istek) {
-        return istemci->Getir(istek.adres, std::chrono::seconds(istek.sure), [&] {
+        const auto sira = [&] {
             isle();
             return !istek.vazgecildi();
-        });
+        };
+        return istemci->Getir(istek.adres, std::chrono::seconds(istek.sure), sira,
+                              istek.baglantiKalsin ? BaglantiTuru::Kalan : BaglantiTuru::Tek);
     };
     const auto indirici = std::make_shared<Indirici>(ortam.olaylar.isle);
     ortam.ag.aktarimAc = [indirici](const AktarimIstegi& istek) { return indirici->Ac(istek); };

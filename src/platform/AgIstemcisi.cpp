@@ -35,13 +35,20 @@ struct Aktarma {
     }
 };
 
-CurlKolu KolYap(const AdresParcalari& parcalar, std::chrono::milliseconds sure, Aktarma& aktarma) {
+/// On a connection that is used again curl may send a request twice, and not every one may come twice.
+void BaglantiyiSec(CURL* kol, BaglantiTuru tur) {
+    const long tek = tur == BaglantiTuru::Tek ? 1 : 0;
+    curl_easy_setopt(kol, CURLOPT_FRESH_CONNECT, tek);
+    curl_easy_setopt(kol, CURLOPT_FORBID_REUSE, tek);
+}
+
+CurlKolu KolYap(const AdresParcalari& parcalar, std::chrono::milliseconds sure, BaglantiTuru tur,
+                Aktarma& aktarma) {
     CurlKolu kol = CurlKoluYap(parcalar);
     if (kol == nullptr)
         return kol;
+    BaglantiyiSec(kol.get(), tur);
     curl_easy_setopt(kol.get(), CURLOPT_TIMEOUT_MS, static_cast<long>(std::max<long long>(1, sure.count())));
-    // On a connection that is used again curl may send a request twice, and not every one may come twice.
-    curl_easy_setopt(kol.get(), CURLOPT_FORBID_REUSE, 1L);
     curl_easy_setopt(kol.get(), CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(kEnUzunCevap));
     curl_easy_setopt(kol.get(), CURLOPT_WRITEFUNCTION, &Aktarma::GovdeAl);
     curl_easy_setopt(kol.get(), CURLOPT_WRITEDATA, &aktarma);
@@ -87,13 +94,14 @@ void AgIstemcisi::Kapat() {
     ic_->kapali = true;
 }
 
-Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira) {
+Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,
+                         BaglantiTuru tur) {
     const auto parcalar = AdresAyir(adres);
     const auto ic = ic_; // a turn may be the client's last
     if (!parcalar || ic->kapali || ic->liste == nullptr)
         return {};
     Aktarma aktarma;
-    const CurlKolu kol = KolYap(*parcalar, sure, aktarma);
+    const CurlKolu kol = KolYap(*parcalar, sure, tur, aktarma);
     if (kol == nullptr)
         return {};
     const CurlYeri yer(ic->liste.get(), kol.get());
