@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
@@ -307,11 +308,20 @@ void Baglayici::Bagla(QLabel& etiket, Etiket& model) {
     });
 }
 
+void Baglayici::Bagla(QProgressBar& cubuk, IlerlemeCubugu& model) {
+    Izle([&cubuk, &model] {
+        // A range of nothing would be shown as a work without an end.
+        cubuk.setRange(0, std::max(1, model.enCok));
+        cubuk.setValue(model.deger);
+        cubuk.setFormat(model.enCok > 0 ? QStringLiteral("%v / %m") : QString());
+    });
+}
+
 void Baglayici::Bagla(Zamanlayici& model, const QString& ad) {
     auto* saat = new QTimer(this);
     saat->setObjectName(ad);
     connect(saat, &QTimer::timeout, this, [this, &model] {
-        if (!model.sakin || Durum().derinlik == 0)
+        if (!model.sakin || Durum().derinlik == 0 || (model.beklerken && Durum().bekliyor))
             Calistir([&model] { model.Calis(); });
     });
     Izle([saat, &model] {

@@ -19,6 +19,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
+class QProgressBar;
 class QRadioButton;
 class QTreeWidget;
 class QWidget;
@@ -77,6 +78,8 @@ class Baglayici : public QObject {
     /// A plain list; `secildi` as above.
     void Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& secildi = {});
     void Bagla(QLabel& etiket, Etiket& model);
+    /// Tells the steps that are done and how many there are; with none it stands empty and still.
+    void Bagla(QProgressBar& cubuk, IlerlemeCubugu& model);
     /// A timer that runs as long as the model's interval isn't 0. One that runs is started again only by
     /// another interval; a tick that would come in the middle of another handler is left out where the model
     /// wants that. `ad` is its name among the children of the binder.

@@ -57,6 +57,7 @@ inline constexpr MetinBakis kAdresDosyasi = u"Adresler.dat";    ///< addresses o
 inline constexpr MetinBakis kFirmaDosyasi = u"Firma.dll";       ///< the firm's profile
 inline constexpr MetinBakis kRaporDosyasi = u"Rapor.xls";       ///< the last report given to a spreadsheet
 inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";     ///< the firm's key at the service
+inline constexpr MetinBakis kIstekDosyasi = u"RezTemp.dat";     ///< requests that wait at the service
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
 

@@ -13,8 +13,12 @@
 #include "documents/FormMakbuzPrint.h"
 #include "documents/FormSozlesme.h"
 #include "documents/FormTabloPrint.h"
+#include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
+#include "online/FormOneri.h"
+#include "online/FormRezervasyonlar.h"
 #include "online/FormSunucu.h"
+#include "online/FormWebteYayinla.h"
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
@@ -65,6 +69,22 @@ inline void HatirlatmaAc(Program& program) {
         DetayYaz(program.dosyalar, yol + Metin(kDetayEki), {});
     }
     program.FormOzelHatirlatma.GosterModal();
+}
+
+/// With requests that wait.
+inline void IsteklerAc(Program& program) {
+    program.dosyalar.Yaz(
+        program.agac.KokYolu(kIstekDosyasi),
+        "\"41\",\"Can\",\"1\",\"2\",\"3\",\"x\",\"23.06.2026\",\"19:30\",\"Gece\",\"Kokteyl\"\r\n"
+        "\"42\",\"Ece\",\"4\",\"5\",\"6\",\"y\",\"24.06.2026\",\"20:30\",\"Gece\",\"Kokteyl\"\r\n");
+    program.FormRezervasyonlar.GosterModal();
+}
+
+/// With a message, which lets it be sent.
+inline void DoluOneriAc(Program& program) {
+    program.FormOneri->Aciklama.metin = u"a";
+    program.FormOneri->Aciklama_Change();
+    program.FormOneri.GosterModal();
 }
 
 /// Filled from the table.
@@ -193,6 +213,10 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command2",
      {"Command1 Pdf Command2 Sayfa"}},
     {EkranAdi::FormTabloPrint, TabloBaskisiAc, "Command1", "Command2", {"Command1 Pdf Command2 Sayfa"}},
+    {EkranAdi::FormWebteYayinla, EkraniAc<&Program::FormWebteYayinla>, "Command1", "Command1", {"Command1"}},
+    {EkranAdi::FormRezervasyonlar, IsteklerAc, "Command1", "Command1", {"Command1 Liste Kaydet"}},
+    {EkranAdi::FormDuyurular, EkraniAc<&Program::FormDuyurular>, "Command1", "Command1", {"Command1 Text1"}},
+    {EkranAdi::FormOneri, DoluOneriAc, "Command1", "Command2", {"Aciklama Command1 Command2"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",
