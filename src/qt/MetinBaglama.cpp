@@ -205,7 +205,8 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
     connect(&kutu, &QComboBox::activated, this, [this, &kutu, &model](int sira) {
         Calistir([&] { model.metin = MetinYap(kutu.itemText(sira)); });
     });
-    // The arrow keys go on from the entry that the text is.
+    // The arrow keys go on from the entry that the text is, and begin anew where it was emptied. To let go of
+    // an entry empties the field, too, so while other text stands there that waits.
     Izle([&kutu, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&kutu);
         if (konan != model.ogeler) {
@@ -216,7 +217,7 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
             konan = model.ogeler;
         }
         const int sira = kutu.findText(QMetin(model.metin), Qt::MatchExactly | Qt::MatchCaseSensitive);
-        if (sira >= 0 && sira != kutu.currentIndex())
+        if (sira != kutu.currentIndex() && (sira >= 0 || model.metin.empty()))
             kutu.setCurrentIndex(sira);
     });
     Bagla(*kutu.lineEdit(), model);
