@@ -31,6 +31,8 @@ YayinKosusu::YayinKosusu(Program& program, Yayin yayin) : yayin_(std::move(yayin
 
 void YayinKosusu::Adim() {
     const Siradaki& siradaki = istekler_[sira_++];
+    // A slot that is told twice is the same slot. All else could do harm the second time.
+    inet_.baglantiKalsin = siradaki.istek == Istek::Save;
     inet_.Getir(siradaki.adres);
 }
 

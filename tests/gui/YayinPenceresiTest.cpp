@@ -44,8 +44,8 @@ struct YayinFirmasi : GuiFirma {
         program.ortam.ag.baglantiVar = [] { return false; };
         program.Splash->Check1 = 1;
         Ac();
-        // The poll asks by itself and is no part of this.
-        Model().DuyuruKontrol.aralik = 0;
+        // It asks by itself, some seconds on, and is no part of this.
+        Model().DuyuruKontrol.tik = [] {};
     }
     ~YayinFirmasi() { tutulan = 0; }
     YayinFirmasi(const YayinFirmasi&) = delete;

@@ -32,8 +32,8 @@ class OnlineGun : public KayitTest {
         kullanici.Tablo().YeniRezervasyonVar_Click();
     }
     void IlkiniOlustur() {
-        const auto ekran = Prog().FormRezervasyonlar.Tut();
-        SatiraTikla(ekran->Liste, 0, [&] { ekran->Liste_Click(); });
+        const auto istekler = Prog().FormRezervasyonlar.Tut();
+        SatiraTikla(istekler->Liste, 0, [&] { istekler->Liste_Click(); });
         VELORA_BAS(Prog().FormRezervasyonlar, Command2);
     }
     Servis::Firma& Firma() { return servis.firmalar[u"00-1B-C4-0D-E0-9F"]; }

@@ -1,5 +1,7 @@
 #include "online/FormRezervasyonlar.h"
 
+#include <algorithm>
+
 #include "online/IstekListesiTest.h"
 
 namespace velora::test {
@@ -101,7 +103,7 @@ TEST_F(FormRezervasyonlarTest,
             if (no == u"42") {
                 ASSERT_EQ(Liste().Liste.satirlar.size(), 1U);
                 EXPECT_TRUE(Dosya().starts_with("\"41\",\"G\xFCl I\xFE\xFDk\",\"0212 33\",")) << Dosya();
-                EXPECT_EQ(std::count(Dosya().begin(), Dosya().end(), '\n'), 1);
+                EXPECT_EQ(std::ranges::count(Dosya(), '\n'), 1);
             }
         }
         EXPECT_FALSE(ListeVar());
@@ -221,7 +223,7 @@ TEST_F(FormRezervasyonlarTest, The_other_slot_of_the_day_and_the_other_hall_keep
 
 // The colour of a day gone by hides what is there: the save then writes over it.
 TEST_F(FormRezervasyonlarTest, A_taken_day_that_is_past_is_grey_and_lets_the_request_through_on_purpose) {
-    agac.KoyMetin(u"Settings.dll", AyarMetni(28, u"1")); // past days are painted
+    AyarKoy(28, u"1"); // past days are painted
     KayitKoy(agac, u"Salon B/2012/05.06.2012 - Gece");
     Iste({.tarih = u"05.06.2012"});
     Baslat();

@@ -42,7 +42,8 @@ void IkiResimliDugme::ResimGoster(int resim) {
 }
 
 void IkiResimliDugme::OdagiBirak() {
-    if (hasFocus())
+    // Also while another window has the keyboard: the mark would be where it comes back to.
+    if (window()->focusWidget() == this)
         tabloyaDon_();
 }
 
