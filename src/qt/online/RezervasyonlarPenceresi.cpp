@@ -29,7 +29,7 @@ RezervasyonlarPenceresi::RezervasyonlarPenceresi(Program& program)
     auto* kaydet = DugmeYap({"Kaydet", &F::Kaydet, &F::Kaydet_Click});
     auto* kapat = DugmeYap({"Command1", &F::Command1, &F::Command1_Click});
     IptalDugmesi(kapat);
-    VarsayilanDugme(*kapat, *liste, *olustur);
+    VarsayilanDugme(*olustur, *liste, *olustur);
     for (QPushButton* dugme : {olustur, sil})
         OdagiListeyeVer(*dugme, *liste);
     sutun->addLayout(DugmeSeridi({olustur, sil, kapat}, {kaydet}));
