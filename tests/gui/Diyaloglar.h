@@ -214,7 +214,7 @@ inline constexpr Diyalog kDiyaloglar[]{
      {"Command1 Pdf Command2 Sayfa"}},
     {EkranAdi::FormTabloPrint, TabloBaskisiAc, "Command1", "Command2", {"Command1 Pdf Command2 Sayfa"}},
     {EkranAdi::FormWebteYayinla, EkraniAc<&Program::FormWebteYayinla>, "Command1", "Command1", {"Command1"}},
-    {EkranAdi::FormRezervasyonlar, IsteklerAc, "Command2", "Command1", {"Command1 Liste Kaydet"}},
+    {EkranAdi::FormRezervasyonlar, IsteklerAc, "Command1", "Command1", {"Command1 Liste Kaydet"}},
     {EkranAdi::FormDuyurular, EkraniAc<&Program::FormDuyurular>, "Command1", "Command1", {"Command1 Text1"}},
     {EkranAdi::FormOneri, DoluOneriAc, "Command1", "Command2", {"Aciklama Command1 Command2"}},
     {EkranAdi::FormSunucu,

@@ -139,15 +139,15 @@ class OnlineIsaretleriTest : public QObject {
                       QVERIFY(!Parcasi<QPushButton>(pencere, "Command2").isEnabled());
                       SatiraTikla(liste, 0);
                       Pencerede(
-                          [&] { SatiraCiftTikla(liste, 0); },
-                          {[](QDialog& kayit) {
-                               QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay1").text(), QStringLiteral("Gül"));
-                               QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay12").text(), QStringLiteral("19:30"));
-                               QTest::keyClick(&kayit, Qt::Key_Escape);
-                           },
-                           Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\nBu Rezervasyon "
-                                                "kaydı oluşturulmayacak emin misiniz?"),
-                                 QStringLiteral("Evet"))});
+                          [&] { SatiraCiftTikla(liste, 0); }, {[](QDialog& kayit) {
+                              QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay1").text(), QStringLiteral("Gül"));
+                              QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay12").text(), QStringLiteral("19:30"));
+                              Pencerede(
+                                  [&] { QTest::keyClick(&kayit, Qt::Key_Escape); },
+                                  {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\nBu "
+                                                        "Rezervasyon kaydı oluşturulmayacak emin misiniz?"),
+                                         QStringLiteral("Evet"))});
+                          }});
                       QCOMPARE(liste.topLevelItemCount(), 1);
                       QCOMPARE(SatirYazilari(liste, 0).front(), QStringLiteral("42"));
                       QVERIFY(!Parcasi<QPushButton>(pencere, "Command2").isEnabled());

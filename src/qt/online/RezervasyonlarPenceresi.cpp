@@ -14,7 +14,7 @@ namespace velora {
 
 namespace {
 
-constexpr std::array kIstekSutunEnleri{64, kKalanEn, 104, 104, kKalanEn, kKalanEn, 88, 56, 72, 80};
+constexpr std::array kIstekSutunEnleri{56, kKalanEn, 120, 120, kKalanEn, kKalanEn, 88, 56, 72, 80};
 
 } // namespace
 
