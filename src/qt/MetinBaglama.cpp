@@ -1,4 +1,5 @@
 // The binder's text fields.
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -38,9 +39,14 @@ QString Rakamlari(QString metin) {
     return metin.remove(QRegularExpression(QStringLiteral("[^0-9]")));
 }
 
-/// What a field of one line shows now. Other signs than its keys bring were pasted.
-QString Gelen(const QLineEdit& kutu, const MetinKutusu& model) {
-    return model.suzgec == nullptr ? kutu.text() : QMetin(TutarOlarak(MetinYap(kutu.text())));
+/// What a field of one line shows now. Other signs than its keys bring were pasted; what is typed is no
+/// amount by itself, and leaves a text that came from a file as it is.
+QString Gelen(const QLineEdit& kutu, const MetinKutusu& model, const QString& eski) {
+    QString metin = kutu.text();
+    const QString giren = Giren(eski, metin);
+    if (model.suzgec == nullptr || std::ranges::all_of(giren, [](QChar harf) { return harf.isDigit(); }))
+        return metin;
+    return QMetin(TutarOlarak(MetinYap(metin)));
 }
 
 /// What a field with a mask takes of what it shows. The toolkit puts what is pasted digit by digit into the
@@ -65,15 +71,21 @@ struct SonHal {
 };
 
 /// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor
-/// afterwards.
+/// afterwards. One that comes back from a menu or another window to the field that it had left for that
+/// selects nothing: what is typed there goes on.
 class OdaktaSecen : public QObject {
   public:
     explicit OdaktaSecen(QLineEdit& kutu) : QObject(&kutu) { kutu.installEventFilter(this); }
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        if (olay->type() == QEvent::FocusIn)
+        if (olay->type() == QEvent::FocusOut)
+            donecek_ = Baglayici::OdakDonecek(*olay);
+        if (olay->type() == QEvent::FocusIn && !(donecek_ && Baglayici::OdakDonecek(*olay)))
             QMetaObject::invokeMethod(nesne, "selectAll", Qt::QueuedConnection);
         return QObject::eventFilter(nesne, olay);
     }
+
+  private:
+    bool donecek_ = false; // it went for a while only
 };
 
 /// A click into a date chooses the part that it falls on: what is typed next takes its place. The toolkit
@@ -154,7 +166,7 @@ void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isl
         Calistir([&] {
             model.metin =
                 kutu.inputMask().isEmpty()
-                    ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model), KutununKurali(model, false)))
+                    ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model, son->metin), KutununKurali(model, false)))
                     : MaskeliMetin(kutu, model, son->gorunen);
             if (isler.degisti)
                 isler.degisti();
