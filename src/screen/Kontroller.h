@@ -121,6 +121,15 @@ struct IlerlemeCubugu {
     bool operator==(const IlerlemeCubugu&) const = default;
 };
 
+/// How far a work has come: `deger` of `enCok` steps. An `enCok` of 0: nothing was to be done.
+struct IlerlemeCubugu {
+    int enCok = 0;
+    int deger = 0;
+    Metin baslik{}; ///< what it is called
+
+    bool operator==(const IlerlemeCubugu&) const = default;
+};
+
 /// An entry of a menu.
 struct MenuGirdisi {
     Metin baslik;
@@ -300,6 +309,7 @@ struct Zamanlayici {
     int aralik = 0;            ///< milliseconds; 0 stops it
     std::function<void()> tik; ///< the screen's handler, set by the screen
     bool sakin = false; ///< it is due only while no other handler runs: what its own waits for holds up none
+    bool beklerken = false; ///< with `sakin`: due also while the running handler waits for the user
 
     /// Runs the handler, unless it is running already or the timer has been stopped: a due tick waits.
     void Calis();

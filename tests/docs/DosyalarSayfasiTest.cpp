@@ -13,6 +13,7 @@
 #include "maintenance/FormResmiTatil.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
+#include "online/FormRezervasyonlar.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
@@ -110,7 +111,7 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
 }
 
 TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_service) {
-    for (const char16_t* ad : {u"Firma.dll", u"Sunucu.dat", u"Adresler.dat"})
+    for (const char16_t* ad : {u"Firma.dll", u"Sunucu.dat", u"Adresler.dat", u"RezTemp.dat"})
         agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
     EXPECT_EQ(program.FormFirma->t1.metin, u"Gül Düğün Salonları");
     EXPECT_EQ(program.FormFirma->t9.metin, u"Termal");
@@ -118,6 +119,9 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_service) {
     EXPECT_EQ(program.FormSunucu->Check1.deger, 1);
     EXPECT_EQ(AdresleriOku(program).servis, u"https://servis.ornek.test/velora");
     EXPECT_EQ(AdresleriOku(program).satir, u"Velora - www.ornek.test");
+    program.FormRezervasyonlar->Activate();
+    ASSERT_EQ(program.FormRezervasyonlar->Liste.satirlar.size(), 1U);
+    EXPECT_EQ(program.FormRezervasyonlar->Liste.satirlar[0].sutun[9], u"Düğün");
 }
 
 TEST_F(DosyalarSayfasi, The_start_finds_the_examples_of_its_three_files_whole) {
