@@ -1,11 +1,8 @@
 #include "maintenance/FileSync.h"
 
 #include <algorithm>
-#include <chrono>
-#include <map>
-#include <string>
+#include <iterator>
 #include <system_error>
-#include <unordered_map>
 
 #include "storage/dosya/Sistem.h"
 
@@ -14,28 +11,33 @@ namespace velora {
 namespace {
 
 namespace fs = std::filesystem;
+using sistem::Oge;
 using sistem::OgeBilgisi;
 using sistem::Tur;
 
+/// What a copy is called until it is whole. One that a crash has left is no file of anybody's.
+const fs::path kYarimAd = ".velora-yarim";
+
+const fs::path::string_type& Adi(const Oge& oge) {
+    return oge.ad.native();
+}
+
 struct Icerik {
-    std::map<fs::path, OgeBilgisi> dosyalar;
-    std::vector<fs::path> klasorler; // names, sorted
+    std::vector<Oge> dosyalar;  // sorted by name
+    std::vector<Oge> klasorler; // sorted by name
 };
 
 /// What can't be listed or asked about isn't there.
 Icerik Listele(const fs::path& klasor) {
     Icerik icerik;
-    std::error_code hata;
-    for (fs::directory_iterator oge(klasor, hata), son; !hata && oge != son; oge.increment(hata)) {
-        const auto bilgi = sistem::Bilgi(oge->path());
-        if (!bilgi)
+    for (Oge& oge : sistem::Ogeler(klasor)) {
+        if (oge.ad == kYarimAd)
             continue;
-        if (bilgi->tur == Tur::Dosya)
-            icerik.dosyalar.emplace(oge->path().filename(), *bilgi);
-        else
-            icerik.klasorler.push_back(oge->path().filename());
+        auto& yeri = oge.bilgi.tur == Tur::Dosya ? icerik.dosyalar : icerik.klasorler;
+        yeri.push_back(std::move(oge));
     }
-    std::ranges::sort(icerik.klasorler);
+    for (auto* ogeler : {&icerik.dosyalar, &icerik.klasorler})
+        std::ranges::sort(*ogeler, {}, Adi);
     return icerik;
 }
 
@@ -57,37 +59,23 @@ int Durum(const OgeBilgisi& kaynak, const OgeBilgisi& hedef) {
 
 std::vector<EslemeSatiri> Esle(const Icerik& kaynak, const Icerik& hedef) {
     std::vector<EslemeSatiri> satirlar;
+    std::vector<EslemeSatiri> fazlalar;
     satirlar.reserve(kaynak.dosyalar.size());
-    for (const auto& [ad, bilgi] : kaynak.dosyalar) {
-        const auto es = hedef.dosyalar.find(ad);
-        satirlar.push_back(
-            {ad, es == hedef.dosyalar.end() ? EslemeDurumu::YalnizKaynakta : Durum(bilgi, es->second)});
+    auto es = hedef.dosyalar.begin();
+    const auto fazlayiGec = [&](const auto& dur) {
+        for (; es != hedef.dosyalar.end() && dur(*es); ++es)
+            fazlalar.push_back({es->ad, EslemeDurumu::YalnizHedefte});
+    };
+    for (const Oge& oge : kaynak.dosyalar) {
+        fazlayiGec([&oge](const Oge& oteki) { return Adi(oteki) < Adi(oge); });
+        const bool var = es != hedef.dosyalar.end() && Adi(*es) == Adi(oge);
+        satirlar.push_back({oge.ad, var ? Durum(oge.bilgi, es->bilgi) : EslemeDurumu::YalnizKaynakta});
+        if (var)
+            ++es;
     }
-    for (const auto& [ad, bilgi] : hedef.dosyalar)
-        if (!kaynak.dosyalar.contains(ad))
-            satirlar.push_back({ad, EslemeDurumu::YalnizHedefte});
+    fazlayiGec([](const Oge&) { return true; });
+    std::ranges::move(fazlalar, std::back_inserter(satirlar));
     return satirlar;
-}
-
-/// Copies a file with its time and its rights. One that is there is replaced in one step, whoever may write
-/// into it, and stays when the copy fails.
-void DosyaKopyala(const fs::path& kaynak, const fs::path& hedef, bool uzerine) {
-    std::error_code hata;
-    fs::path yeni = hedef;
-    if (uzerine)
-        yeni += ".veloraYeni";
-    // Asked for before: written to while it is copied, it is copied again next time.
-    const auto zaman = fs::last_write_time(kaynak, hata);
-    bool tamam = !hata && fs::copy_file(kaynak, yeni, fs::copy_options::overwrite_existing, hata) && !hata;
-    if (tamam) {
-        fs::last_write_time(yeni, zaman, hata);
-        if (uzerine) {
-            fs::rename(yeni, hedef, hata);
-            tamam = !hata;
-        }
-    }
-    if (!tamam)
-        fs::remove(yeni, hata);
 }
 
 enum class KopyaYeri { Yok, Hedefe, Geri };
@@ -103,20 +91,16 @@ KopyaYeri KopyalanacakYer(int durum) {
     return KopyaYeri::Hedefe;
 }
 
-/// A path without links, as it is told from others.
-fs::path Gercek(const fs::path& yol) {
+/// Whether both lead to one folder, by whatever links.
+bool AyniKlasor(const fs::path& bir, const fs::path& iki) {
     std::error_code hata;
-    fs::path gercek = fs::weakly_canonical(yol, hata);
-    return hata ? yol : gercek;
+    return fs::equivalent(bir, iki, hata) && !hata;
 }
 
 } // namespace
 
-FileSync::FileSync(std::function<void()> olaylar, std::vector<Yol> atlanan)
-    : olaylar_(std::move(olaylar)), atlanan_(std::move(atlanan)) {
-    for (Yol& yol : atlanan_)
-        yol = Gercek(yol);
-}
+FileSync::FileSync(std::function<bool()> olaylar, std::vector<Yol> atlanan)
+    : olaylar_(std::move(olaylar)), atlanan_(std::move(atlanan)) {}
 
 std::vector<EslemeSatiri> FileSync::Compare(const Yol& kaynak, const Yol& hedef) {
     return Esle(Listele(kaynak), Listele(hedef));
@@ -126,55 +110,60 @@ void FileSync::SyncFiles(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) con
     SatirlariUygula(Compare(kaynak, hedef), kaynak, hedef, ikiYonlu);
 }
 
-void FileSync::SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
+bool FileSync::SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
                                bool ikiYonlu) const {
-    for (const EslemeSatiri& satir : satirlar) {
+    const auto kopyala = [](const Yol& nereden, const Yol& nereye, const Yol& ad) {
+        sistem::Kopyala(nereden / ad, nereye / ad, nereye / kYarimAd);
+    };
+    return std::ranges::all_of(satirlar, [&](const EslemeSatiri& satir) {
         const KopyaYeri yon = KopyalanacakYer(satir.durum);
         if (yon == KopyaYeri::Hedefe)
-            DosyaKopyala(kaynak / satir.ad, hedef / satir.ad, satir.durum != EslemeDurumu::YalnizKaynakta);
+            kopyala(kaynak, hedef, satir.ad);
         else if (yon == KopyaYeri::Geri && ikiYonlu)
-            DosyaKopyala(hedef / satir.ad, kaynak / satir.ad, satir.durum != EslemeDurumu::YalnizHedefte);
-        olaylar_();
-    }
+            kopyala(hedef, kaynak, satir.ad);
+        return olaylar_();
+    });
 }
 
 void FileSync::SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const {
-    const auto bilgi = sistem::Bilgi(kaynak);
-    if (!bilgi || bilgi->tur != Tur::Klasor)
+    if (!sistem::Var(kaynak, Tur::Klasor))
         return;
+    std::error_code hata;
+    fs::create_directories(hedef.parent_path(), hata);
     // The target, too: within the source it would be copied into itself without end.
-    std::vector<Yol> ustler{Gercek(kaynak), Gercek(hedef)};
+    std::vector<Yol> ustler{kaynak, hedef};
     Gez(kaynak, hedef, ikiYonlu, ustler);
 }
 
-void FileSync::Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const {
-    std::error_code hata;
-    fs::create_directories(hedef, hata);
+bool FileSync::Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const {
+    const bool yeni = sistem::KlasorYap(hedef);
     const Icerik kaynaktakiler = Listele(kaynak);
-    const Icerik hedeftekiler = Listele(hedef);
-    SatirlariUygula(Esle(kaynaktakiler, hedeftekiler), kaynak, hedef, ikiYonlu);
+    const Icerik hedeftekiler = yeni ? Icerik() : Listele(hedef);
+    if (!SatirlariUygula(Esle(kaynaktakiler, hedeftekiler), kaynak, hedef, ikiYonlu))
+        return false;
     const auto altina = [&](const Yol& nereden, const Yol& nereye, const Yol& ad, bool geriyeDe) {
         const Yol alt = nereden / ad;
-        Yol gercek = fs::is_symlink(alt, hata) ? Gercek(alt) : Gercek(nereden) / ad;
-        if (!Girilir(gercek, ustler))
-            return;
-        ustler.push_back(std::move(gercek));
-        Gez(alt, nereye / ad, geriyeDe, ustler);
+        if (!Girilir(alt, ustler))
+            return true;
+        ustler.push_back(alt);
+        const bool surer = Gez(alt, nereye / ad, geriyeDe, ustler);
         ustler.pop_back();
-        olaylar_();
+        return surer && olaylar_();
     };
-    for (const Yol& ad : kaynaktakiler.klasorler)
-        altina(kaynak, hedef, ad, ikiYonlu);
-    if (!ikiYonlu)
-        return;
-    for (const Yol& ad : hedeftekiler.klasorler)
-        if (!std::ranges::binary_search(kaynaktakiler.klasorler, ad))
-            altina(hedef, kaynak, ad, false);
+    const auto hepsine = [](const std::vector<Oge>& klasorler, const auto& is) {
+        return std::ranges::all_of(klasorler, [&is](const Oge& oge) { return is(oge.ad); });
+    };
+    if (!hepsine(kaynaktakiler.klasorler, [&](const Yol& ad) { return altina(kaynak, hedef, ad, ikiYonlu); }))
+        return false;
+    return !ikiYonlu || hepsine(hedeftekiler.klasorler, [&](const Yol& ad) {
+        return std::ranges::binary_search(kaynaktakiler.klasorler, ad.native(), {}, Adi) ||
+               altina(hedef, kaynak, ad, false);
+    });
 }
 
-bool FileSync::Girilir(const Yol& gercek, const std::vector<Yol>& ustler) const {
-    return std::ranges::find(ustler, gercek) == ustler.end() &&
-           std::ranges::find(atlanan_, gercek) == atlanan_.end();
+bool FileSync::Girilir(const Yol& klasor, const std::vector<Yol>& ustler) const {
+    const auto bu = [&klasor](const Yol& oteki) { return AyniKlasor(klasor, oteki); };
+    return std::ranges::none_of(ustler, bu) && std::ranges::none_of(atlanan_, bu);
 }
 
 } // namespace velora

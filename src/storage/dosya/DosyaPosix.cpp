@@ -5,6 +5,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/inotify.h>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
 #include <unistd.h>
@@ -285,15 +286,100 @@ bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& ver) {
     return false;
 }
 
-std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
+namespace {
+
+constexpr mode_t kHaklar = 07777;
+
+std::optional<OgeBilgisi> Bilgi(const struct stat& bilgi) {
     constexpr std::int64_t kSaniye = 1'000'000'000;
-    constexpr mode_t kHaklar = 07777;
-    struct stat bilgi {};
-    if (::stat(yol.c_str(), &bilgi) != 0 || (!BuTur(Tur::Dosya, bilgi) && !BuTur(Tur::Klasor, bilgi)))
+    if (!BuTur(Tur::Dosya, bilgi) && !BuTur(Tur::Klasor, bilgi))
         return std::nullopt;
     return OgeBilgisi{BuTur(Tur::Dosya, bilgi) ? Tur::Dosya : Tur::Klasor,
                       static_cast<std::uint64_t>(bilgi.st_size),
                       bilgi.st_mtim.tv_sec * kSaniye + bilgi.st_mtim.tv_nsec, bilgi.st_mode & kHaklar};
+}
+
+/// Closes on every way out.
+struct Tanitici {
+    int no;
+    explicit Tanitici(int acilan) : no(acilan) {}
+    Tanitici(const Tanitici&) = delete;
+    Tanitici& operator=(const Tanitici&) = delete;
+    ~Tanitici() {
+        if (no >= 0)
+            ::close(no);
+    }
+};
+
+/// A short file in one piece: what is written to as a whole is read as one.
+bool BaytlariTasi(int kaynak, int hedef, off_t boy) {
+    static std::array<char, kOkumaTamponu> tampon;
+    if (boy <= static_cast<off_t>(tampon.size())) {
+        const ssize_t gelen = Sabirla([&] { return ::read(kaynak, tampon.data(), tampon.size()); });
+        return gelen >= 0 && ::write(hedef, tampon.data(), static_cast<std::size_t>(gelen)) == gelen;
+    }
+    ssize_t giden = 1;
+    while (giden > 0)
+        giden = Sabirla([&] { return ::sendfile(hedef, kaynak, nullptr, kEnUzunOkuma); });
+    return giden == 0;
+}
+
+enum class Kopya { Oldu, Degisti, Olmadi };
+
+Kopya BirKopya(const std::filesystem::path& kaynak, const std::filesystem::path& gecici) {
+    const Tanitici okunan(Sabirla([&] { return ::open(kaynak.c_str(), Bayraklar(Kip::Oku)); }));
+    struct stat once {};
+    if (okunan.no < 0 || ::fstat(okunan.no, &once) != 0 || !S_ISREG(once.st_mode))
+        return Kopya::Olmadi;
+    const Tanitici yazilan(Sabirla([&] {
+        return ::open(gecici.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | kHerAcilis, kDosyaHakki);
+    }));
+    if (yazilan.no < 0 || !BaytlariTasi(okunan.no, yazilan.no, once.st_size))
+        return Kopya::Olmadi;
+    // Not every disk keeps rights or times: the bytes come first.
+    const std::array<timespec, 2> zamanlar{once.st_atim, once.st_mtim};
+    static_cast<void>(::fchmod(yazilan.no, once.st_mode & kHaklar));
+    static_cast<void>(::futimens(yazilan.no, zamanlar.data()));
+    struct stat sonra {};
+    const bool ayni = ::fstat(okunan.no, &sonra) == 0 && Bilgi(sonra)->degisme == Bilgi(once)->degisme &&
+                      sonra.st_size == once.st_size;
+    return ayni ? Kopya::Oldu : Kopya::Degisti;
+}
+
+} // namespace
+
+std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
+    struct stat bilgi {};
+    return ::stat(yol.c_str(), &bilgi) == 0 ? Bilgi(bilgi) : std::nullopt;
+}
+
+std::vector<Oge> Ogeler(const std::filesystem::path& klasor) {
+    std::vector<Oge> ogeler;
+    DIR* akis = ::opendir(klasor.c_str());
+    if (akis == nullptr)
+        return ogeler;
+    while (const dirent* kayit = ::readdir(akis)) {
+        const std::string_view ad(static_cast<const char*>(kayit->d_name));
+        struct stat bilgi {};
+        if (ad == "." || ad == ".." || ::fstatat(::dirfd(akis), ad.data(), &bilgi, 0) != 0)
+            continue;
+        if (const auto oge = Bilgi(bilgi))
+            ogeler.push_back({ad, *oge});
+    }
+    ::closedir(akis);
+    return ogeler;
+}
+
+bool Kopyala(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
+             const std::filesystem::path& gecici) {
+    constexpr int kEnCokDeneme = 3;
+    Kopya sonuc = Kopya::Degisti;
+    for (int deneme = 0; deneme < kEnCokDeneme && sonuc == Kopya::Degisti; ++deneme)
+        sonuc = BirKopya(kaynak, gecici);
+    if (sonuc != Kopya::Olmadi && ::rename(gecici.c_str(), hedef.c_str()) == 0)
+        return true;
+    ::unlink(gecici.c_str());
+    return false;
 }
 
 bool Var(const std::filesystem::path& yol, Tur tur) {

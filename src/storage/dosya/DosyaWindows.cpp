@@ -220,19 +220,62 @@ bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& /*ver*/) {
     return false;
 }
 
-std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
-    constexpr DWORD kHaklar = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+namespace {
+
+/// Of what `GetFileAttributesExW` and a listing tell alike.
+template <class Veri>
+OgeBilgisi Bilgi(const Veri& veri) {
+    constexpr DWORD kHaklar =
+        FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
     constexpr std::int64_t kYuzNanosaniye = 100;
     constexpr unsigned kUst = 32;
-    WIN32_FILE_ATTRIBUTE_DATA veri{};
-    if (!::GetFileAttributesExW(UzunYol(yol).c_str(), GetFileExInfoStandard, &veri))
-        return std::nullopt;
     const auto birlestir = [](DWORD ust, DWORD alt) { return (std::uint64_t{ust} << kUst) | alt; };
     const std::uint64_t an =
         birlestir(veri.ftLastWriteTime.dwHighDateTime, veri.ftLastWriteTime.dwLowDateTime);
-    return OgeBilgisi{BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
-                      birlestir(veri.nFileSizeHigh, veri.nFileSizeLow),
-                      static_cast<std::int64_t>(an) * kYuzNanosaniye, veri.dwFileAttributes & kHaklar};
+    return {BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
+            birlestir(veri.nFileSizeHigh, veri.nFileSizeLow), static_cast<std::int64_t>(an) * kYuzNanosaniye,
+            veri.dwFileAttributes & kHaklar};
+}
+
+} // namespace
+
+std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
+    WIN32_FILE_ATTRIBUTE_DATA veri{};
+    if (::GetFileAttributesExW(UzunYol(yol).c_str(), GetFileExInfoStandard, &veri) == 0)
+        return std::nullopt;
+    return Bilgi(veri);
+}
+
+std::vector<Oge> Ogeler(const std::filesystem::path& klasor) {
+    std::vector<Oge> ogeler;
+    WIN32_FIND_DATAW bulunan{};
+    const HANDLE arama = ::FindFirstFileExW((UzunYol(klasor / L"") + L'*').c_str(), FindExInfoBasic, &bulunan,
+                                            FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    for (bool var = arama != INVALID_HANDLE_VALUE; var; var = ::FindNextFileW(arama, &bulunan) != 0) {
+        const std::wstring_view ad(static_cast<const wchar_t*>(bulunan.cFileName));
+        if (ad != L"." && ad != L"..")
+            ogeler.push_back({ad, Bilgi(bulunan)});
+    }
+    if (arama != INVALID_HANDLE_VALUE)
+        ::FindClose(arama);
+    return ogeler;
+}
+
+bool Kopyala(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
+             const std::filesystem::path& gecici) {
+    const std::wstring ara = UzunYol(gecici);
+    const std::wstring son = UzunYol(hedef);
+    // A file of a crashed run, or a copy, may be read only; neither is to stand in the way.
+    ::SetFileAttributesW(ara.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (::CopyFileW(UzunYol(kaynak).c_str(), ara.c_str(), FALSE) != 0) {
+        if (Var(hedef, Tur::Dosya))
+            ::SetFileAttributesW(son.c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (::MoveFileExW(ara.c_str(), son.c_str(), MOVEFILE_REPLACE_EXISTING) != 0)
+            return true;
+        ::SetFileAttributesW(ara.c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+    ::DeleteFileW(ara.c_str());
+    return false;
 }
 
 bool Var(const std::filesystem::path& yol, Tur tur) {
