@@ -88,8 +88,8 @@ class Baglayici : public QObject {
     /// Runs a handler: under the guard, with the screen kept alive, and all widgets refreshed afterwards.
     void Calistir(const Isleyici& isleyici);
     /// The same for what the user presses. While such a handler of this window runs, no other one does: a
-    /// press that comes in the middle of it is dropped.
-    void Bas(const Isleyici& isleyici);
+    /// press that comes in the middle of it is dropped, but for one that is meant to come there.
+    void Bas(const Isleyici& isleyici, bool aradaDa = false);
 
     /// False once the screen is unloaded or the window dropped. What a window does behind a handler asks
     /// first.

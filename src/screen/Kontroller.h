@@ -108,6 +108,7 @@ struct Dugme {
     Metin ipucu;
     bool etkin = true;
     bool gorunur = true;
+    bool aradaDa = false; ///< its press counts also while the work of another one on its screen goes on
 };
 
 /// An entry of a menu.
