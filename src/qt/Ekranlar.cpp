@@ -8,6 +8,7 @@
 #include "qt/accounts/KasaPencereleri.h"
 #include "qt/documents/BaskiPencereleri.h"
 #include "qt/documents/SozlesmePenceresi.h"
+#include "qt/maintenance/YedekAlPenceresi.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
@@ -58,6 +59,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<SozlesmePenceresi>(ortam, program, EkranAdi::FormSozlesme);
     Tanit<MakbuzPenceresi>(ortam, program, EkranAdi::FormMakbuzPrint);
     Tanit<TabloPrintPenceresi>(ortam, program, EkranAdi::FormTabloPrint);
+    Tanit<YedekAlPenceresi>(ortam, program, EkranAdi::FormYedekAl);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

@@ -34,7 +34,7 @@
     X(FormTabloPrint, Pencereli)                                                                             \
     X(FormWebteYayinla, Penceresiz)                                                                          \
     X(FormDownloadManager, Penceresiz)                                                                       \
-    X(FormYedekAl, Penceresiz)                                                                               \
+    X(FormYedekAl, Pencereli)                                                                                \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)

@@ -6,6 +6,7 @@
 #include "accounts/FormBakiye.h"
 #include "accounts/FormKasa.h"
 #include "documents/FormSozlesme.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
@@ -84,6 +85,8 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormAyarlar>,
      u"F7",
      {13, u" Ayarlar ", u"Program Ayarları (F7)", u"ayarlar"}},
+    {Komut::aline10, u"aline10", Menu::ayarsd, u"-"},
+    {Komut::Yedeksss, u"Yedeksss", Menu::ayarsd, u"Yedek Al / Geri Yükle", &T::EkranAc<&P::FormYedekAl>},
     {Komut::Yardimssa, u"Yardimssa", Menu::Yardimss, u"Yardım Konuları", &T::Yardimssa_Click, u"F1"},
     {Komut::Phakss, u"Phakss", Menu::Yardimss, u"Program Hakkında", &T::EkranAc<&P::FormHakkinda>,
      u"Ctrl+F1"},

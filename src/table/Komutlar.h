@@ -34,6 +34,8 @@ enum class Komut {
     Websssunucus,
     aline9,
     Progrset,
+    aline10,
+    Yedeksss,
     Yardimssa,
     Phakss,
     UyariGoster,

@@ -13,6 +13,7 @@
 #include "documents/FormMakbuzPrint.h"
 #include "documents/FormSozlesme.h"
 #include "documents/FormTabloPrint.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -193,6 +194,11 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command2",
      {"Command1 Pdf Command2 Sayfa"}},
     {EkranAdi::FormTabloPrint, TabloBaskisiAc, "Command1", "Command2", {"Command1 Pdf Command2 Sayfa"}},
+    {EkranAdi::FormYedekAl,
+     EkraniAc<&Program::FormYedekAl>,
+     "cmdStart",
+     "Command3",
+     {"txtSource Command1 txtDestination Command2 cmdStart Command3"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

@@ -14,6 +14,7 @@
 #include "accounts/FormKasa.h"
 #include "accounts/FormKasaEkle.h"
 #include "documents/FormSozlesme.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormFirma.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
@@ -91,6 +92,11 @@ void KullaniciDoldur(Program& program, QWidget& /*pencere*/) {
 /// The folder in which the pictures are made is nobody's.
 void KlasorYaz(Program& program, QWidget& /*pencere*/) {
     program.FormHakkinda->Klasor.metin = u"C:\\Velora";
+}
+
+void YedekYerleriYaz(Program& program, QWidget& /*pencere*/) {
+    program.FormYedekAl->txtSource.metin = u"C:\\Velora";
+    program.FormYedekAl->txtDestination.metin = u"E:\\VRYedek";
 }
 
 void GorunumSayfasi(Program& /*program*/, QWidget& pencere) {
@@ -172,6 +178,7 @@ constexpr ResimTanimi kResimler[]{
     {EkranAdi::FormSozlesme, u"sozlesme", Modal<&P::FormSozlesme>, nullptr, {720, 320}},
     {EkranAdi::FormMakbuzPrint, u"makbuz", MakbuzAc, nullptr, {680, 580}},
     {EkranAdi::FormTabloPrint, u"tablo-baski", TabloBaskisiAc, nullptr, {1000, 690}},
+    {EkranAdi::FormYedekAl, u"yedek-al", Modal<&P::FormYedekAl>, YedekYerleriYaz},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},
