@@ -1,7 +1,6 @@
 #include "maintenance/FileSync.h"
 
 #include <algorithm>
-#include <iterator>
 #include <system_error>
 
 #include "storage/dosya/Sistem.h"
@@ -18,27 +17,18 @@ using sistem::Tur;
 /// What a copy is called until it is whole. One that a crash has left is no file of anybody's.
 const fs::path kYarimAd = ".velora-yarim";
 
-const fs::path::string_type& Adi(const Oge& oge) {
-    return oge.ad.native();
-}
-
-struct Icerik {
-    std::vector<Oge> dosyalar;  // sorted by name
-    std::vector<Oge> klasorler; // sorted by name
-};
+using Icerik = std::vector<Oge>; // sorted by name
 
 /// What can't be listed or asked about isn't there.
 Icerik Listele(const fs::path& klasor) {
-    Icerik icerik;
-    for (Oge& oge : sistem::Ogeler(klasor)) {
-        if (oge.ad == kYarimAd)
-            continue;
-        auto& yeri = oge.bilgi.tur == Tur::Dosya ? icerik.dosyalar : icerik.klasorler;
-        yeri.push_back(std::move(oge));
-    }
-    for (auto* ogeler : {&icerik.dosyalar, &icerik.klasorler})
-        std::ranges::sort(*ogeler, {}, Adi);
+    Icerik icerik = sistem::Ogeler(klasor);
+    std::erase_if(icerik, [](const Oge& oge) { return oge.ad == kYarimAd.native(); });
+    std::ranges::sort(icerik, {}, &Oge::ad);
     return icerik;
+}
+
+bool Dosya(const Oge& oge) {
+    return oge.bilgi.tur == Tur::Dosya;
 }
 
 /// A difference of less than a second is none: not every disk keeps more.
@@ -57,25 +47,31 @@ int Durum(const OgeBilgisi& kaynak, const OgeBilgisi& hedef) {
     return durum;
 }
 
-std::vector<EslemeSatiri> Esle(const Icerik& kaynak, const Icerik& hedef) {
-    std::vector<EslemeSatiri> satirlar;
-    std::vector<EslemeSatiri> fazlalar;
-    satirlar.reserve(kaynak.dosyalar.size());
-    auto es = hedef.dosyalar.begin();
-    const auto fazlayiGec = [&](const auto& dur) {
-        for (; es != hedef.dosyalar.end() && dur(*es); ++es)
-            fazlalar.push_back({es->ad, EslemeDurumu::YalnizHedefte});
-    };
-    for (const Oge& oge : kaynak.dosyalar) {
-        fazlayiGec([&oge](const Oge& oteki) { return Adi(oteki) < Adi(oge); });
-        const bool var = es != hedef.dosyalar.end() && Adi(*es) == Adi(oge);
-        satirlar.push_back({oge.ad, var ? Durum(oge.bilgi, es->bilgi) : EslemeDurumu::YalnizKaynakta});
-        if (var)
+/// For each file of the one the file of the same name in the other, or null. Ends where `ver` says false.
+template <class Ver>
+bool Eslestir(const Icerik& bir, const Icerik& iki, Ver ver) {
+    auto es = iki.begin();
+    return std::ranges::all_of(bir, [&](const Oge& oge) {
+        if (!Dosya(oge))
+            return true;
+        while (es != iki.end() && es->ad < oge.ad)
             ++es;
-    }
-    fazlayiGec([](const Oge&) { return true; });
-    std::ranges::move(fazlalar, std::back_inserter(satirlar));
-    return satirlar;
+        const bool var = es != iki.end() && es->ad == oge.ad && Dosya(*es);
+        return ver(oge, var ? &*es : nullptr);
+    });
+}
+
+/// The rows of a comparison: first all of the source, then those that only the target has.
+template <class Ver>
+bool Esle(const Icerik& kaynak, const Icerik& hedef, Ver ver) {
+    return Eslestir(kaynak, hedef,
+                    [&ver](const Oge& oge, const Oge* es) {
+                        return ver(oge.ad, es == nullptr ? EslemeDurumu::YalnizKaynakta
+                                                         : Durum(oge.bilgi, es->bilgi));
+                    }) &&
+           Eslestir(hedef, kaynak, [&ver](const Oge& oge, const Oge* es) {
+               return es != nullptr || ver(oge.ad, EslemeDurumu::YalnizHedefte);
+           });
 }
 
 enum class KopyaYeri { Yok, Hedefe, Geri };
@@ -99,28 +95,36 @@ bool AyniKlasor(const fs::path& bir, const fs::path& iki) {
 
 } // namespace
 
+struct FileSync::Klasor {
+    const Yol& yol;
+    std::vector<sistem::Oge> ogeler;
+};
+
 FileSync::FileSync(std::function<bool()> olaylar, std::vector<Yol> atlanan)
     : olaylar_(std::move(olaylar)), atlanan_(std::move(atlanan)) {}
 
 std::vector<EslemeSatiri> FileSync::Compare(const Yol& kaynak, const Yol& hedef) {
-    return Esle(Listele(kaynak), Listele(hedef));
+    std::vector<EslemeSatiri> satirlar;
+    Esle(Listele(kaynak), Listele(hedef), [&satirlar](const auto& ad, int durum) {
+        satirlar.push_back({ad, durum});
+        return true;
+    });
+    return satirlar;
 }
 
 void FileSync::SyncFiles(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const {
-    SatirlariUygula(Compare(kaynak, hedef), kaynak, hedef, ikiYonlu);
+    Uygula({kaynak, Listele(kaynak)}, {hedef, Listele(hedef)}, ikiYonlu);
 }
 
-bool FileSync::SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
-                               bool ikiYonlu) const {
-    const auto kopyala = [](const Yol& nereden, const Yol& nereye, const Yol& ad) {
-        sistem::Kopyala(nereden / ad, nereye / ad, nereye / kYarimAd);
-    };
-    return std::ranges::all_of(satirlar, [&](const EslemeSatiri& satir) {
-        const KopyaYeri yon = KopyalanacakYer(satir.durum);
+bool FileSync::Uygula(const Klasor& kaynak, const Klasor& hedef, bool ikiYonlu) const {
+    const sistem::Kopyaci ileri(kaynak.yol, hedef.yol, kYarimAd);
+    const sistem::Kopyaci geri(hedef.yol, kaynak.yol, kYarimAd);
+    return Esle(kaynak.ogeler, hedef.ogeler, [&](const auto& ad, int durum) {
+        const KopyaYeri yon = KopyalanacakYer(durum);
         if (yon == KopyaYeri::Hedefe)
-            kopyala(kaynak, hedef, satir.ad);
+            ileri.Kopyala(ad);
         else if (yon == KopyaYeri::Geri && ikiYonlu)
-            kopyala(hedef, kaynak, satir.ad);
+            geri.Kopyala(ad);
         return olaylar_();
     });
 }
@@ -137,28 +141,27 @@ void FileSync::SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) c
 
 bool FileSync::Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const {
     const bool yeni = sistem::KlasorYap(hedef);
-    const Icerik kaynaktakiler = Listele(kaynak);
-    const Icerik hedeftekiler = yeni ? Icerik() : Listele(hedef);
-    if (!SatirlariUygula(Esle(kaynaktakiler, hedeftekiler), kaynak, hedef, ikiYonlu))
+    const Klasor kaynaktaki{kaynak, Listele(kaynak)};
+    const Klasor hedefteki{hedef, yeni ? Icerik() : Listele(hedef)};
+    if (!Uygula(kaynaktaki, hedefteki, ikiYonlu))
         return false;
-    const auto altina = [&](const Yol& nereden, const Yol& nereye, const Yol& ad, bool geriyeDe) {
-        const Yol alt = nereden / ad;
-        if (!Girilir(alt, ustler))
-            return true;
-        ustler.push_back(alt);
-        const bool surer = Gez(alt, nereye / ad, geriyeDe, ustler);
-        ustler.pop_back();
-        return surer && olaylar_();
+    const auto altlara = [&](const Klasor& nereden, const Yol& nereye, bool geriyeDe, const auto& istenen) {
+        return std::ranges::all_of(nereden.ogeler, [&](const Oge& oge) {
+            const Yol alt = nereden.yol / oge.ad;
+            if (Dosya(oge) || !istenen(oge) || !Girilir(alt, ustler))
+                return true;
+            ustler.push_back(alt);
+            const bool surer = Gez(alt, nereye / oge.ad, geriyeDe, ustler);
+            ustler.pop_back();
+            return surer && olaylar_();
+        });
     };
-    const auto hepsine = [](const std::vector<Oge>& klasorler, const auto& is) {
-        return std::ranges::all_of(klasorler, [&is](const Oge& oge) { return is(oge.ad); });
+    const auto kaynaktaYok = [&](const Oge& oge) {
+        const auto yer = std::ranges::lower_bound(kaynaktaki.ogeler, oge.ad, {}, &Oge::ad);
+        return yer == kaynaktaki.ogeler.end() || yer->ad != oge.ad || Dosya(*yer);
     };
-    if (!hepsine(kaynaktakiler.klasorler, [&](const Yol& ad) { return altina(kaynak, hedef, ad, ikiYonlu); }))
-        return false;
-    return !ikiYonlu || hepsine(hedeftekiler.klasorler, [&](const Yol& ad) {
-        return std::ranges::binary_search(kaynaktakiler.klasorler, ad.native(), {}, Adi) ||
-               altina(hedef, kaynak, ad, false);
-    });
+    return altlara(kaynaktaki, hedef, ikiYonlu, [](const Oge&) { return true; }) &&
+           (!ikiYonlu || altlara(hedefteki, kaynak, false, kaynaktaYok));
 }
 
 bool FileSync::Girilir(const Yol& klasor, const std::vector<Yol>& ustler) const {

@@ -49,9 +49,10 @@ class FileSync {
     void SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const;
 
   private:
+    struct Klasor;
+
     // False: the walk is to end.
-    bool SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
-                         bool ikiYonlu) const;
+    bool Uygula(const Klasor& kaynak, const Klasor& hedef, bool ikiYonlu) const;
     bool Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const;
     bool Girilir(const Yol& klasor, const std::vector<Yol>& ustler) const;
 

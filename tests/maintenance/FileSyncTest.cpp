@@ -328,6 +328,23 @@ TEST_F(FileSyncTest, What_a_crash_left_half_is_nobodys_file_and_goes) {
     EXPECT_FALSE(fs::exists(Hedef(".velora-yarim")));
 }
 
+TEST_F(FileSyncTest, What_was_left_half_and_cannot_be_written_to_stands_in_nobodys_way) {
+    Koy(agac.Yol(u"dışarısı"), "başkasının", an);
+    fs::create_symlink(agac.Yol(u"dışarısı"), Hedef(".velora-yarim"));
+    Koy(Kaynak("a"), "a", an);
+    Esle();
+    EXPECT_EQ(Oku(Hedef("a")), "a");
+    EXPECT_EQ(Oku(agac.Yol(u"dışarısı")), "başkasının");
+}
+
+TEST_F(FileSyncTest, A_file_here_and_a_folder_of_its_name_there_are_two) {
+    Koy(Kaynak("a"), "a", an);
+    fs::create_directory(Hedef("a"));
+    fs::create_directory(Kaynak("b"));
+    Koy(Hedef("b"), "b", an);
+    EXPECT_EQ(FileSync::Compare(Kaynak(), Hedef()), (Satirlar{{"a", -2}, {"b", -1}}));
+}
+
 TEST_F(FileSyncTest, An_empty_folder_in_the_place_of_a_file_stays) {
     Koy(Kaynak("a"), "kaynak", an);
     fs::create_directory(Hedef("a"));

@@ -33,11 +33,18 @@ YedekAlPenceresi::YedekAlPenceresi(Program& program) : EkranPenceresi(program.Fo
     QSizePolicy yer = bekleyin->sizePolicy();
     yer.setRetainSizeWhenHidden(true);
     bekleyin->setSizePolicy(yer);
-    Bag().Izle([bekleyin, &model = Model().Label9] { bekleyin->setVisible(model.gorunur); });
+    Bag().Izle([bekleyin, &model = Model().Label9] {
+        const bool geldi = model.gorunur && bekleyin->isHidden();
+        bekleyin->setVisible(model.gorunur);
+        // It is read out, and the next Enter doesn't press what stands behind the button that goes off.
+        if (geldi)
+            bekleyin->setFocus();
+    });
     sutun->addWidget(bekleyin);
     sutun->addStretch();
     sutun->addLayout(TamamIptal({"cmdStart", &FormYedekAl::cmdStart, &FormYedekAl::cmdStart_Click},
                                 {"Command3", &FormYedekAl::Command3, &FormYedekAl::Command3_Click}));
+    findChild<QPushButton*>(QStringLiteral("Command3"))->setAutoDefault(false);
     Bag().Bagla(Model().Timer1, QStringLiteral("Timer1"));
     IlkOdak("txtSource");
 }

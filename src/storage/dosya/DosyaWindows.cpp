@@ -254,27 +254,38 @@ std::vector<Oge> Ogeler(const std::filesystem::path& klasor) {
     for (bool var = arama != INVALID_HANDLE_VALUE; var; var = ::FindNextFileW(arama, &bulunan) != 0) {
         const std::wstring_view ad(static_cast<const wchar_t*>(bulunan.cFileName));
         if (ad != L"." && ad != L"..")
-            ogeler.push_back({ad, Bilgi(bulunan)});
+            ogeler.push_back({std::wstring(ad), Bilgi(bulunan)});
     }
     if (arama != INVALID_HANDLE_VALUE)
         ::FindClose(arama);
     return ogeler;
 }
 
-bool Kopyala(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
-             const std::filesystem::path& gecici) {
-    const std::wstring ara = UzunYol(gecici);
-    const std::wstring son = UzunYol(hedef);
+struct Kopyaci::Ic {
+    std::filesystem::path kaynak;
+    std::filesystem::path hedef;
+    std::wstring gecici;
+};
+
+Kopyaci::Kopyaci(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
+                 std::filesystem::path gecici)
+    : ic_(new Ic{kaynak, hedef, UzunYol(hedef / gecici)}) {}
+
+Kopyaci::~Kopyaci() = default;
+
+bool Kopyaci::Kopyala(const std::filesystem::path& ad) const {
+    const wchar_t* gecici = ic_->gecici.c_str();
+    const std::wstring hedef = UzunYol(ic_->hedef / ad);
     // A file of a crashed run, or a copy, may be read only; neither is to stand in the way.
-    ::SetFileAttributesW(ara.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (::CopyFileW(UzunYol(kaynak).c_str(), ara.c_str(), FALSE) != 0) {
-        if (Var(hedef, Tur::Dosya))
-            ::SetFileAttributesW(son.c_str(), FILE_ATTRIBUTE_NORMAL);
-        if (::MoveFileExW(ara.c_str(), son.c_str(), MOVEFILE_REPLACE_EXISTING) != 0)
+    ::SetFileAttributesW(gecici, FILE_ATTRIBUTE_NORMAL);
+    if (::CopyFileW(UzunYol(ic_->kaynak / ad).c_str(), gecici, FALSE) != 0) {
+        if (Var(ic_->hedef / ad, Tur::Dosya))
+            ::SetFileAttributesW(hedef.c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (::MoveFileExW(gecici, hedef.c_str(), MOVEFILE_REPLACE_EXISTING) != 0)
             return true;
-        ::SetFileAttributesW(ara.c_str(), FILE_ATTRIBUTE_NORMAL);
+        ::SetFileAttributesW(gecici, FILE_ATTRIBUTE_NORMAL);
     }
-    ::DeleteFileW(ara.c_str());
+    ::DeleteFileW(gecici);
     return false;
 }
 
