@@ -150,6 +150,8 @@ void FormFirma::Yolla(const FirmaKaydi& kayit) {
         return;
     std::vector<Metin> degerler{FirmaAnahtari(program_)};
     degerler.insert(degerler.end(), kayit.begin(), kayit.end());
+    // An older sending would keep the newer profile from going out.
+    Inet1.Iptal();
     Inet1.sure = kGondermeSuresi;
     Inet1.Getir(IstekAdresi(program_, Istek::FirmaKontrol, degerler));
     Inet1.Iptal();

@@ -93,16 +93,23 @@ void Sinirla(CURL* kol, std::chrono::milliseconds sure) {
     curl_easy_setopt(kol, CURLOPT_TIMEOUT_MS, static_cast<long>(std::max<long long>(1, sure.count())));
     // A name that is still being looked up would be waited for at the end, for as long as that takes.
     curl_easy_setopt(kol, CURLOPT_QUICK_EXIT, 1L);
-    // On a connection that is used again curl may send a request twice, and not every one may come twice.
-    curl_easy_setopt(kol, CURLOPT_FORBID_REUSE, 1L);
     curl_easy_setopt(kol, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(kEnUzunCevap));
 }
 
-Kol KolYap(const AdresParcalari& parcalar, std::chrono::milliseconds sure, Aktarma& aktarma) {
+/// On a connection that is used again curl may send a request twice, and not every one may come twice.
+void BaglantiyiSec(CURL* kol, BaglantiTuru tur) {
+    const long tek = tur == BaglantiTuru::Tek ? 1 : 0;
+    curl_easy_setopt(kol, CURLOPT_FRESH_CONNECT, tek);
+    curl_easy_setopt(kol, CURLOPT_FORBID_REUSE, tek);
+}
+
+Kol KolYap(const AdresParcalari& parcalar, std::chrono::milliseconds sure, BaglantiTuru tur,
+           Aktarma& aktarma) {
     Kol kol(curl_easy_init(), &curl_easy_cleanup);
     if (kol == nullptr)
         return kol;
     Sinirla(kol.get(), sure);
+    BaglantiyiSec(kol.get(), tur);
     curl_easy_setopt(kol.get(), CURLOPT_URL, parcalar.kok.c_str());
     curl_easy_setopt(kol.get(), CURLOPT_REQUEST_TARGET, parcalar.hedef.c_str());
     curl_easy_setopt(kol.get(), CURLOPT_WRITEFUNCTION, &Aktarma::GovdeAl);
@@ -171,13 +178,14 @@ void AgIstemcisi::Kapat() {
     ic_->kapali = true;
 }
 
-Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira) {
+Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,
+                         BaglantiTuru tur) {
     const auto parcalar = Ayir(adres);
     const auto ic = ic_; // a turn may be the client's last
     if (!parcalar || ic->kapali || ic->liste == nullptr)
         return {};
     Aktarma aktarma;
-    const Kol kol = KolYap(*parcalar, sure, aktarma);
+    const Kol kol = KolYap(*parcalar, sure, tur, aktarma);
     if (kol == nullptr)
         return {};
     const Ic::Yer yer(ic->liste, kol.get());

@@ -12,7 +12,12 @@ namespace velora {
 /// The longest reply body, in bytes. A longer one counts as failed, and is cut off as soon as that is known.
 inline constexpr std::size_t kEnUzunCevap = std::size_t{8} << 20U;
 
-/// Sends requests: plain GET over http and https, each on a connection of its own.
+/// Whether a request has its connection to itself, or takes one that others of this kind have left open, and
+/// leaves it open for the next. What goes over such a connection may come to the server twice, when that has
+/// closed it meanwhile.
+enum class BaglantiTuru { Tek, Kalan };
+
+/// Sends requests: plain GET over http and https.
 ///
 /// What stands in an address behind its host goes out byte for byte, in Windows-1254: blanks, letters and
 /// line breaks too, nothing is escaped, taken out or put in order. An empty path is "/". The host may hold
@@ -35,7 +40,8 @@ class AgIstemcisi {
     ///
     /// While it waits it gives `sira` a turn about every ten milliseconds. A turn may begin further requests:
     /// they go on together, and this one takes what came meanwhile when its turn returns.
-    Metin Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira);
+    Metin Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,
+                BaglantiTuru tur = BaglantiTuru::Tek);
 
     /// Gives up all requests; those that come later fail at once. For a program that ends.
     void Kapat();

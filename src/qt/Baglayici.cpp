@@ -166,10 +166,24 @@ void Baglayici::Tazele() {
         tazele();
 }
 
+bool Baglayici::OdakDonecek(const QEvent& olay) {
+    const auto neden = static_cast<const QFocusEvent&>(olay).reason();
+    return neden == Qt::ActiveWindowFocusReason || neden == Qt::PopupFocusReason ||
+           neden == Qt::MenuBarFocusReason;
+}
+
+/// A refresh that hides or disables the field runs no handler, so that one waits for its end.
+void Baglayici::AlandanCikildi(const Isleyici& isleyici) {
+    if (!Durum().tazeleniyor)
+        return Calistir(isleyici);
+    QMetaObject::invokeMethod(
+        this, [this, isleyici] { Calistir(isleyici); }, Qt::QueuedConnection);
+}
+
 bool Baglayici::eventFilter(QObject* nesne, QEvent* olay) {
     if (const auto alan = odaklananlar_.find(nesne); alan != odaklananlar_.end()) {
-        if (olay->type() == QEvent::FocusOut)
-            Calistir(alan->second);
+        if (olay->type() == QEvent::FocusOut && !OdakDonecek(*olay))
+            AlandanCikildi(alan->second);
         return QObject::eventFilter(nesne, olay);
     }
     const auto* parca = qobject_cast<QWidget*>(nesne);

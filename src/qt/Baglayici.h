@@ -104,6 +104,9 @@ class Baglayici : public QObject {
     /// True while a handler runs and doesn't wait for the user. What is costly to show, and would only flash,
     /// waits for its end.
     static bool IsSuruyor();
+    /// Of an event of focus: it goes to, or comes from, a menu or another window, and the field keeps its
+    /// place in its own.
+    static bool OdakDonecek(const QEvent& olay);
 
     /// While it stands the running handler waits for the user: the widgets show what it has done so far. A
     /// handler that runs meanwhile, in the window or the box that is waited for, is one of its own.
@@ -124,6 +127,7 @@ class Baglayici : public QObject {
   private:
     void Tazele();
     void TekeriBagla(QWidget& parca);
+    void AlandanCikildi(const Isleyici& isleyici);
     void OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyici& odakGitti);
 
     std::weak_ptr<const void> ekran_;

@@ -65,15 +65,21 @@ struct SonHal {
 };
 
 /// Selects the whole text of a field when it gets the focus, by the mouse too: that sets its cursor
-/// afterwards.
+/// afterwards. One that comes back from a menu or another window to the field that it had left for that
+/// selects nothing: what is typed there goes on.
 class OdaktaSecen : public QObject {
   public:
     explicit OdaktaSecen(QLineEdit& kutu) : QObject(&kutu) { kutu.installEventFilter(this); }
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        if (olay->type() == QEvent::FocusIn)
+        if (olay->type() == QEvent::FocusOut)
+            donecek_ = Baglayici::OdakDonecek(*olay);
+        if (olay->type() == QEvent::FocusIn && !(donecek_ && Baglayici::OdakDonecek(*olay)))
             QMetaObject::invokeMethod(nesne, "selectAll", Qt::QueuedConnection);
         return QObject::eventFilter(nesne, olay);
     }
+
+  private:
+    bool donecek_ = false; // it went for a while only
 };
 
 /// A click into a date chooses the part that it falls on: what is typed next takes its place. The toolkit
@@ -205,7 +211,8 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
     connect(&kutu, &QComboBox::activated, this, [this, &kutu, &model](int sira) {
         Calistir([&] { model.metin = MetinYap(kutu.itemText(sira)); });
     });
-    // The arrow keys go on from the entry that the text is.
+    // The arrow keys go on from the entry that the text is, and begin anew where it was emptied. To let go of
+    // an entry empties the field, too, so while other text stands there that waits.
     Izle([&kutu, &model, konan = std::vector<Metin>()]() mutable {
         const QSignalBlocker sus(&kutu);
         if (konan != model.ogeler) {
@@ -216,7 +223,7 @@ void Baglayici::Bagla(QComboBox& kutu, MetinKutusu& model) {
             konan = model.ogeler;
         }
         const int sira = kutu.findText(QMetin(model.metin), Qt::MatchExactly | Qt::MatchCaseSensitive);
-        if (sira >= 0 && sira != kutu.currentIndex())
+        if (sira != kutu.currentIndex() && (sira >= 0 || model.metin.empty()))
             kutu.setCurrentIndex(sira);
     });
     Bagla(*kutu.lineEdit(), model);

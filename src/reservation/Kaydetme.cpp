@@ -142,6 +142,9 @@ void FormKayit::KlasoruVeKayitlariYaz() {
     p.OlaylariIsle();
     AnaYaz(p.dosyalar, KayitAc == 0 ? GunYolu() : Tag, Ana());
     p.OlaylariIsle();
+    for (MetinKutusu& kutu : TT)
+        kutu.metin = DetayTemizle(kutu.metin);
+    Aciklamalar.metin = DetayTemizle(Aciklamalar.metin);
     const Metin yol(Kirp(Tag));
     DetayYaz(p.dosyalar, (KayitAc == 0 || yol.empty() ? GunYolu() : yol) + Metin(kDetayEki), Detay());
     p.OlaylariIsle();

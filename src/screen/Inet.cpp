@@ -13,8 +13,10 @@ Metin Inet::Getir(const Metin& adres) {
     suren_ = birakildi;
     Metin cevap;
     try {
-        cevap = program_.ortam.ag.getir(
-            {.adres = adres, .sure = sure, .vazgecildi = [birakildi] { return *birakildi; }});
+        cevap = program_.ortam.ag.getir({.adres = adres,
+                                         .sure = sure,
+                                         .vazgecildi = [birakildi] { return *birakildi; },
+                                         .baglantiKalsin = baglantiKalsin});
     } catch (...) {
         if (!*birakildi)
             suren_.reset();

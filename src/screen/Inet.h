@@ -17,7 +17,8 @@ class Inet {
     Inet(const Inet&) = delete;
     Inet& operator=(const Inet&) = delete;
 
-    int sure = 10; ///< seconds that a request may take
+    int sure = 10;               ///< seconds that a request may take
+    bool baglantiKalsin = false; ///< as in `AgIstegi`
 
     /// The reply's body. Empty on every failure, and when it was given up. Events run while it waits: a
     /// second request of this control that they begin fails at once, and the screen may be gone afterwards.

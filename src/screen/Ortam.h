@@ -45,6 +45,9 @@ struct AgIstegi {
     int sure = 0; ///< seconds that it may take in all
     /// Asked again and again while it goes on; true gives it up.
     std::function<bool()> vazgecildi = [] { return false; };
+    /// Over a connection that stays open for the next request of this kind: faster where many follow each
+    /// other, but only for what does no harm when it comes to the server twice.
+    bool baglantiKalsin = false;
 };
 
 /// Waits for a change in a folder that is watched, so long at most. True: something has changed since it was

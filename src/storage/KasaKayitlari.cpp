@@ -27,16 +27,20 @@ void KasaOku(std::string_view bayt, KasaKaydi& kayit, const std::function<void(c
     DegerOkuyucu okuyucu(bayt);
     // An empty file takes one turn, too.
     do {
-        KasaKaydi yeni = kayit;
         Metin tarih;
         if (okuyucu.Oku(tarih)) {
-            okuyucu.Oku(yeni.tutar);
-            okuyucu.Oku(yeni.aciklama);
+            Metin tutar;
+            Metin aciklama;
+            const bool tutarVar = okuyucu.Oku(tutar);
+            const bool aciklamaVar = okuyucu.Oku(aciklama);
             KasaTarihi cozulen = KasaTarihiCoz(std::move(tarih));
             if (cozulen.gun) {
-                yeni.gun = cozulen.gun;
-                yeni.tarih = std::move(cozulen.metin);
-                kayit = std::move(yeni);
+                kayit.gun = cozulen.gun;
+                kayit.tarih = std::move(cozulen.metin);
+                if (tutarVar)
+                    kayit.tutar = std::move(tutar);
+                if (aciklamaVar)
+                    kayit.aciklama = std::move(aciklama);
             }
         }
         if (kayit.gun)

@@ -37,7 +37,7 @@ void FormTablo::CetvelYerlestir() {
     if (HizliAy <= 0 || HizliGun <= 0)
         return;
     const Yer hucre = HucreYeri(OcakGunduz, 1);
-    const double pay = program_.FormAyarlar->GunduzUstte() ? 0 : 30;
+    const double pay = GunduzUstte() ? 0 : 30;
     HizliSecim.yer = {ALabel[HizliGun].yer.sol + 20, AyZemin[HizliAy].yer.ust, hucre.genislik + 10,
                       2 * hucre.yukseklik + pay};
     HizliSecim.ay = HizliAy;

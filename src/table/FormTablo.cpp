@@ -65,6 +65,7 @@ void FormTablo::Load() {
     for (const Metin& salon : Salon.ogeler)
         program_.agac.KlasorHazirla(salon, Sene.Metni());
     Salon.Sec(0);
+    gunduzUstte_ = program_.FormAyarlar->GunduzUstte();
     Command1(); // the scan
     OzelHatirlatmaBak();
     program_.OlaylariIsle();

@@ -199,6 +199,8 @@ struct FormTablo {
         return satirlar[static_cast<std::size_t>(satir)].gun[gun];
     }
 
+    /// Which slot stands on top in this run. A changed setting waits for the next start.
+    bool GunduzUstte() const { return gunduzUstte_; }
     /// Where a cell stands, shown or not.
     Yer HucreYeri(SatirAdi satir, int gun) const;
     /// What the hover label says of a cell.
@@ -242,6 +244,7 @@ struct FormTablo {
     Program& program_;
     double icGenislik_ = 0;
     double icYukseklik_ = 0;
+    bool gunduzUstte_ = false; // as the settings said when the screen was loaded
     bool yerlesti_ = false;
 };
 

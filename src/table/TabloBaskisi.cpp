@@ -71,7 +71,7 @@ void FormTablo::BaskiyaKopyala(FormTabloPrint& baski) const {
         aciklama = {kIsaretliler[i].isaret,
                     Metin(Durum(kIsaretliler[i].durum, velora::GunduzGece::Gunduz).ad),
                     {rengi(velora::GunduzGece::Gunduz), rengi(velora::GunduzGece::Gece)}};
-        if (!ayarlar->GunduzUstte())
+        if (!GunduzUstte())
             std::swap(aciklama.zeminler[0], aciklama.zeminler[1]);
     }
 }

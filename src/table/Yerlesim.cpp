@@ -65,7 +65,7 @@ void FormTablo::Resize(double icGenislik, double icYukseklik) {
     icGenislik_ = icGenislik;
     icYukseklik_ = icYukseklik;
     for (int ay = 1; ay <= kAySayisi; ++ay)
-        GunduzGece[ay].resim = program_.FormAyarlar->GunduzUstte() ? SiraResmi::Image1 : SiraResmi::Image2;
+        GunduzGece[ay].resim = GunduzUstte() ? SiraResmi::Image1 : SiraResmi::Image2;
     Picture1.yer.sol = icGenislik_ / 2 - Picture1.yer.genislik / 2;
     for (TabloSatiri& satir : satirlar)
         for (Hucre& hucre : satir.gun)
@@ -97,7 +97,7 @@ void FormTablo::SutunlariYerlestir() {
 }
 
 void FormTablo::SatirlariYerlestir() {
-    const bool gunduzUstte = program_.FormAyarlar->GunduzUstte();
+    const bool gunduzUstte = GunduzUstte();
     const SiraOlcusu& olcu = Olcu(gunduzUstte);
     const double yukseklik = (icYukseklik_ - kYukseklikPayi) / kSatirBoleni;
     double ust = yukseklik + kBaslikArasi; // the heads are as high as a row
@@ -114,7 +114,7 @@ void FormTablo::SatirlariYerlestir() {
 }
 
 void FormTablo::BasliklariYerlestir() {
-    const bool gunduzUstte = program_.FormAyarlar->GunduzUstte();
+    const bool gunduzUstte = GunduzUstte();
     const double yukseklik = satirlar[OcakGece].yukseklik;
     for (int gun = 1; gun <= kGunSayisi; ++gun) {
         Gunler[gun].yer.ust = ALabel[gun].yer.ust = 0;
@@ -138,7 +138,7 @@ void FormTablo::AyBasliklariniGoster() {
 }
 
 void FormTablo::BuGunYerlestir() {
-    const bool gunduzUstte = program_.FormAyarlar->GunduzUstte();
+    const bool gunduzUstte = GunduzUstte();
     const Gun bugun = program_.Bugun();
     const int ay = static_cast<int>(unsigned(bugun.month()));
     const int gun = static_cast<int>(unsigned(bugun.day()));

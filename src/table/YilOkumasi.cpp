@@ -27,7 +27,9 @@ int IkiHaneCoz(MetinBakis metin) {
 
 /// The place in the table that a file name stands for, when it is the day file name of that year or its
 /// details.
-std::optional<AdYeri> AdiYerlestir(MetinBakis ad, MetinBakis yil) {
+std::optional<AdYeri> AdiYerlestir(MetinBakis dosyaAdi, MetinBakis yil) {
+    // Whoever asks for the name finds it with these at its end, too.
+    const MetinBakis ad = dosyaAdi.substr(0, dosyaAdi.find_last_not_of(u". ") + 1);
     if (ad.size() <= kTarihUzunlugu || ad[2] != u'.' || ad[5] != u'.' || Parca(ad, 7, 4) != yil)
         return std::nullopt;
     AdYeri yer{IkiHaneCoz(ad.substr(3)), IkiHaneCoz(ad), GunduzGece::Gunduz, false, false};
@@ -40,7 +42,8 @@ std::optional<AdYeri> AdiYerlestir(MetinBakis ad, MetinBakis yil) {
             continue;
         yer.dilim = dilim;
         yer.detay = kuyruk.size() > ek.size();
-        yer.tam = kuyruk.starts_with(ek) && (!yer.detay || kuyruk.ends_with(kDetayEki));
+        yer.tam = ad.size() == dosyaAdi.size() && kuyruk.starts_with(ek) &&
+                  (!yer.detay || kuyruk.ends_with(kDetayEki));
         if (!yer.detay || AyniAd(kuyruk.substr(ek.size()), kDetayEki))
             return yer;
     }

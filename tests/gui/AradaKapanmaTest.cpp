@@ -15,6 +15,7 @@
 #include "gui/Kullanim.h"
 #include "maintenance/FormDownloadManager.h"
 #include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormIpMac.h"
 #include "online/FormWebteYayinla.h"
 #include "qt/Baglayici.h"

@@ -123,15 +123,14 @@ class BaskiPencereleriTest : public QObject {
         Makbuzda(firma, [&](QDialog& pencere) {
             const QPoint yazdirYeri = Dugmesi(pencere, "Command1").geometry().center();
             yazici.basarken = [&] {
-                QTest::qWait(50);
-                QVERIFY(!Dugmesi(pencere, "Command1").isVisible());
-                QVERIFY(!Dugmesi(pencere, "Command2").isVisible());
+                QTRY_VERIFY(!Dugmesi(pencere, "Command1").isVisible());
+                QTRY_VERIFY(!Dugmesi(pencere, "Command2").isVisible());
                 QTest::keyClick(&pencere, Qt::Key_Escape);
                 QTest::keyClick(&pencere, Qt::Key_Return);
                 QTest::mouseClick(&pencere, Qt::LeftButton, {}, yazdirYeri);
                 QTest::mouseClick(&Dugmesi(pencere, "Pdf"), Qt::LeftButton);
                 pencere.close();
-                QTest::qWait(50);
+                QCoreApplication::processEvents();
                 QVERIFY(pencere.isVisible());
                 QVERIFY(firma.program.FormMakbuzPrint.Yuklu());
             };
@@ -148,7 +147,7 @@ class BaskiPencereleriTest : public QObject {
         Makbuzda(firma, [&](QDialog& pencere) {
             yazici.basarken = [&] {
                 firma.program.FormMakbuzPrint.Bosalt();
-                QTest::qWait(20);
+                QTRY_VERIFY(!pencere.isVisible());
             };
             Tikla(pencere, "Command1");
             QVERIFY(!firma.program.FormMakbuzPrint.Yuklu());
@@ -263,10 +262,9 @@ class BaskiPencereleriTest : public QObject {
         firma.Ac();
         Tabloda(firma, [&](QDialog& pencere) {
             pencere.resize(700, 360);
-            QTest::qWait(1);
             for (const char* ad : {"Command1", "Pdf", "Command2"})
-                QCOMPARE(Dugmesi(pencere, ad).visibleRegion().boundingRect().size(),
-                         Dugmesi(pencere, ad).size());
+                QTRY_COMPARE(Dugmesi(pencere, ad).visibleRegion().boundingRect().size(),
+                             Dugmesi(pencere, ad).size());
             auto& sayfa = Parcasi<SayfaGorunumu>(pencere, "Sayfa");
             sayfa.setFocus();
             const QRectF once = sayfa.SayfaninYeri(0);

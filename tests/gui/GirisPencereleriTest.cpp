@@ -95,8 +95,8 @@ class GirisPencereleriTest : public QObject {
         QTRY_COMPARE(Odaktaki(), QStringLiteral("Text2"));
         ad.setFocus();
         QTest::keyClick(&ad, Qt::Key_Down);
-        QVERIFY(!ad.currentText().isEmpty());
-        QCOMPARE(firma.program.FormSifre->Text1.metin.empty(), false);
+        QCOMPARE(ad.currentText(), QStringLiteral("admin"));
+        QCOMPARE(firma.program.FormSifre->Text1.metin, Metin(u"admin"));
     }
 
     void escape_and_the_x_end_the_program() {

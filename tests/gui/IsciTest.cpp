@@ -74,7 +74,7 @@ class IsciTest : public QObject {
             bool sonraki = false;
         };
         const auto ortak = std::make_shared<Ortak>();
-        bool geldi = false;
+        const auto geldi = std::make_shared<bool>(false);
         QElapsedTimer sure;
         {
             Isci isci;
@@ -84,15 +84,16 @@ class IsciTest : public QObject {
                     ortak->bitti.release();
                     return true;
                 },
-                [&](bool) { geldi = true; });
-            isci.Ver([ortak] { return ortak->sonraki = true; }, [&](bool) { geldi = true; });
+                [geldi](bool) { *geldi = true; });
+            isci.Ver([ortak] { return ortak->sonraki = true; }, [geldi](bool) { *geldi = true; });
             sure.start();
         }
         QVERIFY2(sure.elapsed() < 15000, "it waits for what never ends");
         ortak->birak.release();
         QVERIFY(ortak->bitti.try_acquire_for(std::chrono::seconds(5)));
-        QTest::qWait(50);
-        QVERIFY(!geldi);
+        // Until the thread has let go of what it would have called, or that has been called.
+        QTRY_COMPARE(geldi.use_count(), 1L);
+        QVERIFY(!*geldi);
         QVERIFY(!ortak->sonraki);
     }
 };

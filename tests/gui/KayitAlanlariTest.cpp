@@ -1,9 +1,12 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -46,7 +49,85 @@ class KayitAlanlariTest : public QObject {
         QVERIFY(Zemin(alan) != QColor(Qt::white));
     }
 
+    /// A click on the tab of a page, counted from 0.
+    static void SayfayaTikla(const QDialog& pencere, int sayfa, Qt::MouseButton dugme = Qt::LeftButton) {
+        auto& serit = *Parcasi<QTabWidget>(pencere, "SSTab1").tabBar();
+        QTest::mouseClick(&serit, dugme, {}, serit.tabRect(sayfa).center());
+        QCoreApplication::processEvents();
+    }
+    static QLineEdit& BosAlanda(const QDialog& pencere, const char* ad) {
+        auto& alan = Parcasi<QLineEdit>(pencere, ad);
+        alan.setFocus();
+        QCoreApplication::processEvents();
+        alan.selectAll();
+        return alan;
+    }
+    /// The menu of the right button, as the toolkit opens it.
+    static QMenu* SagMenu(QWidget& alan) {
+        const QPoint yer = alan.rect().center();
+        QContextMenuEvent istek(QContextMenuEvent::Mouse, yer, alan.mapToGlobal(yer));
+        QCoreApplication::sendEvent(&alan, &istek);
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
+
   private slots:
+    void a_price_and_a_time_that_are_left_by_a_click_on_a_tab_are_taken() {
+        GuiFirma firma;
+        YeniKayitta(firma, u"20.06.2026 - Gece", {[&](QDialog& pencere) {
+                        const auto kayit = firma.program.FormKayit.Tut();
+                        Parcasi<QLineEdit>(pencere, "Kay1").setFocus();
+                        Yaz(QStringLiteral("ali"));
+                        QTest::keyClick(&Parcasi<QComboBox>(pencere, "Kay4"), Qt::Key_Down);
+                        QTest::keyClicks(&BosAlanda(pencere, "Kay12"), QStringLiteral("2570"));
+                        SayfayaTikla(pencere, 2);
+                        QCOMPARE(kayit->Kay[12].metin, Metin(u"00:00"));
+                        SayfayaTikla(pencere, 0);
+                        QTest::keyClicks(&BosAlanda(pencere, "Kay15"), QStringLiteral("2330"));
+                        QTest::keyClicks(&BosAlanda(pencere, "Kay8"), QStringLiteral("1500"));
+                        SayfayaTikla(pencere, 1);
+                        QCOMPARE(Parcasi<QTabWidget>(pencere, "SSTab1").currentIndex(), 1);
+                        QCOMPARE(kayit->Kay[10].metin, Metin(u"1500"));
+                        Tikla(pencere, "Command1");
+                    }});
+        const std::string bayt = firma.agac.Bayt(Metin(kSalonA) + u"/2026/20.06.2026 - Gece");
+        QVERIFY2(bayt.find("\"1500\",\"0\",\"1500\"") != std::string::npos, bayt.c_str());
+    }
+
+    void only_the_left_button_turns_a_page() {
+        GuiFirma firma;
+        Sayfada(firma, 1, [&](QDialog& pencere) {
+            SayfayaTikla(pencere, 3, Qt::RightButton);
+            QCOMPARE(firma.program.FormKayit->SSTab1, 2);
+            QCOMPARE(Parcasi<QTabWidget>(pencere, "SSTab1").currentIndex(), 1);
+        });
+    }
+
+    void what_is_typed_goes_on_after_the_menu_of_its_field_and_no_rule_runs_in_between() {
+        GuiFirma firma;
+        Sayfada(firma, 0, [&](QDialog& pencere) {
+            const auto kayit = firma.program.FormKayit.Tut();
+            QTest::keyClicks(&BosAlanda(pencere, "Kay12"), QStringLiteral("25"));
+            QMenu* menu = SagMenu(Parcasi<QLineEdit>(pencere, "Kay12"));
+            QVERIFY(menu != nullptr);
+            QCOMPARE(kayit->Kay[12].metin, Metin(u"25:__"));
+            QTest::keyClick(menu, Qt::Key_Escape);
+            auto& ad = BosAlanda(pencere, "Kay1");
+            QTest::keyClicks(&ad, QStringLiteral("Ali "));
+            menu = SagMenu(ad);
+            QVERIFY(menu != nullptr);
+            QTest::keyClick(menu, Qt::Key_Escape);
+            pencere.activateWindow(); // here nobody else does it
+            QTRY_VERIFY(ad.hasFocus());
+            QCoreApplication::processEvents();
+            QCOMPARE(ad.selectedText(), QString());
+            QTest::keyClicks(&ad, QStringLiteral("Veli"));
+            QCOMPARE(ad.text(), QStringLiteral("Ali Veli"));
+            Parcasi<QLineEdit>(pencere, "Kay5").setFocus();
+            ad.setFocus();
+            QTRY_COMPARE(ad.selectedText(), QStringLiteral("Ali Veli"));
+        });
+    }
+
     void a_chosen_menu_shows_its_text_and_the_first_entry_empties_it() {
         GuiFirma firma;
         Sayfada(firma, 2, [&](QDialog& pencere) {

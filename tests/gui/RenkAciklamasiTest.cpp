@@ -33,16 +33,22 @@ class RenkAciklamasiTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void it_says_which_half_is_day_and_which_is_night() {
+    void it_says_which_half_is_day_and_which_is_night_as_the_rows_are_laid_out() {
         GuiFirma firma;
         firma.Ac({1600, 800});
         auto& aciklama = firma.Bul<QWidget>("RenkAciklamasi");
         QVERIFY(aciklama.toolTip().startsWith(QStringLiteral("Üst gece, alt gündüz")));
         const QImage once = Resmi(firma);
         firma.program.FormAyarlar->GunduzGece.MetinAta(kGunduzGeceSirasi);
-        QVERIFY(Resmi(firma) != once);
-        QVERIFY(aciklama.toolTip().startsWith(QStringLiteral("Üst gündüz, alt gece")));
-        QCOMPARE(aciklama.accessibleName(), aciklama.toolTip());
+        QVERIFY2(Resmi(firma) == once, "the rows stand as they stood");
+        QVERIFY(aciklama.toolTip().startsWith(QStringLiteral("Üst gece, alt gündüz")));
+        GuiFirma yeni;
+        yeni.program.FormAyarlar->GunduzGece.MetinAta(kGunduzGeceSirasi);
+        yeni.Ac({1600, 800});
+        auto& yenisi = yeni.Bul<QWidget>("RenkAciklamasi");
+        QVERIFY(Resmi(yeni) != once);
+        QVERIFY(yenisi.toolTip().startsWith(QStringLiteral("Üst gündüz, alt gece")));
+        QCOMPARE(yenisi.accessibleName(), yenisi.toolTip());
     }
 
     void past_days_stand_there_only_when_they_are_painted() {

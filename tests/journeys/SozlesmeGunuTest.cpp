@@ -39,13 +39,7 @@ class SozlesmeGunu : public SozlesmeTest {
     }
     /// All that two contracts with their notes and two menus bring.
     void IkiserBas() {
-        SayfaSorusu(u"2");
-        SenetSorusu(Cevap::Evet);
-        BaskiBekle(kSozlesmeIsi);
-        BaskiBekle(kSozlesmeIsi);
-        MenuSorusu(Cevap::Evet);
-        BaskiBekle(kMenuIsi);
-        BaskiBekle(kMenuIsi);
+        IkiserBekle(u"2", Cevap::Evet);
         Yazdir();
     }
 };

@@ -114,6 +114,24 @@ TEST_F(FirmaGondermeTest, A_send_is_given_up_when_its_screen_goes_though_its_han
     EXPECT_TRUE(agac.Var(u"Sunucu.dat"));
 }
 
+TEST_F(FirmaGondermeTest, A_profile_that_is_saved_while_an_older_one_goes_out_takes_its_place) {
+    std::vector<Metin> istekler;
+    std::vector<bool> birakilan;
+    program.ortam.ag.getir = [&](const AgIstegi& istek) {
+        istekler.push_back(istek.adres);
+        if (istekler.size() == 1) {
+            Doldur();
+            program.FormFirma->Command1_Click();
+        }
+        birakilan.push_back(istek.vazgecildi());
+        return Metin();
+    };
+    program.FormFirma->gonder();
+    ASSERT_EQ(istekler.size(), 2U);
+    EXPECT_NE(istekler[1].find(u"&a1=Büyük Düğün İşleri&a2=Ali Ilıca&"), Metin::npos);
+    EXPECT_EQ(birakilan, (std::vector{false, true})) << "the newer one first";
+}
+
 TEST_F(FirmaGondermeTest, The_screen_may_go_before_the_send_or_while_it_is_waited_for) {
     for (const bool once : {true, false}) {
         Doldur();

@@ -33,6 +33,32 @@ TEST_F(AgBaglamaTest, The_seconds_of_the_control_are_those_of_the_request) {
     EXPECT_GE(std::chrono::steady_clock::now() - bas, 900ms);
 }
 
+TEST_F(AgBaglamaTest, Requests_that_may_come_twice_share_a_connection_and_any_other_has_its_own) {
+    const auto sayarak = [](const Baglanti& baglanti) {
+        for (int sira = 1; baglanti.Yolla(TamCevap(std::to_string(sira)));) {
+            ++sira;
+            if (baglanti.IstegiOku().empty())
+                return;
+        }
+    };
+    Sunucu sunucu({sayarak, Cevapla("kendi yolundan"), Cevapla("yeni")});
+    inet.baglantiKalsin = true;
+    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"1");
+    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"2");
+    inet.baglantiKalsin = false;
+    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"kendi yolundan");
+    inet.baglantiKalsin = true;
+    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"3");
+}
+
+TEST_F(AgBaglamaTest, A_shared_connection_that_the_server_has_closed_meanwhile_is_made_anew) {
+    Sunucu sunucu({Cevapla("ilk"), Cevapla("ikinci")});
+    inet.baglantiKalsin = true;
+    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"ilk");
+    sunucu.BitenleriBekle(1);
+    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"ikinci");
+}
+
 TEST_F(AgBaglamaTest, Events_run_and_a_cancel_among_them_ends_the_request) {
     Sunucu sunucu({Sus()});
     ortam.olayda = [&](int sira) {

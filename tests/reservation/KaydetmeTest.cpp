@@ -275,11 +275,15 @@ TEST_F(KaydetmeTest, The_save_without_checks_asks_nothing_keeps_the_case_and_sta
         Kayit().Kay[1].metin = u"ali, veli";
         Kayit().Kay[12].metin = u"__:__";
         Kayit().Kay[8].metin = u"10";
+        Kayit().TT[3].metin = u"\"A\", b";
+        Kayit().Aciklamalar.metin = u"c, \"d\"";
         OdemeAl(u"5");
         Kayit().Command11();
         EXPECT_TRUE(Prog().FormKayit.Yuklu());
         EXPECT_EQ(Kayit().Basildi, 0);
         EXPECT_EQ(Kayit().Kay[1].metin, u"ali. veli");
+        EXPECT_EQ(Kayit().TT[3].metin, u"'A'. b") << "what is saved stays on the screen";
+        EXPECT_EQ(Kayit().Aciklamalar.metin, u"c. 'd'");
     });
     EXPECT_TRUE(AnaBaytlari().starts_with("\"ali. veli\""));
     EXPECT_NE(AnaBaytlari().find("\"__:__\""), std::string::npos);

@@ -20,13 +20,7 @@ TEST_F(SozlesmeBaskisi, Cancel_an_empty_answer_and_zero_ask_nothing_more_and_lea
 
 TEST_F(SozlesmeBaskisi, Each_copy_is_a_print_of_its_own_and_the_menus_come_behind_the_contracts) {
     DoluKayit([&] {
-        SayfaSorusu(u" 2.5x");
-        SenetSorusu(Cevap::Hayir);
-        BaskiBekle(kSozlesmeIsi);
-        BaskiBekle(kSozlesmeIsi);
-        MenuSorusu(Cevap::Evet);
-        BaskiBekle(kMenuIsi);
-        BaskiBekle(kMenuIsi);
+        IkiserBekle(u" 2.5x", Cevap::Hayir);
         Yazdir();
         ASSERT_EQ(Basilanlar().size(), 4U);
         EXPECT_EQ(SayfalarMetni(Basilanlar()[0].sayfalar), SayfalarMetni(Basilanlar()[1].sayfalar));

@@ -69,6 +69,16 @@ class SozlesmeTest : public KayitTest {
     void BaskiBekle(const Metin& ad, bool basilir = true, Is is = {}) {
         kullanici.ortam.Bekle(BeklenenBaski{ad, basilir, std::move(is)});
     }
+    /// Two contracts and two menus, each a print of its own, with all that is asked before.
+    void IkiserBekle(const Metin& adet, Cevap senet) {
+        SayfaSorusu(adet);
+        SenetSorusu(senet);
+        for (int i = 0; i < 2; ++i)
+            BaskiBekle(kSozlesmeIsi);
+        MenuSorusu(Cevap::Evet);
+        for (int i = 0; i < 2; ++i)
+            BaskiBekle(kMenuIsi);
+    }
     void Yazdir() { VELORA_BAS(Prog().FormKayit, Command3); }
     void PdfeBas() { VELORA_BAS(Prog().FormKayit, Pdf); }
 

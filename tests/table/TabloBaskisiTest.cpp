@@ -113,9 +113,16 @@ TEST_F(TabloBaskisi, The_legend_has_the_grounds_of_both_slots_the_upper_one_firs
         EXPECT_EQ(Baski().aciklamalar[1].ad, u"Ön rezervasyon");
         EXPECT_EQ(Baski().aciklamalar[1].zeminler, (std::array{ayarlar->Renk(19), ayarlar->Renk(21)}));
     });
-    ayarlar->GunduzGece.MetinAta(u"Gece / Gündüz");
+    ayarlar->GunduzGece.MetinAta(u"Gece / Gündüz"); // for the next start
+    kullanici.Tablo().Resize(17800, 8500);
     Ac([&] {
-        EXPECT_EQ(Baski().aciklamalar[1].zeminler, (std::array{ayarlar->Renk(21), ayarlar->Renk(19)}));
+        EXPECT_EQ(Baski().aciklamalar[1].zeminler, (std::array{ayarlar->Renk(19), ayarlar->Renk(21)}));
+    });
+    AyarKoy(30, u"\"Gece / Gündüz\"");
+    kullanici.ProgramiAc();
+    Ac([&] {
+        EXPECT_EQ(Baski().aciklamalar[1].zeminler, (std::array{kullanici.Prog().FormAyarlar->Renk(21),
+                                                               kullanici.Prog().FormAyarlar->Renk(19)}));
     });
 }
 

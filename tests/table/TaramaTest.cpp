@@ -122,6 +122,23 @@ TEST_F(Tarama, State_value_may_stand_quoted_or_bare) {
     RenkOlmali(5, 1, kGunduz, 19, 20);
 }
 
+TEST_F(Tarama, Name_with_dots_and_blanks_at_its_end_takes_its_slot_as_a_question_for_it_says) {
+    RezervasyonKoy(u"05.01.2012 - Gündüz", {.ad = u"Can"});
+    RezervasyonKoy(u"06.01.2012 - Gece", {.ad = u"Ece"}, true);
+    const auto adlandir = [&](MetinBakis eski, MetinBakis yeni) {
+        std::filesystem::rename(agac.Yol(u"Salon A/2012/" + Metin(eski)),
+                                agac.Yol(u"Salon A/2012/" + Metin(yeni)));
+    };
+    adlandir(u"05.01.2012 - Gündüz", u"05.01.2012 - Gündüz. .");
+    adlandir(u"06.01.2012 - Gece-Detay", u"06.01.2012 - Gece-Detay ");
+    kullanici.ProgramiAc();
+    EXPECT_TRUE(kullanici.Prog().agac.RezervasyonVarMi(
+        kullanici.Prog().agac.GunYolu(u"Salon A", u"2012", u"05.01.2012 - Gündüz")));
+    RenkOlmali(5, 1, kGunduz, 6, 7);
+    EXPECT_TRUE(kullanici.Goz(5, 1, kGunduz).tag.ends_with(u"|Can|7|1"));
+    RenkOlmali(6, 1, kGece, 21, 22);
+}
+
 TEST_F(Tarama, Folder_in_the_place_of_a_file_is_no_reservation) {
     agac.KlasorKoy(u"Salon A/2012/05.01.2012 - Gündüz");
     RezervasyonKoy(u"06.01.2012 - Gündüz");

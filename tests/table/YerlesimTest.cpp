@@ -68,14 +68,22 @@ TEST_F(Yerlesim, Any_other_text_of_the_order_counts_as_evening_on_top) {
     EXPECT_EQ(kullanici.Tablo().GunduzGece[1].resim, SiraResmi::Image2);
 }
 
-// The order is read at each layout, and nothing lays the table out again by itself.
-TEST_F(Yerlesim, Changed_order_shows_only_at_the_next_layout_on_purpose) {
+// What the settings say when they are saved: it comes with the next start. A larger window turns nothing
+// over.
+TEST_F(Yerlesim, Changed_order_shows_only_after_a_new_start_on_purpose) {
     Ac();
     kullanici.Prog().FormAyarlar->GunduzGece.MetinAta(kGunduzGeceSirasi);
     kullanici.Tablo().Command1();
+    kullanici.Tablo().Resize(kIcGenislik + kW, kIcYukseklik);
     EXPECT_LT(Sira(OcakGece).ust, Sira(OcakGunduz).ust);
-    kullanici.Tablo().Resize(kIcGenislik, kIcYukseklik);
+    EXPECT_EQ(kullanici.Tablo().GunduzGece[7].resim, SiraResmi::Image2);
+    kullanici.GunBasligina(7);
+    kullanici.AyBasligina(9);
+    EXPECT_DOUBLE_EQ(kullanici.Tablo().HizliSecim.yer.yukseklik, 2 * kH + 30);
+    AyarKoy(30, u"\"Gündüz / Gece\"");
+    Ac();
     EXPECT_LT(Sira(OcakGunduz).ust, Sira(OcakGece).ust);
+    EXPECT_EQ(kullanici.Tablo().GunduzGece[7].resim, SiraResmi::Image1);
 }
 
 TEST_F(Yerlesim, Month_heads_cover_their_two_rows_and_carry_name_and_picture) {

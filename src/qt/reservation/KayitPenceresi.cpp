@@ -66,8 +66,6 @@ KayitPenceresi::KayitPenceresi(Program& program)
     sutun->addLayout(TamamIptal({"Command1", &FormKayit::Command1, &FormKayit::Command1_Click},
                                 {"Command2", &FormKayit::Command2, &FormKayit::Command2_Click},
                                 {yazdir, pdf}));
-    connect(sayfalar_, &QTabWidget::tabBarClicked, this,
-            [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     connect(sayfalar_, &QTabWidget::currentChanged, this,
             [this](int sira) { Bag().Calistir([this, sira] { Model().SSTab1 = sira + 1; }); });
     Bag().Izle([this] { sayfalar_->setCurrentIndex(Model().SSTab1 - 1); });

@@ -10,6 +10,7 @@
 #include "qt/table/TabloCizici.h"
 #include "screen/Program.h"
 #include "setup/FormAyarlar.h"
+#include "table/FormTablo.h"
 #include "table/HucreRenkleri.h"
 
 namespace velora {
@@ -39,7 +40,7 @@ constexpr std::array<Aciklama, 6> kAciklamalar{{
 RenkAciklamasi::RenkAciklamasi(Program& program, Baglayici& baglayici, QWidget* ust) : QWidget(ust) {
     setObjectName(QStringLiteral("RenkAciklamasi"));
     baglayici.Izle([this, &program] {
-        std::vector<Ornek> yeni = Ornekler(*program.FormAyarlar.Tut());
+        std::vector<Ornek> yeni = Ornekler(*program.FormAyarlar.Tut(), program.FormTablo->GunduzUstte());
         if (yeni == ornekler_)
             return;
         ornekler_ = std::move(yeni);
@@ -53,8 +54,7 @@ RenkAciklamasi::RenkAciklamasi(Program& program, Baglayici& baglayici, QWidget* 
     });
 }
 
-std::vector<RenkAciklamasi::Ornek> RenkAciklamasi::Ornekler(const FormAyarlar& ayarlar) {
-    const bool gunduzUstte = ayarlar.GunduzUstte();
+std::vector<RenkAciklamasi::Ornek> RenkAciklamasi::Ornekler(const FormAyarlar& ayarlar, bool gunduzUstte) {
     std::vector<Ornek> ornekler{{Ornek::Tur::Yazi, gunduzUstte ? QStringLiteral("Üst gündüz, alt gece")
                                                                : QStringLiteral("Üst gece, alt gündüz")}};
     for (const Aciklama& aciklama : kAciklamalar) {

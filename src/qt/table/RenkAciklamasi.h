@@ -34,7 +34,7 @@ class RenkAciklamasi : public QWidget {
         RenkDegeri alt = 0;
         bool operator==(const Ornek&) const = default;
     };
-    static std::vector<Ornek> Ornekler(const FormAyarlar& ayarlar);
+    static std::vector<Ornek> Ornekler(const FormAyarlar& ayarlar, bool gunduzUstte);
     int Genislik(const Ornek& ornek) const;
     void OrnekCiz(QPainter& boyaci, const Ornek& ornek, const QRect& kutu) const;
 
