@@ -10,6 +10,7 @@
 #include "qt/documents/SozlesmePenceresi.h"
 #include "qt/maintenance/IndirmePencereleri.h"
 #include "qt/maintenance/TatilPencereleri.h"
+#include "qt/maintenance/YedekAlPenceresi.h"
 #include "qt/online/DuyuruPencereleri.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/RezervasyonlarPenceresi.h"
@@ -71,6 +72,7 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<RezervasyonlarPenceresi>(ortam, program, EkranAdi::FormRezervasyonlar);
     Tanit<DuyurularPenceresi>(ortam, program, EkranAdi::FormDuyurular);
     Tanit<OneriPenceresi>(ortam, program, EkranAdi::FormOneri);
+    Tanit<YedekAlPenceresi>(ortam, program, EkranAdi::FormYedekAl);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

@@ -39,7 +39,7 @@
     X(FormDuyurular, Pencereli)                                                                              \
     X(FormOneri, Pencereli)                                                                                  \
     X(FormDownloadManager, Pencereli)                                                                        \
-    X(FormYedekAl, Penceresiz)                                                                               \
+    X(FormYedekAl, Pencereli)                                                                                \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)

@@ -121,15 +121,6 @@ struct IlerlemeCubugu {
     bool operator==(const IlerlemeCubugu&) const = default;
 };
 
-/// How far a work has come: `deger` of `enCok` steps. An `enCok` of 0: nothing was to be done.
-struct IlerlemeCubugu {
-    int enCok = 0;
-    int deger = 0;
-    Metin baslik{}; ///< what it is called
-
-    bool operator==(const IlerlemeCubugu&) const = default;
-};
-
 /// An entry of a menu.
 struct MenuGirdisi {
     Metin baslik;

@@ -61,6 +61,7 @@ inline constexpr MetinBakis kGuncelleyici = u"Update.exe";         ///< puts it 
 inline constexpr MetinBakis kRaporDosyasi = u"Rapor.xls";          ///< the last report given to a spreadsheet
 inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";        ///< the firm's key at the service
 inline constexpr MetinBakis kIstekDosyasi = u"RezTemp.dat";        ///< requests that wait at the service
+inline constexpr MetinBakis kYedekDosyasi = u"BackupSetting.dat";  ///< where backups go
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
 

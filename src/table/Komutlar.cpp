@@ -7,6 +7,7 @@
 #include "accounts/FormKasa.h"
 #include "documents/FormSozlesme.h"
 #include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/Adresler.h"
 #include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
@@ -89,6 +90,8 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormAyarlar>,
      u"F7",
      {13, u" Ayarlar ", u"Program Ayarları (F7)", u"ayarlar"}},
+    {Komut::aline10, u"aline10", Menu::ayarsd, u"-"},
+    {Komut::Yedeksss, u"Yedeksss", Menu::ayarsd, u"Yedek Al / Geri Yükle", &T::EkranAc<&P::FormYedekAl>},
     {Komut::Yardimssa, u"Yardimssa", Menu::Yardimss, u"Yardım Konuları", &T::Yardimssa_Click, u"F1"},
     {Komut::oneriii, u"oneriii", Menu::Yardimss, u"Öneri ve İstekleriniz", &T::EkranAc<&P::FormOneri>},
     {Komut::duyurularsss, u"duyurularsss", Menu::Yardimss, u"Duyurular", &T::EkranAc<&P::FormDuyurular>},

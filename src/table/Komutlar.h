@@ -35,6 +35,8 @@ enum class Komut {
     Websssunucus,
     aline9,
     Progrset,
+    aline10,
+    Yedeksss,
     Yardimssa,
     oneriii,
     duyurularsss,

@@ -17,6 +17,7 @@
 #include "maintenance/FormResmiTatil.h"
 #include "maintenance/FormResmiTatilEkle.h"
 #include "maintenance/FormResmiTatilYukle.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
 #include "online/FormOneri.h"
@@ -252,6 +253,11 @@ inline constexpr Diyalog kDiyaloglar[]{
     {EkranAdi::FormRezervasyonlar, IsteklerAc, "Command1", "Command1", {"Command1 Liste Kaydet"}},
     {EkranAdi::FormDuyurular, EkraniAc<&Program::FormDuyurular>, "Command1", "Command1", {"Command1 Text1"}},
     {EkranAdi::FormOneri, DoluOneriAc, "Command1", "Command2", {"Aciklama Command1 Command2"}},
+    {EkranAdi::FormYedekAl,
+     EkraniAc<&Program::FormYedekAl>,
+     "cmdStart",
+     "Command3",
+     {"txtSource Command1 txtDestination Command2 cmdStart Command3"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

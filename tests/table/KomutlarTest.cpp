@@ -51,6 +51,8 @@ constexpr std::array<BeklenenKomut, kKomutSayisi> kBeklenenler{{
     {Komut::aline9, Menu::ayarsd, u"aline9", u"-", u""},
     {Komut::Progrset, Menu::ayarsd, u"Progrset", u"Genel Program Ayarları", u"F7", 13, u" Ayarlar ",
      u"Program Ayarları (F7)"},
+    {Komut::aline10, Menu::ayarsd, u"aline10", u"-", u""},
+    {Komut::Yedeksss, Menu::ayarsd, u"Yedeksss", u"Yedek Al / Geri Yükle", u""},
     {Komut::Yardimssa, Menu::Yardimss, u"Yardimssa", u"Yardım Konuları", u"F1"},
     {Komut::oneriii, Menu::Yardimss, u"oneriii", u"Öneri ve İstekleriniz", u""},
     {Komut::duyurularsss, Menu::Yardimss, u"duyurularsss", u"Duyurular", u""},

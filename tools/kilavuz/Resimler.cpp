@@ -18,6 +18,7 @@
 #include "maintenance/FormResmiTatil.h"
 #include "maintenance/FormResmiTatilEkle.h"
 #include "maintenance/FormResmiTatilYukle.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
 #include "online/FormOneri.h"
@@ -100,6 +101,11 @@ void KullaniciDoldur(Program& program, QWidget& /*pencere*/) {
 /// The folder in which the pictures are made is nobody's.
 void KlasorYaz(Program& program, QWidget& /*pencere*/) {
     program.FormHakkinda->Klasor.metin = u"C:\\Velora";
+}
+
+void YedekYerleriYaz(Program& program, QWidget& /*pencere*/) {
+    program.FormYedekAl->txtSource.metin = u"C:\\Velora";
+    program.FormYedekAl->txtDestination.metin = u"E:\\VRYedek";
 }
 
 void GorunumSayfasi(Program& /*program*/, QWidget& pencere) {
@@ -262,6 +268,7 @@ constexpr ResimTanimi kResimler[]{
      {980, 240}},
     {EkranAdi::FormDuyurular, u"duyurular", Modal<&P::FormDuyurular>, DuyuruYaz, {480, 240}},
     {EkranAdi::FormOneri, u"oneri", Modal<&P::FormOneri>, OneriYaz, {460, 260}},
+    {EkranAdi::FormYedekAl, u"yedek-al", Modal<&P::FormYedekAl>, YedekYerleriYaz},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},
