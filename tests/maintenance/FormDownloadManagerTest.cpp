@@ -20,7 +20,10 @@ constexpr std::string_view kYeniProgram = "MZ\x90 yeni program";
 
 class FormDownloadManagerTest : public ::testing::Test {
   protected:
-    FormDownloadManagerTest() { agac.Koy(u"Adresler.dat", "\"\",\"http://site.test/a/\",\"\",\"\"\r\n"); }
+    FormDownloadManagerTest() {
+        agac.Koy(u"Adresler.dat", "\"\",\"http://site.test/a/\",\"\",\"\"\r\n");
+        ortam.yedekKlasoru = agac.Disi() / "yedek";
+    }
 
     FormDownloadManager& Ekran() { return *program.FormDownloadManager.Tut(); }
     void Gelecek(const std::function<void(std::size_t)>& is = {}) {
@@ -35,6 +38,7 @@ class FormDownloadManagerTest : public ::testing::Test {
         ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
         program.FormDownloadManager->Activate();
     }
+    void YedekBekle() { ortam.Bekle(BeklenenKutu{u"Velora", u"Yedekleme işleminiz başarıyla tamamlandı!"}); }
     /// Lets the bar run as far as its timer does.
     int Tikler() {
         int tik = 0;
@@ -74,7 +78,9 @@ TEST_F(FormDownloadManagerTest,
             EXPECT_TRUE(ortam.calisanlar.empty()) << "events run before it is started";
         }
     };
+    YedekBekle();
     EXPECT_EQ(Tikler(), 100);
+    EXPECT_TRUE(std::filesystem::exists(agac.Disi() / "yedek" / "15_06_2012" / "VeloraYeni.exe"));
     EXPECT_LE(100 * aralik, 1000);
     EXPECT_FALSE(program.FormDownloadManager.Yuklu());
     EXPECT_EQ(ortam.gizlenenler.back(), EkranAdi::FormDownloadManager);
@@ -86,6 +92,7 @@ TEST_F(FormDownloadManagerTest,
        A_system_that_cannot_start_the_updater_keeps_the_new_version_and_says_nothing) {
     ortam.calisir = false;
     Indir();
+    YedekBekle();
     Tikler();
     EXPECT_EQ(ortam.calisanlar.size(), 1U);
     EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram);
