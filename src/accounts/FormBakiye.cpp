@@ -55,7 +55,7 @@ FormBakiye::FormBakiye(Program& program) : program_(program) {
     Liste.sayiSutunlari = {2, 3, 4, 8};
     Liste.secimDugmeleri.dugmeler = {&Command6};
     // The rows are always of the hall shown: a row's record is opened there.
-    Combo2.tiklandi = [this] { ListeleGun(); };
+    Combo2.tiklandi = [this] { YenidenListele(); };
     ToplamlariGoster({});
     Say();
 }
@@ -91,7 +91,7 @@ void FormBakiye::Activate() {
     acikmi = 1;
     const bool yilDegisti = listelenenYil_ != program_.FormTablo->Sene.Metni() || gunler() != once;
     if (!listelenenYil_.empty() && yilDegisti)
-        ListeleGun();
+        YenidenListele();
 }
 
 void FormBakiye::Command4() {
@@ -103,6 +103,11 @@ void FormBakiye::Command5() {
 }
 
 void FormBakiye::ListeleGun() {
+    if (YenidenListele() && Liste.satirlar.empty())
+        Soyle(program_, u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");
+}
+
+bool FormBakiye::YenidenListele() {
     // No row of the new list has been clicked yet.
     Liste.secimDugmeleri.Ac(false);
     Liste.Temizle();
@@ -110,12 +115,11 @@ void FormBakiye::ListeleGun() {
     Toplamlar toplamlar{};
     const bool tamam = Tara(toplamlar);
     Ozet.baslik = Liste.Ozeti(listelenenYil_); // of what is seen, also where the scan had to stop
-    if (!tamam)
-        return;
-    ToplamlariGoster(toplamlar);
-    Say();
-    if (Liste.satirlar.empty())
-        Soyle(program_, u"Belirtilen tarihler arasında bir rezervasyon kaydı bulunamadı!");
+    if (tamam) {
+        ToplamlariGoster(toplamlar);
+        Say();
+    }
+    return tamam;
 }
 
 /// False when it had to stop.

@@ -70,6 +70,8 @@ struct FormBakiye {
 
     void BasliklariKoy();
     bool Tara(Toplamlar& toplamlar);
+    /// The listing without its box, which is for who asked for it. False when it had to stop.
+    bool YenidenListele();
     bool Istenen(const DetayDegerler& detay) const;
     void SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana, const DetayDegerler& detay);
     void ToplamlariGoster(const Toplamlar& toplamlar);

@@ -35,21 +35,12 @@ const std::array<IstekTanimi, 14> kIstekler{{
     {Istek::Versiyon, &Adresler::site, u"versiyon.php", kSurumIle},
 }};
 
-} // namespace
-
-std::span<const IstekTanimi> Istekler() {
-    return kIstekler;
-}
-
-Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> degerler) {
+Metin AdresiYaz(const Adresler& adresler, Istek istek, std::span<const Metin> degerler) {
     const IstekTanimi& tanim = kIstekler.at(static_cast<std::size_t>(istek));
     assert(degerler.size() == tanim.anahtarlar.size());
-    Metin adres = AdresleriOku(program).*tanim.yer;
+    Metin adres = YerAdresi(adresler.*tanim.yer, tanim.betik);
     if (adres.empty())
         return {};
-    if (!adres.ends_with(u'/'))
-        adres += u'/';
-    adres += tanim.betik;
     char16_t ayrac = u'?';
     for (std::size_t i = 0; i < tanim.anahtarlar.size(); ++i) {
         adres += ayrac;
@@ -59,8 +50,22 @@ Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> de
     return adres;
 }
 
+} // namespace
+
+std::span<const IstekTanimi> Istekler() {
+    return kIstekler;
+}
+
+Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> degerler) {
+    return AdresiYaz(AdresleriOku(program), istek, degerler);
+}
+
 Metin IstekAdresi(const Program& program, Istek istek, std::initializer_list<Metin> degerler) {
     return IstekAdresi(program, istek, std::span(degerler.begin(), degerler.size()));
+}
+
+Metin IstekAdresi(const Adresler& adresler, Istek istek, std::initializer_list<Metin> degerler) {
+    return AdresiYaz(adresler, istek, std::span(degerler.begin(), degerler.size()));
 }
 
 } // namespace velora

@@ -102,6 +102,11 @@ QString GirdiyiSuz(const QString& eski, const QString& gorunen, const GirdiKural
                              MetinYap(eski.mid(yer(onceki.size() - son))), kural));
 }
 
+QString Giren(const QString& eski, const QString& gorunen) {
+    const qsizetype bas = OrtakBas(eski, gorunen);
+    return gorunen.mid(bas, gorunen.size() - bas - OrtakSon(eski, gorunen, bas));
+}
+
 QString CokSatirGoster(QString metin) {
     return metin.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
         .replace(u'\r', u'\n')

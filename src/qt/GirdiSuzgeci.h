@@ -16,6 +16,9 @@ namespace velora {
 /// no file holds them: `TuslariSuz` stands before.
 QString GirdiyiSuz(const QString& eski, const QString& gorunen, const GirdiKurali& kural);
 
+/// What came in between the two, where the text before shows as it is.
+QString Giren(const QString& eski, const QString& gorunen);
+
 /// What a field of many lines shows of a text: each of CR LF, CR and LF as LF, and a blank that doesn't break
 /// as a blank.
 QString CokSatirGoster(QString metin);

@@ -1,4 +1,5 @@
 // The binder's text fields.
+#include <algorithm>
 #include <chrono>
 #include <memory>
 #include <optional>
@@ -38,9 +39,14 @@ QString Rakamlari(QString metin) {
     return metin.remove(QRegularExpression(QStringLiteral("[^0-9]")));
 }
 
-/// What a field of one line shows now. Other signs than its keys bring were pasted.
-QString Gelen(const QLineEdit& kutu, const MetinKutusu& model) {
-    return model.suzgec == nullptr ? kutu.text() : QMetin(TutarOlarak(MetinYap(kutu.text())));
+/// What a field of one line shows now. Other signs than its keys bring were pasted; what is typed is no
+/// amount by itself, and leaves a text that came from a file as it is.
+QString Gelen(const QLineEdit& kutu, const MetinKutusu& model, const QString& eski) {
+    QString metin = kutu.text();
+    const QString giren = Giren(eski, metin);
+    if (model.suzgec == nullptr || std::ranges::all_of(giren, [](QChar harf) { return harf.isDigit(); }))
+        return metin;
+    return QMetin(TutarOlarak(MetinYap(metin)));
 }
 
 /// What a field with a mask takes of what it shows. The toolkit puts what is pasted digit by digit into the
@@ -158,10 +164,10 @@ void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isl
     const auto son = std::make_shared<SonHal>();
     connect(&kutu, &QLineEdit::textEdited, this, [this, &kutu, &model, isler, son] {
         Calistir([&] {
-            model.metin =
-                kutu.inputMask().isEmpty()
-                    ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model), KutununKurali(model, false)))
-                    : MaskeliMetin(kutu, model, son->gorunen);
+            model.metin = kutu.inputMask().isEmpty()
+                              ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model, son->metin),
+                                                    KutununKurali(model, false)))
+                              : MaskeliMetin(kutu, model, son->gorunen);
             if (isler.degisti)
                 isler.degisti();
         });

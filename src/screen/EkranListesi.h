@@ -13,7 +13,9 @@
     X(FormTablo, Pencereli)                                                                                  \
     X(FormHakkinda, Pencereli)                                                                               \
     X(FormAyarlar, Pencereli)                                                                                \
-    X(FormResmiTatil, Penceresiz)                                                                            \
+    X(FormResmiTatil, Pencereli)                                                                             \
+    X(FormResmiTatilEkle, Pencereli)                                                                         \
+    X(FormResmiTatilYukle, Pencereli)                                                                        \
     X(FormRenk, Pencereli)                                                                                   \
     X(FormSalonTanim, Pencereli)                                                                             \
     X(FormSalonTanimAd, Pencereli)                                                                           \
@@ -32,9 +34,12 @@
     X(FormPrint2, Penceresiz)                                                                                \
     X(FormMakbuzPrint, Pencereli)                                                                            \
     X(FormTabloPrint, Pencereli)                                                                             \
-    X(FormWebteYayinla, Penceresiz)                                                                          \
-    X(FormDownloadManager, Penceresiz)                                                                       \
-    X(FormYedekAl, Penceresiz)                                                                               \
+    X(FormWebteYayinla, Pencereli)                                                                           \
+    X(FormRezervasyonlar, Pencereli)                                                                         \
+    X(FormDuyurular, Pencereli)                                                                              \
+    X(FormOneri, Pencereli)                                                                                  \
+    X(FormDownloadManager, Pencereli)                                                                        \
+    X(FormYedekAl, Pencereli)                                                                                \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)

@@ -14,6 +14,7 @@
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
 #include "gui/Kullanim.h"
+#include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
 #include "reservation/FormKayit.h"
 
@@ -91,6 +92,24 @@ class KayitAlanlariTest : public QObject {
                     }});
         const std::string bayt = firma.agac.Bayt(Metin(kSalonA) + u"/2026/20.06.2026 - Gece");
         QVERIFY2(bayt.find("\"1500\",\"0\",\"1500\"") != std::string::npos, bayt.c_str());
+    }
+
+    void a_digit_behind_a_price_with_decimals_makes_no_larger_one() {
+        GuiFirma firma;
+        Sayfada(firma, 0, [&](QDialog& pencere) {
+            const auto kayit = firma.program.FormKayit.Tut();
+            kayit->Kay[8].metin = u"1250.50";
+            Baglayici::HepsiniTazele();
+            auto& ucret = BosAlanda(pencere, "Kay8");
+            Tusla(Qt::Key_End);
+            Yaz(QStringLiteral("3"));
+            QCOMPARE(ucret.text(), QStringLiteral("1250.50"));
+            Tusla(Qt::Key_Backspace);
+            Tusla(Qt::Key_Backspace);
+            QCOMPARE(kayit->Kay[8].metin, Metin(u"1250."));
+            Yaz(QStringLiteral("7"));
+            QCOMPARE(kayit->Kay[8].metin, Metin(u"1250.7"));
+        });
     }
 
     void only_the_left_button_turns_a_page() {

@@ -94,6 +94,17 @@ class OdemeSayfasiTest : public QObject {
         });
     }
 
+    void only_one_payment_is_marked_at_a_time_as_only_one_is_deleted() {
+        GuiFirma firma;
+        Odemelerde(firma, [](QDialog& pencere) {
+            QTreeWidget& liste = Liste(pencere);
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, {},
+                              liste.visualItemRect(liste.topLevelItem(0)).center());
+            QTest::keyClick(&liste, Qt::Key_Down, Qt::ShiftModifier);
+            QCOMPARE(liste.selectedItems(), QList<QTreeWidgetItem*>{liste.topLevelItem(1)});
+        });
+    }
+
     void enter_saves_after_a_payment_was_added_and_not_after_none_was() {
         GuiFirma firma;
         Odemelerde(firma, [&](QDialog& pencere) {

@@ -28,7 +28,6 @@ QWidget* KayitPenceresi::OdemeSayfasi() {
     auto* sayfa = new QWidget;
     QVBoxLayout* sutun = SutunKur(*sayfa);
     auto* liste = ListeYap(kOdemeSutunEnleri, &FormKayit::Liste_ItemClick);
-    liste->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto* dugmeler = new QHBoxLayout;
     dugmeler->setSpacing(kAralik);
     dugmeler->addWidget(DugmeYap({"Command8", &FormKayit::Command8, &FormKayit::Command8_Click}));
