@@ -86,13 +86,9 @@ TEST_F(FormSalonTanimTest, Empty_answers_ask_again_and_blanks_leave_with_nothing
 TEST_F(FormSalonTanimTest, Close_is_on_already_while_the_name_is_asked_for) {
     kullanici.ProgramiAc();
     Tanim().Command3.etkin = false;
-    bool acik = false;
-    kullanici.Prog().ortam.sor.girdi = [&](const GirdiKutusu&) {
-        acik = Tanim().Command3.etkin;
-        return Metin(u" ");
-    };
+    kullanici.Prog().ortam.sor.girdi = [&](auto&) { return Metin(Tanim().Command3.etkin ? u"a" : u"k"); };
     VELORA_BAS(kullanici.Prog().FormSalonTanim, Command1);
-    EXPECT_TRUE(acik);
+    SalonlarOlmali({u"A"});
 }
 
 // A trim takes blanks alone.
