@@ -17,4 +17,12 @@ Adresler AdresleriOku(const Program& program) {
     return adresler;
 }
 
+Metin YerAdresi(Metin yer, MetinBakis ad) {
+    if (yer.empty())
+        return yer;
+    if (!yer.ends_with(u'/'))
+        yer += u'/';
+    return yer.append(ad);
+}
+
 } // namespace velora

@@ -18,4 +18,8 @@ struct Adresler {
 /// is offline. Blanks about an address don't count.
 Adresler AdresleriOku(const Program& program);
 
+/// The address of a script or a file at one of these places: the place, a "/" where it doesn't end with one,
+/// and the name. Empty without a place.
+Metin YerAdresi(Metin yer, MetinBakis ad);
+
 } // namespace velora

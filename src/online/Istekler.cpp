@@ -38,12 +38,9 @@ const std::array<IstekTanimi, 14> kIstekler{{
 Metin AdresiYaz(const Adresler& adresler, Istek istek, std::span<const Metin> degerler) {
     const IstekTanimi& tanim = kIstekler.at(static_cast<std::size_t>(istek));
     assert(degerler.size() == tanim.anahtarlar.size());
-    Metin adres = adresler.*tanim.yer;
+    Metin adres = YerAdresi(adresler.*tanim.yer, tanim.betik);
     if (adres.empty())
         return {};
-    if (!adres.ends_with(u'/'))
-        adres += u'/';
-    adres += tanim.betik;
     char16_t ayrac = u'?';
     for (std::size_t i = 0; i < tanim.anahtarlar.size(); ++i) {
         adres += ayrac;

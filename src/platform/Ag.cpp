@@ -4,6 +4,7 @@
 
 #include "platform/AgIstemcisi.h"
 #include "platform/Arayuzler.h"
+#include "platform/Indirme.h"
 
 namespace velora {
 
@@ -17,10 +18,13 @@ void AgiBagla(Ortam& ortam) {
         return istemci->Getir(istek.adres, std::chrono::seconds(istek.sure), sira,
                               istek.baglantiKalsin ? BaglantiTuru::Kalan : BaglantiTuru::Tek);
     };
+    const auto indirici = std::make_shared<Indirici>(ortam.olaylar.isle);
+    ortam.ag.aktarimAc = [indirici](const AktarimIstegi& istek) { return indirici->Ac(istek); };
     ortam.ag.baglantiVar = BaglantiVar;
     ortam.ag.donanimAdresi = DonanimAdresiBul;
-    ortam.olaylar.bitir = [istemci, bitir = ortam.olaylar.bitir] {
+    ortam.olaylar.bitir = [istemci, indirici, bitir = ortam.olaylar.bitir] {
         istemci->Kapat();
+        indirici->Kapat();
         bitir();
     };
 }

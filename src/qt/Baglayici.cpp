@@ -86,9 +86,9 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
     HepsiniTazele();
 }
 
-void Baglayici::Bas(const Isleyici& isleyici) {
+void Baglayici::Bas(const Isleyici& isleyici, bool aradaDa) {
     if (basildi_)
-        return;
+        return aradaDa ? Calistir(isleyici) : void();
     // The handler may unload the screen, but the window stands until it has returned.
     Calistir([this, &isleyici] {
         const Bayrak basilis(basildi_);
@@ -217,9 +217,9 @@ void Baglayici::Bagla(QCheckBox& kutu, OnayKutusu& model) {
 }
 
 void Baglayici::Bagla(QAbstractButton& dugme, Dugme& model, const Isleyici& tiklandi) {
-    connect(&dugme, &QAbstractButton::clicked, this, [this, &dugme, tiklandi] {
+    connect(&dugme, &QAbstractButton::clicked, this, [this, &dugme, tiklandi, aradaDa = model.aradaDa] {
         dugme.setFocus(Qt::OtherFocusReason);
-        Bas(tiklandi);
+        Bas(tiklandi, aradaDa);
     });
     Izle([&dugme, &model, konan = Metin()]() mutable {
         // The window may have put an access key into the text.
@@ -327,7 +327,9 @@ void Baglayici::Bagla(QProgressBar& cubuk, IlerlemeCubugu& model) {
         // A range of nothing would be shown as a work without an end.
         cubuk.setRange(0, std::max(1, model.enCok));
         cubuk.setValue(model.deger);
-        cubuk.setFormat(model.enCok > 0 ? QStringLiteral("%v / %m") : QString());
+        cubuk.setFormat(model.enCok <= 0 ? QString()
+                        : model.yuzde    ? QStringLiteral("% %p")
+                                         : QStringLiteral("%v / %m"));
     });
 }
 

@@ -71,7 +71,8 @@ class Baglayici : public QObject {
     void Bagla(QAction& girdi, MenuGirdisi& model, const Isleyici& tiklandi);
     /// `secildi` runs when the user marks a row, also on a press on the one that is marked already; a press
     /// on another row runs it twice. `ciftTiklandi` runs on a double click. Only the model takes a mark away.
-    /// A click on a head sorts what is seen; marks are of the model's rows all the same. Where the window
+    /// A click on a head sorts what is seen, or the model where that has a handler for it; marks are of the
+    /// model's rows all the same. Where the window
     /// lets several rows be chosen, the mark is the last one that was reached.
     void Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& secildi = {},
                const Isleyici& ciftTiklandi = {});
@@ -91,8 +92,8 @@ class Baglayici : public QObject {
     /// Runs a handler: under the guard, with the screen kept alive, and all widgets refreshed afterwards.
     void Calistir(const Isleyici& isleyici);
     /// The same for what the user presses. While such a handler of this window runs, no other one does: a
-    /// press that comes in the middle of it is dropped.
-    void Bas(const Isleyici& isleyici);
+    /// press that comes in the middle of it is dropped, but for one that is meant to come there.
+    void Bas(const Isleyici& isleyici, bool aradaDa = false);
 
     /// False once the screen is unloaded or the window dropped. What a window does behind a handler asks
     /// first.

@@ -8,6 +8,9 @@
 #include "qt/accounts/KasaPencereleri.h"
 #include "qt/documents/BaskiPencereleri.h"
 #include "qt/documents/SozlesmePenceresi.h"
+#include "qt/maintenance/IndirmePencereleri.h"
+#include "qt/maintenance/TatilPencereleri.h"
+#include "qt/maintenance/YedekAlPenceresi.h"
 #include "qt/online/DuyuruPencereleri.h"
 #include "qt/online/FirmaPenceresi.h"
 #include "qt/online/RezervasyonlarPenceresi.h"
@@ -45,6 +48,9 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<TabloPenceresi>(ortam, program, EkranAdi::FormTablo);
     Tanit<HakkindaPenceresi>(ortam, program, EkranAdi::FormHakkinda);
     Tanit<AyarlarPenceresi>(ortam, program, EkranAdi::FormAyarlar);
+    Tanit<ResmiTatilPenceresi>(ortam, program, EkranAdi::FormResmiTatil);
+    Tanit<ResmiTatilEklePenceresi>(ortam, program, EkranAdi::FormResmiTatilEkle);
+    Tanit<TatilYuklePenceresi>(ortam, program, EkranAdi::FormResmiTatilYukle);
     Tanit<RenkPenceresi>(ortam, program, EkranAdi::FormRenk);
     Tanit<SalonTanimPenceresi>(ortam, program, EkranAdi::FormSalonTanim);
     Tanit<SalonAdPenceresi>(ortam, program, EkranAdi::FormSalonTanimAd);
@@ -61,10 +67,12 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<SozlesmePenceresi>(ortam, program, EkranAdi::FormSozlesme);
     Tanit<MakbuzPenceresi>(ortam, program, EkranAdi::FormMakbuzPrint);
     Tanit<TabloPrintPenceresi>(ortam, program, EkranAdi::FormTabloPrint);
+    Tanit<YeniSurumPenceresi>(ortam, program, EkranAdi::FormDownloadManager);
     Tanit<YayinPenceresi>(ortam, program, EkranAdi::FormWebteYayinla);
     Tanit<RezervasyonlarPenceresi>(ortam, program, EkranAdi::FormRezervasyonlar);
     Tanit<DuyurularPenceresi>(ortam, program, EkranAdi::FormDuyurular);
     Tanit<OneriPenceresi>(ortam, program, EkranAdi::FormOneri);
+    Tanit<YedekAlPenceresi>(ortam, program, EkranAdi::FormYedekAl);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

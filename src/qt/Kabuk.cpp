@@ -1,6 +1,7 @@
 #include "qt/Kabuk.h"
 
 #include <QDesktopServices>
+#include <QProcess>
 #include <QString>
 #include <QUrl>
 
@@ -33,6 +34,13 @@ bool DosyaAc(const std::filesystem::path& yol) {
     const CalismaKlasoru klasor(yol.parent_path());
     std::error_code hata;
     return QDesktopServices::openUrl(QUrl::fromLocalFile(ad)) && std::filesystem::exists(yol, hata);
+}
+
+bool ProgramCalistir(const std::filesystem::path& yol) {
+    const auto metin = [](const std::filesystem::path& p) {
+        return QString::fromStdU16String(p.u16string());
+    };
+    return QProcess::startDetached(metin(yol), {}, metin(yol.parent_path()));
 }
 
 bool AdresAc(const Metin& adres) {

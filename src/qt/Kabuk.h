@@ -15,4 +15,8 @@ bool DosyaAc(const std::filesystem::path& yol);
 /// and for whatever is no address of http or https.
 bool AdresAc(const Metin& adres);
 
+/// Starts a program in its own folder, and doesn't wait for it. False when it hasn't been started: it isn't
+/// there, or isn't one that this system can run.
+bool ProgramCalistir(const std::filesystem::path& yol);
+
 } // namespace velora

@@ -189,8 +189,8 @@ void IsaretiDinle(Baglayici& baglayici, Liste& liste, Model& model, const Baglay
 }
 
 /// A click on a head sorts by it, another one turns the order round, and a third one brings the order of the
-/// model back.
-void BasliklariKur(Baglayici& baglayici, QHeaderView& basliklar) {
+/// model back. Where the model sorts itself, there is no other order than its own.
+void BasliklariKur(Baglayici& baglayici, QHeaderView& basliklar, const ListeGorunumu& model) {
     QFont kalin = basliklar.font();
     kalin.setBold(true);
     basliklar.setFont(kalin);
@@ -199,8 +199,20 @@ void BasliklariKur(Baglayici& baglayici, QHeaderView& basliklar) {
     basliklar.setSortIndicatorShown(true);
     basliklar.setSortIndicatorClearable(true);
     basliklar.setSortIndicator(-1, Qt::AscendingOrder);
+    if (model.basligaTiklandi) {
+        QObject::connect(&basliklar, &QHeaderView::sectionClicked, &baglayici,
+                         [&baglayici, &model](int sutun) {
+                             baglayici.Bas([&model, sutun] { model.basligaTiklandi(sutun); });
+                         });
+        return;
+    }
     QObject::connect(&basliklar, &QHeaderView::sortIndicatorChanged, &baglayici,
                      [] { Baglayici::HepsiniTazele(); });
+}
+
+/// Shows on the heads in what order the model has put its rows.
+void SirasiniGoster(QHeaderView& basliklar, const ListeSirasi& sira) {
+    basliklar.setSortIndicator(sira.sutun, sira.azalan ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 /// What rows of a model a list shows, and in what order.
@@ -218,7 +230,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setRootIsDecorated(false);
     liste.setUniformRowHeights(true);
     liste.setAlternatingRowColors(true);
-    BasliklariKur(*this, *liste.header());
+    BasliklariKur(*this, *liste.header(), model);
     const auto sira = std::make_shared<SatirSirasi>();
     IsaretiDinle(*this, liste, model, secildi, sira);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Bas(ciftTiklandi); });
@@ -228,11 +240,13 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
         if (basliklar != model.basliklar)
             BasliklariKoy(liste, model);
         basliklar = model.basliklar;
+        if (model.basligaTiklandi)
+            SirasiniGoster(*liste.header(), model.siralama);
         const KonanSatirlar istenen{model.satirlar.Degisme(), liste.header()->sortIndicatorSection(),
                                     liste.header()->sortIndicatorOrder()};
         const bool yeni = konan != istenen;
         if (yeni) {
-            sira->Koy(GorunenSira(model, istenen.sutun, istenen.yon));
+            sira->Koy(GorunenSira(model, model.basligaTiklandi ? -1 : istenen.sutun, istenen.yon));
             SatirlariKoy(liste, model, *sira);
             konan = istenen;
         }

@@ -13,7 +13,9 @@
     X(FormTablo, Pencereli)                                                                                  \
     X(FormHakkinda, Pencereli)                                                                               \
     X(FormAyarlar, Pencereli)                                                                                \
-    X(FormResmiTatil, Penceresiz)                                                                            \
+    X(FormResmiTatil, Pencereli)                                                                             \
+    X(FormResmiTatilEkle, Pencereli)                                                                         \
+    X(FormResmiTatilYukle, Pencereli)                                                                        \
     X(FormRenk, Pencereli)                                                                                   \
     X(FormSalonTanim, Pencereli)                                                                             \
     X(FormSalonTanimAd, Pencereli)                                                                           \
@@ -36,8 +38,8 @@
     X(FormRezervasyonlar, Pencereli)                                                                         \
     X(FormDuyurular, Pencereli)                                                                              \
     X(FormOneri, Pencereli)                                                                                  \
-    X(FormDownloadManager, Penceresiz)                                                                       \
-    X(FormYedekAl, Penceresiz)                                                                               \
+    X(FormDownloadManager, Pencereli)                                                                        \
+    X(FormYedekAl, Pencereli)                                                                                \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "screen/Bayrak.h"
+#include "storage/Harf.h"
 
 namespace velora {
 
@@ -145,6 +146,29 @@ void Zamanlayici::Calis() {
         return;
     const Bayrak icinde(icinde_);
     tik();
+}
+
+void ListeGorunumu::Sirala(int sutun) {
+    siralama = {sutun, siralama.sutun == sutun && !siralama.azalan};
+    const auto anahtar = [sutun](const ListeSatiri& satir) {
+        const auto yer = static_cast<std::size_t>(sutun);
+        return yer < satir.sutun.size() ? SozlukSirasi(satir.sutun[yer]) : Metin();
+    };
+    std::vector<std::pair<Metin, std::size_t>> yerler; // what a row is sorted by, where it stands
+    for (const ListeSatiri& satir : satirlar)
+        yerler.emplace_back(anahtar(satir), yerler.size());
+    std::ranges::stable_sort(yerler, [azalan = siralama.azalan](const auto& bir, const auto& iki) {
+        return azalan ? iki.first < bir.first : bir.first < iki.first;
+    });
+    std::vector<ListeSatiri> siralanan;
+    int isaretli = -1;
+    for (const auto& [metin, yer] : yerler) {
+        if (static_cast<int>(yer) == secili)
+            isaretli = static_cast<int>(siralanan.size());
+        siralanan.push_back(satirlar[yer]);
+    }
+    secili = isaretli;
+    satirlar = SatirListesi(std::move(siralanan));
 }
 
 } // namespace velora

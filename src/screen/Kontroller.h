@@ -108,13 +108,15 @@ struct Dugme {
     Metin ipucu;
     bool etkin = true;
     bool gorunur = true;
+    bool aradaDa = false; ///< its press counts also while the work of another one on its screen goes on
 };
 
 /// How far a work has come: `deger` of `enCok` steps. An `enCok` of 0: nothing was to be done.
 struct IlerlemeCubugu {
     int enCok = 0;
     int deger = 0;
-    Metin baslik{}; ///< what it is called
+    Metin baslik{};     ///< what it is called
+    bool yuzde = false; ///< it says how many per cent are done, not how many steps
 
     bool operator==(const IlerlemeCubugu&) const = default;
 };
@@ -251,6 +253,14 @@ struct IsaretliSatir {
     }
 };
 
+/// How a list's rows were sorted last: by which column, from 0; -1: not at all.
+struct ListeSirasi {
+    int sutun = -1;
+    bool azalan = false;
+
+    bool operator==(const ListeSirasi&) const = default;
+};
+
 struct ListeGorunumu {
     std::vector<Metin> basliklar;
     SatirListesi satirlar;
@@ -258,7 +268,14 @@ struct ListeGorunumu {
     std::vector<int> sayiSutunlari{}; ///< columns, from 0, that hold numbers: these stand to the right
     Metin baslik{};                   ///< its label
     SecimDugmeleri secimDugmeleri{};
+    /// The screen's handler for a click on the head of a column, from 0: it sorts the rows themselves, as
+    /// with `Sirala`. Without one a click sorts what is seen and leaves the rows as they are.
+    std::function<void(int sutun)> basligaTiklandi{};
+    ListeSirasi siralama{}; ///< with that handler: what the heads show
 
+    /// Sorts the rows by a column as texts (`SozlukSirasi`); by the column that they are sorted by
+    /// already the other way round. Rows that are equal there stay in their order. The mark stays on its row.
+    void Sirala(int sutun);
     /// The marked row, null for none.
     const ListeSatiri* Secili() const {
         const auto sira = static_cast<std::size_t>(secili);

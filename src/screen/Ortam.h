@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "screen/EkranListesi.h"
 #include "screen/Sayfa.h"
@@ -50,6 +52,34 @@ struct AgIstegi {
     bool baglantiKalsin = false;
 };
 
+/// The fetch of a file over the network: GET, and the lines that are asked for.
+struct AktarimIstegi {
+    Metin adres;                    ///< goes out as it stands, without any escaping
+    Metin kullanici = {};           ///< for a server that asks for one
+    Metin parola = {};              ///< sent only with a user
+    std::vector<Metin> basliklar{}; ///< header lines of the request, without their line ends
+    int verisizSure = 0;            ///< seconds that may go by without a byte
+    /// Asked again and again while it is waited for; true gives it up.
+    std::function<bool()> vazgecildi = [] { return false; };
+};
+
+/// A fetch that goes on, as long as a copy of it is held. What waits lets pending events run, and screens may
+/// come and go meanwhile.
+struct Aktarim {
+    /// The header lines of the reply with their line ends, as they came; empty when none came, or it was
+    /// given up. Redirects aren't followed.
+    std::function<Metin()> basliklar = [] { return Metin(); };
+    /// The next bytes of the reply's body, at most so many. Empty behind the last one, when the connection
+    /// breaks off or stands still for too long, and when it was given up.
+    std::function<std::string(std::size_t enCok)> parca = [](std::size_t) { return std::string(); };
+    /// Gives it up.
+    std::function<void()> iptal = [] {};
+};
+
+/// Waits for a change in a folder that is watched, so long at most. True: something has changed since it was
+/// last true. The watch ends with the last copy of it.
+using DegisiklikBekle = std::function<bool(std::chrono::milliseconds)>;
+
 /// The six bytes that a network adapter is known by.
 using DonanimAdresi = std::array<std::uint8_t, 6>;
 
@@ -64,6 +94,9 @@ struct Ortam {
         /// The path of a file that may be written; one that is there already the user has given up. None
         /// when it was cancelled.
         std::function<std::optional<std::filesystem::path>(const KayitYeriKutusu&)> kayitYeri;
+        /// The path of a folder that is there, in the system's form; `baslik` is of the box. Empty when it
+        /// was cancelled.
+        std::function<Metin(const Metin& baslik)> klasor = [](const Metin&) { return Metin(); };
     } sor;
 
     struct Goster {
@@ -83,8 +116,13 @@ struct Ortam {
     struct Olaylar {
         /// Lets pending events run: painting, timers and clicks arrive here, inside the caller.
         std::function<void()> isle;
+        /// The same behind each of many small steps: what lets events run at most every few milliseconds is
+        /// soon enough for a user, and costs little beside the steps.
+        std::function<void()> adimda = [] {};
         /// Ends the program, with all its screens.
         std::function<void()> bitir;
+        /// The program has been told to end: what is long stops where it is.
+        std::function<bool()> bitti = [] { return false; };
     } olaylar;
 
     struct Kopya {
@@ -100,6 +138,10 @@ struct Ortam {
         /// Opens a page in the user's browser, and doesn't wait. False: no browser has been started, or it
         /// isn't the address of a page.
         std::function<bool(const Metin& adres)> adresAc = [](const Metin&) { return false; };
+        /// Starts a program, in its own folder, and doesn't wait for it. False: it hasn't been started.
+        std::function<bool(const std::filesystem::path&)> calistir = [](const std::filesystem::path&) {
+            return false;
+        };
     } kabuk;
 
     struct Kagit {
@@ -121,11 +163,30 @@ struct Ortam {
         std::function<void(EkranAdi, MetinBakis kontrol)> ver;
     } odak;
 
+    struct Klasorler {
+        /// Where backups go as long as the user says nothing else.
+        std::function<std::filesystem::path()> yedek = [] { return std::filesystem::path(); };
+        /// Begins to watch a folder. Where it can't be watched there is nothing to wait with.
+        std::function<DegisiklikBekle(const std::filesystem::path&)> izle = [](const auto&) {
+            return DegisiklikBekle();
+        };
+    } klasorler;
+
+    struct Ayarlar {
+        /// Keeps a value of the program's own settings for this user, never in the data tree.
+        std::function<void(MetinBakis bolum, MetinBakis anahtar, const Metin& deger)> yaz =
+            [](MetinBakis, MetinBakis, const Metin&) {};
+    } ayarlar;
+
     /// Without one put in here there is no network.
     struct Ag {
         /// The body of the reply; empty text on every failure. While it waits it lets pending events run, so
         /// that screens may come and go meanwhile, and other requests begin and end.
         std::function<Metin(const AgIstegi&)> getir = [](const AgIstegi&) { return Metin(); };
+        /// Begins to fetch a file.
+        std::function<Aktarim(const AktarimIstegi&)> aktarimAc = [](const AktarimIstegi&) {
+            return Aktarim();
+        };
         /// Whether the machine has a connection at all, to whatever.
         std::function<bool()> baglantiVar = [] { return false; };
         /// The hardware address of the machine, if it has one.

@@ -88,6 +88,8 @@ void Pencere<Ekran>::Bosalt() {
     // A handler of the screen may wait for it, and keeps the screen while it waits.
     if constexpr (requires(Ekran & e) { e.Inet1.Iptal(); })
         birakilan->Inet1.Iptal();
+    if constexpr (requires(Ekran & e) { e.FileDownloader.Cancel(); })
+        birakilan->FileDownloader.Cancel();
     Gizle();
 }
 

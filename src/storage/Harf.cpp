@@ -78,4 +78,13 @@ Metin BuyukBas(MetinBakis metin) {
     });
 }
 
+Metin SozlukSirasi(MetinBakis metin) {
+    constexpr MetinBakis kAlfabe = u"aâbcçdefgğhıiîjklmnoöpqrsştuûüvwxyz";
+    constexpr char16_t kHarfler = 0x400; // behind all signs
+    return HerHarf(metin, [&](char16_t harf) {
+        const std::size_t yer = kAlfabe.find(KucukHarf(harf));
+        return yer == MetinBakis::npos ? harf : static_cast<char16_t>(kHarfler + yer);
+    });
+}
+
 } // namespace velora

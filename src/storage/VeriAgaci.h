@@ -43,21 +43,25 @@ bool EslikDosyasi(MetinBakis ad);
 bool GunDosyasiDeseni(MetinBakis ad);
 
 /// The files of the firm, directly in the program's folder.
-inline constexpr MetinBakis kSalonDosyasi = u"Salon.dat";       ///< halls
-inline constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";      ///< banquet menus
-inline constexpr MetinBakis kSozlesmeDosyasi = u"Sozlesme.dat"; ///< title and clauses of the contract
-inline constexpr MetinBakis kAyarDosyasi = u"Settings.dll";     ///< settings and colours
-inline constexpr MetinBakis kAyDosyasi = u"Visible.dll";        ///< which months are shown
-inline constexpr MetinBakis kTatilDosyasi = u"Tatiller.dll";    ///< holidays
-inline constexpr MetinBakis kKullaniciDosyasi = u"User.dll";    ///< users, passwords, rights
-inline constexpr MetinBakis kSayacDosyasi = u"Count.dat";       ///< the last contract number
-inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt";  ///< log of cancellations
-inline constexpr MetinBakis kKilavuzDosyasi = u"Kilavuz.html";  ///< the guide, for the browser
-inline constexpr MetinBakis kAdresDosyasi = u"Adresler.dat";    ///< addresses of the service and the site
-inline constexpr MetinBakis kFirmaDosyasi = u"Firma.dll";       ///< the firm's profile
-inline constexpr MetinBakis kRaporDosyasi = u"Rapor.xls";       ///< the last report given to a spreadsheet
-inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";     ///< the firm's key at the service
-inline constexpr MetinBakis kIstekDosyasi = u"RezTemp.dat";     ///< requests that wait at the service
+inline constexpr MetinBakis kSalonDosyasi = u"Salon.dat";          ///< halls
+inline constexpr MetinBakis kMenuDosyasi = u"Menuler.dat";         ///< banquet menus
+inline constexpr MetinBakis kSozlesmeDosyasi = u"Sozlesme.dat";    ///< title and clauses of the contract
+inline constexpr MetinBakis kAyarDosyasi = u"Settings.dll";        ///< settings and colours
+inline constexpr MetinBakis kAyDosyasi = u"Visible.dll";           ///< which months are shown
+inline constexpr MetinBakis kTatilDosyasi = u"Tatiller.dll";       ///< holidays
+inline constexpr MetinBakis kGenelTatilDosyasi = u"Tatiller.dat";  ///< the published list, as it came
+inline constexpr MetinBakis kKullaniciDosyasi = u"User.dll";       ///< users, passwords, rights
+inline constexpr MetinBakis kSayacDosyasi = u"Count.dat";          ///< the last contract number
+inline constexpr MetinBakis kIptalDosyasi = u"IptalSebep.txt";     ///< log of cancellations
+inline constexpr MetinBakis kKilavuzDosyasi = u"Kilavuz.html";     ///< the guide, for the browser
+inline constexpr MetinBakis kAdresDosyasi = u"Adresler.dat";       ///< addresses of the service and the site
+inline constexpr MetinBakis kFirmaDosyasi = u"Firma.dll";          ///< the firm's profile
+inline constexpr MetinBakis kYeniSurumDosyasi = u"VeloraYeni.exe"; ///< a new version, as it came
+inline constexpr MetinBakis kGuncelleyici = u"Update.exe";         ///< puts it in the place of the old one
+inline constexpr MetinBakis kRaporDosyasi = u"Rapor.xls";          ///< the last report given to a spreadsheet
+inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";        ///< the firm's key at the service
+inline constexpr MetinBakis kIstekDosyasi = u"RezTemp.dat";        ///< requests that wait at the service
+inline constexpr MetinBakis kYedekDosyasi = u"BackupSetting.dat";  ///< where backups go
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
 

@@ -6,6 +6,8 @@
 #include "accounts/FormBakiye.h"
 #include "accounts/FormKasa.h"
 #include "documents/FormSozlesme.h"
+#include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/Adresler.h"
 #include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
@@ -72,6 +74,8 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
     {Komut::Salontanimss, u"Salontanimss", Menu::ayarsd, u"Salon Tanımları", &T::EkranAc<&P::FormSalonTanim>},
     {Komut::aline4, u"aline4", Menu::ayarsd, u"-"},
     {Komut::MenuAyars, u"MenuAyars", Menu::ayarsd, u"Menü Tanımları", &T::EkranAc<&P::FormMenuAyar>},
+    {Komut::ResTatilss, u"ResTatilss", Menu::ayarsd, u"Resmi Tatil ve Özel Gün Tanımları",
+     &T::EkranAc<&P::FormResmiTatil>},
     {Komut::aline8, u"aline8", Menu::ayarsd, u"-"},
     {Komut::KulTanimssss, u"KulTanimssss", Menu::ayarsd, u"Kullanıcı ve Yetki Tanımları",
      &T::EkranAc<&P::FormKullanicilar>},
@@ -86,6 +90,8 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormAyarlar>,
      u"F7",
      {13, u" Ayarlar ", u"Program Ayarları (F7)", u"ayarlar"}},
+    {Komut::aline10, u"aline10", Menu::ayarsd, u"-"},
+    {Komut::Yedeksss, u"Yedeksss", Menu::ayarsd, u"Yedek Al / Geri Yükle", &T::EkranAc<&P::FormYedekAl>},
     {Komut::Yardimssa, u"Yardimssa", Menu::Yardimss, u"Yardım Konuları", &T::Yardimssa_Click, u"F1"},
     {Komut::oneriii, u"oneriii", Menu::Yardimss, u"Öneri ve İstekleriniz", &T::EkranAc<&P::FormOneri>},
     {Komut::duyurularsss, u"duyurularsss", Menu::Yardimss, u"Duyurular", &T::EkranAc<&P::FormDuyurular>},

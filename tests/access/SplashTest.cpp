@@ -177,7 +177,11 @@ TEST_F(SplashTest, An_accepted_new_version_is_fetched_alone_on_the_screen_and_th
     ortam.Bekle(BeklenenEkran{EkranAdi::FormDownloadManager, [this] {
                                   EXPECT_FALSE(program.yigin.Acik(EkranAdi::Splash));
                                   EXPECT_FALSE(ortam.bitti);
+                                  EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), "MZ");
                               }});
+    ortam.Bekle(BeklenenAktarim{
+        u"http://site.test/update/Velora.exe", u"HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n", {"MZ"}});
+    ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
     TikeDek(70);
     EXPECT_TRUE(ortam.bitti);
     EXPECT_FALSE(program.FormSifre.Yuklu());

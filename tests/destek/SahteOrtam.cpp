@@ -1,6 +1,7 @@
 #include "destek/SahteOrtam.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -36,8 +37,14 @@ std::string Tarif(const BeklenenIstek& istek) {
 std::string Tarif(const BeklenenBaski& baski) {
     return "the print " + Tirnakli(baski.isAdi);
 }
+std::string Tarif(const BeklenenAktarim& aktarim) {
+    return "the fetch of " + Tirnakli(aktarim.adres);
+}
 std::string Tarif(const BeklenenKayitYeri& yer) {
     return "the place to save " + Tirnakli(yer.ad);
+}
+std::string Tarif(const BeklenenKlasor& klasor) {
+    return "the folder " + Tirnakli(klasor.baslik);
 }
 
 } // namespace
@@ -55,6 +62,7 @@ Ortam SahteOrtam::Ver() {
     ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return MesajSor(kutu); };
     ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return GirdiSor(kutu); };
     ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeriSor(kutu); };
+    ortam.sor.klasor = [this](const Metin& baslik) { return KlasorSor(baslik); };
     ortam.goster.ac = [this](EkranAdi ad, const std::function<void()>& gorununce) {
         acilanlar.push_back(ad);
         if (acilinca)
@@ -72,6 +80,13 @@ Ortam SahteOrtam::Ver() {
         if (const auto is = olayda)
             is(olaySayisi);
     };
+    ortam.olaylar.adimda = ortam.olaylar.isle;
+    ortam.olaylar.bitti = [this] { return bitti; };
+    ortam.klasorler.yedek = [this] { return yedekKlasoru; };
+    ortam.klasorler.izle = [this](const std::filesystem::path& klasor) { return Izle(klasor); };
+    ortam.ayarlar.yaz = [this](MetinBakis bolum, MetinBakis anahtar, const Metin& deger) {
+        ayarlar.push_back({Metin(bolum), Metin(anahtar), deger});
+    };
     ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
         acilanDosyalar.push_back(yol);
         // A copy: what runs may take itself out.
@@ -82,6 +97,10 @@ Ortam SahteOrtam::Ver() {
     ortam.kabuk.adresAc = [this](const Metin& adres) {
         acilanAdresler.push_back(adres);
         return adresAcilir;
+    };
+    ortam.kabuk.calistir = [this](const std::filesystem::path& yol) {
+        calisanlar.push_back(yol);
+        return calisir;
     };
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi, MetinBakis kontrol) { odaklar.emplace_back(kontrol); };
@@ -95,6 +114,7 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.kopya.tek = [this] { return !baskaKopya; };
     ortam.ag.getir = [this](const AgIstegi& istek) { return Getir(istek); };
+    ortam.ag.aktarimAc = [this](const AktarimIstegi& istek) { return AktarimAc(istek); };
     ortam.ag.baglantiVar = [this] { return baglanti; };
     ortam.ag.donanimAdresi = [this] { return donanim; };
     return ortam;
@@ -175,6 +195,32 @@ Metin SahteOrtam::Getir(const AgIstegi& istek) {
     return istek.vazgecildi() ? Metin() : beklenen->cevap;
 }
 
+Aktarim SahteOrtam::AktarimAc(const AktarimIstegi& istek) {
+    aktarimlar.push_back(istek);
+    const auto beklenen = SiradanAl<BeklenenAktarim>("the fetch of " + Tirnakli(istek.adres));
+    if (!beklenen)
+        return {};
+    EXPECT_EQ(Tirnakli(istek.adres), Tirnakli(beklenen->adres));
+    const auto sira = std::make_shared<std::size_t>(0);
+    // What is waited for comes only when it wasn't given up meanwhile.
+    const auto bekle = [this, is = beklenen->is, sira, vazgecildi = istek.vazgecildi] {
+        const std::size_t bu = (*sira)++;
+        if (is)
+            Icinde([&] { is(bu); });
+        return !vazgecildi();
+    };
+    return {.basliklar = [beklenen, bekle] { return bekle() ? beklenen->basliklar : Metin(); },
+            .parca =
+                [beklenen, bekle, sira](std::size_t enCok) {
+                    const std::size_t no = *sira - 1;
+                    if (!bekle() || no >= beklenen->parcalar.size())
+                        return std::string();
+                    EXPECT_LE(beklenen->parcalar[no].size(), enCok);
+                    return beklenen->parcalar[no];
+                },
+            .iptal = [this] { ++birakilanAktarim; }};
+}
+
 bool SahteOrtam::Yazdir(const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
     const auto beklenen = SiradanAl<BeklenenBaski>("the print " + Tirnakli(isAdi));
     if (!beklenen)
@@ -194,6 +240,23 @@ std::optional<std::filesystem::path> SahteOrtam::KayitYeriSor(const KayitYeriKut
     EXPECT_EQ(Tirnakli(kutu.ad), Tirnakli(beklenen->ad));
     pdfSirasinda_ = beklenen->is;
     return beklenen->secilen;
+}
+
+Metin SahteOrtam::KlasorSor(const Metin& baslik) {
+    const auto beklenen = SiradanAl<BeklenenKlasor>("the folder " + Tirnakli(baslik));
+    if (!beklenen)
+        return {};
+    EXPECT_EQ(Tirnakli(baslik), Tirnakli(beklenen->baslik));
+    return beklenen->secilen;
+}
+
+DegisiklikBekle SahteOrtam::Izle(const std::filesystem::path& klasor) {
+    if (!izlenir)
+        return {};
+    izlenen = klasor;
+    // Ends with the last copy of what waits.
+    const std::shared_ptr<void> izleme(nullptr, [this](void*) { izlenen.clear(); });
+    return [this, izleme](std::chrono::milliseconds) { return std::exchange(klasorDegisti, false); };
 }
 
 bool SahteOrtam::PdfYaz(const std::vector<Sayfa>& sayfalar, const Metin& isAdi,

@@ -49,6 +49,21 @@ struct BeklenenKayitYeri {
     std::function<void()> is = {}; ///< what happens while the file is written
 };
 
+/// The folder that is asked for next, and what the user chooses; empty is a cancel.
+struct BeklenenKlasor {
+    Metin baslik; ///< of the box
+    Metin secilen = {};
+};
+
+/// A value that was kept in the program's own settings.
+struct SaklananAyar {
+    Metin bolum;
+    Metin anahtar;
+    Metin deger;
+
+    bool operator==(const SaklananAyar&) const = default;
+};
+
 /// Pages that went to paper or into a file.
 struct GidenSayfalar {
     Metin isAdi;
@@ -62,6 +77,15 @@ struct BeklenenIstek {
     Metin cevap = {};
     std::optional<int> sure = {};  ///< the seconds that it may take; with none, any
     std::function<void()> is = {}; ///< what happens while the reply is waited for
+};
+
+/// A fetch of a file that is expected to begin next, and what comes of it.
+struct BeklenenAktarim {
+    Metin adres;
+    Metin basliklar = {};                   ///< the header lines of the reply; empty: none came
+    std::vector<std::string> parcalar = {}; ///< then nothing more
+    /// What happens while the headers (0) and each of the chunks (from 1) are waited for, and the end.
+    std::function<void(std::size_t sira)> is = {};
 };
 
 /// The outside world of a test. All that the program asks, shows over its screens and sends is one script, in
@@ -84,8 +108,10 @@ class SahteOrtam {
     void Bekle(BeklenenGirdi girdi) { SirayaKoy(std::move(girdi)); }
     void Bekle(BeklenenEkran ekran) { SirayaKoy(std::move(ekran)); }
     void Bekle(BeklenenIstek istek) { SirayaKoy(std::move(istek)); }
+    void Bekle(BeklenenAktarim aktarim) { SirayaKoy(std::move(aktarim)); }
     void Bekle(BeklenenBaski baski) { SirayaKoy(std::move(baski)); }
     void Bekle(BeklenenKayitYeri yer) { SirayaKoy(std::move(yer)); }
+    void Bekle(BeklenenKlasor klasor) { SirayaKoy(std::move(klasor)); }
 
     /// Runs when a screen is shown beside the others.
     std::function<void(EkranAdi)> acilinca;
@@ -108,13 +134,22 @@ class SahteOrtam {
     bool pdfYazilir = true;                            ///< the disk takes such files
     std::vector<Metin> hayirdaBaslayanlar;             ///< questions on which Enter at once is a no
     std::vector<Metin> odaklar;                        ///< controls that were given the focus
+    std::vector<AktarimIstegi> aktarimlar;             ///< fetches of files that have begun
+    int birakilanAktarim = 0;                          ///< how often one was given up, also behind its end
+    std::vector<std::filesystem::path> calisanlar;     ///< programs that were to be started
+    bool calisir = true;                               ///< the system can start them
+    std::filesystem::path yedekKlasoru = "yedekler";   ///< where backups go as long as nothing else is said
+    std::vector<SaklananAyar> ayarlar;                 ///< kept, in their order
+    std::filesystem::path izlenen;                     ///< the folder that is watched; empty: none
+    bool klasorDegisti = false;                        ///< what the next wait for a change finds
+    bool izlenir = true;                               ///< folders can be watched
     bool baglanti = true;                              ///< the machine has a connection
     bool baskaKopya = false;                           ///< another copy of the program runs
     std::optional<DonanimAdresi> donanim = DonanimAdresi{0x00, 0x1B, 0xC4, 0x0D, 0xE0, 0x9F};
 
   private:
     using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran, BeklenenIstek, BeklenenBaski,
-                                  BeklenenKayitYeri>;
+                                  BeklenenKayitYeri, BeklenenKlasor, BeklenenAktarim>;
 
     void SirayaKoy(Beklenen beklenen);
     /// Takes the next expected one. None when nothing was expected, or another kind: that fails the test.
@@ -124,10 +159,13 @@ class SahteOrtam {
     Metin GirdiSor(const GirdiKutusu& kutu);
     void ModalGoster(EkranAdi ad, const std::function<void()>& gorununce);
     Metin Getir(const AgIstegi& istek);
+    Aktarim AktarimAc(const AktarimIstegi& istek);
     bool Yazdir(const std::vector<Sayfa>& sayfalar, const Metin& isAdi);
     std::optional<std::filesystem::path> KayitYeriSor(const KayitYeriKutusu& kutu);
+    Metin KlasorSor(const Metin& baslik);
+    DegisiklikBekle Izle(const std::filesystem::path& klasor);
     bool PdfYaz(const std::vector<Sayfa>& sayfalar, const Metin& isAdi, const std::filesystem::path& dosya);
-    /// Runs what is done on a screen or during a request: what it expects comes next.
+    /// Runs what is done on a screen, during a request or in a fetch: what it expects comes next.
     void Icinde(const std::function<void()>& is);
 
     std::deque<Beklenen> beklenenler_;

@@ -15,6 +15,8 @@
 #include "gui/Kullanim.h"
 #include "maintenance/FormDownloadManager.h"
 #include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormResmiTatilEkle.h"
+#include "maintenance/FormResmiTatilYukle.h"
 #include "maintenance/FormYedekAl.h"
 #include "online/FormIpMac.h"
 #include "online/FormWebteYayinla.h"
@@ -81,6 +83,12 @@ void Doldur(Program& program, EkranAdi ekran) {
     } else if (ekran == EkranAdi::FormMenuAyar) {
         program.FormMenuAyar->Liste.secili = 0;
         program.FormMenuAyar->Liste_Click();
+    } else if (ekran == EkranAdi::FormResmiTatil) {
+        program.FormResmiTatil->Ekle({u"01.02.2026", u"Açılış", u"Hayır", u"Özel"});
+        program.FormResmiTatil->Liste.secili = 0;
+        program.FormResmiTatil->Liste_Click();
+    } else if (ekran == EkranAdi::FormResmiTatilEkle) {
+        program.FormResmiTatilEkle->Text2.metin = u"Açılış";
     } else if (ekran == EkranAdi::FormSalonTanim) {
         program.FormSalonTanim->List1.secili = 1;
         program.FormSalonTanim->List1_Click();

@@ -185,7 +185,7 @@ class DiyalogKlavyesiTest : public QObject {
         firma.Ac();
         for (const Diyalog& diyalog : kDiyaloglar)
             Diyalogda(firma, diyalog, [&](QDialog& pencere) {
-                QVERIFY(Yazilar(pencere).size() >= (KapatmadaDurur(diyalog) ? 1 : 2));
+                QVERIFY(Yazilar(pencere).size() >= (diyalog.iptal == nullptr || KapatmadaDurur(diyalog) ? 1 : 2));
                 for (int i = 0; i < SayfaSayisi(pencere); ++i) {
                     SayfayaGec(pencere, i);
                     TuslariAyriOlmali(pencere);
@@ -228,9 +228,9 @@ class DiyalogKlavyesiTest : public QObject {
                         kaydedenler += yazi == QStringLiteral("&Kaydet") ? 1 : 0;
                     }
                 });
-        // The record once; the settings, the expenses, the contract, the firm's profile and the requests
-        // twice.
-        QCOMPARE(kaydedenler, 11);
+        // The record once; the settings, the holidays, the expenses, the contract, the firm's profile and the
+        // requests twice.
+        QCOMPARE(kaydedenler, 13);
     }
 
     void the_button_of_enter_has_its_first_letter() {
@@ -297,6 +297,8 @@ class DiyalogKlavyesiTest : public QObject {
         for (const Diyalog& diyalog : kDiyaloglar)
             Diyalogda(firma, diyalog, [&](QDialog& pencere) {
                 SorusuzKapansin(firma.program);
+                if (diyalog.iptal == nullptr)
+                    return;
                 Parcasi<QPushButton>(pencere, diyalog.iptal).setFocus();
                 // A box would come out of another button.
                 Pencerede([] { Tusla(Qt::Key_Return); }, {});

@@ -13,6 +13,11 @@
 #include "documents/FormMakbuzPrint.h"
 #include "documents/FormSozlesme.h"
 #include "documents/FormTabloPrint.h"
+#include "maintenance/FormDownloadManager.h"
+#include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormResmiTatilEkle.h"
+#include "maintenance/FormResmiTatilYukle.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
 #include "online/FormOneri.h"
@@ -71,6 +76,17 @@ inline void HatirlatmaAc(Program& program) {
     program.FormOzelHatirlatma.GosterModal();
 }
 
+/// With a site that has nothing to be fetched: the fetch that begins by itself ends at once.
+template <auto Ekran>
+void BosSitedenAc(Program& program) {
+    program.ortam.ag.aktarimAc = [](const AktarimIstegi&) {
+        Aktarim aktarim;
+        aktarim.basliklar = [] { return Metin(u"HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"); };
+        return aktarim;
+    };
+    (program.*Ekran).GosterModal();
+}
+
 /// With requests that wait.
 inline void IsteklerAc(Program& program) {
     program.dosyalar.Yaz(
@@ -99,7 +115,7 @@ struct Diyalog {
     EkranAdi ekran;
     void (*ac)(Program&);
     const char* dolu;  // the button that Enter presses from a field
-    const char* iptal; // the one that cancels
+    const char* iptal; // the one that cancels; null where only the X and the Esc key close
     // For each of its pages the controls that Tab walks, the one that has the focus at first in front.
     std::array<const char*, kEnCokSayfa> sayfalar;
 };
@@ -141,6 +157,21 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command3",
      {"Liste Command1 Command3"}},
     {EkranAdi::FormMenuEkle, AdliMenuEkleAc, "Command4", "Command3", {"Text1 Text2 Command4 Command3"}},
+    {EkranAdi::FormResmiTatil,
+     EkraniAc<&Program::FormResmiTatil>,
+     "Command1",
+     "Command2",
+     {"Liste Command4 Command3 Temizle Command1 Command2"}},
+    {EkranAdi::FormResmiTatilEkle,
+     EkraniAc<&Program::FormResmiTatilEkle>,
+     "Command1",
+     "Command2",
+     {"DTPicker1 Text2 Check1 Command1 Command2"}},
+    {EkranAdi::FormResmiTatilYukle,
+     BosSitedenAc<&Program::FormResmiTatilYukle>,
+     "Command",
+     "Command1",
+     {"Command Command1"}},
     {EkranAdi::FormRenk,
      EkraniAc<&Program::FormRenk>,
      "Command1",
@@ -213,10 +244,20 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command2",
      {"Command1 Pdf Command2 Sayfa"}},
     {EkranAdi::FormTabloPrint, TabloBaskisiAc, "Command1", "Command2", {"Command1 Pdf Command2 Sayfa"}},
+    {EkranAdi::FormDownloadManager,
+     BosSitedenAc<&Program::FormDownloadManager>,
+     "Command",
+     nullptr,
+     {"Command"}},
     {EkranAdi::FormWebteYayinla, EkraniAc<&Program::FormWebteYayinla>, "Command1", "Command1", {"Command1"}},
     {EkranAdi::FormRezervasyonlar, IsteklerAc, "Command1", "Command1", {"Command1 Liste Kaydet"}},
     {EkranAdi::FormDuyurular, EkraniAc<&Program::FormDuyurular>, "Command1", "Command1", {"Command1 Text1"}},
     {EkranAdi::FormOneri, DoluOneriAc, "Command1", "Command2", {"Aciklama Command1 Command2"}},
+    {EkranAdi::FormYedekAl,
+     EkraniAc<&Program::FormYedekAl>,
+     "cmdStart",
+     "Command3",
+     {"txtSource Command1 txtDestination Command2 cmdStart Command3"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

@@ -1,5 +1,6 @@
 #include <QDesktopServices>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTest>
 #include <QUrl>
 
@@ -53,6 +54,25 @@ class KabukTest : public QObject {
         QCOMPARE(acilan.klasorler, (QStringList{kok, once}));
         QCOMPARE(QDir::currentPath(), once);
     }
+
+#ifdef Q_OS_UNIX
+    void a_program_starts_in_its_own_folder_and_is_not_waited_for() {
+        const GeciciAgac agac;
+        agac.Koy(u"Update.exe", "#!/bin/sh\npwd >yer.txt.x\nmv yer.txt.x yer.txt\nexec sleep 2\n");
+        agac.Koy(u"metin.exe", "MZ is no program here\n");
+        QElapsedTimer gecen;
+        gecen.start();
+        QVERIFY2(!ProgramCalistir(agac.Yol(u"Update.exe")), "nobody may run it");
+        std::filesystem::permissions(agac.Yol(u"Update.exe"), std::filesystem::perms::owner_all);
+        std::filesystem::permissions(agac.Yol(u"metin.exe"), std::filesystem::perms::owner_all);
+        QVERIFY(!ProgramCalistir(agac.Yol(u"metin.exe")));
+        QVERIFY(!ProgramCalistir(agac.Yol(u"yok.exe")));
+        QVERIFY(ProgramCalistir(agac.Yol(u"Update.exe")));
+        QVERIFY2(gecen.elapsed() < 1500, "it was waited for");
+        QTRY_VERIFY(agac.DosyaVar(u"yer.txt"));
+        QCOMPARE(agac.Bayt(u"yer.txt"), agac.Kok().string() + "\n");
+    }
+#endif
 };
 
 VELORA_GUI_TEST(KabukTest)

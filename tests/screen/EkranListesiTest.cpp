@@ -20,7 +20,7 @@ TEST(EkranListesi, Is_found_by_the_constant_of_a_screen) {
 
 TEST(EkranListesi, Tells_which_screens_have_a_window) {
     EXPECT_EQ(EkranBul(EkranAdi::FormTablo).tur, EkranTuru::Pencereli);
-    EXPECT_EQ(EkranBul(EkranAdi::FormResmiTatil).tur, EkranTuru::Penceresiz);
+    EXPECT_EQ(EkranBul(EkranAdi::FormPrint).tur, EkranTuru::Penceresiz);
 }
 
 } // namespace velora::test

@@ -14,6 +14,11 @@
 #include "accounts/FormKasa.h"
 #include "accounts/FormKasaEkle.h"
 #include "documents/FormSozlesme.h"
+#include "maintenance/FormDownloadManager.h"
+#include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormResmiTatilEkle.h"
+#include "maintenance/FormResmiTatilYukle.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
 #include "online/FormOneri.h"
@@ -98,6 +103,11 @@ void KlasorYaz(Program& program, QWidget& /*pencere*/) {
     program.FormHakkinda->Klasor.metin = u"C:\\Velora";
 }
 
+void YedekYerleriYaz(Program& program, QWidget& /*pencere*/) {
+    program.FormYedekAl->txtSource.metin = u"C:\\Velora";
+    program.FormYedekAl->txtDestination.metin = u"E:\\VRYedek";
+}
+
 void GorunumSayfasi(Program& /*program*/, QWidget& pencere) {
     pencere.findChild<QTabWidget*>()->setCurrentIndex(1);
 }
@@ -128,6 +138,44 @@ void MenuYaz(Program& program, QWidget& /*pencere*/) {
     menu->Text2.metin =
         u"Peynir tabağı\r\nZeytinyağlı sarma\r\nTavuk şiş, pilav\r\nMevsim salatası\r\nMeşrubat";
     menu->Text1_Change();
+}
+
+void TatillerAc(Program& program) {
+    const auto tatiller = program.FormResmiTatil.Tut();
+    const Metin genel(kGenelTatil);
+    tatiller->Liste.Temizle();
+    tatiller->Ekle({u"01.01.2026", u"Yılbaşı", u"Evet", genel});
+    tatiller->Ekle({u"23.04.2026", u"Ulusal Egemenlik ve Çocuk Bayramı", u"Evet", genel});
+    tatiller->Ekle({u"12.06.2026", u"Salonumuzun kuruluş yıldönümü", u"Evet", Metin(kOzelTatil)});
+    tatiller->Ekle({u"27.05.2026", u"Kurban Bayramı 1. gün", u"Hayır", genel});
+    tatiller->Ekle({u"29.10.2026", u"Cumhuriyet Bayramı", u"Evet", genel});
+    program.FormResmiTatil.GosterModal();
+}
+
+void TatilYaz(Program& program, QWidget& /*pencere*/) {
+    const auto ekle = program.FormResmiTatilEkle.Tut();
+    ekle->DTPicker1.deger = std::chrono::year(2026) / 6 / 12;
+    ekle->Text2.metin = u"Salonumuzun kuruluş yıldönümü";
+    ekle->Check1.deger = 1;
+}
+
+/// The fetch that begins by itself ends at once, without a word.
+template <auto Ekran>
+void IndirmedenAc(Program& program) {
+    program.ortam.ag.aktarimAc = [](const AktarimIstegi&) {
+        Aktarim aktarim;
+        aktarim.basliklar = [] { return Metin(u"HTTP/1.1 200 OK\r\n\r\n"); };
+        return aktarim;
+    };
+    (program.*Ekran).GosterModal();
+}
+
+/// In the middle of a fetch.
+template <auto Ekran>
+void Indiriyor(Program& program, QWidget& /*pencere*/) {
+    const auto ekran = (program.*Ekran).Tut();
+    ekran->Command.baslik = kDurdur;
+    ekran->ProgressBar.deger = 62;
 }
 
 void YayinDoldur(Program& program, QWidget& /*pencere*/) {
@@ -185,6 +233,12 @@ constexpr ResimTanimi kResimler[]{
     {EkranAdi::FormHakkinda, u"program-hakkinda", Modal<&P::FormHakkinda>, KlasorYaz, {640, 360}},
     {EkranAdi::FormAyarlar, u"genel-ayarlar", Modal<&P::FormAyarlar>},
     {EkranAdi::FormAyarlar, u"renkler", Modal<&P::FormAyarlar>, GorunumSayfasi},
+    {EkranAdi::FormResmiTatil, u"tatiller", TatillerAc, SatirSec<&P::FormResmiTatil, 2>, {720, 300}},
+    {EkranAdi::FormResmiTatilEkle, u"tatil-ekle", Modal<&P::FormResmiTatilEkle>, TatilYaz},
+    {EkranAdi::FormResmiTatilYukle, u"tatil-yukle", IndirmedenAc<&P::FormResmiTatilYukle>,
+     Indiriyor<&P::FormResmiTatilYukle>},
+    {EkranAdi::FormDownloadManager, u"yeni-surum", IndirmedenAc<&P::FormDownloadManager>,
+     Indiriyor<&P::FormDownloadManager>},
     {EkranAdi::FormRenk, u"renk-sec", Modal<&P::FormRenk>, RenkSec},
     {EkranAdi::FormSalonTanim, u"salonlar", Modal<&P::FormSalonTanim>, SalonSec, {420, 260}},
     {EkranAdi::FormSalonTanimAd, u"salon-adi", SalonAdiAc, SalonAdiYaz},
@@ -214,6 +268,7 @@ constexpr ResimTanimi kResimler[]{
      {980, 240}},
     {EkranAdi::FormDuyurular, u"duyurular", Modal<&P::FormDuyurular>, DuyuruYaz, {480, 240}},
     {EkranAdi::FormOneri, u"oneri", Modal<&P::FormOneri>, OneriYaz, {460, 260}},
+    {EkranAdi::FormYedekAl, u"yedek-al", Modal<&P::FormYedekAl>, YedekYerleriYaz},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},

@@ -8,6 +8,7 @@
 #include "storage/dosya/Aktarim.h"
 #include "storage/dosya/KlasorBellegi.h"
 #include "storage/dosya/Sistem.h"
+#include "storage/dosya/YazmaAkisi.h"
 
 namespace velora {
 namespace {
@@ -286,6 +287,30 @@ bool Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
             return false;
         const auto bayt = Oku(kaynak);
         return bayt && Yaz(hedef, *bayt);
+    });
+}
+
+std::unique_ptr<YazmaAkisi> Dosyalar::AkisAc(const Metin& yol, std::uint64_t konum) const {
+    return Sessiz([&]() -> std::unique_ptr<YazmaAkisi> {
+        const auto p = Cevir(DosyaIsi::Yaz, yol);
+        if (!p)
+            return nullptr;
+        return YazmaAkisi::Ac(*p, konum,
+                              {[this, yol] { return ariza && ariza(DosyaIsi::Yaz, yol); }, bosYer});
+    });
+}
+
+std::optional<std::uint64_t> Dosyalar::BosAlan(const Metin& yol) const {
+    return Sessiz([&]() -> std::optional<std::uint64_t> {
+        if (bosYer)
+            return *bosYer;
+        auto p = Bul(yol, sistem::Tur::Dosya);
+        std::error_code hata;
+        // What isn't there yet will stand on the disk of the folder above it.
+        while (p && !std::filesystem::exists(*p, hata) && p->has_relative_path())
+            p = p->parent_path();
+        const auto alan = p ? std::filesystem::space(*p, hata) : std::filesystem::space_info{};
+        return p && !hata ? std::optional<std::uint64_t>(alan.available) : std::nullopt;
     });
 }
 

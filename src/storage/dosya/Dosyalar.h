@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -17,6 +18,7 @@ namespace velora {
 inline constexpr char16_t kAyrac = u'\\';
 
 class KlasorBellegi;
+class YazmaAkisi;
 
 namespace sistem {
 enum class Tur;
@@ -101,6 +103,13 @@ class Dosyalar {
     /// asked for the copy with the target's path, then for the reading and the writing in it.
     bool Kopyala(const Metin& kaynak, const Metin& hedef) const;
 
+    /// Opens a file to be written piece by piece, from `konum` on (storage/dosya/YazmaAkisi). Null when it
+    /// can't be. `ariza` is asked for a writing here and at each piece; the stream must not outlive this.
+    std::unique_ptr<YazmaAkisi> AkisAc(const Metin& yol, std::uint64_t konum = 0) const;
+
+    /// Bytes that the disk of a path still has room for, there or not. Nothing when that can't be told.
+    std::optional<std::uint64_t> BosAlan(const Metin& yol) const;
+
     bool Sil(const Metin& yol) const;
 
     /// Makes one folder, the last name of the path. False when it can't, also when it is there already.
@@ -122,7 +131,7 @@ class Dosyalar {
     /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
     /// disk.
     std::function<bool(DosyaIsi, const Metin& yol)> ariza;
-    /// For tests: room that is left on the disk, in bytes that a write may still add.
+    /// For tests: room that is left on the disk, in bytes that a write or a stream may still add.
     std::optional<std::size_t> bosYer;
 
   private:

@@ -1,0 +1,141 @@
+#include "maintenance/FormDownloadManager.h"
+
+#include <array>
+
+#include <gtest/gtest.h>
+
+#include "destek/GeciciAgac.h"
+#include "destek/SahteOrtam.h"
+#include "maintenance/FormYedekAl.h"
+#include "screen/Program.h"
+
+namespace velora::test {
+
+namespace {
+
+const Metin kSurumAdresi = u"http://site.test/a/update/Velora.exe";
+constexpr std::string_view kYeniProgram = "MZ\x90 yeni program";
+
+} // namespace
+
+class FormDownloadManagerTest : public ::testing::Test {
+  protected:
+    FormDownloadManagerTest() { agac.Koy(u"Adresler.dat", "\"\",\"http://site.test/a/\",\"\",\"\"\r\n"); }
+
+    FormDownloadManager& Ekran() { return *program.FormDownloadManager.Tut(); }
+    void Gelecek(const std::function<void(std::size_t)>& is = {}) {
+        ortam.Bekle(
+            BeklenenAktarim{kSurumAdresi,
+                            u"HTTP/1.1 206 Partial\r\nContent-Length: 16\r\n\r\n",
+                            {std::string(kYeniProgram.substr(0, 4)), std::string(kYeniProgram.substr(4))},
+                            is});
+    }
+    void Indir() {
+        Gelecek();
+        ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
+        program.FormDownloadManager->Activate();
+    }
+    /// Lets the bar run as far as its timer does.
+    int Tikler() {
+        int tik = 0;
+        for (; program.FormDownloadManager.Yuklu() && Ekran().Timer1.aralik > 0 && tik < 1000; ++tik)
+            program.FormDownloadManager->Timer1.Calis();
+        return tik;
+    }
+
+    GeciciAgac agac;
+    SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    Program program{ortam.Ver(), agac.Kok()};
+};
+
+TEST_F(FormDownloadManagerTest, A_new_version_is_fetched_and_the_screen_turns_to_the_backup) {
+    Gelecek([&](std::size_t sira) {
+        EXPECT_EQ(Ekran().Command.baslik, u"Durdur");
+        EXPECT_EQ(Ekran().ProgressBar.deger, (std::array{0, 0, 25, 100}.at(sira)));
+    });
+    ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
+    program.FormDownloadManager->Activate();
+    EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram);
+    EXPECT_EQ(Ekran().Command.baslik, u"Tekrar İndir");
+    EXPECT_FALSE(Ekran().Command.etkin);
+    EXPECT_EQ(Ekran().ProgressBar.deger, 0);
+    EXPECT_EQ(Ekran().baslik, u"Backup Yöneticisi");
+    EXPECT_EQ(Ekran().Label8.baslik, u"Backup Yöneticisi");
+    EXPECT_EQ(Ekran().Label1.baslik, u"Programın Yedeği alınıyor lütfen bekleyin...");
+    EXPECT_TRUE(ortam.calisanlar.empty());
+}
+
+TEST_F(FormDownloadManagerTest,
+       The_bar_runs_to_100_in_less_than_a_second_and_the_updater_starts_behind_the_screen) {
+    Indir();
+    const int aralik = Ekran().Timer1.aralik;
+    ortam.olayda = [&](int) {
+        if (!program.FormDownloadManager.Yuklu()) {
+            EXPECT_TRUE(ortam.calisanlar.empty()) << "events run before it is started";
+        }
+    };
+    EXPECT_EQ(Tikler(), 100);
+    EXPECT_LE(100 * aralik, 1000);
+    EXPECT_FALSE(program.FormDownloadManager.Yuklu());
+    EXPECT_EQ(ortam.gizlenenler.back(), EkranAdi::FormDownloadManager);
+    EXPECT_EQ(ortam.calisanlar, std::vector{agac.Kok() / "Update.exe"});
+    EXPECT_GT(ortam.olaySayisi, 2);
+}
+
+TEST_F(FormDownloadManagerTest,
+       A_system_that_cannot_start_the_updater_keeps_the_new_version_and_says_nothing) {
+    ortam.calisir = false;
+    Indir();
+    Tikler();
+    EXPECT_EQ(ortam.calisanlar.size(), 1U);
+    EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram);
+    EXPECT_FALSE(program.FormDownloadManager.Yuklu());
+}
+
+TEST_F(FormDownloadManagerTest, A_failure_is_told_and_can_be_tried_again) {
+    ortam.Bekle(BeklenenAktarim{kSurumAdresi, u"HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n", {"abc"}});
+    ortam.Bekle(BeklenenKutu{u"Hata",
+                             u"İndirme sırasında hata oluştu! Lütfen internet bağlantınızı kontrol ediniz.",
+                             Simge::Kritik});
+    program.FormDownloadManager->Activate();
+    EXPECT_EQ(Ekran().Command.baslik, u"Yeniden Dene");
+    EXPECT_EQ(Ekran().ProgressBar.deger, 0);
+    EXPECT_EQ(Ekran().Timer1.aralik, 0);
+    EXPECT_FALSE(agac.Var(u"VeloraYeni.exe"));
+    Indir();
+    EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram);
+}
+
+TEST_F(FormDownloadManagerTest, A_stop_and_a_closed_window_leave_nothing_and_start_nothing) {
+    Gelecek([&](std::size_t sira) {
+        if (sira == 2)
+            program.FormDownloadManager->Command_Click();
+    });
+    program.FormDownloadManager->Activate();
+    EXPECT_EQ(Ekran().Command.baslik, u"Yeniden Dene");
+    EXPECT_FALSE(agac.Var(u"VeloraYeni.exe"));
+    Gelecek([&](std::size_t sira) {
+        if (sira == 1)
+            program.FormDownloadManager->Kapat();
+    });
+    program.FormDownloadManager->Command_Click();
+    EXPECT_FALSE(program.FormDownloadManager.Yuklu());
+    EXPECT_FALSE(agac.Var(u"VeloraYeni.exe"));
+    EXPECT_TRUE(ortam.calisanlar.empty());
+}
+
+TEST_F(FormDownloadManagerTest, Closed_while_the_bar_runs_it_takes_no_backup_and_starts_nothing) {
+    Indir();
+    for (int i = 0; i < 40; ++i)
+        program.FormDownloadManager->Timer1.Calis();
+    EXPECT_EQ(Ekran().ProgressBar.deger, 40);
+    const auto ekran = program.FormDownloadManager.Tut();
+    program.FormDownloadManager->Kapat();
+    ekran->Timer1.Calis();
+    EXPECT_EQ(ekran->ProgressBar.deger, 40);
+    EXPECT_TRUE(ortam.calisanlar.empty());
+    EXPECT_FALSE(program.FormYedekAl.Yuklu());
+    EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram) << "what was fetched whole stays";
+}
+
+} // namespace velora::test
