@@ -6,6 +6,7 @@
 
 #include "access/Splash.h"
 #include "platform/Ag.h"
+#include "platform/KlasorIzleme.h"
 #include "platform/TekKopya.h"
 #include "qt/Dil.h"
 #include "qt/Ekranlar.h"
@@ -26,11 +27,13 @@ static int Calistir(char** argv) {
     velora::GorunumuKur();
     velora::QtOrtam disDunya;
     disDunya.HafizaVer(velora::PencereHafizasi(velora::PencereHafizasi::KullaniciDosyasi()));
+    disDunya.AyarlarVer(velora::AyarDosyasi(velora::AyarDosyasi::KullaniciDosyasi()));
     const std::filesystem::path programDizini(QCoreApplication::applicationDirPath().toStdU16String());
     velora::Ortam ortam = disDunya.Ver();
     velora::AgiBagla(ortam);
     velora::BeklerkenGoster(ortam);
     velora::KopyayiBagla(ortam);
+    velora::IzlemeyiBagla(ortam);
     velora::Program program(std::move(ortam), programDizini);
     velora::EkranlariTanit(disDunya, program);
     program.Splash->Baslat();

@@ -1,11 +1,7 @@
 #include "maintenance/FileSync.h"
 
 #include <algorithm>
-#include <chrono>
-#include <map>
-#include <string>
 #include <system_error>
-#include <unordered_map>
 
 #include "storage/dosya/Sistem.h"
 
@@ -14,29 +10,25 @@ namespace velora {
 namespace {
 
 namespace fs = std::filesystem;
+using sistem::Oge;
 using sistem::OgeBilgisi;
 using sistem::Tur;
 
-struct Icerik {
-    std::map<fs::path, OgeBilgisi> dosyalar;
-    std::vector<fs::path> klasorler; // names, sorted
-};
+/// What a copy is called until it is whole. One that a crash has left is no file of anybody's.
+const fs::path kYarimAd = ".velora-yarim";
+
+using Icerik = std::vector<Oge>; // sorted by name
 
 /// What can't be listed or asked about isn't there.
 Icerik Listele(const fs::path& klasor) {
-    Icerik icerik;
-    std::error_code hata;
-    for (fs::directory_iterator oge(klasor, hata), son; !hata && oge != son; oge.increment(hata)) {
-        const auto bilgi = sistem::Bilgi(oge->path());
-        if (!bilgi)
-            continue;
-        if (bilgi->tur == Tur::Dosya)
-            icerik.dosyalar.emplace(oge->path().filename(), *bilgi);
-        else
-            icerik.klasorler.push_back(oge->path().filename());
-    }
-    std::ranges::sort(icerik.klasorler);
+    Icerik icerik = sistem::Ogeler(klasor);
+    std::erase_if(icerik, [](const Oge& oge) { return oge.ad == kYarimAd.native(); });
+    std::ranges::sort(icerik, {}, &Oge::ad);
     return icerik;
+}
+
+bool Dosya(const Oge& oge) {
+    return oge.bilgi.tur == Tur::Dosya;
 }
 
 /// A difference of less than a second is none: not every disk keeps more.
@@ -55,39 +47,31 @@ int Durum(const OgeBilgisi& kaynak, const OgeBilgisi& hedef) {
     return durum;
 }
 
-std::vector<EslemeSatiri> Esle(const Icerik& kaynak, const Icerik& hedef) {
-    std::vector<EslemeSatiri> satirlar;
-    satirlar.reserve(kaynak.dosyalar.size());
-    for (const auto& [ad, bilgi] : kaynak.dosyalar) {
-        const auto es = hedef.dosyalar.find(ad);
-        satirlar.push_back(
-            {ad, es == hedef.dosyalar.end() ? EslemeDurumu::YalnizKaynakta : Durum(bilgi, es->second)});
-    }
-    for (const auto& [ad, bilgi] : hedef.dosyalar)
-        if (!kaynak.dosyalar.contains(ad))
-            satirlar.push_back({ad, EslemeDurumu::YalnizHedefte});
-    return satirlar;
+/// For each file of the one the file of the same name in the other, or null. Ends where `ver` says false.
+template <class Ver>
+bool Eslestir(const Icerik& bir, const Icerik& iki, Ver ver) {
+    auto es = iki.begin();
+    return std::ranges::all_of(bir, [&](const Oge& oge) {
+        if (!Dosya(oge))
+            return true;
+        while (es != iki.end() && es->ad < oge.ad)
+            ++es;
+        const bool var = es != iki.end() && es->ad == oge.ad && Dosya(*es);
+        return ver(oge, var ? &*es : nullptr);
+    });
 }
 
-/// Copies a file with its time and its rights. One that is there is replaced in one step, whoever may write
-/// into it, and stays when the copy fails.
-void DosyaKopyala(const fs::path& kaynak, const fs::path& hedef, bool uzerine) {
-    std::error_code hata;
-    fs::path yeni = hedef;
-    if (uzerine)
-        yeni += ".veloraYeni";
-    // Asked for before: written to while it is copied, it is copied again next time.
-    const auto zaman = fs::last_write_time(kaynak, hata);
-    bool tamam = !hata && fs::copy_file(kaynak, yeni, fs::copy_options::overwrite_existing, hata) && !hata;
-    if (tamam) {
-        fs::last_write_time(yeni, zaman, hata);
-        if (uzerine) {
-            fs::rename(yeni, hedef, hata);
-            tamam = !hata;
-        }
-    }
-    if (!tamam)
-        fs::remove(yeni, hata);
+/// The rows of a comparison: first all of the source, then those that only the target has.
+template <class Ver>
+bool Esle(const Icerik& kaynak, const Icerik& hedef, Ver ver) {
+    return Eslestir(kaynak, hedef,
+                    [&ver](const Oge& oge, const Oge* es) {
+                        return ver(oge.ad, es == nullptr ? EslemeDurumu::YalnizKaynakta
+                                                         : Durum(oge.bilgi, es->bilgi));
+                    }) &&
+           Eslestir(hedef, kaynak, [&ver](const Oge& oge, const Oge* es) {
+               return es != nullptr || ver(oge.ad, EslemeDurumu::YalnizHedefte);
+           });
 }
 
 enum class KopyaYeri { Yok, Hedefe, Geri };
@@ -103,78 +87,86 @@ KopyaYeri KopyalanacakYer(int durum) {
     return KopyaYeri::Hedefe;
 }
 
-/// A path without links, as it is told from others.
-fs::path Gercek(const fs::path& yol) {
+/// Whether both lead to one folder, by whatever links.
+bool AyniKlasor(const fs::path& bir, const fs::path& iki) {
     std::error_code hata;
-    fs::path gercek = fs::weakly_canonical(yol, hata);
-    return hata ? yol : gercek;
+    return fs::equivalent(bir, iki, hata) && !hata;
 }
 
 } // namespace
 
-FileSync::FileSync(std::function<void()> olaylar, std::vector<Yol> atlanan)
-    : olaylar_(std::move(olaylar)), atlanan_(std::move(atlanan)) {
-    for (Yol& yol : atlanan_)
-        yol = Gercek(yol);
-}
+struct FileSync::Klasor {
+    const Yol& yol;
+    std::vector<sistem::Oge> ogeler;
+};
+
+FileSync::FileSync(std::function<bool()> olaylar, std::vector<Yol> atlanan)
+    : olaylar_(std::move(olaylar)), atlanan_(std::move(atlanan)) {}
 
 std::vector<EslemeSatiri> FileSync::Compare(const Yol& kaynak, const Yol& hedef) {
-    return Esle(Listele(kaynak), Listele(hedef));
+    std::vector<EslemeSatiri> satirlar;
+    Esle(Listele(kaynak), Listele(hedef), [&satirlar](const auto& ad, int durum) {
+        satirlar.push_back({ad, durum});
+        return true;
+    });
+    return satirlar;
 }
 
 void FileSync::SyncFiles(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const {
-    SatirlariUygula(Compare(kaynak, hedef), kaynak, hedef, ikiYonlu);
+    Uygula({kaynak, Listele(kaynak)}, {hedef, Listele(hedef)}, ikiYonlu);
 }
 
-void FileSync::SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
-                               bool ikiYonlu) const {
-    for (const EslemeSatiri& satir : satirlar) {
-        const KopyaYeri yon = KopyalanacakYer(satir.durum);
+bool FileSync::Uygula(const Klasor& kaynak, const Klasor& hedef, bool ikiYonlu) const {
+    const sistem::Kopyaci ileri(kaynak.yol, hedef.yol, kYarimAd);
+    const sistem::Kopyaci geri(hedef.yol, kaynak.yol, kYarimAd);
+    return Esle(kaynak.ogeler, hedef.ogeler, [&](const auto& ad, int durum) {
+        const KopyaYeri yon = KopyalanacakYer(durum);
         if (yon == KopyaYeri::Hedefe)
-            DosyaKopyala(kaynak / satir.ad, hedef / satir.ad, satir.durum != EslemeDurumu::YalnizKaynakta);
+            ileri.Kopyala(ad);
         else if (yon == KopyaYeri::Geri && ikiYonlu)
-            DosyaKopyala(hedef / satir.ad, kaynak / satir.ad, satir.durum != EslemeDurumu::YalnizHedefte);
-        olaylar_();
-    }
+            geri.Kopyala(ad);
+        return olaylar_();
+    });
 }
 
 void FileSync::SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const {
-    const auto bilgi = sistem::Bilgi(kaynak);
-    if (!bilgi || bilgi->tur != Tur::Klasor)
+    if (!sistem::Var(kaynak, Tur::Klasor))
         return;
+    std::error_code hata;
+    fs::create_directories(hedef.parent_path(), hata);
     // The target, too: within the source it would be copied into itself without end.
-    std::vector<Yol> ustler{Gercek(kaynak), Gercek(hedef)};
+    std::vector<Yol> ustler{kaynak, hedef};
     Gez(kaynak, hedef, ikiYonlu, ustler);
 }
 
-void FileSync::Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const {
-    std::error_code hata;
-    fs::create_directories(hedef, hata);
-    const Icerik kaynaktakiler = Listele(kaynak);
-    const Icerik hedeftekiler = Listele(hedef);
-    SatirlariUygula(Esle(kaynaktakiler, hedeftekiler), kaynak, hedef, ikiYonlu);
-    const auto altina = [&](const Yol& nereden, const Yol& nereye, const Yol& ad, bool geriyeDe) {
-        const Yol alt = nereden / ad;
-        Yol gercek = fs::is_symlink(alt, hata) ? Gercek(alt) : Gercek(nereden) / ad;
-        if (!Girilir(gercek, ustler))
-            return;
-        ustler.push_back(std::move(gercek));
-        Gez(alt, nereye / ad, geriyeDe, ustler);
-        ustler.pop_back();
-        olaylar_();
+bool FileSync::Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const {
+    const bool yeni = sistem::KlasorYap(hedef);
+    const Klasor kaynaktaki{kaynak, Listele(kaynak)};
+    const Klasor hedefteki{hedef, yeni ? Icerik() : Listele(hedef)};
+    if (!Uygula(kaynaktaki, hedefteki, ikiYonlu))
+        return false;
+    const auto altlara = [&](const Klasor& nereden, const Yol& nereye, bool geriyeDe, const auto& istenen) {
+        return std::ranges::all_of(nereden.ogeler, [&](const Oge& oge) {
+            const Yol alt = nereden.yol / oge.ad;
+            if (Dosya(oge) || !istenen(oge) || !Girilir(alt, ustler))
+                return true;
+            ustler.push_back(alt);
+            const bool surer = Gez(alt, nereye / oge.ad, geriyeDe, ustler);
+            ustler.pop_back();
+            return surer && olaylar_();
+        });
     };
-    for (const Yol& ad : kaynaktakiler.klasorler)
-        altina(kaynak, hedef, ad, ikiYonlu);
-    if (!ikiYonlu)
-        return;
-    for (const Yol& ad : hedeftekiler.klasorler)
-        if (!std::ranges::binary_search(kaynaktakiler.klasorler, ad))
-            altina(hedef, kaynak, ad, false);
+    const auto kaynaktaYok = [&](const Oge& oge) {
+        const auto yer = std::ranges::lower_bound(kaynaktaki.ogeler, oge.ad, {}, &Oge::ad);
+        return yer == kaynaktaki.ogeler.end() || yer->ad != oge.ad || Dosya(*yer);
+    };
+    return altlara(kaynaktaki, hedef, ikiYonlu, [](const Oge&) { return true; }) &&
+           (!ikiYonlu || altlara(hedefteki, kaynak, false, kaynaktaYok));
 }
 
-bool FileSync::Girilir(const Yol& gercek, const std::vector<Yol>& ustler) const {
-    return std::ranges::find(ustler, gercek) == ustler.end() &&
-           std::ranges::find(atlanan_, gercek) == atlanan_.end();
+bool FileSync::Girilir(const Yol& klasor, const std::vector<Yol>& ustler) const {
+    const auto bu = [&klasor](const Yol& oteki) { return AyniKlasor(klasor, oteki); };
+    return std::ranges::none_of(ustler, bu) && std::ranges::none_of(atlanan_, bu);
 }
 
 } // namespace velora

@@ -33,9 +33,9 @@ class FileSync {
   public:
     using Yol = std::filesystem::path;
 
-    /// `olaylar` runs behind each file and folder: whatever it does, the walk goes on. `atlanan` are folders
-    /// that no walk enters, as the backups' own.
-    explicit FileSync(std::function<void()> olaylar, std::vector<Yol> atlanan = {});
+    /// `olaylar` runs behind each file and folder; where it says false nobody wants the rest, and the walk
+    /// ends there. `atlanan` are folders that no walk enters, as the backups' own.
+    explicit FileSync(std::function<bool()> olaylar, std::vector<Yol> atlanan = {});
 
     /// The files of two folders, without those below them: first all of the source, then those that only the
     /// target has, each part sorted by name.
@@ -49,12 +49,14 @@ class FileSync {
     void SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const;
 
   private:
-    void SatirlariUygula(const std::vector<EslemeSatiri>& satirlar, const Yol& kaynak, const Yol& hedef,
-                         bool ikiYonlu) const;
-    void Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const;
-    bool Girilir(const Yol& gercek, const std::vector<Yol>& ustler) const;
+    struct Klasor;
 
-    std::function<void()> olaylar_;
+    // False: the walk is to end.
+    bool Uygula(const Klasor& kaynak, const Klasor& hedef, bool ikiYonlu) const;
+    bool Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const;
+    bool Girilir(const Yol& klasor, const std::vector<Yol>& ustler) const;
+
+    std::function<bool()> olaylar_;
     std::vector<Yol> atlanan_;
 };
 

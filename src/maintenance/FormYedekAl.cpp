@@ -1,16 +1,153 @@
 #include "maintenance/FormYedekAl.h"
 
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <system_error>
+
+#include "maintenance/FileSync.h"
+#include "maintenance/YedekYolu.h"
 #include "screen/Program.h"
+#include "screen/Sorular.h"
+#include "storage/AlanDosyasi.h"
+#include "storage/Sayi.h"
 
 namespace velora {
 
-FormYedekAl::FormYedekAl(Program& program) : program_(program) {
-    Label8.baslik = baslik;
+namespace {
+
+constexpr MetinBakis kBasla = u"Başla";
+constexpr MetinBakis kDizinSeciniz = u"Lütfen dizin seçiniz!";
+
+/// A folder as the system finds it, whatever folder it stands in.
+std::filesystem::path Klasor(const Metin& yol) {
+    std::error_code hata;
+    return std::filesystem::absolute(MetinYolu(yol).value_or(std::filesystem::path()), hata);
 }
 
-void FormYedekAl::Load() {}
+void KlasorYap(const Metin& yol) {
+    std::error_code hata;
+    std::filesystem::create_directory(Klasor(yol), hata);
+}
 
-void FormYedekAl::cmdStart_Click() {}
+std::array<Alan, 1> YedekAlanlari(Metin& hedef) {
+    return {MetinAlani(hedef)};
+}
+
+} // namespace
+
+FormYedekAl::FormYedekAl(Program& program) : program_(program), izleme_(program) {
+    Label8.baslik = baslik;
+    txtSource.baslik = u"Kaynak Dizin";
+    txtDestination.baslik = u"Hedef Dizin";
+    txtDestination.metin = YolMetni(program.ortam.klasorler.yedek());
+    Command3.aradaDa = true; // it closes the window, not the backup
+    chkFolderChange.baslik = u"on Folder Change";
+    chkFolderChange.tiklandi = [this] { Sakla(u"chkFolderChange", SayiMetni(chkFolderChange.deger)); };
+    txtMins.baslik = u"Back up Every:";
+    txtMins.sonra = u"minute(s)";
+    txtMins.metin = u"1";
+    txtFileType.baslik = u"File Type";
+    chkStartwithWindows.baslik = u"Start With Windows?";
+    Timer1.tik = [this] { Timer1_Timer(); };
+}
+
+void FormYedekAl::Load() {
+    Metin hedef;
+    const bool okundu =
+        AlanlariOku(program_.dosyalar, program_.agac.KokYolu(kYedekDosyasi), YedekAlanlari(hedef));
+    if (okundu && hedef != txtDestination.metin && !BaskaSistemin(hedef)) {
+        txtDestination.metin = hedef;
+        txtDestination_Change();
+    }
+    txtSource.metin = program_.dosyalar.Kok();
+    txtSource_Change();
+}
+
+void FormYedekAl::txtSource_Change() {
+    Sakla(u"txtSource", txtSource.metin);
+}
+
+void FormYedekAl::txtDestination_Change() {
+    Sakla(u"txtDestination", txtDestination.metin);
+}
+
+void FormYedekAl::txtMins_Change() {
+    Sakla(u"txtMins", txtMins.metin);
+}
+
+void FormYedekAl::Sakla(MetinBakis ad, const Metin& deger) const {
+    program_.ortam.ayarlar.yaz(u"Settings", ad, deger);
+}
+
+void FormYedekAl::Command1_Click() {
+    txtSource.metin = program_.ortam.sor.klasor(u"Select directory...");
+    txtSource_Change();
+}
+
+void FormYedekAl::Command2_Click() {
+    txtDestination.metin = HedefYolu(program_.ortam.sor.klasor(u"Select directory..."));
+    txtDestination_Change();
+}
+
+void FormYedekAl::cmdStart_Click() {
+    if (!cmdStart.etkin)
+        return;
+    program_.dosyalar.Yaz(program_.agac.KokYolu(kYedekDosyasi),
+                          AlanBaytlari(YedekAlanlari(txtDestination.metin)));
+    const Metin hedef = GunlukYol(txtDestination.metin, program_.Bugun());
+    KlasorYap(txtDestination.metin);
+    KlasorYap(hedef);
+    Label9.gorunur = true;
+    cmdStart.etkin = false;
+    program_.OlaylariIsle();
+    if (txtMins.metin.empty())
+        Soyle(program_, Metin(kDizinSeciniz));
+    if (txtSource.metin.empty())
+        return Soyle(program_, Metin(kDizinSeciniz));
+    if (!Yedekle(hedef))
+        return;
+    Soyle(program_, u"Yedekleme işleminiz başarıyla tamamlandı!");
+    KendiniBosalt();
+    Ardindan();
+}
+
+bool FormYedekAl::Yedekle(const Metin& hedef) {
+    const Ortam::Olaylar& olaylar = program_.ortam.olaylar;
+    const auto surer = [&olaylar] {
+        olaylar.adimda();
+        return !olaylar.bitti();
+    };
+    FileSync(surer, {Klasor(txtDestination.metin)})
+        .SyncFolders(Klasor(txtSource.metin), Klasor(hedef), false);
+    return !olaylar.bitti();
+}
+
+/// Closed meanwhile, it may have been opened anew: that one is another's.
+void FormYedekAl::KendiniBosalt() {
+    if (program_.FormYedekAl.Yuklu() && program_.FormYedekAl.Tut().get() == this)
+        program_.FormYedekAl.Bosalt();
+}
+
+/// On a screen that has been unloaded: its next opening begins with "Tamam" again, so that nothing ever
+/// starts by itself.
+void FormYedekAl::Ardindan() {
+    if (cmdStart.baslik != kBasla) {
+        izleme_.Dur();
+        Timer1.aralik = 0;
+        cmdStart.baslik = kBasla;
+    } else if (chkFolderChange.deger == 1) {
+        izleme_.Basla(txtSource.metin);
+    } else if (!txtMins.metin.empty()) {
+        constexpr double kSaniye = 1'000; // whatever the caption says
+        Timer1.aralik = static_cast<int>(
+            std::clamp(SayisalDeger(txtMins.metin) * kSaniye, 0.0, double{std::numeric_limits<int>::max()}));
+    }
+}
+
+void FormYedekAl::Timer1_Timer() {
+    Yedekle(txtDestination.metin);
+}
 
 void FormYedekAl::Command3_Click() {
     program_.FormYedekAl.Bosalt();

@@ -35,16 +35,10 @@ const std::array<IstekTanimi, 14> kIstekler{{
     {Istek::Versiyon, &Adresler::site, u"versiyon.php", kSurumIle},
 }};
 
-} // namespace
-
-std::span<const IstekTanimi> Istekler() {
-    return kIstekler;
-}
-
-Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> degerler) {
+Metin AdresiYaz(const Adresler& adresler, Istek istek, std::span<const Metin> degerler) {
     const IstekTanimi& tanim = kIstekler.at(static_cast<std::size_t>(istek));
     assert(degerler.size() == tanim.anahtarlar.size());
-    Metin adres = YerAdresi(AdresleriOku(program).*tanim.yer, tanim.betik);
+    Metin adres = YerAdresi(adresler.*tanim.yer, tanim.betik);
     if (adres.empty())
         return {};
     char16_t ayrac = u'?';
@@ -56,8 +50,22 @@ Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> de
     return adres;
 }
 
+} // namespace
+
+std::span<const IstekTanimi> Istekler() {
+    return kIstekler;
+}
+
+Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> degerler) {
+    return AdresiYaz(AdresleriOku(program), istek, degerler);
+}
+
 Metin IstekAdresi(const Program& program, Istek istek, std::initializer_list<Metin> degerler) {
     return IstekAdresi(program, istek, std::span(degerler.begin(), degerler.size()));
+}
+
+Metin IstekAdresi(const Adresler& adresler, Istek istek, std::initializer_list<Metin> degerler) {
+    return AdresiYaz(adresler, istek, std::span(degerler.begin(), degerler.size()));
 }
 
 } // namespace velora

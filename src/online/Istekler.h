@@ -39,5 +39,7 @@ std::span<const IstekTanimi> Istekler();
 /// the values as they stand, one for each key. Empty without a place: then nothing is asked.
 Metin IstekAdresi(const Program& program, Istek istek, std::span<const Metin> degerler);
 Metin IstekAdresi(const Program& program, Istek istek, std::initializer_list<Metin> degerler = {});
+/// The same for who has read the places already.
+Metin IstekAdresi(const Adresler& adresler, Istek istek, std::initializer_list<Metin> degerler);
 
 } // namespace velora

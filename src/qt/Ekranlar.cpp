@@ -10,8 +10,12 @@
 #include "qt/documents/SozlesmePenceresi.h"
 #include "qt/maintenance/IndirmePencereleri.h"
 #include "qt/maintenance/TatilPencereleri.h"
+#include "qt/maintenance/YedekAlPenceresi.h"
+#include "qt/online/DuyuruPencereleri.h"
 #include "qt/online/FirmaPenceresi.h"
+#include "qt/online/RezervasyonlarPenceresi.h"
 #include "qt/online/SunucuPenceresi.h"
+#include "qt/online/YayinPenceresi.h"
 #include "qt/reservation/AramaPenceresi.h"
 #include "qt/reservation/HatirlatmaPenceresi.h"
 #include "qt/reservation/KayitPenceresi.h"
@@ -64,6 +68,11 @@ void EkranlariTanit(QtOrtam& ortam, Program& program) {
     Tanit<MakbuzPenceresi>(ortam, program, EkranAdi::FormMakbuzPrint);
     Tanit<TabloPrintPenceresi>(ortam, program, EkranAdi::FormTabloPrint);
     Tanit<YeniSurumPenceresi>(ortam, program, EkranAdi::FormDownloadManager);
+    Tanit<YayinPenceresi>(ortam, program, EkranAdi::FormWebteYayinla);
+    Tanit<RezervasyonlarPenceresi>(ortam, program, EkranAdi::FormRezervasyonlar);
+    Tanit<DuyurularPenceresi>(ortam, program, EkranAdi::FormDuyurular);
+    Tanit<OneriPenceresi>(ortam, program, EkranAdi::FormOneri);
+    Tanit<YedekAlPenceresi>(ortam, program, EkranAdi::FormYedekAl);
     Tanit<SunucuPenceresi>(ortam, program, EkranAdi::FormSunucu);
     Tanit<FirmaPenceresi>(ortam, program, EkranAdi::FormFirma);
 }

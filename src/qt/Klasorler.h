@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 class QString;
 
 namespace velora {
@@ -9,5 +11,12 @@ QString AyarKlasoru();
 
 /// Where the user keeps documents.
 QString BelgeKlasoru();
+
+/// The user's own folder.
+QString EvKlasoru();
+
+/// Where backups go as long as nothing else is said: on the first drive, or in the user's own folder where a
+/// system has no drives.
+std::filesystem::path YedekKlasoru();
 
 } // namespace velora

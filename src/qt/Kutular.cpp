@@ -50,17 +50,64 @@ std::filesystem::path DosyaYolu(const QString& yol) {
 }
 
 /// The toolkit's own box on each system, in Turkish like all others.
-class KayitYeriPenceresi : public QFileDialog {
+class DosyaPenceresi : public QFileDialog {
+  protected:
+    DosyaPenceresi(QWidget* ust, const QString& baslik, const QString& klasor)
+        : QFileDialog(ust, baslik, klasor) {
+        setOption(QFileDialog::DontUseNativeDialog);
+        resize(kDosyaKutusu);
+    }
+
+    /// The captions of the program's kind; the toolkit leaves two of them without their field.
+    void Etiketle(const QString& ad, const QString& kabul) {
+        const std::pair<DialogLabel, QString> yazilar[]{{LookIn, QStringLiteral("&Klasör:")},
+                                                        {FileName, ad},
+                                                        {FileType, QStringLiteral("Dosya &türü:")},
+                                                        {Accept, kabul},
+                                                        {Reject, QStringLiteral("İ&ptal")}};
+        for (const auto& [etiket, yazi] : yazilar)
+            setLabelText(etiket, yazi);
+        for (const QString& kutu : {QStringLiteral("lookIn"), QStringLiteral("fileType")})
+            findChild<QLabel*>(kutu + QStringLiteral("Label"))
+                ->setBuddy(findChild<QComboBox*>(kutu + QStringLiteral("Combo")));
+        SutunlariDuzenle();
+    }
+
+  private:
+    void SutunlariDuzenle() {
+        constexpr int kAdSutunu = 0;
+        constexpr int kBoySutunu = 1;
+        constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
+        constexpr int kTarihSutunu = 3;
+        auto* liste = findChild<QTreeView*>(QStringLiteral("treeView"));
+        liste->hideColumn(kTurSutunu);
+        liste->header()->setSectionResizeMode(kAdSutunu, QHeaderView::Stretch);
+        for (const int sutun : {kBoySutunu, kTarihSutunu})
+            liste->header()->setSectionResizeMode(sutun, QHeaderView::ResizeToContents);
+    }
+};
+
+class KlasorPenceresi : public DosyaPenceresi {
+  public:
+    KlasorPenceresi(QWidget* ust, const QString& baslik, const QString& klasor)
+        : DosyaPenceresi(ust, baslik, klasor) {
+        setFileMode(QFileDialog::Directory);
+        setOption(QFileDialog::ShowDirsOnly);
+        Etiketle(QStringLiteral("&Dizin:"), QStringLiteral("&Seç"));
+        // Of one kind there is nothing to choose.
+        for (const char* ad : {"fileTypeLabel", "fileTypeCombo"})
+            findChild<QWidget*>(QString::fromLatin1(ad))->hide();
+    }
+};
+
+class KayitYeriPenceresi : public DosyaPenceresi {
   public:
     KayitYeriPenceresi(QWidget* ust, const KayitYeriKutusu& kutu, const QString& klasor)
-        : QFileDialog(ust, QMetin(kutu.baslik), klasor), uzanti_(QMetin(kutu.uzanti)) {
-        setOption(QFileDialog::DontUseNativeDialog);
+        : DosyaPenceresi(ust, QMetin(kutu.baslik), klasor), uzanti_(QMetin(kutu.uzanti)) {
         setAcceptMode(QFileDialog::AcceptSave);
         setFileMode(QFileDialog::AnyFile);
         setNameFilter(QMetin(kutu.tur) + QStringLiteral(" (*") + uzanti_ + u')');
-        Etiketle();
-        SutunlariDuzenle();
-        resize(kDosyaKutusu);
+        Etiketle(QStringLiteral("&Dosya adı:"), QStringLiteral("Kay&det"));
         selectFile(QMetin(kutu.ad));
     }
 
@@ -76,32 +123,6 @@ class KayitYeriPenceresi : public QFileDialog {
     }
 
   private:
-    /// The captions of the program's kind; the toolkit leaves two of them without their field.
-    void Etiketle() {
-        const std::pair<DialogLabel, QString> yazilar[]{{LookIn, QStringLiteral("&Klasör:")},
-                                                        {FileName, QStringLiteral("&Dosya adı:")},
-                                                        {FileType, QStringLiteral("Dosya &türü:")},
-                                                        {Accept, QStringLiteral("Kay&det")},
-                                                        {Reject, QStringLiteral("İ&ptal")}};
-        for (const auto& [etiket, yazi] : yazilar)
-            setLabelText(etiket, yazi);
-        for (const QString& ad : {QStringLiteral("lookIn"), QStringLiteral("fileType")})
-            findChild<QLabel*>(ad + QStringLiteral("Label"))
-                ->setBuddy(findChild<QComboBox*>(ad + QStringLiteral("Combo")));
-    }
-
-    void SutunlariDuzenle() {
-        constexpr int kAdSutunu = 0;
-        constexpr int kBoySutunu = 1;
-        constexpr int kTurSutunu = 2; // it would say "Folder" and "pdf File"
-        constexpr int kTarihSutunu = 3;
-        auto* liste = findChild<QTreeView*>(QStringLiteral("treeView"));
-        liste->hideColumn(kTurSutunu);
-        liste->header()->setSectionResizeMode(kAdSutunu, QHeaderView::Stretch);
-        for (const int sutun : {kBoySutunu, kTarihSutunu})
-            liste->header()->setSectionResizeMode(sutun, QHeaderView::ResizeToContents);
-    }
-
     QString uzanti_;
 };
 
@@ -151,6 +172,11 @@ std::optional<std::filesystem::path> KayitYeriSor(QWidget* ust, const KayitYeriK
     if (pencere.exec() != QFileDialog::Accepted)
         return std::nullopt;
     return DosyaYolu(pencere.selectedFiles().value(0));
+}
+
+QString KlasorSor(QWidget* ust, const QString& baslik, const QString& klasor) {
+    KlasorPenceresi pencere(ust, baslik, klasor);
+    return pencere.exec() == QFileDialog::Accepted ? pencere.selectedFiles().value(0) : QString();
 }
 
 } // namespace velora

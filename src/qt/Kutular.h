@@ -18,4 +18,7 @@ Metin GirdiAl(QWidget* ust, const GirdiKutusu& kutu);
 std::optional<std::filesystem::path> KayitYeriSor(QWidget* ust, const KayitYeriKutusu& kutu,
                                                   const QString& klasor);
 
+/// Asks for a folder that is there, beginning in `klasor`. Empty when it was cancelled.
+QString KlasorSor(QWidget* ust, const QString& baslik, const QString& klasor);
+
 } // namespace velora

@@ -164,10 +164,10 @@ void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isl
     const auto son = std::make_shared<SonHal>();
     connect(&kutu, &QLineEdit::textEdited, this, [this, &kutu, &model, isler, son] {
         Calistir([&] {
-            model.metin =
-                kutu.inputMask().isEmpty()
-                    ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model, son->metin), KutununKurali(model, false)))
-                    : MaskeliMetin(kutu, model, son->gorunen);
+            model.metin = kutu.inputMask().isEmpty()
+                              ? MetinYap(GirdiyiSuz(son->metin, Gelen(kutu, model, son->metin),
+                                                    KutununKurali(model, false)))
+                              : MaskeliMetin(kutu, model, son->gorunen);
             if (isler.degisti)
                 isler.degisti();
         });

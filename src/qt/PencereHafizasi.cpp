@@ -44,11 +44,16 @@ QVariantList SutunEnleri(const QTreeWidget& liste) {
     return enler;
 }
 
+/// Empty where the system has no such folder.
+QString AyarKlasorunde(const QString& ad) {
+    const QString klasor = AyarKlasoru();
+    return klasor.isEmpty() ? QString() : klasor + ad;
+}
+
 } // namespace
 
 QString PencereHafizasi::KullaniciDosyasi() {
-    const QString klasor = AyarKlasoru();
-    return klasor.isEmpty() ? QString() : klasor + QStringLiteral("/pencereler.ini");
+    return AyarKlasorunde(QStringLiteral("/pencereler.ini"));
 }
 
 void PencereHafizasi::Yerlestir(QWidget& pencere, const QString& ad) const {
@@ -78,6 +83,15 @@ void PencereHafizasi::Sakla(const QWidget& pencere, const QString& ad) const {
     dosya.setValue(kBuyuk, pencere.isMaximized());
     for (const auto* liste : pencere.findChildren<QTreeWidget*>())
         dosya.setValue(SutunAnahtari(*liste), SutunEnleri(*liste));
+}
+
+QString AyarDosyasi::KullaniciDosyasi() {
+    return AyarKlasorunde(QStringLiteral("/ayarlar.ini"));
+}
+
+void AyarDosyasi::Yaz(const QString& bolum, const QString& anahtar, const QString& deger) const {
+    if (!dosya_.isEmpty())
+        QSettings(dosya_, QSettings::IniFormat).setValue(bolum + u'/' + anahtar, deger);
 }
 
 } // namespace velora

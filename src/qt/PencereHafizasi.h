@@ -28,4 +28,20 @@ class PencereHafizasi {
     QString dosya_;
 };
 
+/// The program's own settings of a user, in a small file beside that one. It is only written: nobody reads it
+/// back.
+class AyarDosyasi {
+  public:
+    /// An empty path keeps nothing.
+    explicit AyarDosyasi(QString dosya = {}) : dosya_(std::move(dosya)) {}
+
+    /// The file in the user's folder of settings.
+    static QString KullaniciDosyasi();
+
+    void Yaz(const QString& bolum, const QString& anahtar, const QString& deger) const;
+
+  private:
+    QString dosya_;
+};
+
 } // namespace velora

@@ -4,6 +4,7 @@
 #include <atomic>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QEventLoop>
 #include <QTimer>
@@ -59,6 +60,16 @@ void OlaylariIsle() {
         QCoreApplication::processEvents();
 }
 
+/// Seldom enough to cost little, often enough for windows that are alive.
+void AdimdaIsle() {
+    constexpr int kArada = 10; // milliseconds between the end of one and the next
+    static QElapsedTimer sonuncudan;
+    if (sonuncudan.isValid() && !sonuncudan.hasExpired(kArada))
+        return;
+    OlaylariIsle();
+    sonuncudan.start();
+}
+
 } // namespace
 
 void QtOrtam::SonraSil::operator()(QWidget* pencere) const {
@@ -78,11 +89,18 @@ Ortam QtOrtam::Ver() {
         return bitti_ ? Metin() : Kutuda(GirdiAl, Ondeki(), kutu);
     };
     ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeri(kutu); };
+    ortam.sor.klasor = [this](const Metin& baslik) { return KlasorSec(baslik); };
     ortam.goster.ac = [this](EkranAdi ekran, const auto& gorununce) { Ac(ekran, gorununce); };
     ortam.goster.modal = [this](EkranAdi ekran, const auto& gorununce) { Modal(ekran, gorununce); };
     ortam.goster.gizle = [this](EkranAdi ekran) { Gizle(ekran); };
     ortam.zaman.simdi = MakineSaati;
     ortam.olaylar.isle = OlaylariIsle;
+    ortam.olaylar.adimda = AdimdaIsle;
+    ortam.olaylar.bitti = [this] { return bitti_; };
+    ortam.klasorler.yedek = YedekKlasoru;
+    ortam.ayarlar.yaz = [this](MetinBakis bolum, MetinBakis anahtar, const Metin& deger) {
+        ayarlar_.Yaz(QMetin(bolum), QMetin(anahtar), QMetin(deger));
+    };
     ortam.kabuk.dosyaAc = DosyaAc;
     ortam.kabuk.adresAc = AdresAc;
     ortam.kabuk.calistir = ProgramCalistir;
@@ -232,6 +250,19 @@ std::optional<std::filesystem::path> QtOrtam::KayitYeri(const KayitYeriKutusu& k
     if (yol)
         kayitKlasoru_ = QString::fromStdU16String(yol->parent_path().u16string());
     return yol;
+}
+
+Metin QtOrtam::KlasorSec(const Metin& baslik) {
+    if (bitti_)
+        return {};
+    const auto sor = [this](QWidget* pencere, const Metin& sorulan) {
+        return KlasorSor(pencere, QMetin(sorulan), secilenKlasor_.isEmpty() ? EvKlasoru() : secilenKlasor_);
+    };
+    const QString secilen = Kutuda(sor, Ondeki(), baslik);
+    if (secilen.isEmpty())
+        return {};
+    secilenKlasor_ = secilen;
+    return YolMetni(std::filesystem::path(secilen.toStdU16String()).make_preferred());
 }
 
 bool QtOrtam::Arkada(Isci& isci, const std::function<bool(const Vazgecildi&)>& is) const {

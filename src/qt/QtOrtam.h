@@ -36,6 +36,9 @@ class QtOrtam {
     /// Where windows are remembered; before the first is shown. Without it none is.
     void HafizaVer(PencereHafizasi hafiza) { hafiza_ = std::move(hafiza); }
 
+    /// Where the program's own settings are kept; before a screen is used. Without it they are not.
+    void AyarlarVer(AyarDosyasi ayarlar) { ayarlar_ = std::move(ayarlar); }
+
     /// How long a handler waits for the printer or the disk before it goes on as if they had failed.
     void SabirVer(std::chrono::milliseconds sabir) { sabir_ = sabir; }
 
@@ -64,6 +67,7 @@ class QtOrtam {
     void Sakla(EkranAdi ekran) const;
     void OdakVer(EkranAdi ekran, MetinBakis kontrol) const;
     std::optional<std::filesystem::path> KayitYeri(const KayitYeriKutusu& kutu);
+    Metin KlasorSec(const Metin& baslik);
     /// Waits for a job of another thread; events run meanwhile.
     bool Arkada(Isci& isci, const std::function<bool(const Vazgecildi&)>& is) const;
     void Bitir();
@@ -72,7 +76,9 @@ class QtOrtam {
     std::map<EkranAdi, std::unique_ptr<QWidget, SonraSil>> pencereler_;
     std::vector<QPointer<QWidget>> gosterilenler_; // in their order; some have gone
     PencereHafizasi hafiza_;
-    QString kayitKlasoru_; // where a file was saved last
+    AyarDosyasi ayarlar_;
+    QString kayitKlasoru_;  // where a file was saved last
+    QString secilenKlasor_; // the folder that was chosen last
     std::chrono::milliseconds sabir_{20'000};
     Isci basimIscisi_; // a print system that hangs keeps no file waiting
     Isci dosyaIscisi_;

@@ -34,9 +34,12 @@
     X(FormPrint2, Penceresiz)                                                                                \
     X(FormMakbuzPrint, Pencereli)                                                                            \
     X(FormTabloPrint, Pencereli)                                                                             \
-    X(FormWebteYayinla, Penceresiz)                                                                          \
+    X(FormWebteYayinla, Pencereli)                                                                           \
+    X(FormRezervasyonlar, Pencereli)                                                                         \
+    X(FormDuyurular, Pencereli)                                                                              \
+    X(FormOneri, Pencereli)                                                                                  \
     X(FormDownloadManager, Pencereli)                                                                        \
-    X(FormYedekAl, Penceresiz)                                                                               \
+    X(FormYedekAl, Pencereli)                                                                                \
     X(FormIpMac, Penceresiz)                                                                                 \
     X(FormSunucu, Pencereli)                                                                                 \
     X(FormFirma, Pencereli)

@@ -300,6 +300,7 @@ struct Zamanlayici {
     int aralik = 0;            ///< milliseconds; 0 stops it
     std::function<void()> tik; ///< the screen's handler, set by the screen
     bool sakin = false; ///< it is due only while no other handler runs: what its own waits for holds up none
+    bool beklerken = false; ///< with `sakin`: due also while the running handler waits for the user
 
     /// Runs the handler, unless it is running already or the timer has been stopped: a due tick waits.
     void Calis();

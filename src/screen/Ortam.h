@@ -76,6 +76,10 @@ struct Aktarim {
     std::function<void()> iptal = [] {};
 };
 
+/// Waits for a change in a folder that is watched, so long at most. True: something has changed since it was
+/// last true. The watch ends with the last copy of it.
+using DegisiklikBekle = std::function<bool(std::chrono::milliseconds)>;
+
 /// The six bytes that a network adapter is known by.
 using DonanimAdresi = std::array<std::uint8_t, 6>;
 
@@ -90,6 +94,9 @@ struct Ortam {
         /// The path of a file that may be written; one that is there already the user has given up. None
         /// when it was cancelled.
         std::function<std::optional<std::filesystem::path>(const KayitYeriKutusu&)> kayitYeri;
+        /// The path of a folder that is there, in the system's form; `baslik` is of the box. Empty when it
+        /// was cancelled.
+        std::function<Metin(const Metin& baslik)> klasor = [](const Metin&) { return Metin(); };
     } sor;
 
     struct Goster {
@@ -109,8 +116,13 @@ struct Ortam {
     struct Olaylar {
         /// Lets pending events run: painting, timers and clicks arrive here, inside the caller.
         std::function<void()> isle;
+        /// The same behind each of many small steps: what lets events run at most every few milliseconds is
+        /// soon enough for a user, and costs little beside the steps.
+        std::function<void()> adimda = [] {};
         /// Ends the program, with all its screens.
         std::function<void()> bitir;
+        /// The program has been told to end: what is long stops where it is.
+        std::function<bool()> bitti = [] { return false; };
     } olaylar;
 
     struct Kopya {
@@ -150,6 +162,21 @@ struct Ortam {
         /// Gives the keyboard focus to a control of a screen, by its name.
         std::function<void(EkranAdi, MetinBakis kontrol)> ver;
     } odak;
+
+    struct Klasorler {
+        /// Where backups go as long as the user says nothing else.
+        std::function<std::filesystem::path()> yedek = [] { return std::filesystem::path(); };
+        /// Begins to watch a folder. Where it can't be watched there is nothing to wait with.
+        std::function<DegisiklikBekle(const std::filesystem::path&)> izle = [](const auto&) {
+            return DegisiklikBekle();
+        };
+    } klasorler;
+
+    struct Ayarlar {
+        /// Keeps a value of the program's own settings for this user, never in the data tree.
+        std::function<void(MetinBakis bolum, MetinBakis anahtar, const Metin& deger)> yaz =
+            [](MetinBakis, MetinBakis, const Metin&) {};
+    } ayarlar;
 
     /// Without one put in here there is no network.
     struct Ag {

@@ -60,6 +60,8 @@ inline constexpr MetinBakis kYeniSurumDosyasi = u"VeloraYeni.exe"; ///< a new ve
 inline constexpr MetinBakis kGuncelleyici = u"Update.exe";         ///< puts it in the place of the old one
 inline constexpr MetinBakis kRaporDosyasi = u"Rapor.xls";          ///< the last report given to a spreadsheet
 inline constexpr MetinBakis kSunucuDosyasi = u"Sunucu.dat";        ///< the firm's key at the service
+inline constexpr MetinBakis kIstekDosyasi = u"RezTemp.dat";        ///< requests that wait at the service
+inline constexpr MetinBakis kYedekDosyasi = u"BackupSetting.dat";  ///< where backups go
 /// In a year folder: the expenses of that hall and year.
 inline constexpr MetinBakis kGiderDosyasi = u"Gider.dat";
 

@@ -28,7 +28,7 @@ constexpr int kDuyuruTiki = 3; // `Saatsay` starts the check at the tick that fi
 
 FormTablo::FormTablo(Program& program)
     : UserNamem(program.oturum.UserNamem), TutarDegistir(program.oturum.TutarDegistir),
-      StatusBar1(program.oturum.StatusBar1), program_(program) {
+      StatusBar1(program.oturum.StatusBar1), Inet1(program), program_(program) {
     for (const KomutTanimi& komut : Komutlar())
         Girdi(komut.komut).baslik = komut.baslik;
     for (const KomutTanimi& komut : Komutlar())
@@ -54,8 +54,13 @@ FormTablo::FormTablo(Program& program)
     OzelHatirlatTimer.tik = [this] { OzelHatirlatTimer_Tick(); };
     Saatsay.tik = [this] { Saatsay_Tick(); };
     DuyuruKontrol.tik = [this] { DuyuruKontrol_Tick(); };
+    DuyuruKontrol.sakin = true;
+    YeniRezTimer.tik = [this] { YeniRezTimer_Tick(); };
+    YeniDuyuruTimer.tik = [this] { YeniDuyuruTimer_Tick(); };
     InternetTimer.tik = [this] { InternetTimer_Tick(); };
     InternetTimer.sakin = true;
+    YayinTimer.tik = [this] { YayinTimer_Tick(); };
+    YayinTimer.sakin = YayinTimer.beklerken = true;
 }
 
 void FormTablo::Load() {
@@ -213,10 +218,6 @@ std::array<Metin, 2> FormTablo::TarihVeSaat() const {
 
 void FormTablo::SaatiYaz() {
     StatusBar1Saati = TarihVeSaat();
-}
-
-void FormTablo::DuyuruKontrol_Tick() {
-    DuyuruKontrol.aralik = 0;
 }
 
 } // namespace velora

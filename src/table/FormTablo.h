@@ -1,10 +1,13 @@
 #pragma once
 
 #include <array>
+#include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "screen/Inet.h"
 #include "screen/Kontroller.h"
 #include "screen/TabloSatirlari.h"
 #include "storage/VeriAgaci.h"
@@ -18,6 +21,8 @@ class YilOkumasi;
 struct AnaDegerler;
 struct HatirlatmaDegerleri;
 struct FormTabloPrint;
+struct Yayin;
+class YayinKosusu;
 
 /// The mark of a head picked for the ruler: red 255, green 128, blue 0. It stands in no setting.
 inline constexpr RenkDegeri kBaslikIsareti = 33023;
@@ -61,6 +66,16 @@ struct Cerceve {
     int gun = 0; ///< and its number
 };
 
+/// A mark over the table for what waits at the service: off until it blinks for the first time.
+struct OnlineIsareti {
+    Metin baslik;        ///< what it is called
+    Metin ipucu;         ///< what it says while it is on
+    bool etkin = false;  ///< it can be clicked
+    bool renkli = false; ///< which of its two pictures it shows: the plain one, or the coloured one
+
+    void YanSon(); ///< a tick: it is on, and shows the other picture
+};
+
 /// The main screen: for the hall selected in `Salon` and the year selected in `Sene`, a table of twelve
 /// months with two rows each and 31 day columns. The cells are the working memory of the screen. All lengths
 /// are twips.
@@ -92,6 +107,10 @@ struct FormTablo {
 
     /// The bell: lists what it rings for, over the table. With nothing due any more nothing is shown.
     void Image3_Click();
+
+    // --- what waits at the service (OnlineIsaretler.cpp) ---
+    void YeniRezervasyonVar_Click();
+    void YeniDuyuru_Click(); ///< stops the blinking
 
     // --- the commands (Komutlar.h) ---
     /// Shows another screen of the program over the table: all that many commands do.
@@ -125,7 +144,8 @@ struct FormTablo {
     void Command5(); ///< "Resmi Tatiller"
     void Command6(); ///< "Bugün": is one of today's slots taken?
     void Command7(); ///< "Otomatik Yayin": publishes again what is published already, and else nothing
-    /// Shows the screen that sends the table of the selected hall and year to the service. Offline: nothing.
+    /// Sends the table of the selected hall and year, as it is now, to the service, on a screen over the
+    /// others (Yayin.cpp). Offline: nothing. Asked while another one goes out, it goes out behind that.
     void Yayinla();
     /// What follows a change of the reservations: the scan, today's frame, the publish. `once` runs before
     /// each.
@@ -143,8 +163,13 @@ struct FormTablo {
     void GunTimer_Tick();
     void Saatsay_Tick();
     void OzelHatirlatTimer_Tick(); ///< the other picture of the bell
+    /// Asks the service once whether it has an announcement and which requests wait; these go into
+    /// `RezTemp.dat`. No answer reads as none of either.
     void DuyuruKontrol_Tick();
+    void YeniRezTimer_Tick();
+    void YeniDuyuruTimer_Tick();
     void InternetTimer_Tick(); ///< asks once more whether the service is there
+    void YayinTimer_Tick();    ///< the next request of a publish whose screen was closed
     /// Date and time of the status bar, by the clock.
     void SaatiYaz();
 
@@ -185,12 +210,18 @@ struct FormTablo {
     Metin image3Ipucu = u"Bu Tarihte Hatırlatma Var";
     bool Image3a = true;                         ///< which of its two pictures the bell shows; they alternate
     Metin image3aIpucu = u"Özel Hatırlatma Var"; ///< what it is called for those who can't see it
+    OnlineIsareti YeniRezervasyonVar{u"Online Rezervasyonlar", u"Yeni online rezervasyon var"};
+    OnlineIsareti YeniDuyuru{u"Duyurular", u"Yeni duyuru var"};
     Zamanlayici CetvelTimer;
     Zamanlayici GunTimer;
     Zamanlayici OzelHatirlatTimer;
     Zamanlayici Saatsay;
     Zamanlayici DuyuruKontrol;
     Zamanlayici InternetTimer;
+    Zamanlayici YayinTimer;
+    Zamanlayici YeniRezTimer;
+    Zamanlayici YeniDuyuruTimer;
+    Inet Inet1;
 
     MenuGirdisi& Girdi(Komut komut) { return komutlar[static_cast<std::size_t>(komut)]; }
     Hucre& Gozu(int ay, velora::GunduzGece dilim, int gun) { return Gozu(Satir(ay, dilim), gun); }
@@ -210,6 +241,8 @@ struct FormTablo {
     Metin GozAdi(SatirAdi satir, int gun) const;
     /// The state that the back colour of a cell shows; none for a colour of no state.
     std::optional<GozDurumu> Durumu(SatirAdi satir, int gun) const;
+    /// True when a cell has one of the colours of a reservation.
+    bool DoluRenkte(SatirAdi satir, int gun) const;
     /// True when the year in `Sene` is the year of today.
     bool BuYil() const;
 
@@ -232,7 +265,7 @@ struct FormTablo {
     void BasligiSec(BirTabanli<Etiket, Adet>& basliklar, int no, int& hizli);
     void GecmisBoya(int ay, int ilkGun, int sonGun);
     bool BosRenkte(SatirAdi satir, int gun) const;
-    bool DoluRenkte(SatirAdi satir, int gun) const;
+    void IstekleriAl(MetinBakis cevap);
     std::array<Metin, 2> TarihVeSaat() const;
     void BaskiyaKopyala(FormTabloPrint& baski) const;
     void BaskiMetinleriniKoy(FormTabloPrint& baski) const;
@@ -240,12 +273,16 @@ struct FormTablo {
     Metin GozTarihi(SatirAdi satir, int gun) const;
     void RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi);
     void IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep);
+    Yayin YayinaKopyala() const;
+    void YayinlariGoster();
 
     Program& program_;
     double icGenislik_ = 0;
     double icYukseklik_ = 0;
     bool gunduzUstte_ = false; // as the settings said when the screen was loaded
     bool yerlesti_ = false;
+    std::deque<std::shared_ptr<YayinKosusu>> yayinlar_; // that go out or wait, in their order
+    bool yayinda_ = false;                              // somebody sends them
 };
 
 } // namespace velora

@@ -7,8 +7,11 @@
 #include "accounts/FormKasa.h"
 #include "documents/FormSozlesme.h"
 #include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/Adresler.h"
+#include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
+#include "online/FormOneri.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormArama.h"
 #include "screen/Program.h"
@@ -87,7 +90,11 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::EkranAc<&P::FormAyarlar>,
      u"F7",
      {13, u" Ayarlar ", u"Program Ayarları (F7)", u"ayarlar"}},
+    {Komut::aline10, u"aline10", Menu::ayarsd, u"-"},
+    {Komut::Yedeksss, u"Yedeksss", Menu::ayarsd, u"Yedek Al / Geri Yükle", &T::EkranAc<&P::FormYedekAl>},
     {Komut::Yardimssa, u"Yardimssa", Menu::Yardimss, u"Yardım Konuları", &T::Yardimssa_Click, u"F1"},
+    {Komut::oneriii, u"oneriii", Menu::Yardimss, u"Öneri ve İstekleriniz", &T::EkranAc<&P::FormOneri>},
+    {Komut::duyurularsss, u"duyurularsss", Menu::Yardimss, u"Duyurular", &T::EkranAc<&P::FormDuyurular>},
     {Komut::Phakss, u"Phakss", Menu::Yardimss, u"Program Hakkında", &T::EkranAc<&P::FormHakkinda>,
      u"Ctrl+F1"},
     {Komut::UyariGoster,
@@ -97,6 +104,13 @@ constexpr std::array<KomutTanimi, kKomutSayisi> kKomutlar{{
      &T::UyariGoster,
      u"",
      {9, u" Uyarılar", u"Yaklaşan Rezervasyonlar", u"uyarilar"}},
+    {Komut::Yayinla,
+     u"Yayinla",
+     Menu::Yok,
+     u"Web'te Yayınla",
+     &T::Yayinla,
+     u"",
+     {11, u"Yayınla", u"Web'te Yayınla (F12)", u"yayinla"}},
     {Komut::newkay, u"newkay", Menu::Sagtus, u"Yeni Organizasyon Oluştur", &T::newkay_Click},
     {Komut::aline11, u"aline11", Menu::Sagtus, u"-"},
     {Komut::TasimaModuAc, u"TasimaModuAc", Menu::Sagtus, u"Taşıma Modunu Aç", &T::TasimaModuAc_Click},

@@ -43,6 +43,9 @@ std::string Tarif(const BeklenenAktarim& aktarim) {
 std::string Tarif(const BeklenenKayitYeri& yer) {
     return "the place to save " + Tirnakli(yer.ad);
 }
+std::string Tarif(const BeklenenKlasor& klasor) {
+    return "the folder " + Tirnakli(klasor.baslik);
+}
 
 } // namespace
 
@@ -59,6 +62,7 @@ Ortam SahteOrtam::Ver() {
     ortam.sor.mesaj = [this](const MesajKutusu& kutu) { return MesajSor(kutu); };
     ortam.sor.girdi = [this](const GirdiKutusu& kutu) { return GirdiSor(kutu); };
     ortam.sor.kayitYeri = [this](const KayitYeriKutusu& kutu) { return KayitYeriSor(kutu); };
+    ortam.sor.klasor = [this](const Metin& baslik) { return KlasorSor(baslik); };
     ortam.goster.ac = [this](EkranAdi ad, const std::function<void()>& gorununce) {
         acilanlar.push_back(ad);
         if (acilinca)
@@ -75,6 +79,13 @@ Ortam SahteOrtam::Ver() {
         // A copy: what runs may take itself out.
         if (const auto is = olayda)
             is(olaySayisi);
+    };
+    ortam.olaylar.adimda = ortam.olaylar.isle;
+    ortam.olaylar.bitti = [this] { return bitti; };
+    ortam.klasorler.yedek = [this] { return yedekKlasoru; };
+    ortam.klasorler.izle = [this](const std::filesystem::path& klasor) { return Izle(klasor); };
+    ortam.ayarlar.yaz = [this](MetinBakis bolum, MetinBakis anahtar, const Metin& deger) {
+        ayarlar.push_back({Metin(bolum), Metin(anahtar), deger});
     };
     ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
         acilanDosyalar.push_back(yol);
@@ -229,6 +240,23 @@ std::optional<std::filesystem::path> SahteOrtam::KayitYeriSor(const KayitYeriKut
     EXPECT_EQ(Tirnakli(kutu.ad), Tirnakli(beklenen->ad));
     pdfSirasinda_ = beklenen->is;
     return beklenen->secilen;
+}
+
+Metin SahteOrtam::KlasorSor(const Metin& baslik) {
+    const auto beklenen = SiradanAl<BeklenenKlasor>("the folder " + Tirnakli(baslik));
+    if (!beklenen)
+        return {};
+    EXPECT_EQ(Tirnakli(baslik), Tirnakli(beklenen->baslik));
+    return beklenen->secilen;
+}
+
+DegisiklikBekle SahteOrtam::Izle(const std::filesystem::path& klasor) {
+    if (!izlenir)
+        return {};
+    izlenen = klasor;
+    // Ends with the last copy of what waits.
+    const std::shared_ptr<void> izleme(nullptr, [this](void*) { izlenen.clear(); });
+    return [this, izleme](std::chrono::milliseconds) { return std::exchange(klasorDegisti, false); };
 }
 
 bool SahteOrtam::PdfYaz(const std::vector<Sayfa>& sayfalar, const Metin& isAdi,

@@ -49,6 +49,21 @@ struct BeklenenKayitYeri {
     std::function<void()> is = {}; ///< what happens while the file is written
 };
 
+/// The folder that is asked for next, and what the user chooses; empty is a cancel.
+struct BeklenenKlasor {
+    Metin baslik; ///< of the box
+    Metin secilen = {};
+};
+
+/// A value that was kept in the program's own settings.
+struct SaklananAyar {
+    Metin bolum;
+    Metin anahtar;
+    Metin deger;
+
+    bool operator==(const SaklananAyar&) const = default;
+};
+
 /// Pages that went to paper or into a file.
 struct GidenSayfalar {
     Metin isAdi;
@@ -96,6 +111,7 @@ class SahteOrtam {
     void Bekle(BeklenenAktarim aktarim) { SirayaKoy(std::move(aktarim)); }
     void Bekle(BeklenenBaski baski) { SirayaKoy(std::move(baski)); }
     void Bekle(BeklenenKayitYeri yer) { SirayaKoy(std::move(yer)); }
+    void Bekle(BeklenenKlasor klasor) { SirayaKoy(std::move(klasor)); }
 
     /// Runs when a screen is shown beside the others.
     std::function<void(EkranAdi)> acilinca;
@@ -122,13 +138,18 @@ class SahteOrtam {
     int birakilanAktarim = 0;                          ///< how often one was given up, also behind its end
     std::vector<std::filesystem::path> calisanlar;     ///< programs that were to be started
     bool calisir = true;                               ///< the system can start them
+    std::filesystem::path yedekKlasoru = "yedekler";   ///< where backups go as long as nothing else is said
+    std::vector<SaklananAyar> ayarlar;                 ///< kept, in their order
+    std::filesystem::path izlenen;                     ///< the folder that is watched; empty: none
+    bool klasorDegisti = false;                        ///< what the next wait for a change finds
+    bool izlenir = true;                               ///< folders can be watched
     bool baglanti = true;                              ///< the machine has a connection
     bool baskaKopya = false;                           ///< another copy of the program runs
     std::optional<DonanimAdresi> donanim = DonanimAdresi{0x00, 0x1B, 0xC4, 0x0D, 0xE0, 0x9F};
 
   private:
     using Beklenen = std::variant<BeklenenKutu, BeklenenGirdi, BeklenenEkran, BeklenenIstek, BeklenenBaski,
-                                  BeklenenKayitYeri, BeklenenAktarim>;
+                                  BeklenenKayitYeri, BeklenenKlasor, BeklenenAktarim>;
 
     void SirayaKoy(Beklenen beklenen);
     /// Takes the next expected one. None when nothing was expected, or another kind: that fails the test.
@@ -141,6 +162,8 @@ class SahteOrtam {
     Aktarim AktarimAc(const AktarimIstegi& istek);
     bool Yazdir(const std::vector<Sayfa>& sayfalar, const Metin& isAdi);
     std::optional<std::filesystem::path> KayitYeriSor(const KayitYeriKutusu& kutu);
+    Metin KlasorSor(const Metin& baslik);
+    DegisiklikBekle Izle(const std::filesystem::path& klasor);
     bool PdfYaz(const std::vector<Sayfa>& sayfalar, const Metin& isAdi, const std::filesystem::path& dosya);
     /// Runs what is done on a screen, during a request or in a fetch: what it expects comes next.
     void Icinde(const std::function<void()>& is);

@@ -11,8 +11,10 @@
 #include "destek/SahteOrtam.h"
 #include "documents/FormSozlesme.h"
 #include "maintenance/FormResmiTatil.h"
+#include "maintenance/FormYedekAl.h"
 #include "online/Adresler.h"
 #include "online/FormFirma.h"
+#include "online/FormRezervasyonlar.h"
 #include "online/FormSunucu.h"
 #include "reservation/FormKayit.h"
 #include "screen/Program.h"
@@ -79,7 +81,7 @@ class DosyalarSayfasi : public ::testing::Test {
 };
 
 TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_fields) {
-    EXPECT_EQ(bolumler.size(), 15U);
+    EXPECT_EQ(bolumler.size(), 16U);
     for (const auto& [ad, bolum] : bolumler) {
         DegerOkuyucu okuyucu(bolum.ornek);
         EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
@@ -110,7 +112,7 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {
 }
 
 TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_service) {
-    for (const char16_t* ad : {u"Firma.dll", u"Sunucu.dat", u"Adresler.dat"})
+    for (const char16_t* ad : {u"Firma.dll", u"Sunucu.dat", u"Adresler.dat", u"RezTemp.dat"})
         agac.Koy(ad, bolumler[std::filesystem::path(ad).string()].ornek);
     EXPECT_EQ(program.FormFirma->t1.metin, u"Gül Düğün Salonları");
     EXPECT_EQ(program.FormFirma->t9.metin, u"Termal");
@@ -118,6 +120,9 @@ TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_service) {
     EXPECT_EQ(program.FormSunucu->Check1.deger, 1);
     EXPECT_EQ(AdresleriOku(program).servis, u"https://servis.ornek.test/velora");
     EXPECT_EQ(AdresleriOku(program).satir, u"Velora - www.ornek.test");
+    program.FormRezervasyonlar->Activate();
+    ASSERT_EQ(program.FormRezervasyonlar->Liste.satirlar.size(), 1U);
+    EXPECT_EQ(program.FormRezervasyonlar->Liste.satirlar[0].sutun[9], u"Düğün");
 }
 
 TEST_F(DosyalarSayfasi, The_start_finds_the_examples_of_its_three_files_whole) {
@@ -146,6 +151,14 @@ TEST_F(DosyalarSayfasi, Readers_of_a_reservation_read_its_three_examples) {
         << "38 lines and the line break within the menu";
     ASSERT_EQ(odemeler.size(), 1U);
     EXPECT_EQ(odemeler[0].aciklama, u"17 - Ayşe Yılmaz");
+}
+
+TEST_F(DosyalarSayfasi, A_backup_writes_the_example_of_its_target) {
+    program.FormYedekAl->txtDestination.metin = u"E:\\VRYedek";
+    program.FormYedekAl->txtSource.metin.clear(); // it goes no further
+    ortam.Bekle(BeklenenKutu{u"Velora", u"Lütfen dizin seçiniz!"});
+    program.FormYedekAl->cmdStart_Click();
+    EXPECT_EQ(agac.Bayt(u"BackupSetting.dat"), bolumler["BackupSetting.dat"].ornek);
 }
 
 TEST_F(DosyalarSayfasi, The_list_of_expenses_reads_their_example) {

@@ -33,6 +33,8 @@ struct SusanServis : GuiFirma {
         AgiBagla(program.ortam);
         BeklerkenGoster(program.ortam);
         program.Splash->Check1 = 1;
+        // It asks by itself, some seconds on, and is no part of this.
+        program.FormTablo->DuyuruKontrol.tik = [] {};
     }
 
     /// Runs the program as it runs for its user, until it is told to end: first `is`, then, while the request

@@ -67,6 +67,9 @@ void Doldur(Program& program, EkranAdi ekran) {
     } else if (ekran == EkranAdi::FormOzelHatirlatma) {
         program.FormOzelHatirlatma->Liste.secili = 0;
         program.FormOzelHatirlatma->Liste_ItemClick();
+    } else if (ekran == EkranAdi::FormRezervasyonlar) {
+        program.FormRezervasyonlar->Liste.secili = 1;
+        program.FormRezervasyonlar->Liste_Click();
     } else if (ekran == EkranAdi::FormSifre) {
         program.FormSifre->Text2.metin = u"c9";
     } else if (ekran == EkranAdi::FormSifreDegistir) {

@@ -142,6 +142,12 @@ void TuslariAyriOlmali(const QWidget& pencere) {
         TussuzOlabilmeli(pencere, yazi, tuslar);
 }
 
+/// A window that stands on what closes it. That has the letter that it has everywhere.
+bool KapatmadaDurur(const Diyalog& diyalog) {
+    return diyalog.ekran == EkranAdi::FormWebteYayinla || diyalog.ekran == EkranAdi::FormDuyurular ||
+           diyalog.ekran == EkranAdi::FormRezervasyonlar;
+}
+
 /// Presses Alt and a letter in the window that has the focus.
 void AltIle(Qt::Key tus) {
     QTest::keyClick(QApplication::focusWidget(), tus, Qt::AltModifier);
@@ -179,7 +185,7 @@ class DiyalogKlavyesiTest : public QObject {
         firma.Ac();
         for (const Diyalog& diyalog : kDiyaloglar)
             Diyalogda(firma, diyalog, [&](QDialog& pencere) {
-                QVERIFY(Yazilar(pencere).size() >= (diyalog.iptal == nullptr ? 1 : 2));
+                QVERIFY(Yazilar(pencere).size() >= (diyalog.iptal == nullptr || KapatmadaDurur(diyalog) ? 1 : 2));
                 for (int i = 0; i < SayfaSayisi(pencere); ++i) {
                     SayfayaGec(pencere, i);
                     TuslariAyriOlmali(pencere);
@@ -222,8 +228,9 @@ class DiyalogKlavyesiTest : public QObject {
                         kaydedenler += yazi == QStringLiteral("&Kaydet") ? 1 : 0;
                     }
                 });
-        // The record once; the settings, the holidays, the expenses, the contract and the firm's profile twice.
-        QCOMPARE(kaydedenler, 11);
+        // The record once; the settings, the holidays, the expenses, the contract, the firm's profile and the
+        // requests twice.
+        QCOMPARE(kaydedenler, 13);
     }
 
     void the_button_of_enter_has_its_first_letter() {
@@ -232,7 +239,8 @@ class DiyalogKlavyesiTest : public QObject {
         for (const Diyalog& diyalog : kDiyaloglar)
             Diyalogda(firma, diyalog, [&](QDialog& pencere) {
                 const QString yazi = Parcasi<QPushButton>(pencere, diyalog.dolu).text();
-                QVERIFY2(yazi.startsWith(u'&'), qPrintable(yazi));
+                QVERIFY2(KapatmadaDurur(diyalog) ? yazi.contains(u'&') : yazi.startsWith(u'&'),
+                         qPrintable(yazi));
             });
     }
 

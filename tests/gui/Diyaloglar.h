@@ -17,8 +17,13 @@
 #include "maintenance/FormResmiTatil.h"
 #include "maintenance/FormResmiTatilEkle.h"
 #include "maintenance/FormResmiTatilYukle.h"
+#include "maintenance/FormYedekAl.h"
+#include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
+#include "online/FormOneri.h"
+#include "online/FormRezervasyonlar.h"
 #include "online/FormSunucu.h"
+#include "online/FormWebteYayinla.h"
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
@@ -80,6 +85,22 @@ void BosSitedenAc(Program& program) {
         return aktarim;
     };
     (program.*Ekran).GosterModal();
+}
+
+/// With requests that wait.
+inline void IsteklerAc(Program& program) {
+    program.dosyalar.Yaz(
+        program.agac.KokYolu(kIstekDosyasi),
+        "\"41\",\"Can\",\"1\",\"2\",\"3\",\"x\",\"23.06.2026\",\"19:30\",\"Gece\",\"Kokteyl\"\r\n"
+        "\"42\",\"Ece\",\"4\",\"5\",\"6\",\"y\",\"24.06.2026\",\"20:30\",\"Gece\",\"Kokteyl\"\r\n");
+    program.FormRezervasyonlar.GosterModal();
+}
+
+/// With a message, which lets it be sent.
+inline void DoluOneriAc(Program& program) {
+    program.FormOneri->Aciklama.metin = u"a";
+    program.FormOneri->Aciklama_Change();
+    program.FormOneri.GosterModal();
 }
 
 /// Filled from the table.
@@ -228,6 +249,15 @@ inline constexpr Diyalog kDiyaloglar[]{
      "Command",
      nullptr,
      {"Command"}},
+    {EkranAdi::FormWebteYayinla, EkraniAc<&Program::FormWebteYayinla>, "Command1", "Command1", {"Command1"}},
+    {EkranAdi::FormRezervasyonlar, IsteklerAc, "Command1", "Command1", {"Command1 Liste Kaydet"}},
+    {EkranAdi::FormDuyurular, EkraniAc<&Program::FormDuyurular>, "Command1", "Command1", {"Command1 Text1"}},
+    {EkranAdi::FormOneri, DoluOneriAc, "Command1", "Command2", {"Aciklama Command1 Command2"}},
+    {EkranAdi::FormYedekAl,
+     EkraniAc<&Program::FormYedekAl>,
+     "cmdStart",
+     "Command3",
+     {"txtSource Command1 txtDestination Command2 cmdStart Command3"}},
     {EkranAdi::FormSunucu,
      EkraniAc<&Program::FormSunucu>,
      "Command1",

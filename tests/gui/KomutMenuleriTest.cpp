@@ -147,13 +147,15 @@ class KomutMenuleriTest : public QObject {
             QVERIFY2(Boyali(girdi->icon()), qPrintable(girdi->text()));
         }
         QCOMPARE(adlar, (QStringList{"Ara", "-", "Rapor", "-", "Kasa", "-", QStringLiteral("Yazdır"), "-",
-                                     QStringLiteral(" Uyarılar"), "-", " Ayarlar ", "-"}));
-        QCOMPARE(ipuclari,
-                 (QStringList{QStringLiteral("Kayıt Ara (F2)"), "Rezervasyon Raporu (F3)", "Kasa Raporu (F4)",
-                              "Rezervasyon Tablosu (F5)", QStringLiteral("Yaklaşan Rezervasyonlar"),
-                              QStringLiteral("Program Ayarları (F7)")}));
-        QCOMPARE(serit.actions()[10]->objectName(), QStringLiteral("Toolbar1_13"));
-        QCOMPARE(serit.actions()[11]->objectName(), QStringLiteral("Toolbar1_14"));
+                                     QStringLiteral(" Uyarılar"), "-", QStringLiteral("Yayınla"), "-",
+                                     " Ayarlar ", "-"}));
+        QCOMPARE(
+            ipuclari,
+            (QStringList{QStringLiteral("Kayıt Ara (F2)"), "Rezervasyon Raporu (F3)", "Kasa Raporu (F4)",
+                         "Rezervasyon Tablosu (F5)", QStringLiteral("Yaklaşan Rezervasyonlar"),
+                         QStringLiteral("Web'te Yayınla (F12)"), QStringLiteral("Program Ayarları (F7)")}));
+        QCOMPARE(serit.actions()[12]->objectName(), QStringLiteral("Toolbar1_13"));
+        QCOMPARE(serit.actions()[13]->objectName(), QStringLiteral("Toolbar1_14"));
     }
 
     void a_button_takes_the_ruler_away_and_opens_its_screen_and_a_hidden_one_goes_without_its_line() {
@@ -171,8 +173,8 @@ class KomutMenuleriTest : public QObject {
                   }});
         firma.Model().Toolbar1[13].gorunur = false;
         Baglayici::HepsiniTazele();
-        QVERIFY(!serit.actions()[10]->isVisible());
-        QVERIFY(serit.actions()[11]->isVisible());
+        QVERIFY(!serit.actions()[12]->isVisible());
+        QVERIFY(serit.actions()[13]->isVisible());
     }
 
     void the_button_of_the_warnings_lists_them_or_tells_that_there_are_none() {
@@ -191,12 +193,12 @@ class KomutMenuleriTest : public QObject {
         firma.Ac();
         firma.Bul<QToolButton>("Toolbar1_1").setFocus(Qt::TabFocusReason);
         QStringList sira;
-        for (int i = 0; i < 7; ++i) {
+        for (int i = 0; i < 8; ++i) {
             sira << Odaktaki();
             Tusla(Qt::Key_Tab);
         }
         QCOMPARE(sira, (QStringList{"Toolbar1_1", "Toolbar1_3", "Toolbar1_5", "Toolbar1_7", "Toolbar1_9",
-                                    "Toolbar1_13", "Salon"}));
+                                    "Toolbar1_11", "Toolbar1_13", "Salon"}));
         for (const auto tus : {Qt::Key_Space, Qt::Key_Return}) {
             firma.Bul<QToolButton>("Toolbar1_3").setFocus(Qt::TabFocusReason);
             Pencerede([&] { Tusla(tus); }, {[](QDialog& pencere) {

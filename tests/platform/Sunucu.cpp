@@ -62,6 +62,14 @@ std::string Baglanti::IstegiOku() const {
 }
 
 Sunucu::Sunucu(std::vector<Davranis> senaryo) : senaryo_(std::move(senaryo)) {
+    Kur();
+}
+
+Sunucu::Sunucu(Baglantilar /*baglantilar*/, Cevaplayan cevapla) : cevapla_(std::move(cevapla)) {
+    Kur();
+}
+
+void Sunucu::Kur() {
     sockaddr_in adres{};
     adres.sin_family = AF_INET;
     adres.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -105,14 +113,36 @@ void Sunucu::Dinle() {
 
 void Sunucu::Karsila(int soket, std::size_t sira) {
     const Baglanti baglanti(soket, durdur_[0]);
-    std::string istek = baglanti.IstegiOku();
-    Say([&] { istekler_.push_back(std::move(istek)); });
-    if (sira < senaryo_.size())
-        senaryo_[sira](baglanti);
+    if (cevapla_) {
+        Konus(baglanti);
+    } else {
+        std::string istek = baglanti.IstegiOku();
+        Say([&] { istekler_.push_back(std::move(istek)); });
+        if (sira < senaryo_.size())
+            senaryo_[sira](baglanti);
+    }
     // What still lies unread would turn the close into a reset, which may take the reply along.
     shutdown(soket, SHUT_WR);
     close(soket);
     Say([this] { ++bitenler_; });
+}
+
+void Sunucu::Konus(const Baglanti& baglanti) {
+    constexpr std::string_view kFiil = "GET ";
+    for (;;) {
+        const std::string istek = baglanti.IstegiOku();
+        const std::size_t son = istek.find(" HTTP/1.1\r\n");
+        if (!istek.starts_with(kFiil) || son == std::string::npos)
+            return;
+        std::optional<std::string> govde;
+        {
+            const std::lock_guard kilit(cevapta_);
+            govde = cevapla_(std::string_view(istek).substr(kFiil.size(), son - kFiil.size()));
+        }
+        Say([&] { istekler_.push_back(istek); });
+        if (!baglanti.Yolla(govde ? TamCevap(*govde) : "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"))
+            return;
+    }
 }
 
 Metin Sunucu::Adres(MetinBakis devam) const {

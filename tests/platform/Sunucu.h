@@ -4,6 +4,7 @@
 #include <functional>
 #include <list>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -33,6 +34,9 @@ class Baglanti {
     int durdur_;
 };
 
+/// What a server does with connections that have got their reply.
+enum class Baglantilar { AcikKalir };
+
 /// A server on the loopback, which speaks plain HTTP and does what its script says: the n-th connection gets
 /// the n-th entry. One that nobody has scripted is closed at once. It ends with its test, whatever hangs.
 class Sunucu {
@@ -40,6 +44,11 @@ class Sunucu {
     using Davranis = std::function<void(const Baglanti&)>;
 
     explicit Sunucu(std::vector<Davranis> senaryo);
+    /// Answers each request of each connection with the body that `cevapla` makes of what stands between "GET
+    /// " and the version; none is a 404. Connections stay open until the other side closes them. `cevapla`
+    /// runs in a thread of the server, for one request at a time.
+    using Cevaplayan = std::function<std::optional<std::string>(std::string_view hedef)>;
+    Sunucu(Baglantilar baglantilar, Cevaplayan cevapla);
     ~Sunucu();
     Sunucu(const Sunucu&) = delete;
     Sunucu& operator=(const Sunucu&) = delete;
@@ -59,9 +68,13 @@ class Sunucu {
   private:
     void Dinle();
     void Karsila(int soket, std::size_t sira);
+    void Konus(const Baglanti& baglanti);
+    void Kur();
     void Say(const std::function<void()>& is);
 
     std::vector<Davranis> senaryo_;
+    Cevaplayan cevapla_; // in place of a script
+    std::mutex cevapta_;
     int dinleyen_ = -1;
     int port_ = 0;
     int durdur_[2] = {-1, -1}; // a pipe: closed at the writing end, all waits end

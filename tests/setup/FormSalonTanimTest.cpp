@@ -62,7 +62,10 @@ TEST_F(FormSalonTanimTest, Close_publishes_the_table_of_a_published_firm_again) 
     agac.Koy(u"Salon.dat", "\"A\"\r\n");
     kullanici.ProgramiAc();
     kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
-    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
+    SalonlarAcikken([this] {
+        Ortam().Bekle(BeklenenEkran{EkranAdi::FormWebteYayinla});
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
+    });
     EXPECT_EQ(Ortam().acilanlar.back(), EkranAdi::FormWebteYayinla);
 }
 
@@ -372,11 +375,16 @@ TEST_F(FormSalonTanimTest, Close_publishes_when_the_screen_is_gone_already) {
     kullanici.ProgramiAc();
     kullanici.Prog().Splash->Check1 = kullanici.Prog().Splash->Check2 = 1;
     bool yuklu = true;
-    Ortam().acilinca = [&](EkranAdi ad) {
-        if (ad == EkranAdi::FormWebteYayinla)
-            yuklu = kullanici.Prog().FormSalonTanim.Yuklu();
-    };
-    SalonlarAcikken([this] { VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3); });
+    kullanici.Prog().ortam.goster.modal =
+        [&, eski = kullanici.Prog().ortam.goster.modal](EkranAdi ad, const auto& gorununce) {
+            if (ad == EkranAdi::FormWebteYayinla)
+                yuklu = kullanici.Prog().FormSalonTanim.Yuklu();
+            eski(ad, gorununce);
+        };
+    SalonlarAcikken([this] {
+        Ortam().Bekle(BeklenenEkran{EkranAdi::FormWebteYayinla});
+        VELORA_BAS(kullanici.Prog().FormSalonTanim, Command3);
+    });
     EXPECT_FALSE(yuklu);
 }
 

@@ -17,6 +17,7 @@ class Yayin : public TabloTest {
         kullanici.Prog().Splash->Check2 = yayinda;
     }
     auto Yayinlar() { return std::ranges::count(kullanici.ortam.acilanlar, EkranAdi::FormWebteYayinla); }
+    void YayinBekle() { kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormWebteYayinla}); }
     /// Opens move mode and drops the reservation of 20 June on another cell.
     void Tasi(const TabloGozu& hedef) {
         kullanici.Uzerine({20, 6, kGunduz});
@@ -29,25 +30,29 @@ class Yayin : public TabloTest {
     void TasimaSorusuBekle(Cevap cevap) {
         SoruBekle(u"Seçili rezervasyonu taşımak istediğinizden emin misiniz?", cevap);
     }
-    void IptalEt(Cevap cevap) {
+    void IptalEt() {
         kullanici.SagTikla({20, 6, kGunduz});
-        SoruBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", cevap);
-        if (cevap == Cevap::Evet)
-            kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u"x"});
         kullanici.KomutSec(Komut::iptals);
     }
 };
 
-TEST_F(Yayin, A_publish_shows_its_screen_with_the_hall_and_the_year) {
+TEST_F(Yayin, A_publish_shows_its_screen_over_the_others_until_all_is_sent) {
     Baslat(1, 0);
+    YayinBekle();
     kullanici.Tablo().Yayinla();
     EXPECT_EQ(Yayinlar(), 1);
-    const auto ekran = kullanici.Prog().FormWebteYayinla.Tut();
-    EXPECT_EQ(ekran->Label2.baslik, u"Salon A (2012) kayıtları veri tabanına kaydediliyor.");
-    EXPECT_EQ(ekran->Label1.baslik, u"Lütfen bekleyiniz, bu işlem bir kaç dakika sürebilir...");
-    EXPECT_EQ(ekran->Label8.baslik, u"Veri Tabanı");
-    EXPECT_EQ(ekran->Command1.baslik, u"İptal");
-    ekran->Command1_Click();
+    EXPECT_FALSE(kullanici.Prog().FormWebteYayinla.Yuklu());
+}
+
+TEST_F(Yayin, A_screen_without_anything_to_send_stands_until_it_is_closed) {
+    Baslat(1, 0);
+    kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormWebteYayinla, [this] {
+                                            const auto ekran = kullanici.Prog().FormWebteYayinla.Tut();
+                                            EXPECT_EQ(ekran->Label8.baslik, u"Veri Tabanı");
+                                            EXPECT_EQ(ekran->Command1.baslik, u"İptal");
+                                            ekran->Command1_Click();
+                                        }});
+    kullanici.Prog().FormWebteYayinla.GosterModal();
     EXPECT_FALSE(kullanici.Prog().FormWebteYayinla.Yuklu());
 }
 
@@ -69,19 +74,24 @@ TEST_F(Yayin, Every_end_of_move_mode_publishes_on_purpose_also_a_refusal_and_a_n
     Baslat(1, 1);
     Metin tagYayinda;
     int modYayinda = 1;
-    kullanici.ortam.acilinca = [&](EkranAdi) {
+    agac.Koy(u"Adresler.dat", "\"http://servis.test/x\",\"\",\"\",\"\"\r\n");
+    kullanici.Prog().ortam.ag.getir = [&](const AgIstegi&) {
         tagYayinda = kullanici.Goz(20, 6, kGunduz).tag;
         modYayinda = kullanici.Tablo().tasimamoducheck;
+        return Metin();
     };
     kullanici.ortam.Bekle(
         BeklenenKutu{.baslik = u"Uyarı",
                      .metin = u"Bu tarihe taşıma yapamazsınız!\nBu tarihte zaten bir rezervasyon kayıtlı!"});
+    YayinBekle();
     Tasi({21, 6, kGece});
     EXPECT_EQ(Yayinlar(), 1) << "a refusal";
     TasimaSorusuBekle(Cevap::Hayir);
+    YayinBekle();
     Tasi({22, 6, kGece});
     EXPECT_EQ(Yayinlar(), 2) << "a no";
     TasimaSorusuBekle(Cevap::Evet);
+    YayinBekle();
     Tasi({22, 6, kGece});
     EXPECT_EQ(Yayinlar(), 3) << "a move";
     EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).tag, u"");
@@ -91,9 +101,13 @@ TEST_F(Yayin, Every_end_of_move_mode_publishes_on_purpose_also_a_refusal_and_a_n
 
 TEST_F(Yayin, A_cancellation_publishes_the_table_without_it_and_a_no_publishes_nothing) {
     Baslat(1, 1);
-    IptalEt(Cevap::Hayir);
+    SoruBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", Cevap::Hayir);
+    IptalEt();
     EXPECT_EQ(Yayinlar(), 0);
-    IptalEt(Cevap::Evet);
+    SoruBekle(u"Seçili kaydı silmek istediğinizden emin misiniz?", Cevap::Evet);
+    kullanici.ortam.Bekle(BeklenenGirdi{u"İptal Sebebi", u"İptal sebebini yazınız!", u"x"});
+    YayinBekle();
+    IptalEt();
     EXPECT_EQ(Yayinlar(), 1);
     EXPECT_EQ(kullanici.Goz(20, 6, kGunduz).tag, u"");
 }

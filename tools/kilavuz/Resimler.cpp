@@ -18,8 +18,13 @@
 #include "maintenance/FormResmiTatil.h"
 #include "maintenance/FormResmiTatilEkle.h"
 #include "maintenance/FormResmiTatilYukle.h"
+#include "maintenance/FormYedekAl.h"
+#include "online/FormDuyurular.h"
 #include "online/FormFirma.h"
+#include "online/FormOneri.h"
+#include "online/FormRezervasyonlar.h"
 #include "online/FormSunucu.h"
+#include "online/FormWebteYayinla.h"
 #include "reservation/FormArama.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOzelHatirlatma.h"
@@ -30,6 +35,7 @@
 #include "setup/FormRenk.h"
 #include "setup/FormSalonTanim.h"
 #include "setup/FormSalonTanimAd.h"
+#include "storage/ListeDosyasi.h"
 #include "table/FormHakkinda.h"
 #include "tools/kilavuz/Sahneler.h"
 
@@ -95,6 +101,11 @@ void KullaniciDoldur(Program& program, QWidget& /*pencere*/) {
 /// The folder in which the pictures are made is nobody's.
 void KlasorYaz(Program& program, QWidget& /*pencere*/) {
     program.FormHakkinda->Klasor.metin = u"C:\\Velora";
+}
+
+void YedekYerleriYaz(Program& program, QWidget& /*pencere*/) {
+    program.FormYedekAl->txtSource.metin = u"C:\\Velora";
+    program.FormYedekAl->txtDestination.metin = u"E:\\VRYedek";
 }
 
 void GorunumSayfasi(Program& /*program*/, QWidget& pencere) {
@@ -167,6 +178,35 @@ void Indiriyor(Program& program, QWidget& /*pencere*/) {
     ekran->ProgressBar.deger = 62;
 }
 
+void YayinDoldur(Program& program, QWidget& /*pencere*/) {
+    const auto yayin = program.FormWebteYayinla.Tut();
+    yayin->Label2.baslik = program.FormTablo->Salon.Metni() + u" (" + program.FormTablo->Sene.Metni() +
+                           u") kayıtları veri tabanına kaydediliyor.";
+    yayin->ProgressBar1.enCok = 186;
+    yayin->ProgressBar1.deger = 73;
+}
+
+void IsteklerAc(Program& program) {
+    const Metin salon = program.FormTablo->Salon.Metni();
+    SatirlariYaz(program.dosyalar, program.agac.KokYolu(kIstekDosyasi),
+                 {{u"418", u"Elif Kaya", u"0212 555 01 02", u"0532 555 03 04", u"elif@ornek.test", salon,
+                   u"19.09.2026", u"19:30", u"Gece", u"Düğün"},
+                  {u"421", u"Mert Aydın", u"0216 555 05 06", u"0533 555 07 08", u"mert@ornek.test", salon,
+                   u"03.10.2026", u"12:00", u"Gündüz", u"Nişan"}});
+    program.FormRezervasyonlar.GosterModal();
+}
+
+void DuyuruYaz(Program& program, QWidget& /*pencere*/) {
+    program.FormDuyurular->Text1.metin = u"Velora'nın yeni sürümü hazır.\r\n\r\nServis, 12 Temmuz Pazar günü "
+                                         u"02:00 ile 04:00 arasında bakımda olacak.";
+}
+
+void OneriYaz(Program& program, QWidget& /*pencere*/) {
+    const auto oneri = program.FormOneri.Tut();
+    oneri->Aciklama.metin = u"Raporda davetli sayısı da görünse iyi olur.";
+    oneri->Aciklama_Change();
+}
+
 using P = Program;
 constexpr QSize kTabloBoyu(1180, 640);
 constexpr QRect kUstYarisi(0, 100, 1180, 395); // the heads, and the months to September
@@ -220,6 +260,15 @@ constexpr ResimTanimi kResimler[]{
     {EkranAdi::FormSozlesme, u"sozlesme", Modal<&P::FormSozlesme>, nullptr, {720, 320}},
     {EkranAdi::FormMakbuzPrint, u"makbuz", MakbuzAc, nullptr, {680, 580}},
     {EkranAdi::FormTabloPrint, u"tablo-baski", TabloBaskisiAc, nullptr, {1000, 690}},
+    {EkranAdi::FormWebteYayinla, u"yayinla", Modal<&P::FormWebteYayinla>, YayinDoldur},
+    {EkranAdi::FormRezervasyonlar,
+     u"online-rezervasyonlar",
+     IsteklerAc,
+     SatirSec<&P::FormRezervasyonlar, 0>,
+     {980, 240}},
+    {EkranAdi::FormDuyurular, u"duyurular", Modal<&P::FormDuyurular>, DuyuruYaz, {480, 240}},
+    {EkranAdi::FormOneri, u"oneri", Modal<&P::FormOneri>, OneriYaz, {460, 260}},
+    {EkranAdi::FormYedekAl, u"yedek-al", Modal<&P::FormYedekAl>, YedekYerleriYaz},
     {EkranAdi::FormSunucu, u"web-sunucu", Modal<&P::FormSunucu>},
     {EkranAdi::FormFirma, u"ilk-firma", IlkFirmaAc},
     {EkranAdi::FormFirma, u"firma-bilgileri", Modal<&P::FormFirma>},

@@ -1,5 +1,8 @@
 #include "qt/table/TabloPenceresi.h"
 
+#include <array>
+#include <tuple>
+
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -15,6 +18,7 @@
 #include "qt/ErisimTuslari.h"
 #include "qt/Gorunum.h"
 #include "qt/PencereYeri.h"
+#include "qt/table/IsaretDugmesi.h"
 #include "qt/table/KomutMenuleri.h"
 #include "qt/table/RenkAciklamasi.h"
 #include "qt/table/TabloGorunumu.h"
@@ -103,7 +107,17 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     baglayici_->Bagla(*sene, tablo.Sene);
     serit->addSpacing(kAralik);
     // Behind the lists for the Tab key too; without it the key goes on to the table.
-    serit->addWidget(new ZilDugmesi(tablo, *baglayici_, [this] { gorunum_->setFocus(); }));
+    const auto tabloyaDon = [this] { gorunum_->setFocus(); };
+    serit->addWidget(new ZilDugmesi(tablo, *baglayici_, tabloyaDon));
+    const std::array isaretler{
+        std::tuple{&FormTablo::YeniRezervasyonVar, &FormTablo::YeniRezervasyonVar_Click,
+                   IsaretResimleri{"YeniRezervasyonVar", "rezervasyon", "rezervasyon-sari"}},
+        std::tuple{&FormTablo::YeniDuyuru, &FormTablo::YeniDuyuru_Click,
+                   IsaretResimleri{"YeniDuyuru", "duyuru", "duyuru-yesil"}}};
+    for (auto [isaret, tiklandi, resimler] : isaretler) {
+        const auto bas = [this, &tablo, tiklandi] { baglayici_->Bas([&] { (tablo.*tiklandi)(); }); };
+        serit->addWidget(new IsaretDugmesi(tablo.*isaret, resimler, *baglayici_, bas, tabloyaDon));
+    }
     serit->addStretch(1);
     serit->addWidget(new RenkAciklamasi(program_, *baglayici_, parca));
     BosYeriIzle(*parca);
@@ -161,6 +175,9 @@ void TabloPenceresi::ZamanlayicilariBagla(FormTablo& tablo) {
     baglayici_->Bagla(tablo.Saatsay, QStringLiteral("Saatsay"));
     baglayici_->Bagla(tablo.DuyuruKontrol, QStringLiteral("DuyuruKontrol"));
     baglayici_->Bagla(tablo.InternetTimer, QStringLiteral("InternetTimer"));
+    baglayici_->Bagla(tablo.YayinTimer, QStringLiteral("YayinTimer"));
+    baglayici_->Bagla(tablo.YeniRezTimer, QStringLiteral("YeniRezTimer"));
+    baglayici_->Bagla(tablo.YeniDuyuruTimer, QStringLiteral("YeniDuyuruTimer"));
 }
 
 void TabloPenceresi::closeEvent(QCloseEvent* olay) {

@@ -37,6 +37,7 @@ constexpr mode_t kKlasorHakki = 0777;
 
 // A pipe must not stop us, nor a terminal become ours.
 constexpr int kHerAcilis = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+constexpr int kYeniDosya = O_WRONLY | O_CREAT | O_EXCL | kHerAcilis;
 
 int Bayraklar(Kip kip) {
     switch (kip) {
@@ -45,7 +46,7 @@ int Bayraklar(Kip kip) {
     case Kip::Guncelle:
         return O_RDWR | kHerAcilis;
     case Kip::Yeni:
-        return O_WRONLY | O_CREAT | O_EXCL | kHerAcilis;
+        return kYeniDosya;
     }
     return -1;
 }
@@ -67,8 +68,43 @@ int No(std::intptr_t tutamac) {
     return static_cast<int>(tutamac);
 }
 
+/// Closes on every way out, also when a buffer can't grow.
+struct Tanitici {
+    int no;
+    explicit Tanitici(int acilan) : no(acilan) {}
+    Tanitici(const Tanitici&) = delete;
+    Tanitici& operator=(const Tanitici&) = delete;
+    ~Tanitici() {
+        if (no >= 0)
+            ::close(no);
+    }
+};
+
 std::optional<std::size_t> Adet(ssize_t sonuc) {
     return sonuc < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(sonuc));
+}
+
+constexpr mode_t kHaklar = 07777;
+
+std::optional<OgeBilgisi> Bilgi(const struct stat& bilgi) {
+    constexpr std::int64_t kSaniye = 1'000'000'000;
+    if (!BuTur(Tur::Dosya, bilgi) && !BuTur(Tur::Klasor, bilgi))
+        return std::nullopt;
+    return OgeBilgisi{BuTur(Tur::Dosya, bilgi) ? Tur::Dosya : Tur::Klasor,
+                      static_cast<std::uint64_t>(bilgi.st_size),
+                      bilgi.st_mtim.tv_sec * kSaniye + bilgi.st_mtim.tv_nsec, bilgi.st_mode & kHaklar};
+}
+
+/// A short file in one piece: what is written to as a whole is read as one.
+bool BaytlariTasi(int kaynak, int hedef) {
+    static std::array<char, kOkumaTamponu> tampon;
+    ssize_t gelen = 0;
+    do {
+        gelen = Sabirla([&] { return ::read(kaynak, tampon.data(), tampon.size()); });
+        if (gelen < 0 || ::write(hedef, tampon.data(), static_cast<std::size_t>(gelen)) != gelen)
+            return false;
+    } while (gelen == static_cast<ssize_t>(tampon.size()));
+    return true;
 }
 
 } // namespace
@@ -167,15 +203,11 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
     ic_->ad.clear();
     if (!Utf8Ekle(ad, ic_->ad))
         return {};
-    const int no =
-        Sabirla([&] { return ::openat(::dirfd(ic_->akis), ic_->ad.c_str(), Bayraklar(Kip::Oku)); });
+    const Tanitici dosya(
+        Sabirla([&] { return ::openat(::dirfd(ic_->akis), ic_->ad.c_str(), Bayraklar(Kip::Oku)); }));
+    const int no = dosya.no;
     if (no < 0)
         return {};
-    // Closes on every way out, also when the buffer can't grow.
-    struct Kapatan {
-        int no;
-        ~Kapatan() { ::close(no); }
-    } const kapatan{no};
     const auto boy = SinirliDoldur(
         tampon, enCok,
         [no]() -> std::optional<std::uint64_t> {
@@ -286,19 +318,74 @@ bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& ver) {
 }
 
 std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
-    constexpr std::int64_t kSaniye = 1'000'000'000;
-    constexpr mode_t kHaklar = 07777;
     struct stat bilgi {};
-    if (::stat(yol.c_str(), &bilgi) != 0 || (!BuTur(Tur::Dosya, bilgi) && !BuTur(Tur::Klasor, bilgi)))
-        return std::nullopt;
-    return OgeBilgisi{BuTur(Tur::Dosya, bilgi) ? Tur::Dosya : Tur::Klasor,
-                      static_cast<std::uint64_t>(bilgi.st_size),
-                      bilgi.st_mtim.tv_sec * kSaniye + bilgi.st_mtim.tv_nsec, bilgi.st_mode & kHaklar};
+    return ::stat(yol.c_str(), &bilgi) == 0 ? Bilgi(bilgi) : std::nullopt;
+}
+
+std::vector<Oge> Ogeler(const std::filesystem::path& klasor) {
+    std::vector<Oge> ogeler;
+    DIR* akis = ::opendir(klasor.c_str());
+    if (akis == nullptr)
+        return ogeler;
+    while (const dirent* kayit = ::readdir(akis)) {
+        const std::string_view ad(static_cast<const char*>(kayit->d_name));
+        struct stat bilgi {};
+        if (ad == "." || ad == ".." || ::fstatat(::dirfd(akis), ad.data(), &bilgi, 0) != 0)
+            continue;
+        if (const auto oge = Bilgi(bilgi))
+            ogeler.push_back({std::string(ad), *oge});
+    }
+    ::closedir(akis);
+    return ogeler;
+}
+
+struct Kopyaci::Ic {
+    Tanitici kaynak, hedef; ///< folders
+    std::filesystem::path gecici;
+
+    /// Whether the file stayed as it was meanwhile. Nothing when it can't be copied.
+    std::optional<bool> BirKez(const char* ad) const {
+        const Tanitici okunan(Sabirla([&] { return ::openat(kaynak.no, ad, Bayraklar(Kip::Oku)); }));
+        struct stat once {};
+        if (okunan.no < 0 || ::fstat(okunan.no, &once) != 0 || !S_ISREG(once.st_mode))
+            return {};
+        const auto ac = [this] { return ::openat(hedef.no, gecici.c_str(), kYeniDosya, kDosyaHakki); };
+        const int yeni = ac();
+        // A crash, or the try before, may have left one.
+        const Tanitici yazilan(yeni < 0 && ::unlinkat(hedef.no, gecici.c_str(), 0) == 0 ? ac() : yeni);
+        if (yazilan.no < 0 || !BaytlariTasi(okunan.no, yazilan.no))
+            return {};
+        // Not every disk keeps rights or times: the bytes come first.
+        const std::array<timespec, 2> zamanlar{once.st_atim, once.st_mtim};
+        static_cast<void>(::fchmod(yazilan.no, once.st_mode & kHaklar));
+        static_cast<void>(::futimens(yazilan.no, zamanlar.data()));
+        struct stat sonra {};
+        return ::fstat(okunan.no, &sonra) == 0 && sonra.st_size == once.st_size &&
+               Bilgi(sonra)->degisme == Bilgi(once)->degisme;
+    }
+};
+
+Kopyaci::Kopyaci(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
+                 std::filesystem::path gecici)
+    : ic_(new Ic{Tanitici(::open(kaynak.c_str(), O_PATH | O_CLOEXEC)),
+                 Tanitici(::open(hedef.c_str(), O_PATH | O_CLOEXEC)), std::move(gecici)}) {}
+
+Kopyaci::~Kopyaci() = default;
+
+bool Kopyaci::Kopyala(const std::filesystem::path& ad) const {
+    constexpr int kEnCokDeneme = 3;
+    std::optional<bool> kaldi = false;
+    for (int deneme = 0; deneme < kEnCokDeneme && kaldi == false; ++deneme)
+        kaldi = ic_->BirKez(ad.c_str());
+    if (kaldi && ::renameat(ic_->hedef.no, ic_->gecici.c_str(), ic_->hedef.no, ad.c_str()) == 0)
+        return true;
+    ::unlinkat(ic_->hedef.no, ic_->gecici.c_str(), 0);
+    return false;
 }
 
 bool Var(const std::filesystem::path& yol, Tur tur) {
-    struct stat bilgi {};
-    return ::stat(yol.c_str(), &bilgi) == 0 && BuTur(tur, bilgi);
+    const auto bilgi = Bilgi(yol);
+    return bilgi && bilgi->tur == tur;
 }
 
 bool DosyaSil(const std::filesystem::path& yol) {

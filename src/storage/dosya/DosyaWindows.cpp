@@ -220,19 +220,73 @@ bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& /*ver*/) {
     return false;
 }
 
-std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
-    constexpr DWORD kHaklar = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+namespace {
+
+/// Of what `GetFileAttributesExW` and a listing tell alike.
+template <class Veri>
+OgeBilgisi Bilgi(const Veri& veri) {
+    constexpr DWORD kHaklar =
+        FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
     constexpr std::int64_t kYuzNanosaniye = 100;
     constexpr unsigned kUst = 32;
-    WIN32_FILE_ATTRIBUTE_DATA veri{};
-    if (!::GetFileAttributesExW(UzunYol(yol).c_str(), GetFileExInfoStandard, &veri))
-        return std::nullopt;
     const auto birlestir = [](DWORD ust, DWORD alt) { return (std::uint64_t{ust} << kUst) | alt; };
     const std::uint64_t an =
         birlestir(veri.ftLastWriteTime.dwHighDateTime, veri.ftLastWriteTime.dwLowDateTime);
-    return OgeBilgisi{BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
-                      birlestir(veri.nFileSizeHigh, veri.nFileSizeLow),
-                      static_cast<std::int64_t>(an) * kYuzNanosaniye, veri.dwFileAttributes & kHaklar};
+    return {BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
+            birlestir(veri.nFileSizeHigh, veri.nFileSizeLow), static_cast<std::int64_t>(an) * kYuzNanosaniye,
+            veri.dwFileAttributes & kHaklar};
+}
+
+} // namespace
+
+std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {
+    WIN32_FILE_ATTRIBUTE_DATA veri{};
+    if (::GetFileAttributesExW(UzunYol(yol).c_str(), GetFileExInfoStandard, &veri) == 0)
+        return std::nullopt;
+    return Bilgi(veri);
+}
+
+std::vector<Oge> Ogeler(const std::filesystem::path& klasor) {
+    std::vector<Oge> ogeler;
+    WIN32_FIND_DATAW bulunan{};
+    const HANDLE arama = ::FindFirstFileExW((UzunYol(klasor / L"") + L'*').c_str(), FindExInfoBasic, &bulunan,
+                                            FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    for (bool var = arama != INVALID_HANDLE_VALUE; var; var = ::FindNextFileW(arama, &bulunan) != 0) {
+        const std::wstring_view ad(static_cast<const wchar_t*>(bulunan.cFileName));
+        if (ad != L"." && ad != L"..")
+            ogeler.push_back({std::wstring(ad), Bilgi(bulunan)});
+    }
+    if (arama != INVALID_HANDLE_VALUE)
+        ::FindClose(arama);
+    return ogeler;
+}
+
+struct Kopyaci::Ic {
+    std::filesystem::path kaynak;
+    std::filesystem::path hedef;
+    std::wstring gecici;
+};
+
+Kopyaci::Kopyaci(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
+                 std::filesystem::path gecici)
+    : ic_(new Ic{kaynak, hedef, UzunYol(hedef / gecici)}) {}
+
+Kopyaci::~Kopyaci() = default;
+
+bool Kopyaci::Kopyala(const std::filesystem::path& ad) const {
+    const wchar_t* gecici = ic_->gecici.c_str();
+    const std::wstring hedef = UzunYol(ic_->hedef / ad);
+    // A file of a crashed run, or a copy, may be read only; neither is to stand in the way.
+    ::SetFileAttributesW(gecici, FILE_ATTRIBUTE_NORMAL);
+    if (::CopyFileW(UzunYol(ic_->kaynak / ad).c_str(), gecici, FALSE) != 0) {
+        if (Var(ic_->hedef / ad, Tur::Dosya))
+            ::SetFileAttributesW(hedef.c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (::MoveFileExW(gecici, hedef.c_str(), MOVEFILE_REPLACE_EXISTING) != 0)
+            return true;
+        ::SetFileAttributesW(gecici, FILE_ATTRIBUTE_NORMAL);
+    }
+    ::DeleteFileW(gecici);
+    return false;
 }
 
 bool Var(const std::filesystem::path& yol, Tur tur) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "storage/Metin.h"
 
@@ -110,12 +111,43 @@ class Gozcu {
 struct OgeBilgisi {
     Tur tur;
     std::uint64_t boy;     ///< bytes
-    std::int64_t degisme;  ///< when it was written to last: nanoseconds, of this system's own beginning of time
+    std::int64_t degisme;  ///< when it was written to last: nanoseconds, of this system's own beginning of
+                           ///< time
     std::uint32_t ozellik; ///< its attributes: who may do what with it, hidden or not
 };
 
 /// Nothing for what isn't there or is neither a file nor a folder.
 std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol);
+
+/// An entry of a folder.
+struct Oge {
+    std::filesystem::path::string_type ad; ///< as on the disk
+    OgeBilgisi bilgi;
+};
+
+/// All files and folders of a folder, in the order of the disk, each asked about once. What can't be listed
+/// has none, and of what can't be asked about nothing is said.
+std::vector<Oge> Ogeler(const std::filesystem::path& klasor);
+
+/// Copies files of one folder into another, under their names.
+class Kopyaci {
+  public:
+    /// What is copied is gathered in the target's folder, under the name `gecici`.
+    Kopyaci(const std::filesystem::path& kaynak, const std::filesystem::path& hedef,
+            std::filesystem::path gecici);
+    Kopyaci(const Kopyaci&) = delete;
+    Kopyaci& operator=(const Kopyaci&) = delete;
+    ~Kopyaci();
+
+    /// Copies one with its time and attributes. It comes to its name whole and in one step, whoever may write
+    /// into a file that is there. One that is written to meanwhile is taken anew; if that doesn't end, its
+    /// copy gets the time from before. False: what stood there is as it was.
+    bool Kopyala(const std::filesystem::path& ad) const;
+
+  private:
+    struct Ic;
+    std::unique_ptr<Ic> ic_;
+};
 
 /// Whether that is there, under a name that the system takes for this one.
 bool Var(const std::filesystem::path& yol, Tur tur);
