@@ -44,7 +44,6 @@ YedekAlPenceresi::YedekAlPenceresi(Program& program) : EkranPenceresi(program.Fo
     sutun->addStretch();
     sutun->addLayout(TamamIptal({"cmdStart", &FormYedekAl::cmdStart, &FormYedekAl::cmdStart_Click},
                                 {"Command3", &FormYedekAl::Command3, &FormYedekAl::Command3_Click}));
-    findChild<QPushButton*>(QStringLiteral("Command3"))->setAutoDefault(false);
     Bag().Bagla(Model().Timer1, QStringLiteral("Timer1"));
     IlkOdak("txtSource");
 }
