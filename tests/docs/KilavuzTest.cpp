@@ -88,6 +88,7 @@ TEST_F(Kilavuz, Chapters_go_by_task_in_the_order_of_a_desk_and_end_with_the_owne
                                             "yedek",
                                             "kullanicilar",
                                             "firma",
+                                            "online",
                                             "ayarlar",
                                             "tuslar",
                                             "sozluk",

@@ -39,6 +39,14 @@ class FormDownloadManagerTest : public ::testing::Test {
         program.FormDownloadManager->Activate();
     }
     void YedekBekle() { ortam.Bekle(BeklenenKutu{u"Velora", u"Yedekleme işleminiz başarıyla tamamlandı!"}); }
+    /// Whether a backup holds this file of the program's folder.
+    bool Yedekte(const char* ad) const {
+        std::error_code hata;
+        for (const auto& gun : std::filesystem::directory_iterator(agac.Disi() / "yedek", hata))
+            if (std::filesystem::exists(gun.path() / ad))
+                return true;
+        return false;
+    }
     /// Lets the bar run as far as its timer does.
     int Tikler() {
         int tik = 0;
@@ -73,14 +81,14 @@ TEST_F(FormDownloadManagerTest,
        The_bar_runs_to_100_in_less_than_a_second_and_the_updater_starts_behind_the_screen) {
     Indir();
     const int aralik = Ekran().Timer1.aralik;
+    YedekBekle();
     ortam.olayda = [&](int) {
         if (!program.FormDownloadManager.Yuklu()) {
             EXPECT_TRUE(ortam.calisanlar.empty()) << "events run before it is started";
         }
     };
-    YedekBekle();
     EXPECT_EQ(Tikler(), 100);
-    EXPECT_TRUE(std::filesystem::exists(agac.Disi() / "yedek" / "15_06_2012" / "VeloraYeni.exe"));
+    EXPECT_TRUE(Yedekte("Adresler.dat"));
     EXPECT_LE(100 * aralik, 1000);
     EXPECT_FALSE(program.FormDownloadManager.Yuklu());
     EXPECT_EQ(ortam.gizlenenler.back(), EkranAdi::FormDownloadManager);
@@ -97,6 +105,27 @@ TEST_F(FormDownloadManagerTest,
     EXPECT_EQ(ortam.calisanlar.size(), 1U);
     EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram);
     EXPECT_FALSE(program.FormDownloadManager.Yuklu());
+}
+
+TEST_F(FormDownloadManagerTest, The_updater_starts_also_when_nothing_could_be_backed_up_on_purpose) {
+    ortam.yedekKlasoru = agac.Disi() / "yok" / "yok" / "yedek";
+    agac.Koy(u"engel", "");
+    Indir();
+    YedekBekle();
+    program.FormYedekAl->txtDestination.metin = YolMetni(agac.Kok() / "engel");
+    Tikler();
+    EXPECT_EQ(ortam.calisanlar.size(), 1U);
+}
+
+TEST_F(FormDownloadManagerTest, Closed_while_the_backup_is_taken_it_starts_nothing) {
+    Indir();
+    YedekBekle();
+    ortam.olayda = [&](int) {
+        if (program.FormYedekAl.Yuklu() && program.FormDownloadManager.Yuklu())
+            program.FormDownloadManager->Kapat();
+    };
+    Tikler();
+    EXPECT_TRUE(ortam.calisanlar.empty());
 }
 
 TEST_F(FormDownloadManagerTest, A_failure_is_told_and_can_be_tried_again) {
@@ -142,6 +171,7 @@ TEST_F(FormDownloadManagerTest, Closed_while_the_bar_runs_it_takes_no_backup_and
     EXPECT_EQ(ekran->ProgressBar.deger, 40);
     EXPECT_TRUE(ortam.calisanlar.empty());
     EXPECT_FALSE(program.FormYedekAl.Yuklu());
+    EXPECT_FALSE(Yedekte("Adresler.dat"));
     EXPECT_EQ(agac.Bayt(u"VeloraYeni.exe"), kYeniProgram) << "what was fetched whole stays";
 }
 
