@@ -55,7 +55,7 @@ void FormSalonTanim::Command1_Click() {
     const GirdiKutusu soru{
         .metin = u"Lütfen salon adını giriniz!", .baslik = u"Salon Tanımları", .baslangic = {}};
     Metin cevap = program_.ortam.sor.girdi(soru);
-    while (cevap.empty()) {
+    while (cevap.empty() && !program_.ortam.olaylar.bitti()) {
         SalonGerektiginiSoyle(program_, u"Salon adını girmediniz!");
         cevap = program_.ortam.sor.girdi(soru);
     }

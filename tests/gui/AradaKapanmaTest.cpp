@@ -70,6 +70,9 @@ void Doldur(Program& program, EkranAdi ekran) {
     } else if (ekran == EkranAdi::FormRezervasyonlar) {
         program.FormRezervasyonlar->Liste.secili = 1;
         program.FormRezervasyonlar->Liste_Click();
+    } else if (ekran == EkranAdi::FormYedekAl) {
+        program.FormYedekAl->txtSource.metin = program.dosyalar.Kok();
+        program.FormYedekAl->txtDestination.metin = YolMetni(program.ortam.klasorler.yedek());
     } else if (ekran == EkranAdi::FormSifre) {
         program.FormSifre->Text2.metin = u"c9";
     } else if (ekran == EkranAdi::FormSifreDegistir) {

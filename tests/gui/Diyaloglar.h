@@ -87,6 +87,13 @@ void BosSitedenAc(Program& program) {
     (program.*Ekran).GosterModal();
 }
 
+/// Its folders would be others each time; these aren't there, and can't be made.
+inline void YedekAlAc(Program& program) {
+    program.FormYedekAl->txtSource.metin = u"/dev/null/kaynak";
+    program.FormYedekAl->txtDestination.metin = u"/dev/null/hedef";
+    program.FormYedekAl.GosterModal();
+}
+
 /// With requests that wait.
 inline void IsteklerAc(Program& program) {
     program.dosyalar.Yaz(
@@ -254,7 +261,7 @@ inline constexpr Diyalog kDiyaloglar[]{
     {EkranAdi::FormDuyurular, EkraniAc<&Program::FormDuyurular>, "Command1", "Command1", {"Command1 Text1"}},
     {EkranAdi::FormOneri, DoluOneriAc, "Command1", "Command2", {"Aciklama Command1 Command2"}},
     {EkranAdi::FormYedekAl,
-     EkraniAc<&Program::FormYedekAl>,
+     YedekAlAc,
      "cmdStart",
      "Command3",
      {"txtSource Command1 txtDestination Command2 cmdStart Command3"}},

@@ -56,6 +56,8 @@ Ortam GuiFirma::Dis() {
         if (gercektenBiter)
             bitir();
     };
+    // Never in the folder of who runs the tests.
+    ortam.klasorler.yedek = [this] { return agac.Disi() / "yedek"; };
     ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
         acilanDosyalar.push_back(yol);
         AradaCalis();
@@ -66,6 +68,7 @@ Ortam GuiFirma::Dis() {
                                                                                         // number
     HazirCevapla(ortam.sor.kayitYeri,
                  [this](const KayitYeriKutusu& kutu) { return std::optional(agac.Kok() / kutu.ad); });
+    HazirCevapla(ortam.sor.klasor, [](const Metin&) { return Metin(); });
     HazirCevapla(ortam.kagit.yazdir, [](const auto&, const Metin&) { return true; });
     HazirCevapla(ortam.kagit.pdfYaz,
                  [](const auto&, const Metin&, const std::filesystem::path&) { return true; });

@@ -37,7 +37,6 @@ struct SiteliFirma : GuiFirma {
         agac.Koy(u"Tatiller.dll", "\"05.06.2026\",\"a\",\"Hay\xFDr\",\"Genel\"\r\n");
         AgiBagla(program.ortam);
         BeklerkenGoster(program.ortam);
-        program.ortam.klasorler.yedek = [this] { return agac.Disi() / "yedek"; };
         program.ortam.kabuk.calistir = [this](const std::filesystem::path& yol) {
             calisanlar.push_back(yol);
             return true;
