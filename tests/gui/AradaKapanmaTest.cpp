@@ -72,7 +72,7 @@ void Doldur(Program& program, EkranAdi ekran) {
         program.FormRezervasyonlar->Liste_Click();
     } else if (ekran == EkranAdi::FormYedekAl) {
         program.FormYedekAl->txtSource.metin = program.dosyalar.Kok();
-        program.FormYedekAl->txtDestination.metin = YolMetni(program.ortam.klasorler.yedek());
+        program.FormYedekAl->txtDestination.metin = program.dosyalar.Kok() + u"-yedek";
     } else if (ekran == EkranAdi::FormSifre) {
         program.FormSifre->Text2.metin = u"c9";
     } else if (ekran == EkranAdi::FormSifreDegistir) {

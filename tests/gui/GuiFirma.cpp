@@ -56,8 +56,6 @@ Ortam GuiFirma::Dis() {
         if (gercektenBiter)
             bitir();
     };
-    // Never in the folder of who runs the tests.
-    ortam.klasorler.yedek = [this] { return agac.Disi() / "yedek"; };
     ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
         acilanDosyalar.push_back(yol);
         AradaCalis();

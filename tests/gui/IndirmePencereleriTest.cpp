@@ -36,6 +36,7 @@ struct SiteliFirma : GuiFirma {
         agac.KoyMetin(u"Adresler.dat", u"\"\",\"" + site.Adres(u"") + u"\",\"\",\"\"\r\n");
         agac.Koy(u"Tatiller.dll", "\"05.06.2026\",\"a\",\"Hay\xFDr\",\"Genel\"\r\n");
         AgiBagla(program.ortam);
+        program.ortam.klasorler.yedek = [this] { return agac.Disi() / "yedek"; };
         BeklerkenGoster(program.ortam);
         program.ortam.kabuk.calistir = [this](const std::filesystem::path& yol) {
             calisanlar.push_back(yol);
