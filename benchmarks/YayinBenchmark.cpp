@@ -64,7 +64,7 @@ class Servis {
     void Karsila(int soket) {
         constexpr std::string_view kCevap = "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nOK";
         std::string gelen;
-        std::array<char, 4096> tampon;
+        std::array<char, 4096> tampon{};
         for (ssize_t boy = 0; (boy = recv(soket, tampon.data(), tampon.size(), 0)) > 0;) {
             gelen.append(tampon.data(), static_cast<std::size_t>(boy));
             for (std::size_t son = 0; (son = gelen.find("\r\n\r\n")) != std::string::npos;) {

@@ -104,21 +104,27 @@ Ortam QtOrtam::Ver() {
     ortam.kabuk.dosyaAc = DosyaAc;
     ortam.kabuk.adresAc = AdresAc;
     ortam.kabuk.calistir = ProgramCalistir;
-    ortam.kagit.olcer = SayfaOlcer();
-    ortam.kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
+    ortam.kagit = Kagit();
+    ortam.olaylar.bitir = [this] { Bitir(); };
+    ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
+    return ortam;
+}
+
+Ortam::Kagit QtOrtam::Kagit() {
+    Ortam::Kagit kagit;
+    kagit.olcer = SayfaOlcer();
+    kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
         return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)](const Vazgecildi& vazgecildi) {
             return YaziciyaBas(sayfalar, ad, vazgecildi);
         });
     };
-    ortam.kagit.pdfYaz = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
-                                const std::filesystem::path& dosya) {
+    kagit.pdfYaz = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi,
+                          const std::filesystem::path& dosya) {
         return Arkada(dosyaIscisi_, [sayfalar, ad = QMetin(isAdi), dosya](const Vazgecildi& vazgecildi) {
             return PdfYaz(sayfalar, ad, dosya, vazgecildi);
         });
     };
-    ortam.olaylar.bitir = [this] { Bitir(); };
-    ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) { OdakVer(ekran, kontrol); };
-    return ortam;
+    return kagit;
 }
 
 void QtOrtam::Tanit(EkranAdi ekran, Uretici uretici) {

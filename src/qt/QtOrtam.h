@@ -70,6 +70,7 @@ class QtOrtam {
     Metin KlasorSec(const Metin& baslik);
     /// Waits for a job of another thread; events run meanwhile.
     bool Arkada(Isci& isci, const std::function<bool(const Vazgecildi&)>& is) const;
+    Ortam::Kagit Kagit();
     void Bitir();
 
     std::map<EkranAdi, Uretici> ureticiler_;

@@ -1,8 +1,5 @@
 #include "qt/table/TabloPenceresi.h"
 
-#include <array>
-#include <tuple>
-
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -109,14 +106,22 @@ QWidget* TabloPenceresi::UstSerit(FormTablo& tablo) {
     // Behind the lists for the Tab key too; without it the key goes on to the table.
     const auto tabloyaDon = [this] { gorunum_->setFocus(); };
     serit->addWidget(new ZilDugmesi(tablo, *baglayici_, tabloyaDon));
-    const std::array isaretler{
-        std::tuple{&FormTablo::YeniRezervasyonVar, &FormTablo::YeniRezervasyonVar_Click,
-                   IsaretResimleri{"YeniRezervasyonVar", "rezervasyon", "rezervasyon-sari"}},
-        std::tuple{&FormTablo::YeniDuyuru, &FormTablo::YeniDuyuru_Click,
-                   IsaretResimleri{"YeniDuyuru", "duyuru", "duyuru-yesil"}}};
-    for (auto [isaret, tiklandi, resimler] : isaretler) {
-        const auto bas = [this, &tablo, tiklandi] { baglayici_->Bas([&] { (tablo.*tiklandi)(); }); };
-        serit->addWidget(new IsaretDugmesi(tablo.*isaret, resimler, *baglayici_, bas, tabloyaDon));
+    struct Isaret {
+        OnlineIsareti FormTablo::*model;
+        void (FormTablo::*tiklandi)();
+        IsaretResimleri resimler;
+    };
+    for (const Isaret& isaret : {Isaret{&FormTablo::YeniRezervasyonVar,
+                                        &FormTablo::YeniRezervasyonVar_Click,
+                                        {"YeniRezervasyonVar", "rezervasyon", "rezervasyon-sari"}},
+                                 Isaret{&FormTablo::YeniDuyuru,
+                                        &FormTablo::YeniDuyuru_Click,
+                                        {"YeniDuyuru", "duyuru", "duyuru-yesil"}}}) {
+        const auto bas = [this, &tablo, tiklandi = isaret.tiklandi] {
+            baglayici_->Bas([&tablo, tiklandi] { (tablo.*tiklandi)(); });
+        };
+        serit->addWidget(
+            new IsaretDugmesi(tablo.*isaret.model, isaret.resimler, *baglayici_, bas, tabloyaDon));
     }
     serit->addStretch(1);
     serit->addWidget(new RenkAciklamasi(program_, *baglayici_, parca));

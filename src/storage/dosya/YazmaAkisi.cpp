@@ -8,6 +8,7 @@
 namespace velora {
 
 struct YazmaAkisi::Ic {
+    Ic(Sinama sina, std::uint64_t nereden) : sinama(std::move(sina)), konum(nereden) {}
     bool Ac(const std::filesystem::path& yol) {
         const auto acilis = dosya.Ac(yol, sistem::Kip::Guncelle);
         if (acilis == sistem::Acilis::Yok)
@@ -22,8 +23,8 @@ struct YazmaAkisi::Ic {
 
     Sinama sinama;
     std::uint64_t konum;
-    sistem::AcikDosya dosya{};
-    std::optional<DarDosya<sistem::AcikDosya>> dar{};
+    sistem::AcikDosya dosya;
+    std::optional<DarDosya<sistem::AcikDosya>> dar;
 };
 
 YazmaAkisi::YazmaAkisi(std::unique_ptr<Ic> ic) : ic_(std::move(ic)) {}
@@ -32,7 +33,7 @@ YazmaAkisi::~YazmaAkisi() = default;
 
 std::unique_ptr<YazmaAkisi> YazmaAkisi::Ac(const std::filesystem::path& yol, std::uint64_t konum,
                                            Sinama sinama) {
-    auto ic = std::unique_ptr<Ic>(new Ic{std::move(sinama), konum});
+    auto ic = std::make_unique<Ic>(std::move(sinama), konum);
     if (!ic->Ac(yol))
         return nullptr;
     if (ic->sinama.bosYer)
