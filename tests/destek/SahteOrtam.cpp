@@ -87,21 +87,7 @@ Ortam SahteOrtam::Ver() {
     ortam.ayarlar.yaz = [this](MetinBakis bolum, MetinBakis anahtar, const Metin& deger) {
         ayarlar.push_back({Metin(bolum), Metin(anahtar), deger});
     };
-    ortam.kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
-        acilanDosyalar.push_back(yol);
-        // A copy: what runs may take itself out.
-        if (const auto is = dosyaAcilirken)
-            is();
-        return dosyaAcilir;
-    };
-    ortam.kabuk.adresAc = [this](const Metin& adres) {
-        acilanAdresler.push_back(adres);
-        return adresAcilir;
-    };
-    ortam.kabuk.calistir = [this](const std::filesystem::path& yol) {
-        calisanlar.push_back(yol);
-        return calisir;
-    };
+    ortam.kabuk = Kabuk();
     ortam.olaylar.bitir = [this] { bitti = true; };
     ortam.odak.ver = [this](EkranAdi ekran, MetinBakis kontrol) {
         odaklar.emplace_back(kontrol);
@@ -121,6 +107,26 @@ Ortam SahteOrtam::Ver() {
     ortam.ag.baglantiVar = [this] { return baglanti; };
     ortam.ag.donanimAdresi = [this] { return donanim; };
     return ortam;
+}
+
+Ortam::Kabuk SahteOrtam::Kabuk() {
+    Ortam::Kabuk kabuk;
+    kabuk.dosyaAc = [this](const std::filesystem::path& yol) {
+        acilanDosyalar.push_back(yol);
+        // A copy: what runs may take itself out.
+        if (const auto is = dosyaAcilirken)
+            is();
+        return dosyaAcilir;
+    };
+    kabuk.adresAc = [this](const Metin& adres) {
+        acilanAdresler.push_back(adres);
+        return adresAcilir;
+    };
+    kabuk.calistir = [this](const std::filesystem::path& yol) {
+        calisanlar.push_back(yol);
+        return calisir;
+    };
+    return kabuk;
 }
 
 void SahteOrtam::SirayaKoy(Beklenen beklenen) {

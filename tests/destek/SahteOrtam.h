@@ -156,6 +156,7 @@ class SahteOrtam {
     /// Takes the next expected one. None when nothing was expected, or another kind: that fails the test.
     template <class Tur>
     std::optional<Tur> SiradanAl(const std::string& gelen);
+    Ortam::Kabuk Kabuk();
     Cevap MesajSor(const MesajKutusu& kutu);
     Metin GirdiSor(const GirdiKutusu& kutu);
     void ModalGoster(EkranAdi ad, const std::function<void()>& gorununce);

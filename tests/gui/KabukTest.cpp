@@ -55,8 +55,9 @@ class KabukTest : public QObject {
         QCOMPARE(QDir::currentPath(), once);
     }
 
-#ifdef Q_OS_UNIX
     void a_program_starts_in_its_own_folder_and_is_not_waited_for() {
+        if (std::filesystem::path::preferred_separator == '\\')
+            QSKIP("Windows starts no scripts.");
         const GeciciAgac agac;
         agac.Koy(u"Update.exe", "#!/bin/sh\npwd >yer.txt.x\nmv yer.txt.x yer.txt\nexec sleep 2\n");
         agac.Koy(u"metin.exe", "MZ is no program here\n");
@@ -72,7 +73,6 @@ class KabukTest : public QObject {
         QTRY_VERIFY(agac.DosyaVar(u"yer.txt"));
         QCOMPARE(agac.Bayt(u"yer.txt"), agac.Kok().string() + "\n");
     }
-#endif
 };
 
 VELORA_GUI_TEST(KabukTest)
