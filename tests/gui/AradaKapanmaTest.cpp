@@ -44,67 +44,102 @@ void SilinecekleriSil() {
 }
 
 /// Something in every list, and a mark on it: all buttons can be pressed.
+struct Dolum {
+    EkranAdi ekran;
+    void (*doldur)(Program& program);
+};
+constexpr Dolum kDolumlar[]{
+    {EkranAdi::FormArama,
+     [](Program& program) {
+         program.FormArama->Text[1].metin = u"ali";
+         program.FormArama->Command3_Click();
+         program.FormArama->Liste.secili = 0;
+         program.FormArama->Liste_ItemClick();
+     }},
+    {EkranAdi::FormBakiye,
+     [](Program& program) {
+         program.FormBakiye->ListeleGun();
+         program.FormBakiye->Liste.secili = 0;
+         program.FormBakiye->Liste_Click();
+     }},
+    {EkranAdi::FormKasa, [](Program& program) { program.FormKasa->ListeleGun1(); }},
+    {EkranAdi::FormKasaEkle,
+     [](Program& program) {
+         program.FormKasaEkle->Tutar.metin = u"150";
+         program.FormKasaEkle->Tutar_Change();
+         program.FormKasaEkle->Aciklama.metin = u"Su";
+     }},
+    {EkranAdi::FormGiderler,
+     [](Program& program) {
+         program.FormGiderler->Liste.satirlar.push_back({{u"01.02.2026", u"5", u"Gider", u"Su"}, {}, 0});
+         program.FormGiderler->Liste.secili = 0;
+         program.FormGiderler->Liste_Click();
+     }},
+    {EkranAdi::FormOzelHatirlatma,
+     [](Program& program) {
+         program.FormOzelHatirlatma->Liste.secili = 0;
+         program.FormOzelHatirlatma->Liste_ItemClick();
+     }},
+    {EkranAdi::FormRezervasyonlar,
+     [](Program& program) {
+         program.FormRezervasyonlar->Liste.secili = 1;
+         program.FormRezervasyonlar->Liste_Click();
+     }},
+    {EkranAdi::FormYedekAl,
+     [](Program& program) {
+         program.FormYedekAl->txtSource.metin = program.dosyalar.Kok();
+         program.FormYedekAl->txtDestination.metin = program.dosyalar.Kok() + u"-yedek";
+     }},
+    {EkranAdi::FormSifre, [](Program& program) { program.FormSifre->Text2.metin = u"c9"; }},
+    {EkranAdi::FormSifreDegistir,
+     [](Program& program) {
+         program.FormSifreDegistir->Text1.metin = program.FormSifreDegistir->Text2.metin = u"yeni";
+     }},
+    {EkranAdi::FormKullanicilar,
+     [](Program& program) {
+         program.FormKullanicilar->Liste.secili = 0;
+         program.FormKullanicilar->Liste_Click();
+     }},
+    {EkranAdi::FormKullaniciEkle,
+     [](Program& program) {
+         const auto ekle = program.FormKullaniciEkle.Tut();
+         ekle->Text1.metin = ekle->Text2.metin = ekle->Text3.metin = u"ali";
+     }},
+    {EkranAdi::FormMenuAyar,
+     [](Program& program) {
+         program.FormMenuAyar->Liste.secili = 0;
+         program.FormMenuAyar->Liste_Click();
+     }},
+    {EkranAdi::FormResmiTatil,
+     [](Program& program) {
+         program.FormResmiTatil->Ekle({u"01.02.2026", u"Açılış", u"Hayır", u"Özel"});
+         program.FormResmiTatil->Liste.secili = 0;
+         program.FormResmiTatil->Liste_Click();
+     }},
+    {EkranAdi::FormResmiTatilEkle,
+     [](Program& program) { program.FormResmiTatilEkle->Text2.metin = u"Açılış"; }},
+    {EkranAdi::FormSalonTanim,
+     [](Program& program) {
+         program.FormSalonTanim->List1.secili = 1;
+         program.FormSalonTanim->List1_Click();
+     }},
+    {EkranAdi::FormKayit,
+     [](Program& program) {
+         const auto kayit = program.FormKayit.Tut();
+         kayit->Tarih = u"20.06.2026 - Gece";
+         for (const int no : {AnaNo::AdiSoyadi, AnaNo::BaslamaSaati, AnaNo::BitisSaati, AnaNo::ToplamUcret})
+             kayit->Kay[no].metin = u"12:30";
+         kayit->Kay[AnaNo::Niteligi].metin = u"Nişan";
+         kayit->Liste.satirlar = {{{u"01.02.2026", u"70", u"7 - Ali"}, {}, 0}};
+         kayit->Liste.secili = 0;
+         kayit->Liste_ItemClick();
+     }},
+};
+
 void Doldur(Program& program, EkranAdi ekran) {
-    if (ekran == EkranAdi::FormArama) {
-        program.FormArama->Text[1].metin = u"ali";
-        program.FormArama->Command3_Click();
-        program.FormArama->Liste.secili = 0;
-        program.FormArama->Liste_ItemClick();
-    } else if (ekran == EkranAdi::FormBakiye) {
-        program.FormBakiye->ListeleGun();
-        program.FormBakiye->Liste.secili = 0;
-        program.FormBakiye->Liste_Click();
-    } else if (ekran == EkranAdi::FormKasa) {
-        program.FormKasa->ListeleGun1();
-    } else if (ekran == EkranAdi::FormKasaEkle) {
-        program.FormKasaEkle->Tutar.metin = u"150";
-        program.FormKasaEkle->Tutar_Change();
-        program.FormKasaEkle->Aciklama.metin = u"Su";
-    } else if (ekran == EkranAdi::FormGiderler) {
-        program.FormGiderler->Liste.satirlar.push_back({{u"01.02.2026", u"5", u"Gider", u"Su"}, {}, 0});
-        program.FormGiderler->Liste.secili = 0;
-        program.FormGiderler->Liste_Click();
-    } else if (ekran == EkranAdi::FormOzelHatirlatma) {
-        program.FormOzelHatirlatma->Liste.secili = 0;
-        program.FormOzelHatirlatma->Liste_ItemClick();
-    } else if (ekran == EkranAdi::FormRezervasyonlar) {
-        program.FormRezervasyonlar->Liste.secili = 1;
-        program.FormRezervasyonlar->Liste_Click();
-    } else if (ekran == EkranAdi::FormYedekAl) {
-        program.FormYedekAl->txtSource.metin = program.dosyalar.Kok();
-        program.FormYedekAl->txtDestination.metin = program.dosyalar.Kok() + u"-yedek";
-    } else if (ekran == EkranAdi::FormSifre) {
-        program.FormSifre->Text2.metin = u"c9";
-    } else if (ekran == EkranAdi::FormSifreDegistir) {
-        program.FormSifreDegistir->Text1.metin = program.FormSifreDegistir->Text2.metin = u"yeni";
-    } else if (ekran == EkranAdi::FormKullanicilar) {
-        program.FormKullanicilar->Liste.secili = 0;
-        program.FormKullanicilar->Liste_Click();
-    } else if (ekran == EkranAdi::FormKullaniciEkle) {
-        const auto ekle = program.FormKullaniciEkle.Tut();
-        ekle->Text1.metin = ekle->Text2.metin = ekle->Text3.metin = u"ali";
-    } else if (ekran == EkranAdi::FormMenuAyar) {
-        program.FormMenuAyar->Liste.secili = 0;
-        program.FormMenuAyar->Liste_Click();
-    } else if (ekran == EkranAdi::FormResmiTatil) {
-        program.FormResmiTatil->Ekle({u"01.02.2026", u"Açılış", u"Hayır", u"Özel"});
-        program.FormResmiTatil->Liste.secili = 0;
-        program.FormResmiTatil->Liste_Click();
-    } else if (ekran == EkranAdi::FormResmiTatilEkle) {
-        program.FormResmiTatilEkle->Text2.metin = u"Açılış";
-    } else if (ekran == EkranAdi::FormSalonTanim) {
-        program.FormSalonTanim->List1.secili = 1;
-        program.FormSalonTanim->List1_Click();
-    } else if (ekran == EkranAdi::FormKayit) {
-        const auto kayit = program.FormKayit.Tut();
-        kayit->Tarih = u"20.06.2026 - Gece";
-        for (const int no : {AnaNo::AdiSoyadi, AnaNo::BaslamaSaati, AnaNo::BitisSaati, AnaNo::ToplamUcret})
-            kayit->Kay[no].metin = u"12:30";
-        kayit->Kay[AnaNo::Niteligi].metin = u"Nişan";
-        kayit->Liste.satirlar = {{{u"01.02.2026", u"70", u"7 - Ali"}, {}, 0}};
-        kayit->Liste.secili = 0;
-        kayit->Liste_ItemClick();
-    }
+    for (const Dolum& dolum : kDolumlar)
+        if (dolum.ekran == ekran)
+            dolum.doldur(program);
     Baglayici::HepsiniTazele();
 }
 
