@@ -185,7 +185,8 @@ class DiyalogKlavyesiTest : public QObject {
         firma.Ac();
         for (const Diyalog& diyalog : kDiyaloglar)
             Diyalogda(firma, diyalog, [&](QDialog& pencere) {
-                QVERIFY(Yazilar(pencere).size() >= (diyalog.iptal == nullptr || KapatmadaDurur(diyalog) ? 1 : 2));
+                QVERIFY(Yazilar(pencere).size() >=
+                        (diyalog.iptal == nullptr || KapatmadaDurur(diyalog) ? 1 : 2));
                 for (int i = 0; i < SayfaSayisi(pencere); ++i) {
                     SayfayaGec(pencere, i);
                     TuslariAyriOlmali(pencere);
