@@ -13,8 +13,8 @@ char16_t BuyukHarf(char16_t harf);
 Metin Kucult(MetinBakis metin);
 Metin Buyut(MetinBakis metin);
 
-/// What texts are put in the order of a Turkish dictionary by, without regard to case: digits and signs before
-/// letters, "Çınar" before "Demir", "ılık" before "iri".
+/// What texts are put in the order of a Turkish dictionary by, without regard to case: digits and signs
+/// before letters, "Çınar" before "Demir", "ılık" before "iri".
 Metin SozlukSirasi(MetinBakis metin);
 
 /// Proper case: the first sign of each word in upper case, the others in lower case. A word begins at the
