@@ -13,7 +13,19 @@ const Metin kDolu = u"Bu tarihe online rezervasyon alamazsınız!\nZaten bir rez
 
 } // namespace
 
-class FormRezervasyonlarTest : public IstekListesiTest {};
+class FormRezervasyonlarTest : public IstekListesiTest {
+  protected:
+    /// The program starts, and the first request of the list is taken over.
+    void IlkiDevralinmali() {
+        Baslat();
+        ListeyiAc([this] {
+            Sec(0);
+            EkranBekle(EkranAdi::FormKayit, {});
+            Olustur();
+        });
+        EXPECT_EQ(Firma().devralinanlar.size(), 1U);
+    }
+};
 
 TEST_F(FormRezervasyonlarTest, Lists_the_file_ten_fields_a_row_and_the_close_button_has_the_focus) {
     Iste({});
@@ -212,13 +224,7 @@ TEST_F(FormRezervasyonlarTest, The_other_slot_of_the_day_and_the_other_hall_keep
     KayitKoy(agac, u"Salon B/2013/23.06.2013 - Gündüz");
     KayitKoy(agac, u"Salon A/2013/23.06.2013 - Gece");
     Iste({});
-    Baslat();
-    ListeyiAc([this] {
-        Sec(0);
-        EkranBekle(EkranAdi::FormKayit, {});
-        Olustur();
-    });
-    EXPECT_EQ(Firma().devralinanlar.size(), 1U);
+    IlkiDevralinmali();
 }
 
 // The colour of a day gone by hides what is there: the save then writes over it.
@@ -226,13 +232,7 @@ TEST_F(FormRezervasyonlarTest, A_taken_day_that_is_past_is_grey_and_lets_the_req
     AyarKoy(28, u"1"); // past days are painted
     KayitKoy(agac, u"Salon B/2012/05.06.2012 - Gece");
     Iste({.tarih = u"05.06.2012"});
-    Baslat();
-    ListeyiAc([this] {
-        Sec(0);
-        EkranBekle(EkranAdi::FormKayit, {});
-        Olustur();
-    });
-    EXPECT_EQ(Firma().devralinanlar.size(), 1U);
+    IlkiDevralinmali();
 }
 
 TEST_F(FormRezervasyonlarTest, A_row_that_the_service_sent_twice_goes_once) {
