@@ -47,31 +47,33 @@ int Durum(const OgeBilgisi& kaynak, const OgeBilgisi& hedef) {
     return durum;
 }
 
-/// For each file of the one the file of the same name in the other, or null. Ends where `ver` says false.
-template <class Ver>
-bool Eslestir(const Icerik& bir, const Icerik& iki, Ver ver) {
-    auto es = iki.begin();
-    return std::ranges::all_of(bir, [&](const Oge& oge) {
-        if (!Dosya(oge))
-            return true;
-        while (es != iki.end() && es->ad < oge.ad)
-            ++es;
-        const bool var = es != iki.end() && es->ad == oge.ad && Dosya(*es);
-        return ver(oge, var ? &*es : nullptr);
-    });
-}
-
-/// The rows of a comparison: first all of the source, then those that only the target has.
+/// The rows of a comparison: first all of the source, then those that only the target has. Ends where `ver`
+/// says false.
 template <class Ver>
 bool Esle(const Icerik& kaynak, const Icerik& hedef, Ver ver) {
-    return Eslestir(kaynak, hedef,
-                    [&ver](const Oge& oge, const Oge* es) {
-                        return ver(oge.ad, es == nullptr ? EslemeDurumu::YalnizKaynakta
-                                                         : Durum(oge.bilgi, es->bilgi));
-                    }) &&
-           Eslestir(hedef, kaynak, [&ver](const Oge& oge, const Oge* es) {
-               return es != nullptr || ver(oge.ad, EslemeDurumu::YalnizHedefte);
-           });
+    std::vector<const Oge*> yalnizHedefte;
+    auto es = hedef.begin();
+    const auto gec = [&] {
+        if (Dosya(*es))
+            yalnizHedefte.push_back(&*es);
+        ++es;
+    };
+    for (const Oge& oge : kaynak) {
+        if (!Dosya(oge))
+            continue;
+        int sira = -1;
+        while (es != hedef.end() && (sira = es->ad.compare(oge.ad)) < 0)
+            gec();
+        const bool var = es != hedef.end() && sira == 0 && Dosya(*es);
+        if (!ver(oge.ad, var ? Durum(oge.bilgi, es->bilgi) : EslemeDurumu::YalnizKaynakta))
+            return false;
+        if (var)
+            ++es;
+    }
+    while (es != hedef.end())
+        gec();
+    return std::ranges::all_of(yalnizHedefte,
+                               [&ver](const Oge* oge) { return ver(oge->ad, EslemeDurumu::YalnizHedefte); });
 }
 
 enum class KopyaYeri { Yok, Hedefe, Geri };
@@ -147,8 +149,10 @@ bool FileSync::Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vect
         return false;
     const auto altlara = [&](const Klasor& nereden, const Yol& nereye, bool geriyeDe, const auto& istenen) {
         return std::ranges::all_of(nereden.ogeler, [&](const Oge& oge) {
+            if (Dosya(oge) || !istenen(oge))
+                return true;
             const Yol alt = nereden.yol / oge.ad;
-            if (Dosya(oge) || !istenen(oge) || !Girilir(alt, ustler))
+            if (!Girilir(alt, ustler))
                 return true;
             ustler.push_back(alt);
             const bool surer = Gez(alt, nereye / oge.ad, geriyeDe, ustler);
