@@ -337,13 +337,14 @@ void Baglayici::Bagla(Zamanlayici& model, const QString& ad) {
     auto* saat = new QTimer(this);
     saat->setObjectName(ad);
     connect(saat, &QTimer::timeout, this, [this, &model] {
-        if (!model.sakin || Durum().derinlik == 0 || (model.beklerken && Durum().bekliyor))
+        if (!model.sakin || Durum().derinlik == 0)
             Calistir([&model] { model.Calis(); });
     });
-    Izle([saat, &model] {
+    Izle([saat, &model, kurulus = model.kurulus]() mutable {
+        const bool kuruldu = std::exchange(kurulus, model.kurulus) != model.kurulus;
         if (model.aralik <= 0)
             saat->stop();
-        else if (!saat->isActive() || saat->interval() != model.aralik)
+        else if (kuruldu || !saat->isActive() || saat->interval() != model.aralik)
             saat->start(model.aralik);
     });
 }

@@ -171,6 +171,7 @@ struct AcilirListe {
     void MetinAta(MetinBakis metin);
     /// Takes an entry out and runs nothing. The choice stays on its entry; with the chosen one gone nothing
     /// is chosen. An index that isn't there: nothing.
+    /// Takes a row out, from 0. The mark stays with its own row.
     void Sil(int sira);
 };
 
@@ -293,6 +294,7 @@ struct ListeGorunumu {
     void Temizle();
     /// Takes the marked row out, if there is one. Nothing is marked then.
     void SeciliyiSil();
+    void Sil(int sira);
 };
 
 /// A timer of a screen. It runs while `aralik` isn't 0. The outside calls `Calis` when it is due.
@@ -300,8 +302,10 @@ struct Zamanlayici {
     int aralik = 0;            ///< milliseconds; 0 stops it
     std::function<void()> tik; ///< the screen's handler, set by the screen
     bool sakin = false; ///< it is due only while no other handler runs: what its own waits for holds up none
-    bool beklerken = false; ///< with `sakin`: due also while the running handler waits for the user
+    unsigned kurulus = 0; ///< how often it was set going by `Kur`
 
+    /// Sets it going, so long from now on, also when it runs already.
+    void Kur(int milisaniye);
     /// Runs the handler, unless it is running already or the timer has been stopped: a due tick waits.
     void Calis();
 

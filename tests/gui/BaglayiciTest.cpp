@@ -275,6 +275,9 @@ class BaglayiciTest : public QObject {
         const int kimlik = saat->timerId();
         Baglayici::HepsiniTazele();
         QCOMPARE(saat->timerId(), kimlik);
+        sahne.ekran->saat.Kur(60'000);
+        Baglayici::HepsiniTazele();
+        QVERIFY2(saat->isActive() && saat->timerId() != kimlik, "its time begins anew");
         sahne.ekran->saat.aralik = 0;
         Baglayici::HepsiniTazele();
         QVERIFY(!saat->isActive());

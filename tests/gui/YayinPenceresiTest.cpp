@@ -210,14 +210,43 @@ class YayinPenceresiTest : public QObject {
         firma.tutulan = 1;
         const IstekteYap isler(firma, {{1, [&] {
                                             QTest::keyClick(&firma.YayinPenceresi(), Qt::Key_Escape);
-                                            firma.tutulan = 0;
+                                            firma.tutulan = 2;
                                         }}});
         firma.YayinlaTikla();
+        QTRY_COMPARE_WITH_TIMEOUT(firma.gelen.load(), 2, kBolSure);
+        // A request of the rest is under way when the window opens.
         Pencerede([&] { MenudenSec(firma, "Websssunucus"); }, {[&](QDialog& pencere) {
+                      firma.tutulan = 0;
                       QTRY_COMPARE_WITH_TIMEOUT(firma.gelen.load(), 5, kBolSure);
+                      QTRY_COMPARE_WITH_TIMEOUT(firma.Model().YayinTimer.aralik, 0, kBolSure);
                       QVERIFY(pencere.isVisible());
                       QTest::keyClick(&pencere, Qt::Key_Escape);
                   }});
+    }
+
+    void asked_anew_while_the_rest_goes_out_it_shows_its_window_until_both_are_out() {
+        YayinFirmasi firma;
+        firma.tutulan = 2;
+        QPointer<QWidget> ikinci;
+        const IstekteYap isler(firma, {{2,
+                                        [&] {
+                                            QTest::keyClick(&firma.YayinPenceresi(), Qt::Key_Escape);
+                                            firma.tutulan = 3;
+                                        }},
+                                       {3,
+                                        [&] {
+                                            firma.tutulan = 7;
+                                            QTimer::singleShot(0, qApp, [&] { firma.YayinlaTikla(); });
+                                        }},
+                                       {7, [&] {
+                                            ikinci = &firma.YayinPenceresi();
+                                            QVERIFY(ikinci->isVisible());
+                                            firma.tutulan = 0;
+                                        }}});
+        firma.YayinlaTikla();
+        QTRY_COMPARE_WITH_TIMEOUT(firma.gelen.load(), 10, kBolSure);
+        QTRY_VERIFY_WITH_TIMEOUT(ikinci == nullptr || !ikinci->isVisible(), kBolSure);
+        QCOMPARE(firma.Yayindakiler(), std::size_t{2});
     }
 
     void a_program_that_ends_in_the_middle_waits_for_nothing() {
