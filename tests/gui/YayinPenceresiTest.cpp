@@ -1,7 +1,6 @@
 #include <atomic>
 #include <chrono>
 #include <set>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -31,6 +30,21 @@ using namespace velora::test;
 namespace {
 
 constexpr int kBolSure = 30'000; // milliseconds that no loaded machine needs
+
+/// The number of the request whose reply is held back. Set in one thread, waited for in another.
+class Tutulan {
+  public:
+    Tutulan& operator=(int istek) {
+        istek_ = istek;
+        istek_.notify_all();
+        return *this;
+    }
+    /// Returns at once unless this is the one, and then as soon as it isn't any more.
+    void Bekle(int istek) const { istek_.wait(istek); }
+
+  private:
+    std::atomic<int> istek_ = 0;
+};
 
 /// A firm in its windows with the real network, two halls and two reservations: a publish is five requests.
 /// The service holds back its reply to the request of the number `tutulan`.
@@ -63,8 +77,7 @@ struct YayinFirmasi : GuiFirma {
     std::optional<std::string> Cevapla(std::string_view hedef) {
         const auto cevap = servis.Cevapla(hedef);
         ++gelen;
-        while (tutulan == gelen)
-            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        tutulan.Bekle(gelen);
         return cevap;
     }
     QWidget& YayinPenceresi() { return *disDunya.Pencere(EkranAdi::FormWebteYayinla); }
@@ -72,7 +85,7 @@ struct YayinFirmasi : GuiFirma {
         return servis.firmalar[u"01-02-03-04-05-06"].yillar[{u"0", u"2026"}].size();
     }
 
-    std::atomic<int> tutulan = 0;
+    Tutulan tutulan;
     std::atomic<int> gelen = 0;
     Servis servis;
     Sunucu sunucu{Baglantilar::AcikKalir, [this](std::string_view hedef) { return Cevapla(hedef); }};

@@ -230,6 +230,7 @@ TEST_F(YayinKosusuTest, A_publish_asked_while_one_goes_out_goes_out_whole_behind
         std::filesystem::remove(agac.Yol(u"Çınar & Bahçe/2012/01.02.2012 - Gece"));
         kullanici.Tablo().Command1();
         kullanici.Tablo().Yayinla();
+        EXPECT_EQ(servis.gelenler.size(), 5U) << "nothing goes out in between";
         kullanici.SalonSec(u"Salon A");
     };
     EkranBekle();
