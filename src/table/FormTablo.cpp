@@ -61,6 +61,8 @@ FormTablo::FormTablo(Program& program)
     InternetTimer.sakin = true;
     YayinTimer.tik = [this] { YayinTimer_Tick(); };
     YayinTimer.sakin = YayinTimer.beklerken = true;
+    YedekTimer.tik = [this] { YedekTimer_Tick(); };
+    YedekTimer.sakin = YedekTimer.beklerken = true;
 }
 
 void FormTablo::Load() {
