@@ -38,7 +38,10 @@ class FormDownloadManagerTest : public ::testing::Test {
         ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
         program.FormDownloadManager->Activate();
     }
-    void YedekBekle() { ortam.Bekle(BeklenenKutu{u"Velora", u"Yedekleme işleminiz başarıyla tamamlandı!"}); }
+    void YedekBekle(const std::function<void()>& is = {}) {
+        ortam.Bekle(BeklenenKutu{
+            .baslik = u"Velora", .metin = u"Yedekleme işleminiz başarıyla tamamlandı!", .is = is});
+    }
     /// Whether a backup holds this file of the program's folder.
     bool Yedekte(const char* ad) const {
         std::error_code hata;
@@ -117,15 +120,22 @@ TEST_F(FormDownloadManagerTest, The_updater_starts_also_when_nothing_could_be_ba
     EXPECT_EQ(ortam.calisanlar.size(), 1U);
 }
 
-TEST_F(FormDownloadManagerTest, Closed_while_the_backup_is_taken_it_starts_nothing) {
+TEST_F(FormDownloadManagerTest, Closed_while_the_backup_is_taken_the_updater_starts_behind_it_on_purpose) {
     Indir();
-    YedekBekle();
+    YedekBekle([&] { EXPECT_TRUE(ortam.calisanlar.empty()) << "the backup comes to its end before"; });
+    int kapanan = 0;
     ortam.olayda = [&](int) {
-        if (program.FormYedekAl.Yuklu() && program.FormDownloadManager.Yuklu())
+        if (program.FormYedekAl.Yuklu() && program.FormDownloadManager.Yuklu()) {
             program.FormDownloadManager->Kapat();
+            ++kapanan;
+        }
     };
     Tikler();
-    EXPECT_TRUE(ortam.calisanlar.empty());
+    EXPECT_EQ(kapanan, 1);
+    EXPECT_FALSE(program.FormDownloadManager.Yuklu()) << "it doesn't come back";
+    EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormDownloadManager));
+    EXPECT_TRUE(Yedekte("Adresler.dat"));
+    EXPECT_EQ(ortam.calisanlar, std::vector{agac.Kok() / "Update.exe"});
 }
 
 TEST_F(FormDownloadManagerTest, A_failure_is_told_and_can_be_tried_again) {

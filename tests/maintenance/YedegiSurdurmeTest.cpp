@@ -51,8 +51,8 @@ class YedegiSurdurmeTest : public ::testing::Test {
     }
     Zamanlayici& Saat() { return program.FormTablo->YedekTimer; }
     void BitisBekle(const std::function<void()>& is = {}) {
-        ortam.Bekle(BeklenenKutu{u"Velora", u"Yedekleme işleminiz başarıyla tamamlandı!", Simge::Bilgi,
-                                 Cevap::Tamam, is});
+        ortam.Bekle(BeklenenKutu{
+            .baslik = u"Velora", .metin = u"Yedekleme işleminiz başarıyla tamamlandı!", .is = is});
     }
     int SonunaDek() {
         int tik = 0;
