@@ -50,12 +50,12 @@ void YayininYalinIsteklereOrani(benchmark::State& durum) {
     ortam.goster.modal = [](EkranAdi, const std::function<void()>& gorununce) { gorununce(); };
     AgiBagla(ortam);
     std::vector<std::string> hedefler;
-    const auto getir = ortam.ag.getir;
-    ortam.ag.getir = [&](const AgIstegi& istek) {
+    const auto gonder = ortam.ag.gonder;
+    ortam.ag.gonder = [&](const AgIstegi& istek) {
         const std::string adres = KodYaz(istek.adres);
         if (adres.find("/save.php?") != std::string::npos)
             hedefler.push_back(adres.substr(yeri.size() - 1));
-        return getir(istek);
+        return gonder(istek);
     };
     Program program(ortam, agac.Kok());
     program.FormTablo.Tut();

@@ -37,7 +37,9 @@ void FormDuyurular::Activate() {
     if (!program_.FormDuyurular.Yuklu())
         return;
     Text1.metin = SatirlaraBol(cevap);
-    Inet1.Getir(IstekAdresi(program_, Istek::DuyuruOkundu, {program_.FormSunucu->Text1.metin}));
+    // Not by its own control, which is given up with the screen: who closes it at once has read it, too.
+    program_.FormTablo->ArkadanGonder(
+        IstekAdresi(program_, Istek::DuyuruOkundu, {program_.FormSunucu->Text1.metin}));
 }
 
 void FormDuyurular::Command1_Click() {

@@ -86,10 +86,8 @@ void FormRezervasyonlar::Kaydet_Click() {
 /// As it stands now: what let events run may have moved or taken it.
 void FormRezervasyonlar::SatiriSil(const ListeSatiri& satir) {
     const auto yer = std::ranges::find(Liste.satirlar, satir.sutun, &ListeSatiri::sutun);
-    if (yer == Liste.satirlar.end())
-        return;
-    Liste.secili = static_cast<int>(yer - Liste.satirlar.begin());
-    Liste.SeciliyiSil();
+    if (yer != Liste.satirlar.end())
+        Liste.Sil(static_cast<int>(yer - Liste.satirlar.begin()));
 }
 
 void FormRezervasyonlar::BosaldiysaKapat() const {

@@ -32,7 +32,7 @@ void FormWebteYayinla::Activate() {
     basladi_ = true;
     ListeleriDoldur();
     while (!kosu->Bitti()) {
-        kosu->Adim();
+        kosu->Adim([this] { return !Duruyor(); });
         ProgressBar1.deger = kosu->GidenGoz();
         program_.OlaylariIsle();
         if (!Duruyor())

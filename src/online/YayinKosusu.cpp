@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "screen/Inet.h"
+#include "screen/Program.h"
+
 namespace velora {
 
 namespace {
@@ -15,7 +18,7 @@ Metin GidenTarih(MetinBakis gun) {
 
 } // namespace
 
-YayinKosusu::YayinKosusu(Program& program, Yayin yayin) : yayin_(std::move(yayin)), inet_(program) {
+YayinKosusu::YayinKosusu(Program& program, Yayin yayin) : program_(program), yayin_(std::move(yayin)) {
     const Yayin& y = yayin_;
     const Metin salonNo = SayiMetni(y.salonNo);
     const Adresler adresler = AdresleriOku(program);
@@ -29,11 +32,23 @@ YayinKosusu::YayinKosusu(Program& program, Yayin yayin) : yayin_(std::move(yayin
         ekle(Istek::Save, {y.anahtar, salonNo, y.salon, GidenTarih(goz.gun), goz.dilim, goz.durum, y.sene});
 }
 
-void YayinKosusu::Adim() {
+void YayinKosusu::Ilerle() {
+    if (sira_ == istekler_.size() || !suren_.bitti())
+        return;
     const Siradaki& siradaki = istekler_[sira_++];
+    // A service that nobody knows the place of has no address.
+    if (siradaki.adres.empty())
+        return;
     // A slot that is told twice is the same slot. All else could do harm the second time.
-    inet_.baglantiKalsin = siradaki.istek == Istek::Save;
-    inet_.Getir(siradaki.adres);
+    suren_ = program_.ortam.ag.Gonder(
+        {.adres = siradaki.adres, .sure = kIstekSuresi, .baglantiKalsin = siradaki.istek == Istek::Save});
+}
+
+void YayinKosusu::Adim(const std::function<bool()>& birak) {
+    Ilerle();
+    // Kept here: a turn may send the next one.
+    const Gonderim suren = suren_;
+    suren.bekle(birak);
 }
 
 int YayinKosusu::GidenGoz() const {

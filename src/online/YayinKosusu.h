@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "online/Istekler.h"
-#include "screen/Inet.h"
+#include "screen/Ortam.h"
 
 namespace velora {
 
@@ -25,17 +25,19 @@ struct Yayin {
 };
 
 /// One publish on its way: it clears the year at the service, tells it all halls, then each taken slot, one
-/// request each. It stands on its own copy and has its own transfer control: no screen that comes or goes
-/// touches it. A request that fails isn't noticed.
+/// request each. It stands on its own copy and sends by itself: no screen that comes or goes touches it. A
+/// request that fails isn't noticed.
 class YayinKosusu {
   public:
     /// The places of the service are those of now.
     YayinKosusu(Program& program, Yayin yayin);
 
-    /// Sends the next request and waits for its end; events run meanwhile. Not to be entered again until it
-    /// has returned.
-    void Adim();
-    bool Bitti() const { return sira_ == istekler_.size(); }
+    /// Sends the next request, unless one is under way, and waits for its end; events run meanwhile. Where
+    /// `birak` says true it waits no longer, and the request is still under way.
+    void Adim(const std::function<bool()>& birak);
+    /// Sends the next request, unless one is under way. It waits for nothing.
+    void Ilerle();
+    bool Bitti() const { return sira_ == istekler_.size() && suren_.bitti(); }
     int GidenGoz() const; ///< how many of the slots have been sent
     const Yayin& Icerik() const { return yayin_; }
 
@@ -45,10 +47,11 @@ class YayinKosusu {
         Metin adres;
     };
 
+    Program& program_;
     Yayin yayin_;
     std::vector<Siradaki> istekler_;
     std::size_t sira_ = 0; // the next one
-    Inet inet_;
+    Gonderim suren_;       // the last one that was sent
 };
 
 } // namespace velora

@@ -8,6 +8,14 @@
 
 namespace velora {
 
+namespace {
+
+BaglantiTuru Tur(const AgIstegi& istek) {
+    return istek.baglantiKalsin ? BaglantiTuru::Kalan : BaglantiTuru::Tek;
+}
+
+} // namespace
+
 void AgiBagla(Ortam& ortam) {
     const auto istemci = std::make_shared<AgIstemcisi>();
     ortam.ag.getir = [istemci, isle = ortam.olaylar.isle](const AgIstegi& istek) {
@@ -15,8 +23,20 @@ void AgiBagla(Ortam& ortam) {
             isle();
             return !istek.vazgecildi();
         };
-        return istemci->Getir(istek.adres, std::chrono::seconds(istek.sure), sira,
-                              istek.baglantiKalsin ? BaglantiTuru::Kalan : BaglantiTuru::Tek);
+        return istemci->Getir(istek.adres, std::chrono::seconds(istek.sure), sira, Tur(istek));
+    };
+    ortam.ag.gonder = [istemci, isle = ortam.olaylar.isle](const AgIstegi& istek) {
+        const auto giden = istemci->Gonder(istek.adres, std::chrono::seconds(istek.sure), Tur(istek));
+        if (giden == nullptr)
+            return Gonderim();
+        return Gonderim{.bitti = [giden] { return giden->Bitti(); },
+                        .bekle =
+                            [giden, isle](const std::function<bool()>& birak) {
+                                giden->Bekle([&] {
+                                    isle();
+                                    return !birak();
+                                });
+                            }};
     };
     const auto indirici = std::make_shared<Indirici>(ortam.olaylar.isle);
     ortam.ag.aktarimAc = [indirici](const AktarimIstegi& istek) { return indirici->Ac(istek); };

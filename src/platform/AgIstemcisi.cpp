@@ -14,7 +14,7 @@ using Saat = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kSiraArasi{10};
 
-/// One request. curl holds its address: it stays where it is until it is off curl's list.
+/// What curl writes into: it stays where it is until the request is off curl's list.
 struct Aktarma {
     std::string govde;
     std::size_t baslikBoyu = 0;
@@ -94,28 +94,58 @@ void AgIstemcisi::Kapat() {
     ic_->kapali = true;
 }
 
-Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,
-                         BaglantiTuru tur) {
-    const auto parcalar = AdresAyir(adres);
-    const auto ic = ic_; // a turn may be the client's last
-    if (!parcalar || ic->kapali || ic->liste == nullptr)
-        return {};
-    Aktarma aktarma;
-    const CurlKolu kol = KolYap(*parcalar, sure, tur, aktarma);
-    if (kol == nullptr)
-        return {};
-    const CurlYeri yer(ic->liste.get(), kol.get());
-    for (auto sonSira = Saat::now();;) {
-        ic->Ilerle();
-        if (aktarma.bitti)
-            return aktarma.tamam ? KodCoz(aktarma.govde) : Metin();
-        curl_multi_poll(ic->liste.get(), nullptr, 0, static_cast<int>(kSiraArasi.count()), nullptr);
+/// One request, on curl's list.
+struct AgIstemcisi::Gonderilen::Hal {
+    std::shared_ptr<Ic> ic; // a turn may be the client's last
+    std::unique_ptr<Aktarma> aktarma;
+    CurlKolu kol;
+    CurlYeri yer;
+};
+
+AgIstemcisi::Gonderilen::Gonderilen(std::unique_ptr<Hal> hal) : hal_(std::move(hal)) {}
+
+AgIstemcisi::Gonderilen::~Gonderilen() = default;
+
+bool AgIstemcisi::Gonderilen::Bitti() {
+    if (!hal_->aktarma->bitti && !hal_->ic->kapali)
+        hal_->ic->Ilerle();
+    return hal_->aktarma->bitti || hal_->ic->kapali;
+}
+
+bool AgIstemcisi::Gonderilen::Bekle(const Sira& sira) {
+    for (auto sonSira = Saat::now(); !Bitti();) {
+        curl_multi_poll(hal_->ic->liste.get(), nullptr, 0, static_cast<int>(kSiraArasi.count()), nullptr);
         if (Saat::now() - sonSira < kSiraArasi)
             continue;
-        if (!sira() || ic->kapali)
-            return {};
+        if (!sira())
+            return false;
         sonSira = Saat::now();
     }
+    return true;
+}
+
+Metin AgIstemcisi::Gonderilen::Cevap() const {
+    return hal_->aktarma->tamam ? KodCoz(hal_->aktarma->govde) : Metin();
+}
+
+std::shared_ptr<AgIstemcisi::Gonderilen>
+AgIstemcisi::Gonder(const Metin& adres, std::chrono::milliseconds sure, BaglantiTuru tur) {
+    const auto parcalar = AdresAyir(adres);
+    if (!parcalar || ic_->kapali || ic_->liste == nullptr)
+        return nullptr;
+    auto aktarma = std::make_unique<Aktarma>();
+    CurlKolu kol = KolYap(*parcalar, sure, tur, *aktarma);
+    if (kol == nullptr)
+        return nullptr;
+    CURL* const yeri = kol.get();
+    return std::make_shared<Gonderilen>(std::unique_ptr<Gonderilen::Hal>(
+        new Gonderilen::Hal{ic_, std::move(aktarma), std::move(kol), {ic_->liste.get(), yeri}}));
+}
+
+Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,
+                         BaglantiTuru tur) {
+    const auto gonderilen = Gonder(adres, sure, tur);
+    return gonderilen != nullptr && gonderilen->Bekle(sira) ? gonderilen->Cevap() : Metin();
 }
 
 } // namespace velora

@@ -43,12 +43,38 @@ class AgIstemcisi {
     Metin Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,
                 BaglantiTuru tur = BaglantiTuru::Tek);
 
+    /// A request that was sent and goes on until this is gone. Nothing gets on unless one of these, or a
+    /// `Getir`, is asked or waits.
+    class Gonderilen;
+    /// Sends it, and waits for nothing. Null when it can't be sent.
+    std::shared_ptr<Gonderilen> Gonder(const Metin& adres, std::chrono::milliseconds sure, BaglantiTuru tur);
+
     /// Gives up all requests; those that come later fail at once. For a program that ends.
     void Kapat();
 
   private:
     struct Ic;
     std::shared_ptr<Ic> ic_;
+};
+
+class AgIstemcisi::Gonderilen {
+  public:
+    struct Hal;
+    explicit Gonderilen(std::unique_ptr<Hal> hal);
+    ~Gonderilen();
+    Gonderilen(const Gonderilen&) = delete;
+    Gonderilen& operator=(const Gonderilen&) = delete;
+
+    /// Whether it has come to its end, well or not.
+    bool Bitti();
+    /// Waits for that, with a turn for `sira` about every ten milliseconds. False when that said no: the
+    /// request still goes on.
+    bool Bekle(const Sira& sira);
+    /// The reply's body; empty on every failure.
+    Metin Cevap() const;
+
+  private:
+    std::unique_ptr<Hal> hal_;
 };
 
 } // namespace velora

@@ -340,10 +340,11 @@ void Baglayici::Bagla(Zamanlayici& model, const QString& ad) {
         if (!model.sakin || Durum().derinlik == 0 || (model.beklerken && Durum().bekliyor))
             Calistir([&model] { model.Calis(); });
     });
-    Izle([saat, &model] {
+    Izle([saat, &model, kurulus = model.kurulus]() mutable {
+        const bool kuruldu = std::exchange(kurulus, model.kurulus) != model.kurulus;
         if (model.aralik <= 0)
             saat->stop();
-        else if (!saat->isActive() || saat->interval() != model.aralik)
+        else if (kuruldu || !saat->isActive() || saat->interval() != model.aralik)
             saat->start(model.aralik);
     });
 }

@@ -305,6 +305,16 @@ void BeklerkenGoster(Ortam& ortam) {
         const Baglayici::KullaniciBekleme bekleme;
         return getir(istek);
     };
+    if (ortam.ag.gonder)
+        ortam.ag.gonder = [gonder = ortam.ag.gonder](const AgIstegi& istek) {
+            const Gonderim gonderim = gonder(istek);
+            Gonderim gosteren = gonderim;
+            gosteren.bekle = [bekle = gonderim.bekle](const std::function<bool()>& birak) {
+                const Baglayici::KullaniciBekleme bekleme;
+                bekle(birak);
+            };
+            return gosteren;
+        };
     ortam.ag.aktarimAc = [ac = ortam.ag.aktarimAc](const AktarimIstegi& istek) {
         const Aktarim aktarim = ac(istek);
         Aktarim gosteren = aktarim;

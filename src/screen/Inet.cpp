@@ -13,10 +13,8 @@ Metin Inet::Getir(const Metin& adres) {
     suren_ = birakildi;
     Metin cevap;
     try {
-        cevap = program_.ortam.ag.getir({.adres = adres,
-                                         .sure = sure,
-                                         .vazgecildi = [birakildi] { return *birakildi; },
-                                         .baglantiKalsin = baglantiKalsin});
+        cevap = program_.ortam.ag.getir(
+            {.adres = adres, .sure = sure, .vazgecildi = [birakildi] { return *birakildi; }});
     } catch (...) {
         if (!*birakildi)
             suren_.reset();

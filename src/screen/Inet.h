@@ -8,6 +8,8 @@ namespace velora {
 
 struct Program;
 
+inline constexpr int kIstekSuresi = 10; // seconds that a request may take, unless its screen says more
+
 /// The transfer control of a screen. It carries one request at a time.
 class Inet {
   public:
@@ -17,8 +19,7 @@ class Inet {
     Inet(const Inet&) = delete;
     Inet& operator=(const Inet&) = delete;
 
-    int sure = 10;               ///< seconds that a request may take
-    bool baglantiKalsin = false; ///< as in `AgIstegi`
+    int sure = kIstekSuresi; ///< seconds that a request may take
 
     /// The reply's body. Empty on every failure, and when it was given up. Events run while it waits: a
     /// second request of this control that they begin fails at once, and the screen may be gone afterwards.

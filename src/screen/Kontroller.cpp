@@ -137,8 +137,21 @@ void ListeGorunumu::Temizle() {
 
 void ListeGorunumu::SeciliyiSil() {
     if (Secili() != nullptr)
-        satirlar.erase(static_cast<std::size_t>(secili));
+        Sil(secili);
     secili = -1;
+}
+
+void ListeGorunumu::Sil(int sira) {
+    satirlar.erase(static_cast<std::size_t>(sira));
+    if (secili == sira)
+        secili = -1;
+    else if (secili > sira)
+        --secili;
+}
+
+void Zamanlayici::Kur(int milisaniye) {
+    aralik = milisaniye;
+    ++kurulus;
 }
 
 void Zamanlayici::Calis() {

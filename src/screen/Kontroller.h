@@ -293,6 +293,8 @@ struct ListeGorunumu {
     void Temizle();
     /// Takes the marked row out, if there is one. Nothing is marked then.
     void SeciliyiSil();
+    /// Takes a row out, from 0. The mark stays with its own row.
+    void Sil(int sira);
 };
 
 /// A timer of a screen. It runs while `aralik` isn't 0. The outside calls `Calis` when it is due.
@@ -301,7 +303,10 @@ struct Zamanlayici {
     std::function<void()> tik; ///< the screen's handler, set by the screen
     bool sakin = false; ///< it is due only while no other handler runs: what its own waits for holds up none
     bool beklerken = false; ///< with `sakin`: due also while the running handler waits for the user
+    unsigned kurulus = 0;   ///< how often it was set going by `Kur`
 
+    /// Sets it going, so long from now on, also when it runs already.
+    void Kur(int milisaniye);
     /// Runs the handler, unless it is running already or the timer has been stopped: a due tick waits.
     void Calis();
 

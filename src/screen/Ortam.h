@@ -52,6 +52,16 @@ struct AgIstegi {
     bool baglantiKalsin = false;
 };
 
+/// A request that goes on by itself, as long as a copy of it is held, and whose reply nobody reads.
+struct Gonderim {
+    /// Whether it has come to its end, well or not. It waits for nothing, but nothing gets on unless somebody
+    /// asks.
+    std::function<bool()> bitti = [] { return true; };
+    /// Waits for its end and lets pending events run meanwhile, until `birak` says true: then it still goes
+    /// on.
+    std::function<void(const std::function<bool()>& birak)> bekle = [](const std::function<bool()>&) {};
+};
+
 /// The fetch of a file over the network: GET, and the lines that are asked for.
 struct AktarimIstegi {
     Metin adres;                    ///< goes out as it stands, without any escaping
@@ -183,6 +193,14 @@ struct Ortam {
         /// The body of the reply; empty text on every failure. While it waits it lets pending events run, so
         /// that screens may come and go meanwhile, and other requests begin and end.
         std::function<Metin(const AgIstegi&)> getir = [](const AgIstegi&) { return Metin(); };
+        /// Sends a request and doesn't wait for it. Without this one `Gonder` waits for its end.
+        std::function<Gonderim(const AgIstegi&)> gonder;
+        Gonderim Gonder(const AgIstegi& istek) const {
+            if (gonder)
+                return gonder(istek);
+            getir(istek);
+            return {};
+        }
         /// Begins to fetch a file.
         std::function<Aktarim(const AktarimIstegi&)> aktarimAc = [](const AktarimIstegi&) {
             return Aktarim();

@@ -60,7 +60,6 @@ FormTablo::FormTablo(Program& program)
     InternetTimer.tik = [this] { InternetTimer_Tick(); };
     InternetTimer.sakin = true;
     YayinTimer.tik = [this] { YayinTimer_Tick(); };
-    YayinTimer.sakin = YayinTimer.beklerken = true;
     YedekTimer.tik = [this] { YedekTimer_Tick(); };
     YedekTimer.sakin = YedekTimer.beklerken = true;
 }
@@ -135,7 +134,7 @@ void FormTablo::Activate() {
     program_.OlaylariIsle();
     if (program_.Splash->Check1 == 1) {
         program_.FormIpMac->macal();
-        DuyuruKontrol.aralik = kDuyuruAraligi;
+        DuyuruKontrol.Kur(kDuyuruAraligi);
     } else if (program_.ortam.ag.baglantiVar()) {
         // Not here, where other screens come back: what they were shown for would wait for the reply.
         InternetTimer.aralik = kInternetAraligi;
@@ -147,7 +146,7 @@ void FormTablo::InternetTimer_Tick() {
     Program& p = program_;
     p.Splash->tekrarinternetkontrol();
     if (p.FormTablo.Yuklu() && p.Splash->Check1 == 1)
-        DuyuruKontrol.aralik = kDuyuruAraligi;
+        DuyuruKontrol.Kur(kDuyuruAraligi);
 }
 
 void FormTablo::Command6() {
@@ -204,7 +203,7 @@ void FormTablo::YeniGun() {
 void FormTablo::Saatsay_Tick() {
     YeniGun();
     if (Dklabel == kDuyuruTiki) {
-        DuyuruKontrol.aralik = kDuyuruAraligi;
+        DuyuruKontrol.Kur(kDuyuruAraligi);
         Dklabel = 0;
     } else {
         ++Dklabel;

@@ -148,6 +148,8 @@ struct FormTablo {
     /// Sends the table of the selected hall and year, as it is now, to the service, on a screen over the
     /// others (Yayin.cpp). Offline: nothing. Asked while another one goes out, it goes out behind that.
     void Yayinla();
+    /// Sends a request whose reply nobody reads, and doesn't wait for it. An empty address is none.
+    void ArkadanGonder(const Metin& adres);
     /// Takes over a backup in the middle: it goes on without a screen, to its end and its message
     /// (Yedek.cpp).
     void YedegiSurdur(std::shared_ptr<EslemeKosusu> kosu);
@@ -173,7 +175,7 @@ struct FormTablo {
     void YeniRezTimer_Tick();
     void YeniDuyuruTimer_Tick();
     void InternetTimer_Tick(); ///< asks once more whether the service is there
-    void YayinTimer_Tick();    ///< the next request of a publish whose screen was closed
+    void YayinTimer_Tick();    ///< what goes out without a screen: its next request
     void YedekTimer_Tick();    ///< the next files of a backup whose screen was closed
     /// Date and time of the status bar, by the clock.
     void SaatiYaz();
@@ -281,6 +283,7 @@ struct FormTablo {
     void IptalSatiriEkle(const AnaDegerler& kayit, const Metin& sebep);
     Yayin YayinaKopyala() const;
     void YayinlariGoster();
+    void GonderimSaatiniKur();
 
     Program& program_;
     double icGenislik_ = 0;
@@ -288,7 +291,8 @@ struct FormTablo {
     bool gunduzUstte_ = false; // as the settings said when the screen was loaded
     bool yerlesti_ = false;
     std::deque<std::shared_ptr<YayinKosusu>> yayinlar_;  // that go out or wait, in their order
-    bool yayinda_ = false;                               // somebody sends them
+    bool yayinda_ = false;                               // a screen sends them
+    std::vector<Gonderim> gidenler_;                     // requests under way that nobody waits for
     std::deque<std::shared_ptr<EslemeKosusu>> yedekler_; // that go on without a screen, one behind the other
 };
 

@@ -44,17 +44,27 @@ std::string IstekBaytlari(MetinBakis cevap) {
 
 void FormTablo::DuyuruKontrol_Tick() {
     Program& p = program_;
+    // While it waits the user may open what it asks about, change it there and come back. Then the poll has
+    // been set going anew: what this one was told is older than what stands here, and the new one asks again.
+    const auto eskidi = [this, &p, kurulus = DuyuruKontrol.kurulus] {
+        return !p.FormTablo.Yuklu() || DuyuruKontrol.kurulus != kurulus;
+    };
     if (p.Splash->Check1 == 1) {
         const Metin anahtar = p.FormSunucu->Text1.metin;
-        if (Kirp(Inet1.Getir(IstekAdresi(p, Istek::Duyuru, {anahtar}))) == u"1")
+        const Metin duyuru = Inet1.Getir(IstekAdresi(p, Istek::Duyuru, {anahtar}));
+        if (eskidi())
+            return;
+        if (Kirp(duyuru) == u"1")
             YeniDuyuruTimer.aralik = kIsaretYanipSonme;
         p.OlaylariIsle();
-        if (!p.FormTablo.Yuklu())
+        if (eskidi())
             return;
         const Metin cevap = Inet1.Getir(IstekAdresi(p, Istek::RezKontrol, {anahtar}));
-        if (!p.FormTablo.Yuklu())
+        if (eskidi())
             return;
         IstekleriAl(Kirp(cevap));
+        if (eskidi())
+            return;
     }
     DuyuruKontrol.aralik = 0;
 }

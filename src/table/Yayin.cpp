@@ -37,17 +37,15 @@ void FormTablo::Yayinla() {
     if (program_.Splash->Check1 != 1)
         return;
     yayinlar_.push_back(std::make_shared<YayinKosusu>(program_, YayinaKopyala()));
-    // Asked within the events of another one: it goes out whole behind that. Sent in between, it would be
-    // overtaken by what the other one still has to say of the same year.
+    // Asked while another one goes out: it goes out whole behind that. Sent in between, it would be overtaken
+    // by what the other one still has to say of the same year.
     if (!yayinda_)
         YayinlariGoster();
 }
 
 void FormTablo::YayinlariGoster() {
-    const Bayrak yayinda(yayinda_);
-    YayinTimer.aralik = 0;
     Program& p = program_;
-    while (!yayinlar_.empty()) {
+    for (Bayrak yayinda(yayinda_); !yayinlar_.empty(); yayinlar_.pop_front()) {
         const auto kosu = yayinlar_.front();
         p.FormWebteYayinla.GosterModal([&] {
             const auto ekran = p.FormWebteYayinla.Tut();
@@ -56,27 +54,34 @@ void FormTablo::YayinlariGoster() {
                                    u") kayıtları veri tabanına kaydediliyor.";
             return true;
         });
-        if (!kosu->Bitti()) {
-            // Closed in the middle, which stops nothing: what is left goes out without a screen.
-            YayinTimer.aralik = kYayinAraligi;
-            return;
-        }
-        yayinlar_.pop_front();
+        // Closed in the middle, which stops nothing: what is left goes out without a screen.
+        if (!kosu->Bitti())
+            break;
     }
+    GonderimSaatiniKur();
+}
+
+void FormTablo::GonderimSaatiniKur() {
+    const bool bos = gidenler_.empty() && (yayinda_ || yayinlar_.empty());
+    YayinTimer.aralik = bos ? 0 : kYayinAraligi;
 }
 
 void FormTablo::YayinTimer_Tick() {
-    if (yayinda_)
-        return;
-    const Bayrak yayinda(yayinda_);
-    if (!yayinlar_.empty()) {
+    std::erase_if(gidenler_, [](const Gonderim& giden) { return giden.bitti(); });
+    if (!yayinda_ && !yayinlar_.empty()) {
         const auto kosu = yayinlar_.front();
-        if (!kosu->Bitti())
-            kosu->Adim();
+        kosu->Ilerle();
         if (kosu->Bitti())
-            yayinlar_.pop_front();
+            std::erase(yayinlar_, kosu);
     }
-    YayinTimer.aralik = yayinlar_.empty() ? 0 : kYayinAraligi;
+    GonderimSaatiniKur();
+}
+
+void FormTablo::ArkadanGonder(const Metin& adres) {
+    if (adres.empty())
+        return;
+    gidenler_.push_back(program_.ortam.ag.Gonder({.adres = adres, .sure = kIstekSuresi}));
+    GonderimSaatiniKur();
 }
 
 void FormTablo::Command7() {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -278,6 +279,26 @@ class BaglayiciTest : public QObject {
         sahne.ekran->saat.aralik = 0;
         Baglayici::HepsiniTazele();
         QVERIFY(!saat->isActive());
+    }
+
+    void a_timer_that_is_set_going_anew_begins_its_time_anew() {
+        constexpr int kAralik = 400;
+        Sahne sahne;
+        QElapsedTimer gecen;
+        qint64 tikta = 0;
+        sahne.ekran->saat.Kur(kAralik);
+        sahne.ekran->saat.tik = [&] {
+            tikta = gecen.elapsed();
+            ++sahne.sayi;
+        };
+        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
+        QTest::qWait(3 * kAralik / 4);
+        sahne.ekran->saat.Kur(kAralik);
+        sahne.sayi = 0;
+        gecen.start();
+        Baglayici::HepsiniTazele();
+        QTRY_VERIFY(sahne.sayi > 0);
+        QVERIFY2(tikta > kAralik / 2, qPrintable(QString::number(tikta)));
     }
 
     void a_tick_runs_the_handler_and_can_stop_its_own_timer() {

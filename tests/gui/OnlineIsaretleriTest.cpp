@@ -46,10 +46,22 @@ struct IsaretFirmasi : GuiFirma {
         QTRY_VERIFY_WITH_TIMEOUT(Isaret("YeniRezervasyonVar").isEnabled(), 6000);
         QTRY_VERIFY_WITH_TIMEOUT(Isaret("YeniDuyuru").isEnabled(), 2000);
     }
+    /// Of the help menu.
+    void Sec(const char* girdi) { Pencere().findChild<QAction*>(QString::fromLatin1(girdi))->trigger(); }
     void IsareteTikla(const char* ad) { QTest::mouseClick(&Isaret(ad), Qt::LeftButton); }
 
     Servis servis;
 };
+
+/// Closes a record without saving it.
+Is Vazgec() {
+    return [](QDialog& kayit) {
+        Pencerede([&] { QTest::keyClick(&kayit, Qt::Key_Escape); },
+                  {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\nBu Rezervasyon kaydı "
+                                        "oluşturulmayacak emin misiniz?"),
+                         QStringLiteral("Evet"))});
+    };
+}
 
 QImage Gorunen(const QToolButton& isaret) {
     return isaret.icon().pixmap(isaret.iconSize()).toImage();
@@ -138,22 +150,47 @@ class OnlineIsaretleriTest : public QObject {
                                             "23.06.2026", "19:30", "Gece", "Nişan"}));
                       QVERIFY(!Parcasi<QPushButton>(pencere, "Command2").isEnabled());
                       SatiraTikla(liste, 0);
-                      Pencerede(
-                          [&] { SatiraCiftTikla(liste, 0); }, {[](QDialog& kayit) {
-                              QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay1").text(), QStringLiteral("Gül"));
-                              QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay12").text(), QStringLiteral("19:30"));
-                              Pencerede(
-                                  [&] { QTest::keyClick(&kayit, Qt::Key_Escape); },
-                                  {Mesaj(QStringLiteral("Rezervasyonu oluşturmadan kapatıyorsunuz!\nBu "
-                                                        "Rezervasyon kaydı oluşturulmayacak emin misiniz?"),
-                                         QStringLiteral("Evet"))});
-                          }});
+                      Pencerede([&] { SatiraCiftTikla(liste, 0); }, {[](QDialog& kayit) {
+                                    QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay1").text(), QStringLiteral("Gül"));
+                                    QCOMPARE(Parcasi<QLineEdit>(kayit, "Kay12").text(),
+                                             QStringLiteral("19:30"));
+                                    Vazgec()(kayit);
+                                }});
                       QCOMPARE(liste.topLevelItemCount(), 1);
                       QCOMPARE(SatirYazilari(liste, 0).front(), QStringLiteral("42"));
                       QVERIFY(!Parcasi<QPushButton>(pencere, "Command2").isEnabled());
                       QTest::keyClick(&pencere, Qt::Key_Escape);
                   }});
         QCOMPARE(firma.Bul<QComboBox>("Salon").currentText(), QStringLiteral("Çınar Kır Bahçesi No.2"));
+    }
+
+    void behind_a_record_the_close_button_has_the_focus_and_behind_a_refusal_the_list() {
+        IsaretFirmasi firma;
+        firma.YanincayaBekle();
+        Pencerede([&] { firma.IsareteTikla("YeniRezervasyonVar"); }, {[&](QDialog& pencere) {
+                      const auto& liste = Parcasi<QTreeWidget>(pencere, "Liste");
+                      SatiraTikla(liste, 0);
+                      Pencerede([&] { Tikla(pencere, "Command2"); }, {Vazgec()});
+                      QCOMPARE(Odaktaki(), QStringLiteral("Command1"));
+                      firma.Firma().istekler.clear();
+                      firma.Rezervasyon(kSalonA, u"24.06.2026 - Gündüz", true);
+                      firma.Model().Command1();
+                      SatiraTikla(liste, 0);
+                      Pencerede([&] { Tikla(pencere, "Command2"); },
+                                {Mesaj(QStringLiteral("Bu tarihe online rezervasyon alamazsınız!\nZaten bir "
+                                                      "rezervasyon kayıtlı."))});
+                      QCOMPARE(Odaktaki(), QStringLiteral("Liste"));
+                      QTest::keyClick(&pencere, Qt::Key_Escape);
+                  }});
+    }
+
+    void the_menu_opens_the_announcements_too() {
+        IsaretFirmasi firma;
+        Pencerede([&] { firma.Sec("duyurularsss"); }, {[](QDialog& pencere) {
+                      QCOMPARE(pencere.windowTitle(), QStringLiteral("Duyurular"));
+                      QTest::keyClick(&pencere, Qt::Key_Escape);
+                  }});
+        QVERIFY(!firma.Firma().duyuruVar);
     }
 
     void the_last_request_that_is_deleted_closes_the_list_and_the_focus_is_on_the_table() {
@@ -174,10 +211,25 @@ class OnlineIsaretleriTest : public QObject {
         QTRY_COMPARE(Odaktaki(), QStringLiteral("Picture4"));
     }
 
+    void a_suggestion_that_was_not_taken_is_told_and_stays_to_be_sent_again() {
+        IsaretFirmasi firma;
+        firma.servis.kopuk = true;
+        Pencerede([&] { firma.Sec("oneriii"); }, {[&](QDialog& pencere) {
+                      Yaz(QStringLiteral("Teşekkürler"));
+                      Pencerede([&] { Tikla(pencere, "Command1"); },
+                                {Mesaj(QStringLiteral("Mesajınız gönderilemedi!\nLütfen İnternet "
+                                                      "bağlantınızı kontrol ediniz!"))});
+                      QVERIFY(pencere.isVisible());
+                      QCOMPARE(Parcasi<QPlainTextEdit>(pencere, "Aciklama").toPlainText(),
+                               QStringLiteral("Teşekkürler"));
+                      QTest::keyClick(&pencere, Qt::Key_Escape);
+                  }});
+        QVERIFY(firma.Firma().oneriler.empty());
+    }
+
     void a_suggestion_is_typed_and_sent_by_the_help_menu() {
         IsaretFirmasi firma;
-        auto* girdi = firma.Pencere().findChild<QAction*>(QStringLiteral("oneriii"));
-        Pencerede([&] { girdi->trigger(); }, {[&](QDialog& pencere) {
+        Pencerede([&] { firma.Sec("oneriii"); }, {[&](QDialog& pencere) {
                       QCOMPARE(Odaktaki(), QStringLiteral("Aciklama"));
                       QVERIFY(!Parcasi<QPushButton>(pencere, "Command1").isEnabled());
                       Yaz(QStringLiteral("Teşekkürler"));

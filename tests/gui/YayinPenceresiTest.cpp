@@ -1,7 +1,6 @@
 #include <atomic>
 #include <chrono>
 #include <set>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -31,6 +30,21 @@ using namespace velora::test;
 namespace {
 
 constexpr int kBolSure = 30'000; // milliseconds that no loaded machine needs
+
+/// The number of the request whose reply is held back. Set in one thread, waited for in another.
+class Tutulan {
+  public:
+    Tutulan& operator=(int istek) {
+        istek_ = istek;
+        istek_.notify_all();
+        return *this;
+    }
+    /// Returns at once unless this is the one, and then as soon as it isn't any more.
+    void Bekle(int istek) const { istek_.wait(istek); }
+
+  private:
+    std::atomic<int> istek_ = 0;
+};
 
 /// A firm in its windows with the real network, two halls and two reservations: a publish is five requests.
 /// The service holds back its reply to the request of the number `tutulan`.
@@ -63,8 +77,7 @@ struct YayinFirmasi : GuiFirma {
     std::optional<std::string> Cevapla(std::string_view hedef) {
         const auto cevap = servis.Cevapla(hedef);
         ++gelen;
-        while (tutulan == gelen)
-            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        tutulan.Bekle(gelen);
         return cevap;
     }
     QWidget& YayinPenceresi() { return *disDunya.Pencere(EkranAdi::FormWebteYayinla); }
@@ -72,7 +85,7 @@ struct YayinFirmasi : GuiFirma {
         return servis.firmalar[u"01-02-03-04-05-06"].yillar[{u"0", u"2026"}].size();
     }
 
-    std::atomic<int> tutulan = 0;
+    Tutulan tutulan;
     std::atomic<int> gelen = 0;
     Servis servis;
     Sunucu sunucu{Baglantilar::AcikKalir, [this](std::string_view hedef) { return Cevapla(hedef); }};
@@ -210,14 +223,43 @@ class YayinPenceresiTest : public QObject {
         firma.tutulan = 1;
         const IstekteYap isler(firma, {{1, [&] {
                                             QTest::keyClick(&firma.YayinPenceresi(), Qt::Key_Escape);
-                                            firma.tutulan = 0;
+                                            firma.tutulan = 2;
                                         }}});
         firma.YayinlaTikla();
+        QTRY_COMPARE_WITH_TIMEOUT(firma.gelen.load(), 2, kBolSure);
+        // A request of the rest is under way when the window opens.
         Pencerede([&] { MenudenSec(firma, "Websssunucus"); }, {[&](QDialog& pencere) {
+                      firma.tutulan = 0;
                       QTRY_COMPARE_WITH_TIMEOUT(firma.gelen.load(), 5, kBolSure);
+                      QTRY_COMPARE_WITH_TIMEOUT(firma.Model().YayinTimer.aralik, 0, kBolSure);
                       QVERIFY(pencere.isVisible());
                       QTest::keyClick(&pencere, Qt::Key_Escape);
                   }});
+    }
+
+    void asked_anew_while_the_rest_goes_out_it_shows_its_window_until_both_are_out() {
+        YayinFirmasi firma;
+        firma.tutulan = 2;
+        QPointer<QWidget> ikinci;
+        const IstekteYap isler(firma, {{2,
+                                        [&] {
+                                            QTest::keyClick(&firma.YayinPenceresi(), Qt::Key_Escape);
+                                            firma.tutulan = 3;
+                                        }},
+                                       {3,
+                                        [&] {
+                                            firma.tutulan = 7;
+                                            QTimer::singleShot(0, qApp, [&] { firma.YayinlaTikla(); });
+                                        }},
+                                       {7, [&] {
+                                            ikinci = &firma.YayinPenceresi();
+                                            QVERIFY(ikinci->isVisible());
+                                            firma.tutulan = 0;
+                                        }}});
+        firma.YayinlaTikla();
+        QTRY_COMPARE_WITH_TIMEOUT(firma.gelen.load(), 10, kBolSure);
+        QTRY_VERIFY_WITH_TIMEOUT(ikinci == nullptr || !ikinci->isVisible(), kBolSure);
+        QCOMPARE(firma.Yayindakiler(), std::size_t{2});
     }
 
     void a_program_that_ends_in_the_middle_waits_for_nothing() {

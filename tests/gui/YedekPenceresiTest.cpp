@@ -204,6 +204,37 @@ class YedekPenceresiTest : public QObject {
         firma.HepsiYedekte();
     }
 
+    void the_rest_waits_while_another_backup_runs_in_its_window() {
+        YedekFirma firma;
+        firma.DosyalarKoy(kCokDosya);
+        firma.Ac();
+        int tikler = 0;
+        Zamanlayici& saat = firma.Model().YedekTimer;
+        saat.tik = [&tikler, asil = saat.tik] {
+            ++tikler;
+            asil();
+        };
+        const auto ac = [&] {
+            MenudenSec(firma, "Yedeksss");
+            MenudenSec(firma, "Yedeksss");
+            firma.SonunuBekle();
+        };
+        const auto ikinci = [&](QDialog& pencere) {
+            const int once = tikler;
+            int sonra = 0;
+            firma.HerAdimda([&](int) { sonra = tikler; });
+            firma.hazirCevap = Cevap::Tamam;
+            Tikla(pencere, "cmdStart");
+            firma.hazirCevap.reset();
+            QVERIFY(firma.SonKlasorde());
+            QCOMPARE(sonra, once);
+            QVERIFY2(saat.aralik > 0, "the first one still has its end to tell");
+        };
+        Pencerede(ac, {firma.YaridaKapat([](QDialog& pencere) { Tikla(pencere, "Command3"); }), ikinci,
+                       Mesaj(kBitti)});
+        QVERIFY(tikler > 0);
+    }
+
     void the_x_of_the_table_ends_the_program_in_the_middle_without_the_last_message() {
         YedekFirma firma;
         firma.DosyalarKoy(kCokDosya);

@@ -21,11 +21,15 @@ class FormDuyurularTest : public OnlineTest {
         program.FormTablo->YeniDuyuruTimer.aralik = 400;
         program.FormTablo->YeniDuyuruTimer_Tick();
     }
+    Metin okununca; // what the screen showed when it was marked as read
+
     /// Opens the screen while the fetch gives that reply; `is` is what the user does there.
     void Ac(const Metin& cevap, std::function<void()> is) {
         ortam.Bekle(BeklenenEkran{EkranAdi::FormDuyurular, std::move(is)});
         ortam.Bekle(BeklenenIstek{.adres = kDuyurularAdresi, .cevap = cevap});
-        ortam.Bekle(BeklenenIstek{.adres = kOkunduAdresi, .cevap = u"?"});
+        ortam.Bekle(BeklenenIstek{.adres = kOkunduAdresi, .cevap = u"?", .is = [this] {
+                                      okununca = program.FormDuyurular->Text1.metin;
+                                  }});
         program.FormDuyurular.GosterModal();
     }
 };
@@ -35,6 +39,7 @@ TEST_F(FormDuyurularTest, Shows_what_the_service_tells_line_by_line_and_has_it_m
         const auto duyurular = program.FormDuyurular.Tut();
         EXPECT_EQ(duyurular->Text1.metin, u" Yeni sürüm\r\n\r\nBayram <b>kutlu</b><BR>");
         EXPECT_TRUE(duyurular->Text1.kilitli);
+        EXPECT_EQ(okununca, duyurular->Text1.metin);
         VELORA_BAS(program.FormDuyurular, Command1);
     });
     EXPECT_FALSE(program.FormDuyurular.Yuklu());
@@ -62,16 +67,43 @@ TEST_F(FormDuyurularTest, A_screen_that_is_closed_during_the_fetch_marks_nothing
     EXPECT_FALSE(program.FormDuyurular.Yuklu());
 }
 
+TEST_F(FormDuyurularTest, A_screen_that_is_closed_while_it_is_marked_as_read_leaves_that_request_on_its_way) {
+    int yolda = 0;
+    program.ortam.ag.gonder = [&](const AgIstegi& istek) {
+        EXPECT_EQ(istek.adres, kOkunduAdresi);
+        const auto varis = std::make_shared<int>(3);
+        ++yolda;
+        return Gonderim{.bitti = [&yolda, varis] { return --*varis == 0 && --yolda == 0; }};
+    };
+    ortam.Bekle(
+        BeklenenEkran{EkranAdi::FormDuyurular, [this] { VELORA_BAS(program.FormDuyurular, Command1); }});
+    ortam.Bekle(BeklenenIstek{.adres = kDuyurularAdresi, .cevap = u"x"});
+    program.FormDuyurular.GosterModal();
+    EXPECT_FALSE(program.FormDuyurular.Yuklu());
+    auto& saat = program.FormTablo->YayinTimer;
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(yolda, 1);
+        EXPECT_EQ(saat.aralik, 10);
+        saat.Calis();
+    }
+    EXPECT_EQ(yolda, 0);
+    EXPECT_EQ(saat.aralik, 0);
+}
+
 class FormOneriTest : public FirmaTest {
   protected:
     FormOneriTest() { agac.Koy(u"Firma.dll", kDosya); }
+    int olaylar = 0;
     FormOneri& Oneri() { return *program.FormOneri.Tut(); }
     void Yaz(const Metin& metin) {
         SatirlaraYaz(Oneri().Aciklama, metin, {.degisti = [this] { Oneri().Aciklama_Change(); }});
     }
     void Gonder(const Metin& mesaj, const Metin& cevap, bool gitti) {
         Yaz(mesaj);
-        ortam.Bekle(BeklenenIstek{.adres = kOneriAdresi + mesaj, .cevap = cevap});
+        ortam.Bekle(BeklenenIstek{.adres = kOneriAdresi + mesaj, .cevap = cevap, .is = [this] {
+                                      EXPECT_EQ(ortam.olaySayisi, olaylar) << "events have a turn behind it";
+                                  }});
+        olaylar = ortam.olaySayisi;
         if (!gitti)
             ortam.Bekle(BeklenenKutu{
                 u"Velora", u"Mesajınız gönderilemedi!\nLütfen İnternet bağlantınızı kontrol ediniz!",

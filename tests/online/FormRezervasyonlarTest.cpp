@@ -285,6 +285,85 @@ TEST_F(FormRezervasyonlarTest, The_screen_may_go_while_the_table_moves_to_the_re
     EXPECT_EQ(agac.Oku(u"RezTemp.dat"), "");
 }
 
+TEST_F(FormRezervasyonlarTest, A_row_that_was_chosen_while_another_one_was_deleted_stays_chosen) {
+    Iste({});
+    Iste({.no = u"42"});
+    Iste({.no = u"43"});
+    Baslat();
+    ListeyiAc([this] {
+        for (const auto& [silinen, secilen] : {std::pair{0, 2}, {1, 0}}) {
+            Sec(silinen);
+            istekte = [this, no = secilen] { Sec(no); };
+            KutuBekle(kSilmeSorusu, Cevap::Evet, Simge::Soru);
+            VELORA_BAS(Prog().FormRezervasyonlar, Command3);
+            ASSERT_NE(Liste().Liste.Secili(), nullptr);
+            EXPECT_EQ(Liste().Liste.Secili()->sutun[0], silinen == 0 ? u"43" : u"42");
+            EXPECT_TRUE(Liste().Command2.etkin);
+        }
+    });
+}
+
+// What it was told is older than what the user has done since.
+TEST_F(FormRezervasyonlarTest, A_poll_within_which_the_list_was_open_is_dropped_and_a_new_one_asks) {
+    Iste({});
+    Iste({.no = u"42"});
+    Baslat();
+    bool acildi = false;
+    istekte = [this, &acildi] {
+        if (acildi || !servis.gelenler.back().starts_with(u"rezkontrol.php"))
+            return;
+        acildi = true;
+        ListeyiAc([this] {
+            Sec(0);
+            KutuBekle(kSilmeSorusu, Cevap::Evet, Simge::Soru);
+            VELORA_BAS(Prog().FormRezervasyonlar, Command3);
+            VELORA_BAS(Prog().FormRezervasyonlar, Command1);
+        });
+    };
+    kullanici.ZamanGecir(2'600);
+    ASSERT_TRUE(acildi);
+    EXPECT_TRUE(Dosya().starts_with("\"42\",")) << "the deleted one hasn't come back";
+    EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 2'500);
+    EXPECT_EQ(kullanici.Tablo().YeniRezTimer.aralik, 400);
+    servis.gelenler.clear();
+    kullanici.ZamanGecir(2'600);
+    EXPECT_EQ(servis.Betikler(), (std::vector<std::string>{"duyuru.php", "rezkontrol.php"}));
+    EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 0);
+}
+
+TEST_F(FormRezervasyonlarTest, Closed_with_requests_left_the_mark_blinks_on_through_the_next_poll) {
+    Iste({});
+    Baslat();
+    ListeyiAc([this] { VELORA_BAS(Prog().FormRezervasyonlar, Command1); });
+    kullanici.ZamanGecir(2'600);
+    EXPECT_EQ(servis.Betikler().back(), "rezkontrol.php");
+    EXPECT_EQ(kullanici.Tablo().YeniRezTimer.aralik, 400);
+    EXPECT_TRUE(kullanici.Tablo().YeniRezervasyonVar.etkin);
+}
+
+TEST_F(FormRezervasyonlarTest, A_double_click_on_a_list_in_which_nothing_was_chosen_takes_over_nothing) {
+    Iste({});
+    Baslat();
+    ListeyiAc([this] {
+        Liste().Liste.secili = 0;
+        Liste().Liste_DblClick();
+    });
+    EXPECT_TRUE(servis.gelenler.empty());
+}
+
+TEST_F(FormRezervasyonlarTest, The_mail_address_of_a_request_goes_nowhere_on_purpose) {
+    Iste({});
+    Baslat();
+    ListeyiAc([this] {
+        Sec(0);
+        EkranBekle(EkranAdi::FormKayit, [this] {
+            for (const MetinKutusu& alan : Kayit().Kay)
+                EXPECT_EQ(alan.metin.find(u"gul@x.test"), Metin::npos);
+        });
+        Olustur();
+    });
+}
+
 TEST_F(FormRezervasyonlarTest, Save_writes_the_list_back_record_by_record) {
     Iste({});
     Baslat();

@@ -1,6 +1,8 @@
 // The real network in the outside world of a program.
 #include "platform/Ag.h"
 
+#include <mutex>
+
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
 #include "platform/AgTest.h"
@@ -12,6 +14,14 @@ namespace velora::test {
 class AgBaglamaTest : public ::testing::Test {
   protected:
     AgBaglamaTest() { AgiBagla(program.ortam); }
+
+    /// A request that may go over a connection that another one has left open.
+    Metin Ortak(const Sunucu& sunucu) {
+        return program.ortam.ag.getir({.adres = sunucu.Adres(u"/"), .sure = 60, .baglantiKalsin = true});
+    }
+    Gonderim Gonder(const Sunucu& sunucu) {
+        return program.ortam.ag.Gonder({.adres = sunucu.Adres(u"/g"), .sure = 60});
+    }
 
     GeciciAgac agac;
     SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
@@ -42,21 +52,17 @@ TEST_F(AgBaglamaTest, Requests_that_may_come_twice_share_a_connection_and_any_ot
         }
     };
     Sunucu sunucu({sayarak, Cevapla("kendi yolundan"), Cevapla("yeni")});
-    inet.baglantiKalsin = true;
-    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"1");
-    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"2");
-    inet.baglantiKalsin = false;
+    EXPECT_EQ(Ortak(sunucu), u"1");
+    EXPECT_EQ(Ortak(sunucu), u"2");
     EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"kendi yolundan");
-    inet.baglantiKalsin = true;
-    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"3");
+    EXPECT_EQ(Ortak(sunucu), u"3");
 }
 
 TEST_F(AgBaglamaTest, A_shared_connection_that_the_server_has_closed_meanwhile_is_made_anew) {
     Sunucu sunucu({Cevapla("ilk"), Cevapla("ikinci")});
-    inet.baglantiKalsin = true;
-    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"ilk");
+    EXPECT_EQ(Ortak(sunucu), u"ilk");
     sunucu.BitenleriBekle(1);
-    EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"ikinci");
+    EXPECT_EQ(Ortak(sunucu), u"ikinci");
 }
 
 TEST_F(AgBaglamaTest, Events_run_and_a_cancel_among_them_ends_the_request) {
@@ -97,6 +103,46 @@ TEST_F(AgBaglamaTest, A_program_that_is_told_to_end_within_a_request_ends_at_onc
     EXPECT_TRUE(ortam.bitti);
     EXPECT_EQ(inet.Getir(sunucu.Adres(u"/")), u"");
     EXPECT_EQ(sunucu.Istekler().size(), 1U);
+}
+
+TEST_F(AgBaglamaTest, A_request_that_is_sent_goes_on_while_nobody_waits_and_can_be_waited_for_later) {
+    bool cevaplandi = false;
+    std::mutex kilit;
+    Sunucu sunucu({[&](const Baglanti& baglanti) {
+        const std::lock_guard tutulan(kilit);
+        cevaplandi = baglanti.Yolla(TamCevap("1"));
+    }});
+    std::unique_lock bekleyen(kilit);
+    const Gonderim giden = Gonder(sunucu);
+    EXPECT_FALSE(giden.bitti());
+    giden.bekle([&] { return sunucu.Istekler().size() == 1; });
+    EXPECT_FALSE(giden.bitti()) << "who waits no longer hasn't given it up";
+    bekleyen.unlock();
+    const int once = ortam.olaySayisi;
+    giden.bekle([] { return false; });
+    EXPECT_TRUE(giden.bitti());
+    sunucu.BitenleriBekle(1);
+    EXPECT_TRUE(cevaplandi);
+    EXPECT_GT(once, 0) << "events run while it is waited for";
+}
+
+TEST_F(AgBaglamaTest, A_request_that_nobody_holds_any_more_is_given_up) {
+    Sunucu sunucu({Sus()});
+    {
+        const Gonderim giden = Gonder(sunucu);
+        giden.bekle([&] { return sunucu.Istekler().size() == 1; });
+    }
+    sunucu.BitenleriBekle(1);
+    EXPECT_TRUE(program.ortam.ag.Gonder({.adres = u"x:/", .sure = 60}).bitti()) << "and a bad one is over";
+}
+
+TEST_F(AgBaglamaTest, A_sent_request_is_over_when_the_program_ends) {
+    Sunucu sunucu({Sus()});
+    const Gonderim giden = Gonder(sunucu);
+    EXPECT_FALSE(giden.bitti());
+    ortam.olayda = [&](int) { program.ortam.olaylar.bitir(); };
+    giden.bekle([] { return false; });
+    EXPECT_TRUE(giden.bitti());
 }
 
 TEST_F(AgBaglamaTest, The_adapters_are_those_of_the_machine) {

@@ -2,10 +2,18 @@
 #include <algorithm>
 
 #include "access/Splash.h"
+#include "destek/Eylemler.h"
 #include "destek/Servis.h"
+#include "online/FormDuyurular.h"
 #include "table/TabloTest.h"
 
 namespace velora::test {
+
+namespace {
+
+const Metin kDuyuru = u"http://servis.test/x/duyuru.php?firmaid=00-1B-C4-0D-E0-9F";
+
+} // namespace
 
 class OnlineIsaretlerTest : public TabloTest {
   protected:
@@ -18,8 +26,7 @@ class OnlineIsaretlerTest : public TabloTest {
     }
     /// One poll, with these replies to its two requests.
     void Sor(const Metin& duyuru, const Metin& istekler) {
-        kullanici.ortam.Bekle(BeklenenIstek{
-            .adres = u"http://servis.test/x/duyuru.php?firmaid=00-1B-C4-0D-E0-9F", .cevap = duyuru});
+        kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = duyuru});
         kullanici.ortam.Bekle(BeklenenIstek{
             .adres = u"http://servis.test/x/rezkontrol.php?firmaid=00-1B-C4-0D-E0-9F", .cevap = istekler});
         kullanici.Tablo().DuyuruKontrol.aralik = 2'500;
@@ -116,12 +123,41 @@ TEST_F(OnlineIsaretlerTest, While_the_service_has_not_answered_nothing_is_asked_
 TEST_F(OnlineIsaretlerTest, A_poll_whose_table_goes_meanwhile_asks_nothing_more_and_writes_nothing) {
     Baslat();
     const auto tablo = kullanici.Prog().FormTablo.Tut();
-    kullanici.ortam.Bekle(BeklenenIstek{.adres = u"http://servis.test/x/duyuru.php?firmaid=00-1B-C4-0D-E0-9F",
-                                        .cevap = u"1",
-                                        .is = [this] { kullanici.Prog().FormTablo.Bosalt(); }});
+    kullanici.ortam.Bekle(BeklenenIstek{
+        .adres = kDuyuru, .cevap = u"1", .is = [this] { kullanici.Prog().FormTablo.Bosalt(); }});
     tablo->DuyuruKontrol_Tick();
     EXPECT_FALSE(agac.Var(u"RezTemp.dat"));
     EXPECT_EQ(tablo->YeniDuyuruTimer.aralik, 0);
+}
+
+TEST_F(OnlineIsaretlerTest, A_poll_within_which_the_announcements_were_read_lights_no_mark) {
+    Baslat();
+    kullanici.ortam.Bekle(BeklenenIstek{
+        .adres = kDuyuru, .cevap = u"1", .is = [this] {
+            Tablo().YeniDuyuruTimer.aralik = 400;
+            kullanici.ortam.olayda = [this](int) {
+                EXPECT_EQ(Tablo().YeniDuyuruTimer.aralik, 0) << "it stops before events run";
+                kullanici.ortam.olayda = {};
+            };
+            kullanici.ortam.Bekle(BeklenenEkran{
+                EkranAdi::FormDuyurular, [this] { VELORA_BAS(kullanici.Prog().FormDuyurular, Command1); }});
+            kullanici.ortam.Bekle(BeklenenIstek{.adres = u"http://servis.test/x/duyurular.php"});
+            kullanici.ortam.Bekle(
+                BeklenenIstek{.adres = u"http://servis.test/x/duyuruokundu.php?firmaid=00-1B-C4-0D-E0-9F"});
+            Tablo().YeniDuyuru_Click();
+        }});
+    Tablo().DuyuruKontrol.Kur(2'500);
+    Tablo().DuyuruKontrol.Calis();
+    EXPECT_EQ(Tablo().YeniDuyuruTimer.aralik, 0);
+    EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500) << "a new one asks";
+}
+
+TEST_F(OnlineIsaretlerTest, A_reply_of_separators_alone_empties_the_list_and_blinks_on_purpose) {
+    Baslat();
+    Sor(u"", u"7|x");
+    Sor(u"", u"<br> <br>");
+    EXPECT_EQ(agac.Oku(u"RezTemp.dat"), "");
+    EXPECT_EQ(Tablo().YeniRezTimer.aralik, 400);
 }
 
 TEST_F(OnlineIsaretlerTest, A_disk_that_takes_no_file_stops_no_blink) {

@@ -41,6 +41,24 @@ class YayinKosusuTest : public TabloTest {
         };
         kullanici.SalonSec(u"Çınar & Bahçe");
     }
+    /// From now on a request stays under way until it is waited for, or its entry of `yoldakiler` is called.
+    void YoldaKalsin() {
+        kullanici.Prog().ortam.ag.gonder = [this](const AgIstegi& istek) {
+            const auto bitti = std::make_shared<bool>(false);
+            const auto var = [this, istek, bitti] {
+                servis.Getir(istek);
+                *bitti = true;
+            };
+            yoldakiler.emplace_back(var);
+            return Gonderim{.bitti = [bitti] { return *bitti; },
+                            .bekle =
+                                [this, var](const std::function<bool()>& birak) {
+                                    beklerken();
+                                    if (!birak())
+                                        var();
+                                }};
+        };
+    }
     void EkranBekle(std::function<void()> is = {}) {
         kullanici.ortam.Bekle(BeklenenEkran{EkranAdi::FormWebteYayinla, std::move(is)});
     }
@@ -58,6 +76,8 @@ class YayinKosusuTest : public TabloTest {
 
     Servis servis;
     std::function<void(int)> istekte;
+    std::vector<std::function<void()>> yoldakiler; // brings the request to the service
+    std::function<void()> beklerken;
 };
 
 TEST_F(YayinKosusuTest,
@@ -77,6 +97,18 @@ TEST_F(YayinKosusuTest,
     EXPECT_FALSE(EkranVar());
 }
 
+TEST_F(YayinKosusuTest, A_day_of_two_months_goes_month_by_month_and_its_day_slot_first) {
+    for (const Metin ad : {u"01.03.2012 - Gece", u"01.01.2012 - Gece", u"01.03.2012 - Gündüz"})
+        KayitKoy(agac, u"Çınar & Bahçe/2012/" + ad, {});
+    Baslat();
+    Yayinla();
+    std::vector<Metin> gidenler;
+    for (const Servis::Goz& goz : Yili())
+        gidenler.push_back(goz.tarih + u" " + goz.dilim);
+    EXPECT_EQ(gidenler, (std::vector<Metin>{u"2012-01-01 Gece", u"2012-02-01 Gündüz", u"2012-02-01 Gece",
+                                            u"2012-03-01 Gündüz", u"2012-03-01 Gece", u"2012-01-02 Gece"}));
+}
+
 TEST_F(YayinKosusuTest, Hidden_months_and_past_days_go_out_too_on_purpose) {
     agac.KoyMetin(u"Settings.dll", AyarMetni(28, u"1")); // past days are painted
     agac.KoyMetin(u"Visible.dll", u"0,1,1,1,1,1,1,1,1,1,1,1,1\r\n");
@@ -90,8 +122,14 @@ TEST_F(YayinKosusuTest, An_empty_table_still_clears_the_year_and_tells_the_halls
     Baslat();
     kullanici.YilSec(u"2014");
     int enCok = -1;
+    Metin son;
+    kullanici.ortam.olayda = [&](int) {
+        if (EkranVar())
+            son = Ekran()->Label2.baslik + Ekran()->Label1.baslik + Ekran()->Command1.baslik;
+    };
     istekte = [&](int) { enCok = Ekran()->ProgressBar1.enCok; };
     Yayinla();
+    EXPECT_EQ(son, u"Tamamlandı.Tüm Değişiklikler veri tabanına kaydedildi.Kapat");
     EXPECT_EQ(servis.Betikler(), (std::vector<std::string>{"temizle.php", "salonekle.php", "salonekle.php"}));
     EXPECT_EQ(enCok, 0);
     EXPECT_FALSE(EkranVar());
@@ -100,6 +138,7 @@ TEST_F(YayinKosusuTest, An_empty_table_still_clears_the_year_and_tells_the_halls
 TEST_F(YayinKosusuTest, The_screen_tells_what_is_sent_how_far_it_has_come_and_that_it_is_done) {
     Baslat();
     std::vector<int> adimlar;
+    int enUzak = 0;
     istekte = [&](int) { adimlar.push_back(Ekran()->ProgressBar1.deger); };
     Metin son;
     kullanici.ortam.olayda = [&](int) {
@@ -111,6 +150,7 @@ TEST_F(YayinKosusuTest, The_screen_tells_what_is_sent_how_far_it_has_come_and_th
         EXPECT_EQ(ekran->List3, (std::vector<Metin>{u"Gündüz", u"Gece", u"Gece"}));
         EXPECT_EQ(ekran->ProgressBar1.enCok, 3);
         son = ekran->Label2.baslik + u"/" + ekran->Label1.baslik + u"/" + ekran->Command1.baslik;
+        enUzak = ekran->ProgressBar1.deger;
         if (servis.gelenler.size() == 4) {
             EXPECT_EQ(son,
                       u"Çınar & Bahçe (2012) kayıtları veri tabanına kaydediliyor./Lütfen bekleyiniz, bu "
@@ -119,6 +159,7 @@ TEST_F(YayinKosusuTest, The_screen_tells_what_is_sent_how_far_it_has_come_and_th
     };
     Yayinla();
     EXPECT_EQ(adimlar, (std::vector<int>{0, 0, 0, 0, 1, 2}));
+    EXPECT_EQ(enUzak, 3);
     EXPECT_EQ(son, u"Tamamlandı./Tüm Değişiklikler veri tabanına kaydedildi./Kapat");
 }
 
@@ -189,6 +230,7 @@ TEST_F(YayinKosusuTest, A_publish_asked_while_one_goes_out_goes_out_whole_behind
         std::filesystem::remove(agac.Yol(u"Çınar & Bahçe/2012/01.02.2012 - Gece"));
         kullanici.Tablo().Command1();
         kullanici.Tablo().Yayinla();
+        EXPECT_EQ(servis.gelenler.size(), 5U) << "nothing goes out in between";
         kullanici.SalonSec(u"Salon A");
     };
     EkranBekle();
@@ -204,27 +246,50 @@ TEST_F(YayinKosusuTest, A_publish_asked_while_one_goes_out_goes_out_whole_behind
     EXPECT_FALSE(EkranVar());
 }
 
-TEST_F(YayinKosusuTest, A_publish_asked_while_a_cancelled_one_still_goes_out_waits_for_it_too) {
+TEST_F(YayinKosusuTest, The_rest_of_a_cancelled_one_goes_out_one_request_at_a_time_and_nobody_waits) {
     Baslat();
-    istekte = [this](int no) {
-        if (no == 1)
+    YoldaKalsin();
+    int bekleyis = 0;
+    beklerken = [&] {
+        if (++bekleyis == 2)
             IptalEt();
-        if (no == 4) // within a tick, where nobody can wait for it
-            kullanici.Tablo().Yayinla();
     };
     Yayinla();
-    kullanici.ZamanGecir(1'400);
-    EXPECT_EQ(servis.gelenler.size(), 12U);
-    EXPECT_EQ(servis.Betikler()[6], "temizle.php");
-    // And between two ticks, where the screen stands until both are out.
-    servis.gelenler.clear();
+    EXPECT_FALSE(EkranVar());
+    EXPECT_EQ(yoldakiler.size(), 2U);
+    EXPECT_EQ(servis.gelenler.size(), 1U) << "the second one is still on its way, and the table works";
+    kullanici.ZamanGecir(500);
+    EXPECT_EQ(yoldakiler.size(), 2U) << "the next one waits for it";
+    for (std::size_t giden = 2; giden <= 6; ++giden) {
+        ASSERT_EQ(yoldakiler.size(), giden);
+        EXPECT_EQ(kullanici.Tablo().YayinTimer.aralik, 10);
+        yoldakiler.back()();
+        kullanici.ZamanGecir(100);
+    }
+    EXPECT_EQ(yoldakiler.size(), 6U);
+    EXPECT_EQ(Yili().size(), 3U);
+    EXPECT_EQ(kullanici.Tablo().YayinTimer.aralik, 0);
+}
+
+TEST_F(YayinKosusuTest, A_publish_asked_while_a_cancelled_one_still_goes_out_shows_both_to_their_ends) {
+    Baslat();
+    YoldaKalsin();
+    beklerken = [this] { IptalEt(); };
     Yayinla();
-    EXPECT_EQ(servis.gelenler.size(), 1U);
-    istekte = {};
+    EXPECT_TRUE(servis.gelenler.empty());
+    std::vector<Metin> basliklar;
+    beklerken = [&] { basliklar.push_back(Ekran()->Label2.baslik.substr(0, 12)); };
+    kullanici.YilSec(u"2013");
     EkranBekle();
     Yayinla();
-    EXPECT_EQ(servis.gelenler.size(), 12U);
+    EXPECT_EQ(yoldakiler.size(), 6U + 3U) << "the one on its way isn't sent twice";
+    ASSERT_EQ(servis.gelenler.size(), 9U);
+    EXPECT_EQ(servis.Betikler()[0], "temizle.php");
+    EXPECT_TRUE(servis.gelenler[6].ends_with(u"&sene=2013")) << "the later one behind the whole first";
+    EXPECT_EQ(basliklar, std::vector<Metin>(9, u"Çınar & Bahç"));
     EXPECT_EQ(Yili().size(), 3U);
+    EXPECT_FALSE(EkranVar());
+    EXPECT_EQ(kullanici.Tablo().YayinTimer.aralik, 0);
 }
 
 TEST_F(YayinKosusuTest, A_screen_that_is_activated_again_sends_nothing_twice) {

@@ -30,8 +30,12 @@ RezervasyonlarPenceresi::RezervasyonlarPenceresi(Program& program)
     auto* kapat = DugmeYap({"Command1", &F::Command1, &F::Command1_Click});
     IptalDugmesi(kapat);
     VarsayilanDugme(*olustur, *liste, *olustur);
-    for (QPushButton* dugme : {olustur, sil})
-        OdagiListeyeVer(*dugme, *liste);
+    OdagiListeyeVer(*sil, *liste);
+    // Refused, its row is still marked. Taken over, the screen came back and gave the focus itself.
+    Ardindan(*olustur, [liste] {
+        if (!liste->selectedItems().isEmpty())
+            liste->setFocus();
+    });
     sutun->addLayout(DugmeSeridi({olustur, sil, kapat}, {kaydet}));
     resize(980, 400);
     IlkOdak("Command1");
