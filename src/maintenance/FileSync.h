@@ -4,25 +4,9 @@
 #include <functional>
 #include <vector>
 
+#include "maintenance/KlasorEsleme.h"
+
 namespace velora {
-
-/// What the comparison says of a file. The bits from `KaynakYeni` on combine.
-namespace EslemeDurumu {
-inline constexpr int YalnizKaynakta = -2;
-inline constexpr int YalnizHedefte = -1;
-inline constexpr int Ayni = 0;
-inline constexpr int KaynakYeni = 1; ///< by a second or more
-inline constexpr int HedefYeni = 2;  ///< by a second or more
-inline constexpr int BoyFarkli = 4;
-inline constexpr int OzellikFarkli = 8;
-} // namespace EslemeDurumu
-
-struct EslemeSatiri {
-    std::filesystem::path ad; ///< of the file, without its folder
-    int durum = EslemeDurumu::Ayni;
-
-    bool operator==(const EslemeSatiri&) const = default;
-};
 
 /// Brings folders in line, file by file. It deletes nothing. Whatever fails is passed over and the rest goes
 /// on: a file that couldn't be copied whole stays as it was at its target, or away.
@@ -49,13 +33,6 @@ class FileSync {
     void SyncFolders(const Yol& kaynak, const Yol& hedef, bool ikiYonlu) const;
 
   private:
-    struct Klasor;
-
-    // False: the walk is to end.
-    bool Uygula(const Klasor& kaynak, const Klasor& hedef, bool ikiYonlu) const;
-    bool Gez(const Yol& kaynak, const Yol& hedef, bool ikiYonlu, std::vector<Yol>& ustler) const;
-    bool Girilir(const Yol& klasor, const std::vector<Yol>& ustler) const;
-
     std::function<bool()> olaylar_;
     std::vector<Yol> atlanan_;
 };

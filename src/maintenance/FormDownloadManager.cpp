@@ -71,9 +71,7 @@ void FormDownloadManager::Timer1_Tick() {
 void FormDownloadManager::YedekleVeGuncelle() {
     Program& p = program_;
     p.FormYedekAl->cmdStart_Click();
-    // Closed while the backup was taken.
-    if (!p.FormDownloadManager.Yuklu())
-        return;
+    // Also when it was closed meanwhile: the new version lies there, and the backup is taken.
     p.FormDownloadManager.Bosalt();
     p.OlaylariIsle();
     if (const auto yol = p.dosyalar.SistemYolu(p.agac.KokYolu(kGuncelleyici)))

@@ -12,6 +12,7 @@ struct Program;
 /// which does the rest. It begins as soon as it is shown. Neither program is tested in any way.
 ///
 /// Who closes it before the backup has begun gets neither backup nor update; what was fetched whole stays.
+/// Closed while the backup is taken it stops nothing: the updater starts behind it.
 struct FormDownloadManager {
     explicit FormDownloadManager(Program& program);
 

@@ -5,12 +5,14 @@
 #include <limits>
 #include <system_error>
 
+#include "maintenance/EslemeKosusu.h"
 #include "maintenance/FileSync.h"
 #include "maintenance/YedekYolu.h"
 #include "screen/Program.h"
 #include "screen/Sorular.h"
 #include "storage/AlanDosyasi.h"
 #include "storage/Sayi.h"
+#include "table/FormTablo.h"
 
 namespace velora {
 
@@ -105,28 +107,37 @@ void FormYedekAl::cmdStart_Click() {
         Soyle(program_, Metin(kDizinSeciniz));
     if (txtSource.metin.empty())
         return Soyle(program_, Metin(kDizinSeciniz));
-    if (!Yedekle(hedef))
+    if (!Yurut(std::make_shared<EslemeKosusu>(Klasor(txtSource.metin), Klasor(hedef), false,
+                                              std::vector{Klasor(txtDestination.metin)})))
         return;
-    Soyle(program_, u"Yedekleme işleminiz başarıyla tamamlandı!");
-    KendiniBosalt();
+    Bitti(program_);
+    if (Duruyor())
+        program_.FormYedekAl.Bosalt();
     Ardindan();
 }
 
-bool FormYedekAl::Yedekle(const Metin& hedef) {
+bool FormYedekAl::Yurut(const std::shared_ptr<EslemeKosusu>& kosu) {
     const Ortam::Olaylar& olaylar = program_.ortam.olaylar;
-    const auto surer = [&olaylar] {
+    while (!olaylar.bitti()) {
+        // Whoever showed the screen gets its control back only when this has returned.
+        if (!Duruyor() && program_.yigin.Acik(EkranAdi::FormTablo)) {
+            program_.FormTablo->YedegiSurdur(kosu);
+            return false;
+        }
+        if (!kosu->Adim())
+            return true;
         olaylar.adimda();
-        return !olaylar.bitti();
-    };
-    FileSync(surer, {Klasor(txtDestination.metin)})
-        .SyncFolders(Klasor(txtSource.metin), Klasor(hedef), false);
-    return !olaylar.bitti();
+    }
+    return false;
+}
+
+void FormYedekAl::Bitti(const Program& program) {
+    Soyle(program, u"Yedekleme işleminiz başarıyla tamamlandı!");
 }
 
 /// Closed meanwhile, it may have been opened anew: that one is another's.
-void FormYedekAl::KendiniBosalt() {
-    if (program_.FormYedekAl.Yuklu() && program_.FormYedekAl.Tut().get() == this)
-        program_.FormYedekAl.Bosalt();
+bool FormYedekAl::Duruyor() {
+    return program_.FormYedekAl.Yuklu() && program_.FormYedekAl.Tut().get() == this;
 }
 
 /// On a screen that has been unloaded: its next opening begins with "Tamam" again, so that nothing ever
@@ -146,7 +157,13 @@ void FormYedekAl::Ardindan() {
 }
 
 void FormYedekAl::Timer1_Timer() {
-    Yedekle(txtDestination.metin);
+    const Ortam::Olaylar& olaylar = program_.ortam.olaylar;
+    const auto surer = [&olaylar] {
+        olaylar.adimda();
+        return !olaylar.bitti();
+    };
+    const auto hedef = Klasor(txtDestination.metin);
+    FileSync(surer, {hedef}).SyncFolders(Klasor(txtSource.metin), hedef, false);
 }
 
 void FormYedekAl::Command3_Click() {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <memory>
+
 #include "maintenance/KlasorIzleme.h"
 #include "screen/Kontroller.h"
 
 namespace velora {
 
 struct Program;
+class EslemeKosusu;
 
 /// "Yedekleme İşlemleri": a dated copy of the whole tree in a folder of the user's choice. Whatever fails is
 /// passed over, and the last message says all the same that it succeeded.
@@ -21,10 +24,13 @@ struct FormYedekAl {
     void Command1_Click(); ///< browses for the source
     void Command2_Click(); ///< browses for the target
     /// "Tamam": takes the backup and unloads the screen. Events run meanwhile; the screen may be unloaded
-    /// then, and the backup goes on to its end and its message.
+    /// then: the table, where it stands, goes on with the rest and this returns at once. Without it this goes
+    /// on. Either way the backup comes to its end and its message.
     void cmdStart_Click();
     void Command3_Click(); ///< "Kapat": unloads the screen
     void Timer1_Timer();   ///< copies into the target itself, no folder of a day
+    /// Tells that a backup has come to its end.
+    static void Bitti(const Program& program);
 
     Metin baslik = u"Yedekleme İşlemleri";
     Etiket Label8;
@@ -44,9 +50,9 @@ struct FormYedekAl {
     Zamanlayici Timer1;
 
   private:
-    /// False: the program ends meanwhile.
-    bool Yedekle(const Metin& hedef);
-    void KendiniBosalt();
+    /// False: the end isn't reached here. The program ends meanwhile, or the table goes on with the rest.
+    bool Yurut(const std::shared_ptr<EslemeKosusu>& kosu);
+    bool Duruyor();
     void Ardindan();
     void Sakla(MetinBakis ad, const Metin& deger) const;
 

@@ -337,7 +337,7 @@ void Baglayici::Bagla(Zamanlayici& model, const QString& ad) {
     auto* saat = new QTimer(this);
     saat->setObjectName(ad);
     connect(saat, &QTimer::timeout, this, [this, &model] {
-        if (!model.sakin || Durum().derinlik == 0)
+        if (!model.sakin || Durum().derinlik == 0 || (model.beklerken && Durum().bekliyor))
             Calistir([&model] { model.Calis(); });
     });
     Izle([saat, &model, kurulus = model.kurulus]() mutable {

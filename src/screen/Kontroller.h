@@ -171,7 +171,6 @@ struct AcilirListe {
     void MetinAta(MetinBakis metin);
     /// Takes an entry out and runs nothing. The choice stays on its entry; with the chosen one gone nothing
     /// is chosen. An index that isn't there: nothing.
-    /// Takes a row out, from 0. The mark stays with its own row.
     void Sil(int sira);
 };
 
@@ -294,6 +293,7 @@ struct ListeGorunumu {
     void Temizle();
     /// Takes the marked row out, if there is one. Nothing is marked then.
     void SeciliyiSil();
+    /// Takes a row out, from 0. The mark stays with its own row.
     void Sil(int sira);
 };
 
@@ -302,7 +302,8 @@ struct Zamanlayici {
     int aralik = 0;            ///< milliseconds; 0 stops it
     std::function<void()> tik; ///< the screen's handler, set by the screen
     bool sakin = false; ///< it is due only while no other handler runs: what its own waits for holds up none
-    unsigned kurulus = 0; ///< how often it was set going by `Kur`
+    bool beklerken = false; ///< with `sakin`: due also while the running handler waits for the user
+    unsigned kurulus = 0;   ///< how often it was set going by `Kur`
 
     /// Sets it going, so long from now on, also when it runs already.
     void Kur(int milisaniye);

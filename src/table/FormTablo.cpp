@@ -60,6 +60,8 @@ FormTablo::FormTablo(Program& program)
     InternetTimer.tik = [this] { InternetTimer_Tick(); };
     InternetTimer.sakin = true;
     YayinTimer.tik = [this] { YayinTimer_Tick(); };
+    YedekTimer.tik = [this] { YedekTimer_Tick(); };
+    YedekTimer.sakin = YedekTimer.beklerken = true;
 }
 
 void FormTablo::Load() {

@@ -22,6 +22,7 @@ struct AnaDegerler;
 struct HatirlatmaDegerleri;
 struct FormTabloPrint;
 struct Yayin;
+class EslemeKosusu;
 class YayinKosusu;
 
 /// The mark of a head picked for the ruler: red 255, green 128, blue 0. It stands in no setting.
@@ -149,6 +150,9 @@ struct FormTablo {
     void Yayinla();
     /// Sends a request whose reply nobody reads, and doesn't wait for it. An empty address is none.
     void ArkadanGonder(const Metin& adres);
+    /// Takes over a backup in the middle: it goes on without a screen, to its end and its message
+    /// (Yedek.cpp).
+    void YedegiSurdur(std::shared_ptr<EslemeKosusu> kosu);
     /// What follows a change of the reservations: the scan, today's frame, the publish. `once` runs before
     /// each.
     void DegisikligiGoster(const std::function<void()>& once = {});
@@ -172,6 +176,7 @@ struct FormTablo {
     void YeniDuyuruTimer_Tick();
     void InternetTimer_Tick(); ///< asks once more whether the service is there
     void YayinTimer_Tick();    ///< what goes out without a screen: its next request
+    void YedekTimer_Tick();    ///< the next files of a backup whose screen was closed
     /// Date and time of the status bar, by the clock.
     void SaatiYaz();
 
@@ -221,6 +226,7 @@ struct FormTablo {
     Zamanlayici DuyuruKontrol;
     Zamanlayici InternetTimer;
     Zamanlayici YayinTimer;
+    Zamanlayici YedekTimer;
     Zamanlayici YeniRezTimer;
     Zamanlayici YeniDuyuruTimer;
     Inet Inet1;
@@ -284,9 +290,10 @@ struct FormTablo {
     double icYukseklik_ = 0;
     bool gunduzUstte_ = false; // as the settings said when the screen was loaded
     bool yerlesti_ = false;
-    std::deque<std::shared_ptr<YayinKosusu>> yayinlar_; // that go out or wait, in their order
-    bool yayinda_ = false;                              // a screen sends them
-    std::vector<Gonderim> gidenler_;                    // requests under way that nobody waits for
+    std::deque<std::shared_ptr<YayinKosusu>> yayinlar_;  // that go out or wait, in their order
+    bool yayinda_ = false;                               // a screen sends them
+    std::vector<Gonderim> gidenler_;                     // requests under way that nobody waits for
+    std::deque<std::shared_ptr<EslemeKosusu>> yedekler_; // that go on without a screen, one behind the other
 };
 
 } // namespace velora

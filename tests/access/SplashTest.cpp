@@ -1,5 +1,7 @@
 // The ladder of the start, its queries and its ends.
 #include "access/SplashTest.h"
+#include "maintenance/FormDownloadManager.h"
+#include "maintenance/FormYedekAl.h"
 
 namespace velora::test {
 
@@ -185,6 +187,33 @@ TEST_F(SplashTest, An_accepted_new_version_is_fetched_alone_on_the_screen_and_th
     TikeDek(70);
     EXPECT_TRUE(ortam.bitti);
     EXPECT_FALSE(program.FormSifre.Yuklu());
+}
+
+TEST_F(SplashTest,
+       A_new_version_that_is_closed_while_its_backup_is_taken_starts_the_updater_and_the_program_ends) {
+    ortam.yedekKlasoru = agac.Disi() / "yedek";
+    CevrimiciBaslat();
+    SurumSor(u"OLD");
+    ortam.Bekle(BeklenenKutu{u"Velora Yeni Sürüm",
+                             u"YENİ SÜRÜM HAZIR! \nYeni sürümü şimdi yüklemek ister misiniz?", Simge::Soru,
+                             Cevap::Evet});
+    ortam.Bekle(
+        BeklenenEkran{EkranAdi::FormDownloadManager, [this] {
+                          ortam.Bekle(BeklenenKutu{u"Velora", u"Yedekleme işleminiz başarıyla tamamlandı!"});
+                          ortam.olayda = [this](int) {
+                              if (program.FormYedekAl.Yuklu() && program.FormDownloadManager.Yuklu())
+                                  program.FormDownloadManager->Kapat();
+                          };
+                          for (int i = 0; i < 200 && program.FormDownloadManager.Yuklu(); ++i)
+                              program.FormDownloadManager->Timer1.Calis();
+                          EXPECT_EQ(ortam.calisanlar, std::vector{agac.Kok() / "Update.exe"});
+                          EXPECT_FALSE(ortam.bitti) << "the updater is started before the end";
+                      }});
+    ortam.Bekle(BeklenenAktarim{
+        u"http://site.test/update/Velora.exe", u"HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n", {"MZ"}});
+    ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
+    TikeDek(70);
+    EXPECT_TRUE(ortam.bitti);
 }
 
 TEST_F(SplashTest, The_repeated_query_brings_the_program_online_and_leaves_the_calendar_alone) {

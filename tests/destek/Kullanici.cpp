@@ -113,9 +113,10 @@ void Kullanici::Boyutla(int genislik, int yukseklik) {
 void Kullanici::ZamanGecir(int milisaniye) {
     constexpr int kAdim = 100;
     FormTablo& tablo = Tablo();
-    const std::array hepsi{&tablo.CetvelTimer, &tablo.GunTimer,      &tablo.OzelHatirlatTimer,
-                           &tablo.Saatsay,     &tablo.DuyuruKontrol, &tablo.InternetTimer,
-                           &tablo.YayinTimer,  &tablo.YeniRezTimer,  &tablo.YeniDuyuruTimer};
+    const std::array hepsi{&tablo.CetvelTimer,    &tablo.GunTimer,      &tablo.OzelHatirlatTimer,
+                           &tablo.Saatsay,        &tablo.DuyuruKontrol, &tablo.InternetTimer,
+                           &tablo.YayinTimer,     &tablo.YedekTimer,    &tablo.YeniRezTimer,
+                           &tablo.YeniDuyuruTimer};
     for (int an = 0; an < milisaniye; an += kAdim)
         for (Zamanlayici* zamanlayici : hepsi) {
             gecen_[zamanlayici] = zamanlayici->aralik == 0 ? 0 : gecen_[zamanlayici] + kAdim;

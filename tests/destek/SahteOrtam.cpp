@@ -161,6 +161,7 @@ Cevap SahteOrtam::MesajSor(const MesajKutusu& kutu) {
     EXPECT_EQ(kutu.simge, beklenen->simge);
     EXPECT_EQ(kutu.dugmeler == KutuDugmeleri::Tamam, beklenen->cevap == Cevap::Tamam)
         << "the box has other buttons than the answer needs";
+    Icinde(beklenen->is);
     return beklenen->cevap;
 }
 

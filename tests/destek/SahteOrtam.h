@@ -19,6 +19,7 @@ struct BeklenenKutu {
     Metin metin;
     Simge simge = Simge::Bilgi;
     Cevap cevap = Cevap::Tamam;
+    std::function<void()> is = {}; ///< what happens while the box stands
 };
 
 struct BeklenenGirdi {
@@ -92,8 +93,8 @@ struct BeklenenAktarim {
 /// its order across kinds: whatever comes must be the next expected one, letter by letter; an unexpected, a
 /// different and an unread one fail the test. Must outlive its program.
 ///
-/// What is done on an expected screen, or while a request is waited for, may expect more: that comes next,
-/// before what was expected until then.
+/// What is done on an expected screen, while a box stands or a request is waited for, may expect more: that
+/// comes next, before what was expected until then.
 class SahteOrtam {
   public:
     explicit SahteOrtam(Gun bugun);

@@ -190,6 +190,30 @@ class IndirmePencereleriTest : public QObject {
         QCOMPARE(firma.site.IstekSatirlari(), std::vector<std::string>{"GET /update/Velora.exe HTTP/1.1"});
     }
 
+    void the_x_while_the_backup_is_taken_leaves_no_window_and_the_updater_starts_behind_it() {
+        SiteliFirma firma({Cevapla("MZ yeni")});
+        firma.kutular.start(10);
+        int adim = 0;
+        firma.program.ortam.olaylar.adimda = [&] {
+            firma.program.ortam.olaylar.isle();
+            if (++adim == 2)
+                firma.Surum().close();
+            if (adim < 2)
+                return;
+            QVERIFY(firma.calisanlar.empty());
+            for (const QWidget* pencere : QApplication::topLevelWidgets())
+                QVERIFY2(!pencere->isVisible() || pencere == &firma.Pencere(),
+                         qPrintable(pencere->windowTitle()));
+        };
+        firma.program.FormDownloadManager.GosterModal();
+        QVERIFY(adim > 3);
+        QVERIFY(firma.disDunya.Pencere(EkranAdi::FormDownloadManager) == nullptr);
+        QVERIFY(firma.disDunya.Pencere(EkranAdi::FormYedekAl) == nullptr);
+        QCOMPARE(firma.yazilar.size(), 2);
+        QCOMPARE(firma.yazilar.back(), QStringLiteral("Yedekleme işleminiz başarıyla tamamlandı!"));
+        QVERIFY(firma.calisanlar == std::vector{firma.agac.Kok() / "Update.exe"});
+    }
+
     void the_x_of_a_new_version_that_stalls_ends_its_window_with_nothing_left() {
         SiteliFirma firma({YaridaSus()});
         firma.kutular.start(10);

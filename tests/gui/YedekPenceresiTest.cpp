@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLabel>
@@ -16,6 +17,8 @@
 #include "gui/Kullanim.h"
 #include "maintenance/FormYedekAl.h"
 #include "qt/Ceviri.h"
+#include "qt/table/TabloGorunumu.h"
+#include "qt/table/TabloPenceresi.h"
 
 using namespace velora;
 using namespace velora::test;
@@ -25,6 +28,8 @@ namespace {
 namespace fs = std::filesystem;
 
 const QString kBitti = QStringLiteral("Yedekleme işleminiz başarıyla tamamlandı!");
+constexpr int kYedekSuresi = 60'000; // milliseconds that no loaded machine needs
+constexpr int kCokDosya = 1500;      // the table gets at its events many times before they are copied
 
 /// A firm whose user has a home of his own beside the program's folder.
 struct YedekFirma : GuiFirma {
@@ -34,15 +39,40 @@ struct YedekFirma : GuiFirma {
         qputenv("HOME", QByteArray::fromStdString(agac.Disi().string()));
     }
 
+    /// So many more files, in a folder that comes behind those of the halls.
+    void DosyalarKoy(int adet) const {
+        for (int i = 0; i < adet; ++i)
+            agac.Koy(u"Ömür/" + SayiMetni(i), "x");
+    }
     fs::path Bugunku(const fs::path& ad = {}) const { return agac.Disi() / "VRYedek" / "21_05_2026" / ad; }
+    /// The backup has dealt with its last folder.
+    bool SonKlasorde() const { return fs::exists(Bugunku("Ömür") / std::to_string(kCokDosya - 1)); }
     void Yedekte(const Is& is) {
         Pencerede([this] { MenudenSec(*this, "Yedeksss"); }, {is});
     }
+    /// Waits until the table has nothing left to copy.
+    void SonunuBekle() { QTRY_COMPARE_WITH_TIMEOUT(Model().YedekTimer.aralik, 0, kYedekSuresi); }
     /// Events run behind each step, and `is` is told the step's number.
     void HerAdimda(const std::function<void(int)>& is) {
         program.ortam.olaylar.adimda = [this, is, sira = 0]() mutable {
             program.ortam.olaylar.isle();
             is(++sira);
+        };
+    }
+    /// In its window: begins a backup and closes that in the middle. The backup that goes on within its
+    /// handler is a failure, and asks nobody about its end.
+    Is YaridaKapat(const std::function<void(QDialog&)>& kapat) {
+        return [this, kapat](QDialog& pencere) {
+            HerAdimda([&](int sira) {
+                if (sira == 5)
+                    kapat(pencere);
+                if (sira == 6) {
+                    hazirCevap = Cevap::Tamam;
+                    QFAIL("It goes on above the window that is to close.");
+                }
+            });
+            Tikla(pencere, "cmdStart");
+            program.ortam.olaylar.adimda = [] {};
         };
     }
     /// All that the program's folder holds is in today's backup.
@@ -113,22 +143,120 @@ class YedekPenceresiTest : public QObject {
         for (const bool tusla : {false, true}) {
             YedekFirma firma;
             firma.Ac();
-            firma.Yedekte([&](QDialog& pencere) {
-                QPointer<QDialog> duran = &pencere;
-                firma.HerAdimda([&](int sira) {
-                    if (sira == 5 && tusla)
-                        QTest::keyClick(&pencere, Qt::Key_Escape);
-                    else if (sira == 5)
-                        Tikla(pencere, "Command3");
-                    if (sira >= 5) {
-                        QVERIFY(duran == nullptr || !duran->isVisible());
-                        QVERIFY(!firma.program.FormYedekAl.Yuklu());
-                    }
-                });
-                Pencerede([&] { Tikla(pencere, "cmdStart"); }, {Mesaj(kBitti)});
-            });
+            const auto kapat = [&](QDialog& pencere) {
+                if (tusla)
+                    QTest::keyClick(&pencere, Qt::Key_Escape);
+                else
+                    Tikla(pencere, "Command3");
+                QVERIFY(!pencere.isVisible());
+                QVERIFY(!firma.program.FormYedekAl.Yuklu());
+            };
+            const auto ac = [&] {
+                MenudenSec(firma, "Yedeksss");
+                firma.SonunuBekle();
+            };
+            Pencerede(ac, {firma.YaridaKapat(kapat), Mesaj(kBitti)});
             firma.HepsiYedekte();
         }
+    }
+
+    void closed_in_the_middle_the_table_works_on_and_is_painted_while_the_rest_is_copied() {
+        YedekFirma firma;
+        firma.DosyalarKoy(kCokDosya);
+        firma.Rezervasyon(kSalonB, u"31.05.2026 - Gündüz", false);
+        firma.Ac();
+        const auto zemin = [&] {
+            const QRect yer = firma.Tablo().Duzen().Hucre(Satir(5, GunduzGece::Gunduz), 31);
+            return firma.Tablo().grab().toImage().pixelColor(yer.x() + 1, yer.center().y());
+        };
+        const QColor bos = zemin();
+        const auto calis = [&] {
+            MenudenSec(firma, "Yedeksss");
+            MenudenSec(firma, "Websssunucus"); // its window is the next
+            auto& salon = firma.Bul<QComboBox>("Salon");
+            salon.setFocus();
+            QTest::keyClick(&salon, Qt::Key_Down);
+            QCOMPARE(firma.Model().Salon.Metni(), Metin(kSalonB));
+            QVERIFY2(zemin() != bos, "what is painted follows");
+            QVERIFY2(!firma.SonKlasorde(), "the rest has been copied before all of this");
+            firma.SonunuBekle();
+        };
+        Pencerede(calis, {firma.YaridaKapat([](QDialog& pencere) { Tikla(pencere, "Command3"); }),
+                          TusBas(Qt::Key_Escape), Mesaj(kBitti)});
+        firma.HepsiYedekte();
+    }
+
+    void the_rest_is_copied_also_while_another_window_stands_over_the_table() {
+        YedekFirma firma;
+        firma.DosyalarKoy(kCokDosya);
+        firma.Ac();
+        const auto ac = [&] {
+            MenudenSec(firma, "Yedeksss");
+            MenudenSec(firma, "Websssunucus");
+        };
+        Pencerede(ac, {firma.YaridaKapat([](QDialog& pencere) { Tikla(pencere, "Command3"); }),
+                       [&](QDialog& pencere) {
+                           QVERIFY(!firma.SonKlasorde());
+                           Pencerede([&] { firma.SonunuBekle(); }, {Mesaj(kBitti)});
+                           QVERIFY(pencere.isVisible());
+                           QTest::keyClick(&pencere, Qt::Key_Escape);
+                       }});
+        firma.HepsiYedekte();
+    }
+
+    void the_rest_waits_while_another_backup_runs_in_its_window() {
+        YedekFirma firma;
+        firma.DosyalarKoy(kCokDosya);
+        firma.Ac();
+        int tikler = 0;
+        Zamanlayici& saat = firma.Model().YedekTimer;
+        saat.tik = [&tikler, asil = saat.tik] {
+            ++tikler;
+            asil();
+        };
+        const auto ac = [&] {
+            MenudenSec(firma, "Yedeksss");
+            MenudenSec(firma, "Yedeksss");
+            firma.SonunuBekle();
+        };
+        const auto ikinci = [&](QDialog& pencere) {
+            const int once = tikler;
+            int sonra = 0;
+            firma.HerAdimda([&](int) { sonra = tikler; });
+            firma.hazirCevap = Cevap::Tamam;
+            Tikla(pencere, "cmdStart");
+            firma.hazirCevap.reset();
+            QVERIFY(firma.SonKlasorde());
+            QCOMPARE(sonra, once);
+            QVERIFY2(saat.aralik > 0, "the first one still has its end to tell");
+        };
+        Pencerede(ac, {firma.YaridaKapat([](QDialog& pencere) { Tikla(pencere, "Command3"); }), ikinci,
+                       Mesaj(kBitti)});
+        QVERIFY(tikler > 0);
+    }
+
+    void the_x_of_the_table_ends_the_program_in_the_middle_without_the_last_message() {
+        YedekFirma firma;
+        firma.DosyalarKoy(kCokDosya);
+        firma.gercektenBiter = true;
+        firma.Ac();
+        QTimer kurtar; // a program that doesn't end hangs no test
+        QObject::connect(&kurtar, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+        kurtar.start(std::chrono::seconds(20));
+        QTimer::singleShot(0, qApp, [&] {
+            const auto ac = [&] {
+                MenudenSec(firma, "Yedeksss");
+                firma.Pencere().close();
+            };
+            const QString soru = QStringLiteral("Programdan çıkmak istediğinizden emin misiniz?");
+            Pencerede(ac, {firma.YaridaKapat([](QDialog& pencere) { Tikla(pencere, "Command3"); }),
+                           Mesaj(soru, QStringLiteral("Evet"))});
+        });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(firma.disDunya.Bitti());
+        QVERIFY(!firma.SonKlasorde());
+        firma.disDunya.PencereleriBirak();
+        QVERIFY(!firma.SonKlasorde());
     }
 
     void the_end_of_the_program_stops_it_where_it_is() {

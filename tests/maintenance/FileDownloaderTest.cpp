@@ -142,6 +142,14 @@ TEST_F(FileDownloaderTest, A_disk_without_room_is_told_before_a_byte_is_fetched)
     EXPECT_TRUE(Indir());
 }
 
+TEST_F(FileDownloaderTest, A_disk_without_room_gets_no_folder_either) {
+    program.dosyalar.bosYer = 9;
+    ortam.Bekle(BeklenenAktarim{kAdres, Basliklar(u"200 OK", u"10"), {"0123456789"}});
+    EXPECT_FALSE(indiren->DownloadFile(kAdres, Hedef(u"Yeni Klasör\\x.dat")));
+    EXPECT_EQ(olanlar.back(), u"hata There is not enough free space on disk for this file.");
+    EXPECT_FALSE(agac.KlasorVar(u"Yeni Klasör"));
+}
+
 TEST_F(FileDownloaderTest, A_missing_folder_is_made) {
     ortam.Bekle(BeklenenAktarim{kAdres, Basliklar(u"200 OK", u"2"), {"ab"}});
     EXPECT_TRUE(indiren->DownloadFile(kAdres, Hedef(u"Yeni Klasör\\x.dat")));

@@ -72,6 +72,15 @@ TEST_F(FileSyncTest, Each_file_gets_its_status_and_the_bits_combine) {
               (Satirlar{{"a", 0}, {"b", -2}, {"c", 1 + 4}, {"d", 2 + 4}, {"e", 8}, {"f", -1}}));
 }
 
+TEST_F(FileSyncTest, All_of_the_source_comes_first_and_then_what_only_the_target_has) {
+    for (const char* ad : {"b", "d", "f"})
+        Koy(Kaynak(ad), "k", an);
+    for (const char* ad : {"a", "c", "d", "e", "g"})
+        Koy(Hedef(ad), "h", an);
+    EXPECT_EQ(FileSync::Compare(Kaynak(), Hedef()),
+              (Satirlar{{"b", -2}, {"d", 0}, {"f", -2}, {"a", -1}, {"c", -1}, {"e", -1}, {"g", -1}}));
+}
+
 TEST_F(FileSyncTest, Times_less_than_a_second_apart_are_the_same) {
     Koy(Kaynak("a"), "a", an + 999ms);
     Koy(Hedef("a"), "b", an);

@@ -38,7 +38,17 @@ class FormDownloadManagerTest : public ::testing::Test {
         ortam.Bekle(BeklenenKutu{u"Yeni Sürüm", u"Programın yeni sürümü başarıyla indirildi..."});
         program.FormDownloadManager->Activate();
     }
-    void YedekBekle() { ortam.Bekle(BeklenenKutu{u"Velora", u"Yedekleme işleminiz başarıyla tamamlandı!"}); }
+    void HataBekle(const std::function<void()>& is = {}) {
+        ortam.Bekle(BeklenenKutu{
+            .baslik = u"Hata",
+            .metin = u"İndirme sırasında hata oluştu! Lütfen internet bağlantınızı kontrol ediniz.",
+            .simge = Simge::Kritik,
+            .is = is});
+    }
+    void YedekBekle(const std::function<void()>& is = {}) {
+        ortam.Bekle(BeklenenKutu{
+            .baslik = u"Velora", .metin = u"Yedekleme işleminiz başarıyla tamamlandı!", .is = is});
+    }
     /// Whether a backup holds this file of the program's folder.
     bool Yedekte(const char* ad) const {
         std::error_code hata;
@@ -117,22 +127,75 @@ TEST_F(FormDownloadManagerTest, The_updater_starts_also_when_nothing_could_be_ba
     EXPECT_EQ(ortam.calisanlar.size(), 1U);
 }
 
-TEST_F(FormDownloadManagerTest, Closed_while_the_backup_is_taken_it_starts_nothing) {
+TEST_F(FormDownloadManagerTest, Closed_while_the_backup_is_taken_the_updater_starts_behind_it_on_purpose) {
     Indir();
-    YedekBekle();
+    YedekBekle([&] { EXPECT_TRUE(ortam.calisanlar.empty()) << "the backup comes to its end before"; });
+    int kapanan = 0;
     ortam.olayda = [&](int) {
-        if (program.FormYedekAl.Yuklu() && program.FormDownloadManager.Yuklu())
+        if (program.FormYedekAl.Yuklu() && program.FormDownloadManager.Yuklu()) {
             program.FormDownloadManager->Kapat();
+            ++kapanan;
+        }
     };
     Tikler();
-    EXPECT_TRUE(ortam.calisanlar.empty());
+    EXPECT_EQ(kapanan, 1);
+    EXPECT_FALSE(program.FormDownloadManager.Yuklu()) << "it doesn't come back";
+    EXPECT_FALSE(program.yigin.Acik(EkranAdi::FormDownloadManager));
+    EXPECT_TRUE(Yedekte("Adresler.dat"));
+    EXPECT_EQ(ortam.calisanlar, std::vector{agac.Kok() / "Update.exe"});
+}
+
+TEST_F(FormDownloadManagerTest, A_reply_of_no_length_says_nothing_and_can_be_tried_again_on_purpose) {
+    ortam.Bekle(BeklenenAktarim{kSurumAdresi, u"HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n", {"abc"}});
+    program.FormDownloadManager->Activate();
+    ASSERT_TRUE(program.FormDownloadManager.Yuklu());
+    EXPECT_EQ(Ekran().Command.baslik, u"Yeniden Dene");
+    EXPECT_EQ(Ekran().baslik, u"Velora Yeni Sürüm");
+    EXPECT_EQ(Ekran().Timer1.aralik, 0);
+    EXPECT_FALSE(agac.Var(u"VeloraYeni.exe"));
+    Indir();
+    EXPECT_EQ(Ekran().Command.baslik, u"Tekrar İndir");
+}
+
+TEST_F(FormDownloadManagerTest, The_box_stands_before_the_button_the_bar_and_the_title_change) {
+    const auto durur = [this](int yuzde) {
+        EXPECT_EQ(Ekran().Command.baslik, u"Durdur");
+        EXPECT_TRUE(Ekran().Command.etkin);
+        EXPECT_EQ(Ekran().ProgressBar.deger, yuzde);
+        EXPECT_EQ(Ekran().baslik, u"Velora Yeni Sürüm");
+        EXPECT_EQ(Ekran().Label8.baslik, u"Yeni Sürüm");
+        EXPECT_EQ(Ekran().Label1.baslik, u"Programın yeni sürümü indiriliyor lütfen bekleyin...");
+        EXPECT_EQ(Ekran().Timer1.aralik, 0);
+    };
+    ortam.Bekle(BeklenenAktarim{kSurumAdresi, u"HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\n", {"abc"}});
+    HataBekle([&] { durur(75); });
+    program.FormDownloadManager->Activate();
+    Gelecek();
+    ortam.Bekle(BeklenenKutu{.baslik = u"Yeni Sürüm",
+                             .metin = u"Programın yeni sürümü başarıyla indirildi...",
+                             .is = [&] { durur(100); }});
+    program.FormDownloadManager->Command_Click();
+    EXPECT_EQ(Ekran().baslik, u"Backup Yöneticisi");
+}
+
+TEST_F(FormDownloadManagerTest, Tekrar_Indir_cannot_be_pressed_while_the_backup_runs_on_purpose) {
+    Indir();
+    YedekBekle();
+    int bakilan = 0;
+    ortam.olayda = [&](int) {
+        if (!program.FormDownloadManager.Yuklu())
+            return;
+        EXPECT_EQ(Ekran().Command.baslik, u"Tekrar İndir");
+        EXPECT_FALSE(Ekran().Command.etkin);
+        ++bakilan;
+    };
+    Tikler();
+    EXPECT_GE(bakilan, 3);
 }
 
 TEST_F(FormDownloadManagerTest, A_failure_is_told_and_can_be_tried_again) {
     ortam.Bekle(BeklenenAktarim{kSurumAdresi, u"HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n", {"abc"}});
-    ortam.Bekle(BeklenenKutu{u"Hata",
-                             u"İndirme sırasında hata oluştu! Lütfen internet bağlantınızı kontrol ediniz.",
-                             Simge::Kritik});
+    HataBekle();
     program.FormDownloadManager->Activate();
     EXPECT_EQ(Ekran().Command.baslik, u"Yeniden Dene");
     EXPECT_EQ(Ekran().ProgressBar.deger, 0);

@@ -83,7 +83,7 @@ TEST_F(FormYedekAlTest, The_target_comes_from_its_file) {
     EXPECT_EQ(program.FormYedekAl->txtDestination.metin, YolMetni(Hedef()));
 }
 
-TEST_F(FormYedekAlTest, A_target_of_another_system_is_none_here) {
+TEST_F(FormYedekAlTest, A_kept_target_that_is_another_systems_path_is_passed_over_on_purpose) {
     agac.Koy(u"BackupSetting.dat", "\"C:\\VRYedek\"\r\n");
     EXPECT_EQ(program.FormYedekAl->txtDestination.metin, YolMetni(Hedef()));
 }
@@ -141,6 +141,39 @@ TEST_F(FormYedekAlTest, A_source_that_was_given_up_is_told_and_leaves_the_screen
     EXPECT_TRUE(program.FormYedekAl->Label9.gorunur);
     EXPECT_FALSE(program.FormYedekAl->cmdStart.etkin);
     EXPECT_EQ(program.FormYedekAl->cmdStart.baslik, u"Tamam");
+}
+
+TEST_F(FormYedekAlTest, Without_a_source_the_target_is_kept_and_the_folder_of_the_day_made_on_purpose) {
+    program.FormYedekAl->txtSource.metin.clear();
+    Kutu(seciniz);
+    Bas();
+    EXPECT_EQ(agac.Bayt(u"BackupSetting.dat"), "\"" + Hedef().string() + "\"\r\n");
+    EXPECT_TRUE(fs::is_directory(Hedef("07_03_2026")));
+    EXPECT_TRUE(fs::is_empty(Hedef("07_03_2026")));
+}
+
+TEST_F(FormYedekAlTest, Without_minutes_and_a_source_the_same_is_told_twice_on_purpose) {
+    program.FormYedekAl->txtSource.metin.clear();
+    program.FormYedekAl->txtMins.metin.clear();
+    Kutu(seciniz);
+    Kutu(seciniz);
+    Bas();
+    EXPECT_TRUE(program.FormYedekAl.Yuklu());
+}
+
+TEST_F(FormYedekAlTest, A_start_with_the_system_that_is_ticked_changes_nothing_in_a_backup_on_purpose) {
+    const auto ekran = program.FormYedekAl.Tut();
+    Tikla(ekran->chkStartwithWindows);
+    EXPECT_EQ(ekran->chkStartwithWindows.deger, 1);
+    const auto saklananlar = ortam.ayarlar;
+    Kutu(bitti);
+    Bas();
+    EXPECT_EQ(Bayt(Hedef("07_03_2026/Lale/2026/07.03.2026 - Gece")), "rez");
+    EXPECT_EQ(ortam.ayarlar, saklananlar);
+    EXPECT_EQ(ekran->cmdStart.baslik, u"Başla");
+    EXPECT_EQ(ekran->Timer1.aralik, 0);
+    EXPECT_TRUE(ortam.izlenen.empty());
+    EXPECT_TRUE(ortam.calisanlar.empty());
 }
 
 TEST_F(FormYedekAlTest, Without_minutes_it_is_told_and_the_backup_is_taken_on_purpose) {

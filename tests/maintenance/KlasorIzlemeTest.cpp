@@ -98,4 +98,28 @@ TEST_F(KlasorIzlemeTest, It_looks_for_texts_and_shows_none) {
     EXPECT_EQ(izleme.bulunan, u"notlar.txt");
 }
 
+TEST_F(KlasorIzlemeTest, It_looks_for_texts_once_more_at_the_first_change_and_no_further) {
+    agac.Koy(u"izlenen/a.dat", "a");
+    const Metin klasor = YolMetni(agac.Yol(u"izlenen"));
+    Kutu(u"Beginning watching of folder " + klasor + u" .. press OK");
+    ortam.Bekle(BeklenenKutu{.baslik = u"Velora",
+                             .metin = u"The watched directory has been changed.  Resuming watch...",
+                             .is = [&] { EXPECT_EQ(izleme.bulunan, u"yeni.txt"); }});
+    Kutu(u"The watched directory has been changed again.");
+    Kutu(u"Watching has been terminated for " + klasor);
+    ortam.olayda = [&](int sira) {
+        if (sira == 1) {
+            EXPECT_EQ(izleme.bulunan, u"");
+            agac.Koy(u"izlenen/yeni.txt", "y");
+        }
+        if (sira == 2)
+            std::filesystem::remove(agac.Yol(u"izlenen/yeni.txt"));
+        ortam.klasorDegisti = sira < 3;
+        if (sira == 3)
+            izleme.Dur();
+    };
+    izleme.Basla(klasor);
+    EXPECT_EQ(izleme.bulunan, u"yeni.txt");
+}
+
 } // namespace velora::test

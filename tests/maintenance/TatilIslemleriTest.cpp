@@ -20,6 +20,20 @@ TEST_F(TatilIslemleriTest, A_head_sorts_the_rows_as_texts_and_turns_them_round_a
     EXPECT_EQ(Adlar(), (Liste{u"Çocuk Bayramı", u"Gençlik", u"Kuruluş"})) << "equal rows stay in their order";
 }
 
+TEST_F(TatilIslemleriTest, A_sort_begins_ascending_at_each_new_column_and_behind_added_rows_on_purpose) {
+    Tatil().Liste.basligaTiklandi(0);
+    Tatil().Liste.basligaTiklandi(0);
+    EXPECT_TRUE(Tatil().Liste.siralama.azalan);
+    Tatil().Liste.basligaTiklandi(1);
+    EXPECT_EQ(Adlar(), (Liste{u"Çocuk Bayramı", u"Gençlik", u"Kuruluş"}));
+    Tatil().Ekle({u"01.01.2012", u"Açılış", u"Evet", u"Özel"});
+    EXPECT_EQ(Adlar().back(), u"Açılış") << "what comes isn't sorted in";
+    Tatil().Liste.basligaTiklandi(1);
+    EXPECT_EQ(Adlar(), (Liste{u"Açılış", u"Çocuk Bayramı", u"Gençlik", u"Kuruluş"}));
+    Tatil().Liste.basligaTiklandi(0);
+    EXPECT_FALSE(Tatil().Liste.siralama.azalan);
+}
+
 TEST_F(TatilIslemleriTest, The_order_of_the_heads_is_what_is_kept_and_what_is_painted) {
     Tatil().Ekle({u"05.06.2011", u"Bir", u"Evet", u"Özel"});
     Tatil().Ekle({u"05.06.2010", u"İki", u"Evet", u"Özel"});
@@ -103,6 +117,24 @@ TEST_F(TatilIslemleriTest, The_published_rows_replace_the_general_ones_in_the_li
     EXPECT_EQ(Ipucu(4, 23), u"");
 }
 
+TEST_F(TatilIslemleriTest, What_the_published_list_says_of_where_a_row_is_from_stays_on_purpose) {
+    agac.Koy(u"Tatiller.dat", "\"01.01.2010\",\"a\",\"Evet\",\"\xD6zel\"\r\n"
+                              "\"02.01.2010\",\"b\",\"Evet\",\"site\"\r\n"
+                              "\"03.01.2010\",\"c\",\"Evet\",\"Genel\"\r\n");
+    Tatil().Temizle_Click();
+    Tatil().Temizle_Click(); // only what is general goes, and comes again
+    EXPECT_EQ(Adlar(), (Liste{u"Kuruluş", u"a", u"b", u"a", u"b", u"c"}));
+    EXPECT_EQ(Tatil().Liste.satirlar[1].sutun[3], u"Özel");
+    EXPECT_EQ(Tatil().Liste.satirlar[2].sutun[3], u"site");
+}
+
+TEST_F(TatilIslemleriTest, Only_rows_that_are_general_to_the_letter_are_replaced_on_purpose) {
+    for (const MetinBakis kaynak : {u" Genel", u"Genel ", u"genel", u"GENEL", u"Genel", u""})
+        Tatil().Ekle({u"01.01.2012", Metin(kaynak), u"Evet", Metin(kaynak)});
+    Tatil().Temizle_Click();
+    EXPECT_EQ(Adlar(), (Liste{u"Kuruluş", u" Genel", u"Genel ", u"genel", u"GENEL", u""}));
+}
+
 TEST_F(TatilIslemleriTest,
        Without_a_published_list_the_general_rows_are_gone_and_a_cancel_brings_them_back_on_purpose) {
     Tatil().Temizle_Click();
@@ -149,6 +181,15 @@ TEST_F(TatilIslemleriTest, A_day_is_added_to_the_list_with_its_name_cleaned_and_
     EXPECT_EQ(agac.Bayt(u"Tatiller.dll"), kTatiller);
     program.FormTablo->Command1();
     EXPECT_EQ(Ipucu(1, 1), u"x");
+}
+
+TEST_F(TatilIslemleriTest, A_name_of_blanks_and_one_of_quotes_alone_are_taken_on_purpose) {
+    for (const MetinBakis ad : {u"  ", u"\"\""}) {
+        program.FormResmiTatilEkle->Text2.metin = ad;
+        program.FormResmiTatilEkle->Command1_Click();
+        EXPECT_FALSE(program.FormResmiTatilEkle.Yuklu());
+    }
+    EXPECT_EQ(Adlar(), (Liste{u"Çocuk Bayramı", u"Kuruluş", u"Gençlik", u"  ", u""}));
 }
 
 TEST_F(TatilIslemleriTest, A_day_without_a_name_is_refused_and_a_cancel_adds_none) {

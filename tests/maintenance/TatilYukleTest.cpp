@@ -24,10 +24,12 @@ class TatilYukleTest : public TatilTest {
                                     {std::string(bayt.substr(0, 10)), std::string(bayt.substr(10))},
                                     is});
     }
-    void HataBekle() {
+    void HataBekle(const std::function<void()>& is = {}) {
         ortam.Bekle(BeklenenKutu{
-            u"Hata", u"Yükleme sırasında hata oluştu! Lütfen internet bağlantınızı kontrol ediniz.",
-            Simge::Kritik});
+            .baslik = u"Hata",
+            .metin = u"Yükleme sırasında hata oluştu! Lütfen internet bağlantınızı kontrol ediniz.",
+            .simge = Simge::Kritik,
+            .is = is});
     }
 };
 
@@ -88,7 +90,24 @@ TEST_F(TatilYukleTest, A_failure_is_told_in_its_own_words_and_can_be_tried_again
     EXPECT_EQ(Adlar().size(), 3U);
 }
 
-TEST_F(TatilYukleTest, A_reply_of_no_length_says_nothing_and_can_be_tried_again) {
+TEST_F(TatilYukleTest, A_box_stands_before_the_button_and_the_bar_go_back) {
+    const auto durur = [this](int yuzde) {
+        EXPECT_EQ(Yukle().Command.baslik, u"Durdur");
+        EXPECT_EQ(Yukle().ProgressBar.deger, yuzde);
+        EXPECT_EQ(Adlar().size(), 3U);
+    };
+    ortam.Bekle(BeklenenAktarim{kTatilAdresi, Uzunluk(12), {"abc"}});
+    HataBekle([&] { durur(25); });
+    program.FormResmiTatilYukle->Activate();
+    EXPECT_EQ(Yukle().ProgressBar.deger, 0);
+    Gelecek(kYeniListe);
+    ortam.Bekle(BeklenenKutu{
+        .baslik = u"Yükleme", .metin = u"Yükleme başarıyla tamamlandı...", .is = [&] { durur(100); }});
+    program.FormResmiTatilYukle->Command_Click();
+    EXPECT_FALSE(program.FormResmiTatilYukle.Yuklu());
+}
+
+TEST_F(TatilYukleTest, A_reply_of_no_length_says_nothing_and_can_be_tried_again_on_purpose) {
     ortam.Bekle(BeklenenAktarim{kTatilAdresi, Uzunluk(0)});
     program.FormResmiTatilYukle->Activate();
     EXPECT_EQ(Yukle().Command.baslik, u"Yeniden Dene");

@@ -181,6 +181,7 @@ void TabloPenceresi::ZamanlayicilariBagla(FormTablo& tablo) {
     baglayici_->Bagla(tablo.DuyuruKontrol, QStringLiteral("DuyuruKontrol"));
     baglayici_->Bagla(tablo.InternetTimer, QStringLiteral("InternetTimer"));
     baglayici_->Bagla(tablo.YayinTimer, QStringLiteral("YayinTimer"));
+    baglayici_->Bagla(tablo.YedekTimer, QStringLiteral("YedekTimer"));
     baglayici_->Bagla(tablo.YeniRezTimer, QStringLiteral("YeniRezTimer"));
     baglayici_->Bagla(tablo.YeniDuyuruTimer, QStringLiteral("YeniDuyuruTimer"));
 }
