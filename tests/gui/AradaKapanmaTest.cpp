@@ -192,6 +192,8 @@ Sonuc AradaKapat(GuiFirma& firma, const Diyalog& diyalog, std::size_t basilan, i
                   };
                   hepsi[basilan]();
                   firma.arada = {};
+                  // A backup goes on without its window, to its message.
+                  QTRY_COMPARE(firma.Model().YedekTimer.aralik, 0);
                   firma.hazirCevap.reset();
               }});
     EkraniBosalt(firma.program, diyalog.ekran);
