@@ -27,9 +27,8 @@ void FormWebteYayinla::ListeleriDoldur() {
 }
 
 void FormWebteYayinla::Activate() {
-    if (!kosu || basladi_)
+    if (!kosu)
         return;
-    basladi_ = true;
     ListeleriDoldur();
     while (!kosu->Bitti()) {
         kosu->Adim([this] { return !Duruyor(); });

@@ -16,8 +16,8 @@ struct FormWebteYayinla {
     explicit FormWebteYayinla(Program& program);
 
     void Load() {}
-    /// Sends what it was given, once, request by request, with a turn for events behind each. Who closes the
-    /// screen in between gets control back at once: then the rest is still to be sent.
+    /// Sends what is left of what it was given, request by request, with a turn for events behind each. Who
+    /// closes the screen in between gets control back at once: then the rest is still to be sent.
     void Activate();
     void Command1_Click(); ///< "İptal": unloads the screen and stops nothing
 
@@ -41,7 +41,6 @@ struct FormWebteYayinla {
     bool Duruyor() const;
 
     Program& program_;
-    bool basladi_ = false; // a screen that closes over this one activates it again
 };
 
 } // namespace velora

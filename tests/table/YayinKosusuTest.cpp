@@ -224,6 +224,7 @@ TEST_F(YayinKosusuTest, A_publish_asked_while_one_goes_out_goes_out_whole_behind
     std::vector<Metin> basliklar;
     istekte = [&](int no) {
         basliklar.push_back(Ekran()->Label2.baslik.substr(0, 14));
+        EXPECT_EQ(kullanici.Tablo().YayinTimer.aralik, 0) << "what a screen sends, nobody else does";
         if (no != 5)
             return;
         // As a save does that comes in between.
