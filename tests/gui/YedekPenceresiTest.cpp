@@ -320,7 +320,7 @@ class YedekPenceresiTest : public QObject {
         });
     }
 
-    void what_is_typed_is_kept_in_a_file_of_the_user_and_not_in_the_data() {
+    void what_is_typed_is_kept_in_a_file_of_the_user_and_not_in_the_tree() {
         YedekFirma firma;
         const QString dosya = QString::fromStdString((firma.agac.Disi() / "ayar ğ" / "ayarlar.ini").string());
         firma.disDunya.AyarlarVer(AyarDosyasi(dosya));
