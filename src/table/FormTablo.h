@@ -284,6 +284,7 @@ struct FormTablo {
     Yayin YayinaKopyala() const;
     void YayinlariGoster();
     void GonderimSaatiniKur();
+    void YedekBitti();
 
     Program& program_;
     double icGenislik_ = 0;

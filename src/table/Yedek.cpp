@@ -28,14 +28,20 @@ void FormTablo::YedekTimer_Tick() {
         YedekTimer.aralik = 0;
         return;
     }
+    if (!YedekTimer.beklerken)
+        return YedekBitti();
     const auto kosu = yedekler_.front();
     const auto son = TikSaati::now() + kTikSuresi;
     bool surer = true;
     for (int i = 0; surer && i < kTiktekiAdim && TikSaati::now() < son; ++i)
         surer = kosu->Adim();
-    if (surer)
-        return;
+    // Its message waits until no window does: a key that is meant for that one must not answer it.
+    YedekTimer.beklerken = surer;
+}
+
+void FormTablo::YedekBitti() {
     yedekler_.pop_front();
+    YedekTimer.beklerken = true;
     if (yedekler_.empty())
         YedekTimer.aralik = 0;
     FormYedekAl::Bitti(program_);

@@ -4,12 +4,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include "gui/GuiProgram.h"
@@ -30,7 +28,6 @@ struct Ekran {
     ListeGorunumu satirlar;
     Dugme dugme;
     Etiket etiket;
-    Zamanlayici saat;
 };
 
 struct Sahne {
@@ -263,84 +260,6 @@ class BaglayiciTest : public QObject {
         sahne.ekran->etiket.gorunur = false;
         Baglayici::HepsiniTazele();
         QVERIFY(etiket.isHidden());
-    }
-
-    void a_timer_follows_the_interval_and_is_not_restarted_by_the_same_one() {
-        Sahne sahne;
-        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
-        const auto* saat = sahne.pencere.findChild<QTimer*>(QStringLiteral("Saat"));
-        QVERIFY(!saat->isActive());
-        sahne.ekran->saat.aralik = 60'000;
-        Baglayici::HepsiniTazele();
-        QVERIFY(saat->isActive());
-        const int kimlik = saat->timerId();
-        Baglayici::HepsiniTazele();
-        QCOMPARE(saat->timerId(), kimlik);
-        sahne.ekran->saat.aralik = 0;
-        Baglayici::HepsiniTazele();
-        QVERIFY(!saat->isActive());
-    }
-
-    void a_timer_that_is_set_going_anew_begins_its_time_anew() {
-        constexpr int kAralik = 400;
-        Sahne sahne;
-        QElapsedTimer gecen;
-        qint64 tikta = 0;
-        sahne.ekran->saat.Kur(kAralik);
-        sahne.ekran->saat.tik = [&] {
-            tikta = gecen.elapsed();
-            ++sahne.sayi;
-        };
-        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
-        QTest::qWait(3 * kAralik / 4);
-        sahne.ekran->saat.Kur(kAralik);
-        sahne.sayi = 0;
-        gecen.start();
-        Baglayici::HepsiniTazele();
-        QTRY_VERIFY(sahne.sayi > 0);
-        QVERIFY2(tikta > kAralik / 2, qPrintable(QString::number(tikta)));
-    }
-
-    void a_tick_runs_the_handler_and_can_stop_its_own_timer() {
-        Sahne sahne;
-        sahne.ekran->saat.aralik = 5;
-        sahne.ekran->saat.tik = [&] {
-            if (++sahne.sayi == 3)
-                sahne.ekran->saat.aralik = 0;
-        };
-        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
-        QTRY_COMPARE(sahne.sayi, 3);
-        QTest::qWait(50);
-        QCOMPARE(sahne.sayi, 3);
-    }
-
-    void a_calm_timer_is_due_only_when_no_handler_runs() {
-        Sahne sahne;
-        sahne.ekran->saat.sakin = true;
-        sahne.ekran->saat.aralik = 5;
-        sahne.ekran->saat.tik = [&] { ++sahne.sayi; };
-        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
-        sahne.baglayici.Calistir([&] {
-            QTest::qWait(60);
-            QCOMPARE(sahne.sayi, 0);
-        });
-        QTRY_VERIFY(sahne.sayi > 0);
-    }
-
-    void a_tick_handler_that_lets_events_run_is_not_entered_again() {
-        Sahne sahne;
-        int derinlik = 0;
-        int enDerin = 0;
-        sahne.ekran->saat.aralik = 5;
-        sahne.ekran->saat.tik = [&] {
-            enDerin = std::max(enDerin, ++derinlik);
-            ++sahne.sayi;
-            QTest::qWait(30);
-            --derinlik;
-        };
-        sahne.baglayici.Bagla(sahne.ekran->saat, QStringLiteral("Saat"));
-        QTRY_VERIFY(sahne.sayi >= 2);
-        QCOMPARE(enDerin, 1);
     }
 
     void an_exception_ends_its_handler_and_nothing_else() {

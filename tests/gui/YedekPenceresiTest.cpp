@@ -214,21 +214,26 @@ class YedekPenceresiTest : public QObject {
         firma.HepsiYedekte();
     }
 
-    void the_rest_is_copied_also_while_another_window_stands_over_the_table() {
+    void the_rest_is_copied_while_another_window_stands_and_its_message_waits_for_that_one() {
         YedekFirma firma;
         firma.DosyalarKoy(kCokDosya);
         firma.Ac();
         const auto ac = [&] {
             MenudenSec(firma, "Yedeksss");
             MenudenSec(firma, "Websssunucus");
+            firma.SonunuBekle();
         };
         Pencerede(ac, {firma.YaridaKapat([](QDialog& pencere) { Tikla(pencere, "Command3"); }),
                        [&](QDialog& pencere) {
                            QVERIFY(!firma.SonKlasorde());
-                           Pencerede([&] { firma.SonunuBekle(); }, {Mesaj(kBitti)});
-                           QVERIFY(pencere.isVisible());
+                           QTRY_VERIFY_WITH_TIMEOUT(!firma.Model().YedekTimer.beklerken, kYedekSuresi);
+                           QVERIFY(firma.SonKlasorde());
+                           QTest::qWait(50);
+                           QCOMPARE(QApplication::activeModalWidget(), &pencere);
                            QTest::keyClick(&pencere, Qt::Key_Escape);
-                       }});
+                           QVERIFY(!pencere.isVisible());
+                       },
+                       Mesaj(kBitti)});
         firma.HepsiYedekte();
     }
 

@@ -161,9 +161,18 @@ TEST_F(YedegiSurdurmeTest, The_end_of_the_program_ends_it_where_it_is_and_no_mes
     EXPECT_EQ(Kopya(), 3);
 }
 
-TEST_F(YedegiSurdurmeTest, It_goes_on_while_other_windows_wait_but_never_within_a_handler) {
-    EXPECT_TRUE(Saat().sakin);
+TEST_F(YedegiSurdurmeTest, It_goes_on_while_other_windows_wait_but_its_message_waits_for_them) {
+    EXPECT_TRUE(Saat().sakin) << "never within a handler";
+    YaridaKapat("kaynak", kDosya - 1);
     EXPECT_TRUE(Saat().beklerken);
+    Saat().Calis();
+    EXPECT_EQ(Kopya(), kDosya);
+    EXPECT_FALSE(Saat().beklerken);
+    EXPECT_GT(Saat().aralik, 0);
+    BitisBekle();
+    Saat().Calis();
+    EXPECT_TRUE(Saat().beklerken) << "for the next one";
+    EXPECT_EQ(Saat().aralik, 0);
 }
 
 TEST_F(YedegiSurdurmeTest, Where_no_table_is_shown_its_handler_goes_on_itself) {
