@@ -192,6 +192,8 @@ Sonuc AradaKapat(GuiFirma& firma, const Diyalog& diyalog, std::size_t basilan, i
                   };
                   hepsi[basilan]();
                   firma.arada = {};
+                  // What the table goes on with has its own end to tell.
+                  QTRY_COMPARE(firma.Model().YedekTimer.aralik, 0);
                   firma.hazirCevap.reset();
               }});
     EkraniBosalt(firma.program, diyalog.ekran);
