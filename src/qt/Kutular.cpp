@@ -1,13 +1,19 @@
 #include "qt/Kutular.h"
 
+#include <algorithm>
+
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include "qt/Ceviri.h"
@@ -19,6 +25,7 @@ namespace {
 
 constexpr int kGirdiEni = 360; // room for a name
 constexpr QSize kDosyaKutusu(760, 480);
+constexpr int kEnGenisYerler = 240; // of the column of places at its left
 
 QMessageBox::Icon SimgeTuru(Simge simge) {
     switch (simge) {
@@ -49,6 +56,19 @@ std::filesystem::path DosyaYolu(const QString& yol) {
     return yol.toStdU16String();
 }
 
+/// When a file was changed, as the program writes days and times: the toolkit would write the system's.
+class DegismeTarihi : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* bicim, const QModelIndex& yer) const override {
+        QStyledItemDelegate::initStyleOption(bicim, yer);
+        if (const auto* dosyalar = qobject_cast<const QFileSystemModel*>(yer.model()))
+            bicim->text = dosyalar->lastModified(yer).toString(QStringLiteral("dd.MM.yyyy HH:mm"));
+    }
+};
+
 /// The toolkit's own box on each system, in Turkish like all others.
 class DosyaPenceresi : public QFileDialog {
   protected:
@@ -71,6 +91,7 @@ class DosyaPenceresi : public QFileDialog {
             findChild<QLabel*>(kutu + QStringLiteral("Label"))
                 ->setBuddy(findChild<QComboBox*>(kutu + QStringLiteral("Combo")));
         SutunlariDuzenle();
+        YerleriAc();
     }
 
   private:
@@ -84,6 +105,17 @@ class DosyaPenceresi : public QFileDialog {
         liste->header()->setSectionResizeMode(kAdSutunu, QHeaderView::Stretch);
         for (const int sutun : {kBoySutunu, kTarihSutunu})
             liste->header()->setSectionResizeMode(sutun, QHeaderView::ResizeToContents);
+        // Of folders alone there is none.
+        liste->setColumnHidden(kBoySutunu, testOption(ShowDirsOnly));
+        liste->setItemDelegateForColumn(kTarihSutunu, new DegismeTarihi(liste));
+    }
+
+    /// The places at the left, whole: the toolkit would cut most of them off.
+    void YerleriAc() {
+        auto* yerler = findChild<QListView*>(QStringLiteral("sidebar"));
+        const int en = yerler->sizeHintForColumn(0) + 2 * yerler->frameWidth();
+        findChild<QSplitter*>(QStringLiteral("splitter"))
+            ->setSizes({std::min(en, kEnGenisYerler), kDosyaKutusu.width() - en});
     }
 };
 

@@ -115,12 +115,20 @@ QString SeciliMetin(const QAbstractItemView& liste) {
 
 /// The keys of a list. The space bar on a row is a press on it: the marked row can be chosen again without
 /// the mouse. Ctrl+C copies whole rows, not the one cell that the toolkit would. End goes to the last row
-/// also where none is marked yet, whereas the toolkit's first key, whichever it is, leads to the first row.
+/// also where none is marked yet, whereas the toolkit's first key, whichever it is, leads to the first row;
+/// and where the marked row has been deleted the arrows go on at its place.
 class ListeTuslari : public QObject {
   public:
     ListeTuslari(QAbstractItemView& liste, Baglayici::Isleyici basildi)
         : QObject(&liste), liste_(liste), basildi_(std::move(basildi)) {
         liste.installEventFilter(this);
+        connect(liste.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                [this](const QModelIndex& satir) {
+                    if (!satir.isValid())
+                        return;
+                    sonYer_ = satir.row();
+                    satirSayisi_ = liste_.model()->rowCount();
+                });
     }
 
     bool eventFilter(QObject* nesne, QEvent* olay) override {
@@ -132,9 +140,8 @@ class ListeTuslari : public QObject {
                 PanoyaKoy(SeciliMetin(liste_));
             return true;
         }
-        const int satirSayisi = liste_.model()->rowCount();
-        if (tus.key() == Qt::Key_End && satirSayisi > 0 && !liste_.currentIndex().isValid()) {
-            liste_.setCurrentIndex(liste_.model()->index(satirSayisi - 1, 0));
+        if (const auto ilk = IlkSatir(tus.key())) {
+            liste_.setCurrentIndex(liste_.model()->index(*ilk, 0));
             return true;
         }
         if (tus.key() != Qt::Key_Space || !liste_.currentIndex().isValid())
@@ -144,8 +151,25 @@ class ListeTuslari : public QObject {
     }
 
   private:
+    /// The row that a key leads to where none is marked; nothing where the toolkit knows it.
+    std::optional<int> IlkSatir(int tus) const {
+        const int son = liste_.model()->rowCount() - 1;
+        if (son < 0 || liste_.currentIndex().isValid())
+            return std::nullopt;
+        if (tus == Qt::Key_End)
+            return son;
+        const bool silindi = son + 1 == satirSayisi_ - 1;
+        if (silindi && tus == Qt::Key_Down)
+            return std::min(sonYer_, son);
+        if (silindi && tus == Qt::Key_Up)
+            return std::max(sonYer_ - 1, 0);
+        return std::nullopt;
+    }
+
     QAbstractItemView& liste_;
     Baglayici::Isleyici basildi_;
+    int sonYer_ = -1;      // the row that was marked last
+    int satirSayisi_ = -1; // how many there were then
 };
 
 /// The tip of a cell that shows only a part of its text: all of it.

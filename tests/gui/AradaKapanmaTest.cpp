@@ -192,7 +192,7 @@ Sonuc AradaKapat(GuiFirma& firma, const Diyalog& diyalog, std::size_t basilan, i
                   };
                   hepsi[basilan]();
                   firma.arada = {};
-                  // What the table goes on with has its own end to tell.
+                  // A backup goes on without its window, to its message.
                   QTRY_COMPARE(firma.Model().YedekTimer.aralik, 0);
                   firma.hazirCevap.reset();
               }});

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include <QApplication>
+#include <QByteArray>
+#include <QMetaMethod>
 #include <QTest>
 
 #include "qt/Dil.h"
@@ -19,6 +21,19 @@ namespace {
 std::map<std::string, GuiTesti::Uretici>& Testler() {
     static std::map<std::string, GuiTesti::Uretici> testler;
     return testler;
+}
+
+/// Qt Test takes a function whose name ends so for the rows of another one, and runs it only before that.
+bool SahipsizVar(const QMetaObject& sinif) {
+    const QByteArray son = "_data";
+    for (int i = sinif.methodOffset(); i < sinif.methodCount(); ++i) {
+        const QByteArray ad = sinif.method(i).name();
+        if (ad.endsWith(son) && sinif.indexOfMethod(ad.chopped(son.size()) + "()") < 0) {
+            std::fprintf(stderr, "%s would never run: give it another name.\n", ad.constData());
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -48,5 +63,7 @@ int main(int argc, char** argv) {
     std::vector<char*> kalanlar(argv, argv + argc);
     kalanlar.erase(kalanlar.begin() + 1);
     const auto testler = test->second();
+    if (SahipsizVar(*testler->metaObject()))
+        return 1;
     return QTest::qExec(testler.get(), static_cast<int>(kalanlar.size()), kalanlar.data());
 }

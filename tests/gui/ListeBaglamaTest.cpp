@@ -105,6 +105,35 @@ class ListeBaglamaTest : public QObject {
         });
     }
 
+    void behind_a_row_that_was_deleted_the_arrows_go_on_at_its_place() {
+        for (const auto& [tus, beklenen] : {std::pair(Qt::Key_Down, 2), std::pair(Qt::Key_Up, 1)}) {
+            ListeSahnesi sahne;
+            auto& model = sahne.ekran->sutunlu;
+            for (const char16_t* ad : {u"Dört", u"Beş"})
+                model.satirlar.push_back({{ad}, {}, 0});
+            Baglayici::HepsiniTazele();
+            SatiraTikla(sahne.sutunlu, 2);
+            model.SeciliyiSil();
+            Baglayici::HepsiniTazele();
+            QVERIFY(!sahne.sutunlu.selectionModel()->hasSelection());
+            QTest::keyClick(&sahne.sutunlu, tus);
+            QCOMPARE(model.secili, beklenen);
+        }
+    }
+
+    void in_other_rows_than_before_the_arrow_begins_at_the_first() {
+        ListeSahnesi sahne;
+        auto& model = sahne.ekran->sutunlu;
+        SatiraTikla(sahne.sutunlu, 2);
+        model.Temizle();
+        model.satirlar.push_back({{u"Altı"}, {}, 0});
+        for (int i = 0; i < 5; ++i)
+            model.satirlar.push_back({{u"Yedi"}, {}, 0});
+        Baglayici::HepsiniTazele();
+        QTest::keyClick(&sahne.sutunlu, Qt::Key_Down);
+        QCOMPARE(model.secili, 0);
+    }
+
     void rows_are_made_anew_when_the_model_changed_them_and_only_then() {
         ListeSahnesi sahne;
         SatirListesi& satirlar = sahne.ekran->sutunlu.satirlar;

@@ -73,6 +73,16 @@ class RenkAciklamasiTest : public QObject {
         QVERIFY(firma.Bul<QWidget>("RenkAciklamasi").toolTip().endsWith(QStringLiteral("Bugün")));
     }
 
+    void where_it_is_too_narrow_for_all_the_words_go_before_the_colours() {
+        GuiFirma firma;
+        firma.Ac({1600, 800});
+        firma.program.FormAyarlar->renkler[RenkNo::BuGunCercevesi] = 0x336699;
+        Resmi(firma);
+        auto& aciklama = firma.Bul<QWidget>("RenkAciklamasi");
+        aciklama.resize(aciklama.sizeHint().width() - 8, aciklama.height());
+        QVERIFY(Sayisi(aciklama.grab().toImage(), QRenk(0x336699)) > 50);
+    }
+
     void both_halves_of_a_pre_reservation_carry_its_mark() {
         GuiFirma firma;
         firma.Ac({1600, 800});

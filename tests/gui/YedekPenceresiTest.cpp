@@ -3,14 +3,20 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include "gui/GuiFirma.h"
 #include "gui/GuiProgram.h"
@@ -86,6 +92,28 @@ struct YedekFirma : GuiFirma {
         QVERIFY(dosya > 40);
     }
 };
+
+/// The name of a folder and the day of its last change, no sizes; the places beside it are whole.
+void BakKlasorListesine(const QFileDialog& kutu) {
+    const auto* liste = kutu.findChild<QTreeView*>(QStringLiteral("treeView"));
+    QStringList sutunlar;
+    for (int sutun = 0; sutun < liste->model()->columnCount(); ++sutun)
+        if (!liste->isColumnHidden(sutun))
+            sutunlar << liste->model()->headerData(sutun, Qt::Horizontal).toString();
+    QCOMPARE(sutunlar, QStringList({"Ad", "Değiştirilme Tarihi"}));
+    constexpr int kTarihSutunu = 3;
+    struct Acik : QStyledItemDelegate {
+        using QStyledItemDelegate::initStyleOption;
+    };
+    const auto* yazan = qobject_cast<QStyledItemDelegate*>(liste->itemDelegateForColumn(kTarihSutunu));
+    QVERIFY(yazan != nullptr);
+    QStyleOptionViewItem bicim;
+    (yazan->*(&Acik::initStyleOption))(&bicim, liste->rootIndex().siblingAtColumn(kTarihSutunu));
+    const QFileInfo klasor(kutu.directory().absolutePath());
+    QCOMPARE(bicim.text, klasor.lastModified().toString(QStringLiteral("dd.MM.yyyy HH:mm")));
+    const auto* yerler = kutu.findChild<QListView*>(QStringLiteral("sidebar"));
+    QCOMPARE(yerler->horizontalScrollBar()->maximum(), 0);
+}
 
 } // namespace
 
@@ -297,6 +325,7 @@ class YedekPenceresiTest : public QObject {
                     yazilar << Isaretsiz(etiket->text());
             yazilar.sort();
             QCOMPARE(yazilar, QStringList({"Dizin:", "Klasör:", "Seç", "İptal"}));
+            BakKlasorListesine(kutu);
             kutu.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setFocus();
             kutu.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->selectAll();
             Yaz(QStringLiteral("Ayşe"));
@@ -320,7 +349,7 @@ class YedekPenceresiTest : public QObject {
         });
     }
 
-    void what_is_typed_is_kept_in_a_file_of_the_user_and_not_in_the_data() {
+    void what_is_typed_is_kept_in_a_file_of_the_user_and_not_in_the_tree() {
         YedekFirma firma;
         const QString dosya = QString::fromStdString((firma.agac.Disi() / "ayar ğ" / "ayarlar.ini").string());
         firma.disDunya.AyarlarVer(AyarDosyasi(dosya));

@@ -1,6 +1,8 @@
 #include "qt/table/RenkAciklamasi.h"
 
+#include <algorithm>
 #include <array>
+#include <span>
 
 #include <QPainter>
 
@@ -107,8 +109,15 @@ void RenkAciklamasi::OrnekCiz(QPainter& boyaci, const Ornek& ornek, const QRect&
 
 void RenkAciklamasi::paintEvent(QPaintEvent* /*olay*/) {
     QPainter boyaci(this);
-    int x = std::max(0, width() - sizeHint().width());
-    for (const Ornek& ornek : ornekler_) {
+    int genislik = sizeHint().width();
+    std::span<const Ornek> cizilen = ornekler_;
+    if (genislik > width()) {
+        // The rows tell by their pictures which half is which.
+        genislik -= Genislik(cizilen.front()) + 2 * kAralik;
+        cizilen = cizilen.subspan(1);
+    }
+    int x = std::max(0, width() - genislik);
+    for (const Ornek& ornek : cizilen) {
         if (x + Genislik(ornek) > width())
             break;
         if (ornek.tur != Ornek::Tur::Yazi) {

@@ -14,7 +14,7 @@ struct Program;
 
 /// What the colours of the cells mean: which half of a day is which slot, then one small sample for each
 /// state, the two slots one over the other as on the table, in the colours of the settings. Where it is too
-/// narrow for all, the last ones are left out; its tool tip names them all.
+/// narrow for all, the words at its head are left out, then the last samples; its tool tip names them all.
 class RenkAciklamasi : public QWidget {
   public:
     RenkAciklamasi(Program& program, Baglayici& baglayici, QWidget* ust);
