@@ -34,7 +34,7 @@ namespace {
 namespace fs = std::filesystem;
 
 const QString kBitti = QStringLiteral("Yedekleme işleminiz başarıyla tamamlandı!");
-constexpr int kYedekSuresi = 60'000; // milliseconds that no loaded machine needs
+constexpr int kYedekSuresi = 20'000; // milliseconds that no loaded machine needs
 constexpr int kCokDosya = 1500;      // the table gets at its events many times before they are copied
 
 /// A firm whose user has a home of his own beside the program's folder.
