@@ -104,8 +104,8 @@ void Splash::KayipDosyayiOnar(const Metin& ad, MetinBakis icerik) {
           u"Sistem Hatası", Simge::Kritik);
     program_.OlaylariIsle();
     const Metin yol = program_.agac.KokYolu(ad);
-    // One that is there and can't be read may hold all that it ever held.
-    if (!program_.dosyalar.VarMi(yol) && program_.dosyalar.Yaz(yol, KodYaz(icerik))) {
+    // One that is there and can't be read, or asked about, may hold all that it ever held.
+    if (program_.dosyalar.Yarat(yol, KodYaz(icerik))) {
         Soyle(program_, u"Kayıp dosya (" + ad + u") başarıyla geri yüklendi.", u"Sistem Onarımı");
         program_.OlaylariIsle();
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "platform/CurlOrtak.h"
 #include "storage/KodSayfasi.h"
@@ -96,6 +97,10 @@ void AgIstemcisi::Kapat() {
 
 /// One request, on curl's list.
 struct AgIstemcisi::Gonderilen::Hal {
+    Hal(std::shared_ptr<Ic> istemci, std::unique_ptr<Aktarma> giden, CurlKolu kolu)
+        : ic(std::move(istemci)), aktarma(std::move(giden)), kol(std::move(kolu)),
+          yer(ic->liste.get(), kol.get()) {}
+
     std::shared_ptr<Ic> ic; // a turn may be the client's last
     std::unique_ptr<Aktarma> aktarma;
     CurlKolu kol;
@@ -137,9 +142,8 @@ AgIstemcisi::Gonder(const Metin& adres, std::chrono::milliseconds sure, Baglanti
     CurlKolu kol = KolYap(*parcalar, sure, tur, *aktarma);
     if (kol == nullptr)
         return nullptr;
-    CURL* const yeri = kol.get();
-    return std::make_shared<Gonderilen>(std::unique_ptr<Gonderilen::Hal>(
-        new Gonderilen::Hal{ic_, std::move(aktarma), std::move(kol), {ic_->liste.get(), yeri}}));
+    return std::make_shared<Gonderilen>(
+        std::make_unique<Gonderilen::Hal>(ic_, std::move(aktarma), std::move(kol)));
 }
 
 Metin AgIstemcisi::Getir(const Metin& adres, std::chrono::milliseconds sure, const Sira& sira,

@@ -125,9 +125,9 @@ TEST_F(SplashOnarimTest, A_folder_that_takes_no_file_hinders_nobody_and_no_repai
     LoginBekle();
 }
 
-TEST_F(SplashOnarimTest, Menus_that_only_cannot_be_read_just_now_are_not_written_over) {
+TEST_F(SplashOnarimTest, Menus_that_can_neither_be_read_nor_asked_about_just_now_are_not_written_over) {
     program.dosyalar.ariza = [](DosyaIsi is, const Metin& yol) {
-        return is == DosyaIsi::Oku && yol.ends_with(u"Menuler.dat");
+        return (is == DosyaIsi::Oku || is == DosyaIsi::VarMi) && yol.ends_with(u"Menuler.dat");
     };
     KayipBekle(u"Menuler.dat");
     Baslat();

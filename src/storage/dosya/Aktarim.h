@@ -16,9 +16,10 @@ inline constexpr std::uint64_t kEnUzunKayit = 16U << 20U;
 inline constexpr std::size_t kOkumaTamponu = 64U << 10U;
 
 /// Reads with `oku(hedef, adet)` into the buffer until the end or up to `enCok` bytes, and returns how many
-/// came. A plain file gives less than was asked for only at its end, so that a short file costs one call.
+/// came. A plain file gives less than was asked for only at its end, so that a short file costs one call. Of
+/// one that is known to hold `boy` bytes, what comes short of them isn't taken for the end.
 template <class Okur>
-std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur oku) {
+std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur oku, std::size_t boy = 0) {
     std::size_t dolu = 0;
     while (dolu < enCok) {
         if (dolu == tampon.size())
@@ -28,7 +29,7 @@ std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur o
         if (!gelen)
             return {};
         dolu += *gelen;
-        if (*gelen < istenen)
+        if (*gelen == 0 || (*gelen < istenen && dolu >= boy))
             break;
     }
     return dolu;
@@ -48,15 +49,16 @@ std::optional<std::size_t> SinirliDoldur(std::string& tampon, std::size_t enCok,
     return okunan == enCok && boyu().value_or(enCok + 1) > enCok ? std::nullopt : okunan;
 }
 
-/// Reads an open file from its beginning, as `Doldur` does.
+/// Reads an open file of that length from its beginning, as `Doldur` does.
 template <class Dosya>
-std::optional<std::size_t> OkuHepsini(Dosya& dosya, std::size_t enCok, std::string& tampon) {
+std::optional<std::size_t> OkuHepsini(Dosya& dosya, std::size_t enCok, std::string& tampon, std::size_t boy) {
     std::uint64_t konum = 0;
-    return Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
+    const auto oku = [&](char* hedef, std::size_t adet) {
         const std::optional<std::size_t> gelen = dosya.Oku(konum, hedef, adet);
         konum += gelen.value_or(0);
         return gelen;
-    });
+    };
+    return Doldur(tampon, enCok, oku, boy);
 }
 
 /// Writes again and again until all is down. False when the file takes no more.
@@ -83,7 +85,7 @@ bool UzerineYaz(Dosya& dosya, std::string_view yeni) {
     std::string metin(yeni);
     if (*boy <= kEnUzunKayit) {
         const auto eskiBoy = static_cast<std::size_t>(*boy);
-        const auto okunan = OkuHepsini(dosya, eskiBoy, eski);
+        const auto okunan = OkuHepsini(dosya, eskiBoy, eski, eskiBoy);
         eski.resize(okunan.value_or(0));
         metin.resize(std::max(metin.size(), eskiBoy), '\n');
     }

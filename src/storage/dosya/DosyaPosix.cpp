@@ -40,15 +40,9 @@ constexpr int kHerAcilis = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 constexpr int kYeniDosya = O_WRONLY | O_CREAT | O_EXCL | kHerAcilis;
 
 int Bayraklar(Kip kip) {
-    switch (kip) {
-    case Kip::Oku:
-        return O_RDONLY | kHerAcilis;
-    case Kip::Guncelle:
-        return O_RDWR | kHerAcilis;
-    case Kip::Yeni:
+    if (kip == Kip::Yeni)
         return kYeniDosya;
-    }
-    return -1;
+    return (kip == Kip::Oku ? O_RDONLY : O_RDWR) | kHerAcilis;
 }
 
 /// Repeats a call that a signal broke off.
@@ -118,6 +112,9 @@ Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
     if (::fstat(no, &bilgi) == 0 && S_ISREG(bilgi.st_mode))
         return Acilis::Acildi;
     Kapat();
+    // Made just now, and of no use.
+    if (kip == Kip::Yeni)
+        ::unlink(yol.c_str());
     return Acilis::Olmadi;
 }
 

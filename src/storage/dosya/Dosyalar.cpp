@@ -174,7 +174,7 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
         if (!boy || *boy > kEnUzunOkuma)
             return {};
         std::string bayt(static_cast<std::size_t>(*boy) + 1, '\0');
-        const auto okunan = OkuHepsini(dosya, kEnUzunOkuma, bayt);
+        const auto okunan = OkuHepsini(dosya, kEnUzunOkuma, bayt, static_cast<std::size_t>(*boy));
         if (!okunan)
             return {};
         bayt.resize(*okunan);
@@ -271,6 +271,13 @@ bool Dosyalar::Yaz(const Metin& yol, std::string_view bayt) const {
     return Sessiz([&] {
         const auto p = Cevir(DosyaIsi::Yaz, yol);
         return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return UzerineYaz(dosya, bayt); });
+    });
+}
+
+bool Dosyalar::Yarat(const Metin& yol, std::string_view bayt) const {
+    return Sessiz([&] {
+        const auto p = Cevir(DosyaIsi::Yaz, yol);
+        return p && YeniYaz(*p, bayt, bosYer);
     });
 }
 

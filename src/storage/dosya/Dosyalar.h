@@ -95,6 +95,10 @@ class Dosyalar {
     /// none, the old text stays. A new file whose text can't be put down is removed again. False on failure.
     bool Yaz(const Metin& yol, std::string_view bayt) const;
 
+    /// Makes a file that isn't there yet, as `Yaz` does. False, and nothing is changed, where one is there,
+    /// whatever else can be told of it.
+    bool Yarat(const Metin& yol, std::string_view bayt) const;
+
     /// Puts the bytes at the end of the file, which is made when missing. When they can't be put down whole,
     /// the file gets its old length back.
     bool Ekle(const Metin& yol, std::string_view bayt) const;

@@ -10,6 +10,7 @@ namespace {
 
 struct BozukDosya {
     std::string icerik;
+    std::size_t enCokOkuma = std::string::npos;  ///< bytes that one call gives
     std::size_t enCokYazma = std::string::npos;  ///< bytes that one call takes
     std::size_t toplamYazma = std::string::npos; ///< bytes that may be written before the device fails
     std::size_t enUzun = std::string::npos;      ///< length beyond which it doesn't grow
@@ -19,7 +20,7 @@ struct BozukDosya {
 
     std::optional<std::uint64_t> Boy() const { return icerik.size(); }
     std::optional<std::size_t> Oku(std::uint64_t konum, char* hedef, std::size_t adet) const {
-        return icerik.copy(hedef, adet, konum);
+        return icerik.copy(hedef, std::min(adet, enCokOkuma), konum);
     }
     bool YerAyir(std::uint64_t) const { return yerVar; }
     std::size_t Yaz(std::uint64_t konum, std::string_view bayt) {
@@ -98,6 +99,12 @@ TEST(UzerineYaz, A_device_that_stops_growing_in_the_middle_gets_the_old_text_bac
     }
 }
 
+TEST(UzerineYaz, An_old_text_that_was_read_piece_by_piece_comes_back_whole) {
+    BozukDosya dosya{.icerik = kEski, .enCokOkuma = 4, .enUzun = kEski.size() + 1};
+    EXPECT_FALSE(UzerineYaz(dosya, kUzun));
+    EXPECT_EQ(dosya.icerik, kEski);
+}
+
 TEST(UzerineYaz, A_cut_that_fails_brings_the_old_text_back) {
     BozukDosya dosya{.icerik = kUzun, .kesilmeyen = 1};
     EXPECT_FALSE(UzerineYaz(dosya, kKisa));
@@ -132,6 +139,18 @@ TEST(Doldur, A_short_file_costs_one_call) {
     EXPECT_EQ(Doldur(tampon, 1U << 20U, oku), kEski.size());
     EXPECT_EQ(cagri, 1);
     EXPECT_EQ(tampon.substr(0, kEski.size()), kEski);
+}
+
+TEST(Doldur, A_read_that_comes_short_of_a_known_length_is_not_the_end) {
+    for (const std::size_t parca : {1U, 7U}) {
+        BozukDosya dosya{.icerik = kUzun, .enCokOkuma = parca};
+        std::string tampon(kUzun.size() + 1, ' ');
+        EXPECT_EQ(OkuHepsini(dosya, 1U << 20U, tampon, kUzun.size()), kUzun.size());
+        EXPECT_EQ(tampon.substr(0, kUzun.size()), kUzun);
+    }
+    BozukDosya kesilen{.icerik = kKisa};
+    std::string tampon(kUzun.size() + 1, ' ');
+    EXPECT_EQ(OkuHepsini(kesilen, 1U << 20U, tampon, kUzun.size()), kKisa.size()) << "cut meanwhile";
 }
 
 TEST(Doldur, Never_reads_beyond_the_limit) {
