@@ -152,6 +152,23 @@ TEST_F(OnlineIsaretlerTest, A_poll_within_which_the_announcements_were_read_ligh
     EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500) << "a new one asks";
 }
 
+TEST_F(OnlineIsaretlerTest, A_table_that_comes_back_in_the_last_events_of_a_poll_asks_anew) {
+    Baslat();
+    kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = u"0"});
+    kullanici.ortam.Bekle(
+        BeklenenIstek{.adres = u"http://servis.test/x/rezkontrol.php?firmaid=00-1B-C4-0D-E0-9F",
+                      .cevap = u"0",
+                      .is = [this] {
+                          kullanici.ortam.olayda = [this](int) {
+                              kullanici.ortam.olayda = {};
+                              Tablo().DuyuruKontrol.Kur(2'500);
+                          };
+                      }});
+    Tablo().DuyuruKontrol.Kur(2'500);
+    Tablo().DuyuruKontrol.Calis();
+    EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500);
+}
+
 TEST_F(OnlineIsaretlerTest, A_reply_of_separators_alone_empties_the_list_and_blinks_on_purpose) {
     Baslat();
     Sor(u"", u"7|x");
