@@ -152,6 +152,20 @@ TEST_F(OnlineIsaretlerTest, A_poll_within_which_the_announcements_were_read_ligh
     EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500) << "a new one asks";
 }
 
+TEST_F(OnlineIsaretlerTest, A_table_that_comes_back_between_the_requests_of_a_poll_leaves_the_second_out) {
+    Baslat();
+    kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = u"1", .is = [this] {
+                                            kullanici.ortam.olayda = [this](int) {
+                                                kullanici.ortam.olayda = {};
+                                                Tablo().DuyuruKontrol.Kur(2'500);
+                                            };
+                                        }});
+    Tablo().DuyuruKontrol.Kur(2'500);
+    Tablo().DuyuruKontrol.Calis();
+    EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500);
+    EXPECT_EQ(Tablo().YeniDuyuruTimer.aralik, 400) << "what it was told before holds";
+}
+
 TEST_F(OnlineIsaretlerTest, A_table_that_comes_back_in_the_last_events_of_a_poll_asks_anew) {
     Baslat();
     kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = u"0"});
