@@ -20,6 +20,13 @@ struct SaatSahnesi {
     };
 
     void Bagla() { baglayici.Bagla(ekran->saat, QStringLiteral("Saat")); }
+    /// A calm one, which counts its ticks.
+    void SakinKur() {
+        ekran->saat.sakin = true;
+        ekran->saat.aralik = 5;
+        ekran->saat.tik = [this] { ++sayi; };
+        Bagla();
+    }
 
     std::shared_ptr<Ekran> ekran = std::make_shared<Ekran>();
     QWidget pencere;
@@ -85,10 +92,7 @@ class SaatBaglamaTest : public QObject {
 
     void a_calm_timer_is_due_only_when_no_handler_runs() {
         SaatSahnesi sahne;
-        sahne.ekran->saat.sakin = true;
-        sahne.ekran->saat.aralik = 5;
-        sahne.ekran->saat.tik = [&] { ++sahne.sayi; };
-        sahne.Bagla();
+        sahne.SakinKur();
         sahne.baglayici.Calistir([&] {
             QTest::qWait(60);
             QCOMPARE(sahne.sayi, 0);
@@ -114,10 +118,8 @@ class SaatBaglamaTest : public QObject {
 
     void a_calm_timer_that_may_is_due_while_the_running_handler_waits_for_the_user() {
         SaatSahnesi sahne;
-        sahne.ekran->saat.sakin = sahne.ekran->saat.beklerken = true;
-        sahne.ekran->saat.aralik = 5;
-        sahne.ekran->saat.tik = [&] { ++sahne.sayi; };
-        sahne.Bagla();
+        sahne.ekran->saat.beklerken = true;
+        sahne.SakinKur();
         sahne.baglayici.Calistir([&] {
             QTest::qWait(60);
             QCOMPARE(sahne.sayi, 0);

@@ -12,6 +12,7 @@ namespace velora::test {
 namespace {
 
 const Metin kDuyuru = u"http://servis.test/x/duyuru.php?firmaid=00-1B-C4-0D-E0-9F";
+const Metin kRezKontrol = u"http://servis.test/x/rezkontrol.php?firmaid=00-1B-C4-0D-E0-9F";
 
 } // namespace
 
@@ -27,11 +28,25 @@ class OnlineIsaretlerTest : public TabloTest {
     /// One poll, with these replies to its two requests.
     void Sor(const Metin& duyuru, const Metin& istekler) {
         kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = duyuru});
-        kullanici.ortam.Bekle(BeklenenIstek{
-            .adres = u"http://servis.test/x/rezkontrol.php?firmaid=00-1B-C4-0D-E0-9F", .cevap = istekler});
+        kullanici.ortam.Bekle(BeklenenIstek{.adres = kRezKontrol, .cevap = istekler});
         kullanici.Tablo().DuyuruKontrol.aralik = 2'500;
         kullanici.Tablo().DuyuruKontrol.Calis();
         EXPECT_EQ(kullanici.Tablo().DuyuruKontrol.aralik, 0) << "one shot";
+    }
+    /// The table comes back at the next events, and its poll is set going anew.
+    std::function<void()> GeriGelinir() {
+        return [this] {
+            kullanici.ortam.olayda = [this](int) {
+                kullanici.ortam.olayda = {};
+                Tablo().DuyuruKontrol.Kur(2'500);
+            };
+        };
+    }
+    /// A poll within which the table comes back.
+    void EskiyenYoklama() {
+        Tablo().DuyuruKontrol.Kur(2'500);
+        Tablo().DuyuruKontrol.Calis();
+        EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500) << "a new one asks";
     }
     std::string Dosya() { return agac.Bayt(u"RezTemp.dat"); }
     FormTablo& Tablo() { return kullanici.Tablo(); }
@@ -146,41 +161,23 @@ TEST_F(OnlineIsaretlerTest, A_poll_within_which_the_announcements_were_read_ligh
                 BeklenenIstek{.adres = u"http://servis.test/x/duyuruokundu.php?firmaid=00-1B-C4-0D-E0-9F"});
             Tablo().YeniDuyuru_Click();
         }});
-    Tablo().DuyuruKontrol.Kur(2'500);
-    Tablo().DuyuruKontrol.Calis();
+    EskiyenYoklama();
     EXPECT_EQ(Tablo().YeniDuyuruTimer.aralik, 0);
-    EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500) << "a new one asks";
 }
 
 TEST_F(OnlineIsaretlerTest, A_table_that_comes_back_between_the_requests_of_a_poll_leaves_the_second_out) {
     Baslat();
-    kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = u"1", .is = [this] {
-                                            kullanici.ortam.olayda = [this](int) {
-                                                kullanici.ortam.olayda = {};
-                                                Tablo().DuyuruKontrol.Kur(2'500);
-                                            };
-                                        }});
-    Tablo().DuyuruKontrol.Kur(2'500);
-    Tablo().DuyuruKontrol.Calis();
-    EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500);
+    kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = u"1", .is = GeriGelinir()});
+    EskiyenYoklama();
     EXPECT_EQ(Tablo().YeniDuyuruTimer.aralik, 400) << "what it was told before holds";
 }
 
 TEST_F(OnlineIsaretlerTest, A_table_that_comes_back_in_the_last_events_of_a_poll_asks_anew) {
     Baslat();
     kullanici.ortam.Bekle(BeklenenIstek{.adres = kDuyuru, .cevap = u"0"});
-    kullanici.ortam.Bekle(
-        BeklenenIstek{.adres = u"http://servis.test/x/rezkontrol.php?firmaid=00-1B-C4-0D-E0-9F",
-                      .cevap = u"0",
-                      .is = [this] {
-                          kullanici.ortam.olayda = [this](int) {
-                              kullanici.ortam.olayda = {};
-                              Tablo().DuyuruKontrol.Kur(2'500);
-                          };
-                      }});
-    Tablo().DuyuruKontrol.Kur(2'500);
-    Tablo().DuyuruKontrol.Calis();
-    EXPECT_EQ(Tablo().DuyuruKontrol.aralik, 2'500);
+    kullanici.ortam.Bekle(BeklenenIstek{.adres = kRezKontrol, .cevap = u"0", .is = GeriGelinir()});
+    EskiyenYoklama();
+    EXPECT_EQ(Tablo().YeniDuyuruTimer.aralik, 0);
 }
 
 TEST_F(OnlineIsaretlerTest, A_reply_of_separators_alone_empties_the_list_and_blinks_on_purpose) {
