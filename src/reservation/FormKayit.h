@@ -75,6 +75,12 @@ struct FormKayit {
     int Basildi = 0; ///< 1: saved in this opening
     Metin Tag;       ///< path of the main file of an existing record
 
+    // Of the three files of an existing record: what couldn't be read isn't saved over.
+    Koken anaKoken;
+    Koken detayKoken;
+    Koken odemeKoken;
+    Metin kayitliOdeme; ///< what was paid, by the main file
+
     Metin Tarih; ///< day file name of the record
     Metin tarihBaslik = u"Rezervasyon Tarihi";
     Etiket SalonAdi;                         ///< the hall that it is saved in: the one that the table shows
@@ -127,6 +133,7 @@ struct FormKayit {
     bool KopyalariBas(const std::vector<Sayfa>& baskilar, const Metin& ad, double kopya) const;
 
     Program& program_;
+    Koken sayacKoken_; // of the number that is offered
 };
 
 } // namespace velora

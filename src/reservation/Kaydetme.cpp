@@ -6,6 +6,7 @@
 #include "screen/Sorular.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Harf.h"
+#include "storage/Sayi.h"
 #include "storage/YazimBicimi.h"
 #include "table/FormTablo.h"
 
@@ -48,6 +49,13 @@ void AcikEkranlariTazele(Program& p) {
     if (tablo->Picture1.gorunur)
         YenidenListele(tablo, &FormTablo::UyariGoster);
     tablo->DegisikligiGoster([&p] { p.OlaylariIsle(); });
+}
+
+/// The payments stay as they are on the disk, and so does their sum.
+void OdemeOzetiniKoru(AnaKayit& kayit, const Metin& alinan) {
+    const auto deger = [&kayit](int no) -> Metin& { return kayit.kay[static_cast<std::size_t>(no - 1)]; };
+    deger(AnaNo::AlinanOdeme) = alinan;
+    deger(AnaNo::KalanOdeme) = DuzMetin(SayisalDeger(deger(AnaNo::ToplamUcret)) - SayisalDeger(alinan));
 }
 
 } // namespace
@@ -140,13 +148,14 @@ void FormKayit::KlasoruVeKayitlariYaz() {
     for (MetinKutusu& kutu : Kay)
         kutu.metin = AnaTemizle(kutu.metin);
     p.OlaylariIsle();
-    AnaYaz(p.dosyalar, KayitAc == 0 ? GunYolu() : Tag, Ana());
+    AnaYaz(p.dosyalar, KayitAc == 0 ? GunYolu() : Tag, Ana(), anaKoken);
     p.OlaylariIsle();
     for (MetinKutusu& kutu : TT)
         kutu.metin = DetayTemizle(kutu.metin);
     Aciklamalar.metin = DetayTemizle(Aciklamalar.metin);
     const Metin yol(Kirp(Tag));
-    DetayYaz(p.dosyalar, (KayitAc == 0 || yol.empty() ? GunYolu() : yol) + Metin(kDetayEki), Detay());
+    DetayYaz(p.dosyalar, (KayitAc == 0 || yol.empty() ? GunYolu() : yol) + Metin(kDetayEki), Detay(),
+             detayKoken);
     p.OlaylariIsle();
 }
 
@@ -154,6 +163,8 @@ AnaKayit FormKayit::Ana() const {
     AnaKayit kayit;
     for (int no = 1; no <= kKaySayisi; ++no)
         kayit.kay[static_cast<std::size_t>(no - 1)] = Kay[no].metin;
+    if (!odemeKoken.Yazilir() && !kayitliOdeme.empty())
+        OdemeOzetiniKoru(kayit, kayitliOdeme);
     kayit.check18 = Check18.deger;
     kayit.check19 = Check19.deger;
     return kayit;
@@ -182,7 +193,7 @@ Metin FormKayit::GunYolu() const {
 void FormKayit::SayaciYaz() const {
     DegerYazici yazici;
     yazici.Yaz(Kay[AnaNo::SozlesmeNo].metin);
-    program_.dosyalar.Yaz(program_.agac.KokYolu(kSayacDosyasi), yazici.Bayt());
+    sayacKoken_.Yaz(program_.dosyalar, program_.agac.KokYolu(kSayacDosyasi), yazici.Bayt());
 }
 
 } // namespace velora

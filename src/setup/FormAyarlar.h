@@ -69,13 +69,23 @@ struct FormAyarlar {
     Dugme Command4;
 
   private:
+    /// One of the two files.
+    struct Dosya {
+        Koken koken;
+        bool okundu = false;      ///< its values are whole
+        std::string varsayilan{}; ///< what isn't written over them
+    };
     bool DosyalardanOku();
+    void Yaz(MetinBakis ad, const Dosya& dosya, const std::string& bayt) const;
+    void VarsayilanlariTut();
     void BasliklariKoy();
     /// The values of the two files, in their order. Whoever holds a table must not outlive the screen.
     std::vector<Alan> AyarAlanlari();
     std::vector<Alan> AyAlanlari();
 
     Program& program_;
+    Dosya ayarlar_;
+    Dosya aylar_;
 };
 
 } // namespace velora

@@ -26,9 +26,14 @@ void FormAyarlar::Command4_Click() {
 void FormAyarlar::Command1_Click() {
     Program& p = program_;
     Command4_Click();
-    p.dosyalar.Yaz(p.agac.KokYolu(kAyarDosyasi), AlanBaytlari(AyarAlanlari()));
-    p.dosyalar.Yaz(p.agac.KokYolu(kAyDosyasi), AlanBaytlari(AyAlanlari()));
+    Yaz(kAyarDosyasi, ayarlar_, AlanBaytlari(AyarAlanlari()));
+    Yaz(kAyDosyasi, aylar_, AlanBaytlari(AyAlanlari()));
     p.FormAyarlar.Bosalt();
+}
+
+void FormAyarlar::Yaz(MetinBakis ad, const Dosya& dosya, const std::string& bayt) const {
+    if (bayt != dosya.varsayilan)
+        dosya.koken.Yaz(program_.dosyalar, program_.agac.KokYolu(ad), bayt);
 }
 
 void FormAyarlar::Command3_Click() {

@@ -21,8 +21,8 @@ FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
 }
 
 void FormMenuAyar::Load() {
-    for (auto& sutunlar :
-         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), Liste.basliklar.size()))
+    for (auto& sutunlar : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi),
+                                       Liste.basliklar.size(), &koken_))
         Liste.satirlar.push_back({std::move(sutunlar), {}, 0});
 }
 
@@ -80,7 +80,7 @@ void FormMenuAyar::Kaydet_Click() {
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
-    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar);
+    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar, koken_);
     Liste.secimDugmeleri.Ac(false);
 }
 

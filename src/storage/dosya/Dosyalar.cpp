@@ -164,13 +164,14 @@ std::vector<Metin> Dosyalar::Listele(const Metin& klasor) const {
     });
 }
 
-std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
-    return Sessiz([&]() -> std::optional<std::string> {
+OkumaSonucu Dosyalar::SonucluOku(const Metin& yol) const {
+    return Sessiz([&]() -> OkumaSonucu {
         const auto p = Cevir(DosyaIsi::Oku, yol);
         AcikDosya dosya;
-        if (!p || dosya.Ac(*p, Kip::Oku) != Acilis::Acildi)
-            return {};
-        const auto boy = dosya.Boy();
+        const Acilis acilis = p ? dosya.Ac(*p, Kip::Oku) : Acilis::Olmadi;
+        if (acilis == Acilis::Yok && arama_.Tam())
+            return {.okunus = Okunus::Yok};
+        const auto boy = acilis == Acilis::Acildi ? dosya.Boy() : std::nullopt;
         if (!boy || *boy > kEnUzunOkuma)
             return {};
         std::string bayt(static_cast<std::size_t>(*boy) + 1, '\0');
@@ -178,8 +179,15 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
         if (!okunan)
             return {};
         bayt.resize(*okunan);
-        return bayt;
+        return {.okunus = Okunus::Okundu, .bayt = std::move(bayt)};
     });
+}
+
+std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
+    OkumaSonucu sonuc = SonucluOku(yol);
+    if (sonuc.okunus != Okunus::Okundu)
+        return {};
+    return std::move(sonuc.bayt);
 }
 
 /// A folder whose files are read one after the other, from the disk or from what is kept of it.
