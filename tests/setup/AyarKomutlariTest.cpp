@@ -260,6 +260,16 @@ TEST_F(AyarKomutlari, Beside_a_file_that_could_not_be_read_a_missing_and_a_damag
     }
 }
 
+TEST_F(AyarKomutlari, Beside_a_damaged_file_that_can_be_read_the_other_one_is_written_over_on_purpose) {
+    agac.Koy(u"Settings.dll", "1,2,3\r\n");
+    agac.Koy(u"Visible.dll", "1,1,1,1,0,1,1,1,1,1,1,1,1\r\n");
+    kullanici.Prog().FormAyarlar.Bosalt();
+    Ayarlar();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
+    EXPECT_EQ(agac.Bayt(u"Visible.dll"), kTumAylar);
+}
+
 TEST_F(AyarKomutlari, Both_files_that_could_not_be_read_stay_whatever_is_changed) {
     agac.Koy(u"Settings.dll", KodYaz(AyarMetni(2, u"4711")));
     agac.Koy(u"Visible.dll", "1,1,1,1,0,1,1,1,1,1,1,1,1\r\n");

@@ -4,13 +4,45 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <dirent.h>
+#include <dlfcn.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "storage/DosyaAgaci.h"
-#include "storage/dosya/AdArama.h"
-#include "storage/dosya/Sistem.h"
+
+namespace {
+
+// What the listing of a folder fails with; 0: it works.
+int acmaHatasi = 0;
+int okumaHatasi = 0;
+
+template <class Cagri>
+Cagri* Asil(const char* ad) {
+    return reinterpret_cast<Cagri*>(::dlsym(RTLD_NEXT, ad));
+}
+
+} // namespace
+
+// These take the place of the system's own in this program: a disk that fails at listing, and at nothing
+// else.
+extern "C" DIR* opendir(const char* yol) {
+    static const auto asil = Asil<DIR*(const char*)>("opendir");
+    if (acmaHatasi == 0)
+        return asil(yol);
+    errno = acmaHatasi;
+    return nullptr;
+}
+
+extern "C" dirent* readdir(DIR* akis) {
+    static const auto asil = Asil<dirent*(DIR*)>("readdir");
+    if (okumaHatasi == 0)
+        return asil(akis);
+    errno = okumaHatasi;
+    return nullptr;
+}
 
 // What only a POSIX folder can hold: pipes, links, names that are no UTF-8.
 namespace velora {
@@ -147,22 +179,26 @@ TEST(PosixKlasor, A_process_that_can_open_no_more_files_has_found_none_missing) 
 }
 
 TEST(PosixKlasor, A_listing_that_failed_is_neither_believed_nor_kept) {
-    const DosyaAgaci kok;
+    DosyaAgaci kok;
     kok.Koy(u"SALON.DAT", "x");
     std::filesystem::last_write_time(kok.Kok(),
                                      std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
-    AdArama arama;
-    {
-        const DosyaKalmadi dar;
-        EXPECT_EQ(Durumu(kok, u"Salon.dat"), Okunus::Okunamadi);
-        arama.Coz(kok.Kok(), {"Salon.dat"}, sistem::Tur::Dosya);
-        EXPECT_FALSE(arama.Tam());
+    for (int* hata : {&acmaHatasi, &okumaHatasi}) {
+        *hata = EIO;
+        EXPECT_EQ(Durumu(kok, u"Salon.dat"), Okunus::Okunamadi) << "it may lie there in another spelling";
+        *hata = 0;
     }
     EXPECT_EQ(kok.dosyalar.Oku(kok.TamYol(u"Salon.dat")), "x");
-    EXPECT_EQ(arama.Coz(kok.Kok(), {"Salon.dat"}, sistem::Tur::Dosya).filename(), "SALON.DAT");
-    EXPECT_TRUE(arama.Tam());
-    arama.Coz(kok.Kok() / "yok", {"Salon.dat"}, sistem::Tur::Dosya);
-    EXPECT_TRUE(arama.Tam()) << "a folder that isn't there holds nothing";
+    EXPECT_EQ(Durumu(kok, u"Menuler.dat"), Okunus::Yok);
+}
+
+TEST(PosixKlasor, Where_nobody_may_list_a_name_has_no_other_spelling) {
+    const DosyaAgaci kok;
+    kok.Koy(u"SALON.DAT", "x");
+    acmaHatasi = EACCES;
+    EXPECT_EQ(Durumu(kok, u"Salon.dat"), Okunus::Yok);
+    EXPECT_EQ(Durumu(kok, u"SALON.DAT"), Okunus::Okundu);
+    acmaHatasi = 0;
 }
 
 TEST(PosixKlasor, No_file_stays_open_behind_any_call) {
