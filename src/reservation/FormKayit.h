@@ -44,9 +44,9 @@ struct FormKayit {
     void Command4_Click(); ///< "Ödemeler": to the page of payments
 
     // --- saving (Kaydetme.cpp) ---
-    /// "Oluştur" / "Kaydet": checks, writes the three files and the counter, unloads the screen and brings
-    /// the open views up to date. Nothing that fails on the disk is reported, and the screen closes all the
-    /// same.
+    /// "Oluştur" / "Kaydet": checks, writes the three files and the counter, but for what couldn't be read of
+    /// them, unloads the screen and brings the open views up to date. Nothing that fails on the disk is
+    /// reported, and the screen closes all the same.
     void Command1_Click();
     /// "GizliKayit": writes without checking the fields, leaves payments alone and the screen open.
     void Command11();
