@@ -14,8 +14,6 @@ namespace velora::test {
 
 namespace {
 
-using Satirlar = std::vector<SutunMetinleri>;
-
 struct KotuAgac : DosyaAgaci {
     /// The next reading fails, whatever is read.
     void BirKezOkunmasin() { BirKezOkunmaz(dosyalar, u""); }
@@ -112,7 +110,8 @@ TEST(Koken, A_list_that_could_not_be_read_leaves_the_old_one) {
     EXPECT_TRUE(SatirlariOku(kok.dosyalar, kok.TamYol(u"a"), 1, &koken).empty());
     EXPECT_FALSE(SatirlariYaz(kok.dosyalar, kok.TamYol(u"a"), {{u"C"}}, koken));
     EXPECT_EQ(kok.Oku(u"a"), "\"A\"\r\n\"B\"\r\n");
-    EXPECT_EQ(SatirlariOku(kok.dosyalar, kok.TamYol(u"a"), 1, &koken), (Satirlar{{u"A"}, {u"B"}}));
+    EXPECT_EQ(SatirlariOku(kok.dosyalar, kok.TamYol(u"a"), 1, &koken),
+              (std::vector<SutunMetinleri>{{u"A"}, {u"B"}}));
     EXPECT_TRUE(SatirlariYaz(kok.dosyalar, kok.TamYol(u"a"), {{u"C"}}, koken));
     EXPECT_EQ(kok.Oku(u"a"), "\"C\"\r\n");
 }
