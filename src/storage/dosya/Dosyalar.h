@@ -198,7 +198,7 @@ class Dosyalar {
     std::filesystem::path kokYolu_;
     Metin kok_;
     std::unique_ptr<EylemDefteri> defter_; // none: there is no journal
-    mutable AdArama arama_; // remembers listings
+    mutable AdArama arama_;                // remembers listings
     mutable std::size_t okunan_ = 0;
     mutable int hatirlayan_ = 0; // that stand
     mutable std::vector<std::shared_ptr<KlasorBellegi>> bellekler_;

@@ -35,7 +35,6 @@ std::filesystem::path Ekli(std::filesystem::path yol, std::string_view ek) {
     return yol;
 }
 
-
 /// Who has touched a file last.
 struct SonDokunan {
     std::size_t sira = 0; ///< of the record
