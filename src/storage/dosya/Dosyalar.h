@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -92,6 +93,8 @@ class Dosyalar {
     /// For tests and measurements: waits until all that was written stands on the medium and is marked in
     /// the journal, a time at most.
     bool GunluguBekle() const;
+    /// For measurements: how long the handlers have waited for the medium so far.
+    std::chrono::nanoseconds GunlukBeklemesi() const;
 
     /// The root, without a separator at its end.
     const Metin& Kok() const { return kok_; }
