@@ -12,19 +12,26 @@
 
 namespace velora::test {
 
-Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {}
+Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {
+    ortam.durumKlasoru = agac.Disi() / "durum";
+}
+
+void Kullanici::YeniProgram() {
+    gecen_.clear();
+    program_.reset(); // two of them can't have one journal
+    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+}
 
 void Kullanici::ProgramiAc() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    YeniProgram();
+    program_->GunluguAc();
     program_->FormTablo.Tut();
     Boyutla(1280, 620);
     program_->FormTablo.Goster();
 }
 
 void Kullanici::Baslat() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    YeniProgram();
     const auto acilis = program_->Splash.Tut();
     acilis->Baslat();
     while (acilis->Timer1.aralik > 0)
@@ -32,8 +39,8 @@ void Kullanici::Baslat() {
 }
 
 void Kullanici::GirisiAc() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    YeniProgram();
+    program_->GunluguAc();
     program_->FormSifre.Goster();
 }
 

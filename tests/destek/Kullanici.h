@@ -63,6 +63,7 @@ class Kullanici {
     SahteOrtam ortam;
 
   private:
+    void YeniProgram();
     const GeciciAgac& agac_;
     std::unique_ptr<Program> program_;
     std::map<Zamanlayici*, int> gecen_; // milliseconds since each timer's last tick
