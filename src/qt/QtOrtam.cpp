@@ -116,7 +116,10 @@ Ortam QtOrtam::Ver() {
 
 Ortam::Kagit QtOrtam::Kagit() {
     Ortam::Kagit kagit;
-    kagit.olcer = SayfaOlcer();
+    kagit.olcer = [olcer = SayfaOlcer()](MetinBakis metin, const SayfaYazisi& yazi) {
+        Nefes::Al(); // a page measures much
+        return olcer(metin, yazi);
+    };
     kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
         return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)](const Vazgecildi& vazgecildi) {
             return YaziciyaBas(sayfalar, ad, vazgecildi);
