@@ -132,24 +132,28 @@ class KesikGozIpucu : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// The toolkit measures all of a text before it shows its beginning.
-    QString displayText(const QVariant& deger, const QLocale& dil) const override {
-        constexpr qsizetype kGorulebilen = 2000; // letters: more than any screen is wide
-        return QStyledItemDelegate::displayText(deger, dil).left(kGorulebilen);
-    }
-
     bool helpEvent(QHelpEvent* olay, QAbstractItemView* liste, const QStyleOptionViewItem& secenek,
                    const QModelIndex& goz) override {
         if (olay->type() != QEvent::ToolTip)
             return QStyledItemDelegate::helpEvent(olay, liste, secenek, goz);
         const QRect gorunen = liste->visualRect(goz).intersected(liste->viewport()->rect());
         if (sizeHint(secenek, goz).width() > gorunen.width())
-            QToolTip::showText(olay->globalPos(), QIpucu(MetinYap(displayText(goz.data(), liste->locale()))),
+            QToolTip::showText(olay->globalPos(), QIpucu(MetinYap(goz.data().toString().left(kGorulebilen))),
                                liste->viewport(), gorunen);
         else
             QToolTip::hideText();
         return true;
     }
+
+  protected:
+    /// The toolkit measures all of a text before it shows its beginning.
+    void initStyleOption(QStyleOptionViewItem* secenek, const QModelIndex& goz) const override {
+        QStyledItemDelegate::initStyleOption(secenek, goz);
+        secenek->text.truncate(kGorulebilen);
+    }
+
+  private:
+    static constexpr qsizetype kGorulebilen = 2000; // letters: more than any screen is wide
 };
 
 /// What the user does to the marks of a list, of either kind.
