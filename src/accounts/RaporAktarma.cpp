@@ -13,7 +13,7 @@ void RaporAktar(Program& program, std::vector<Metin> basliklar, const ListeGorun
     tablo.satirlar.reserve(liste.satirlar.size());
     for (const ListeSatiri& satir : liste.satirlar)
         tablo.satirlar.emplace_back(satir.sutun);
-    program.dosyalar.Yaz(yol, XlsYaz(tablo));
+    program.dosyalar.Yaz(yol, XlsYaz(tablo, program.ortam.olaylar.nefes));
     if (const auto sistemYolu = program.dosyalar.SistemYolu(yol))
         program.ortam.kabuk.dosyaAc(*sistemYolu);
 }

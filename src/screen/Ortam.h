@@ -129,6 +129,9 @@ struct Ortam {
         /// The same behind each of many small steps: what lets events run at most every few milliseconds is
         /// soon enough for a user, and costs little beside the steps.
         std::function<void()> adimda = [] {};
+        /// Behind each small step of what reads much, where no event may come in between: once in a while the
+        /// windows are painted and the user sees that the program is busy. No handler and no timer runs.
+        std::function<void()> nefes = [] {};
         /// Ends the program, with all its screens.
         std::function<void()> bitir;
         /// The program has been told to end: what is long stops where it is.

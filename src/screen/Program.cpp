@@ -5,7 +5,9 @@
 namespace velora {
 
 Program::Program(Ortam disDunya, const std::filesystem::path& kok)
-    : ortam(std::move(disDunya)), dosyalar(kok), agac(dosyalar) {}
+    : ortam(std::move(disDunya)), dosyalar(kok), agac(dosyalar) {
+    dosyalar.okurken = [this] { ortam.olaylar.nefes(); };
+}
 
 void Program::GunluguAc() {
     if (const auto klasor = ortam.klasorler.durum(); !klasor.empty())

@@ -51,6 +51,10 @@ Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), ko
 Dosyalar::~Dosyalar() = default;
 
 std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& yol) const {
+    const bool yazar =
+        is == DosyaIsi::Yaz || is == DosyaIsi::Ekle || is == DosyaIsi::Kopyala || is == DosyaIsi::Sil;
+    if (okurken && !yazar)
+        okurken();
     if (ariza && ariza(is, yol))
         return {};
     const bool klasor = is == DosyaIsi::Listele || is == DosyaIsi::KlasorYap;
@@ -213,6 +217,8 @@ void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const Ok
         const MetinBakis ad = okuma->Adlar()[i];
         if (istenen && !istenen(ad))
             continue;
+        if (okurken)
+            okurken();
         const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
             if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
                 return {};

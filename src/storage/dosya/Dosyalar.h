@@ -195,6 +195,9 @@ class Dosyalar {
     /// For tests: how many folders were listed to find a name that isn't there to the letter.
     std::size_t AramadaListelenen() const { return arama_.Listelenen(); }
 
+    /// Runs before each file that is read or asked for, and before each folder. It works on no file.
+    std::function<void()> okurken;
+
     /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
     /// disk.
     std::function<bool(DosyaIsi, const Metin& yol)> ariza;
