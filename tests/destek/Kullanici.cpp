@@ -12,11 +12,11 @@
 
 namespace velora::test {
 
-Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {}
-
 void Kullanici::ProgramiAc() {
     gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
+    if (once)
+        once(*program_);
     program_->FormTablo.Tut();
     Boyutla(1280, 620);
     program_->FormTablo.Goster();
@@ -24,7 +24,7 @@ void Kullanici::ProgramiAc() {
 
 void Kullanici::Baslat() {
     gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
     const auto acilis = program_->Splash.Tut();
     acilis->Baslat();
     while (acilis->Timer1.aralik > 0)
@@ -33,7 +33,7 @@ void Kullanici::Baslat() {
 
 void Kullanici::GirisiAc() {
     gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
     program_->FormSifre.Goster();
 }
 

@@ -1,0 +1,70 @@
+// Does one thing to a tree, as a user does it, and ends. What it does to the disk on the way is counted,
+// logged or disturbed by the library that is preloaded.
+//
+//   eylem_kosucu SCENARIO TREE JOURNAL    JOURNAL: the folder of the journal, or "-" for none
+//   eylem_kosucu ac TREE JOURNAL          opens the program's journal alone: that is counted
+//   eylem_kosucu tekrar SCENARIO ...      does it again and again, until it is killed
+#include <cstdio>
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "dayanim/CagriKaydi.h"
+#include "dayanim/Senaryolar.h"
+
+namespace velora::dayanim {
+namespace {
+
+constexpr unsigned kEnUzunOmur = 30; ///< seconds; what takes longer hangs
+
+/// Tells the library, if there is one.
+void Bildir(const char* ad) {
+    if (void* islev = ::dlsym(RTLD_DEFAULT, ad); islev != nullptr)
+        reinterpret_cast<void (*)()>(islev)();
+}
+
+void Yap(const Senaryo& senaryo, const std::filesystem::path& kok, const std::filesystem::path& durum) {
+    Masa masa(kok, durum);
+    if (senaryo.hazirla)
+        senaryo.hazirla(masa);
+    Bildir(kBasla);
+    senaryo.yap(masa);
+    masa.kullanici.ProgramiKapat();
+    Bildir(kBitir);
+}
+
+void YalnizAc(const std::filesystem::path& kok, const std::filesystem::path& durum) {
+    test::SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    Bildir(kBasla);
+    {
+        Program program(ortam.Ver(), kok);
+        GunlukAc(program, durum);
+    }
+    Bildir(kBitir);
+}
+
+/// 0 when all went as the script of the scenario says; what was shown otherwise is no matter of a run that is
+/// disturbed.
+int Kos(std::span<char*> degerler) {
+    if (degerler.size() != 3)
+        return 2;
+    const std::filesystem::path durum = std::string_view(degerler[2]) == "-" ? "" : degerler[2];
+    if (std::string_view(degerler[0]) == "ac") {
+        YalnizAc(degerler[1], durum);
+        return 0;
+    }
+    const Senaryo* senaryo = SenaryoBul(degerler[0]);
+    if (senaryo == nullptr)
+        return 2;
+    Yap(*senaryo, degerler[1], durum);
+    return ::testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed() ? 1 : 0;
+}
+
+} // namespace
+} // namespace velora::dayanim
+
+int main(int adet, char** degerler) {
+    ::alarm(velora::dayanim::kEnUzunOmur);
+    return velora::dayanim::Kos(std::span(degerler, static_cast<std::size_t>(adet)).subspan(1));
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "destek/Kullanici.h"
+
+namespace velora::dayanim {
+
+/// A tree: the bytes of each file by its path below the root, with "/" between the names. A folder stands
+/// there too, with a "/" at its end and no bytes.
+using Agac = std::map<std::string, std::string>;
+
+/// The firm that every scenario begins with: two halls with reservations of several years, short and long
+/// ones, all files of the firm. No two values are alike.
+const Agac& TemelAgac();
+
+/// A person at the desk of that firm, on Friday, 15 June 2012.
+class Masa {
+  public:
+    /// `durum`: the folder of the journal, empty for none. The journal is opened as the program does it.
+    Masa(const std::filesystem::path& kok, const std::filesystem::path& durum);
+
+    Program& Prog() { return kullanici.Prog(); }
+    void EkranBekle(EkranAdi ad, std::function<void()> is);
+    void Soru(const Metin& metin);
+
+    test::Kullanici kullanici;
+};
+
+/// Opens the journal of a program in this folder and completes what a death has cut through: what the start
+/// does before anything is read. Nothing happens without a folder.
+void GunlukAc(Program& program, const std::filesystem::path& durum);
+
+/// Something that a user does and that changes files.
+struct Senaryo {
+    std::string_view ad;
+    std::function<void(Masa&)> yap;
+    std::function<void(Masa&)> hazirla = {}; ///< what he does before; its calls aren't counted
+    /// The files, below the root, of which the tree has another text than the firm's; empty text: none.
+    Agac degisik = {};
+    bool uzun = false; ///< its records are longer than a page of memory
+};
+
+std::span<const Senaryo> Senaryolar();
+const Senaryo* SenaryoBul(std::string_view ad);
+/// The tree that a scenario begins with.
+Agac BaslangicAgaci(const Senaryo& senaryo);
+
+} // namespace velora::dayanim
