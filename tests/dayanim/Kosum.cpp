@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,9 +19,23 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Bayt(const fs::path& yol) {
-    std::ifstream dosya(yol, std::ios::binary);
-    return {std::istreambuf_iterator<char>(dosya), {}};
+/// By plain calls: there are hundreds of thousands of such readings.
+std::string Bayt(const std::string& yol) {
+    std::string bayt;
+    const int no = ::open(yol.c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat bilgi {};
+    if (no >= 0 && ::fstat(no, &bilgi) == 0) {
+        bayt.resize(static_cast<std::size_t>(bilgi.st_size));
+        bayt.resize(static_cast<std::size_t>(std::max<ssize_t>(0, ::read(no, bayt.data(), bayt.size()))));
+    }
+    ::close(no);
+    return bayt;
+}
+
+void BaytKoy(const std::string& yol, const std::string& bayt) {
+    const int no = ::open(yol.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    EXPECT_EQ(::write(no, bayt.data(), bayt.size()), static_cast<ssize_t>(bayt.size())) << yol;
+    ::close(no);
 }
 
 fs::path UstKlasor() {
@@ -54,13 +68,23 @@ Saha::~Saha() {
     fs::remove_all(durumUstu_, hata);
 }
 
+const Agac& Saha::Oku() const {
+    if (!bilinen_)
+        bilinen_ = Oku(kok_);
+    return *bilinen_;
+}
+
+void Saha::Kur(const Agac& agac) const {
+    Yaz(kok_, Oku(), agac);
+    bilinen_ = agac;
+}
+
 void Saha::Kur(const Senaryo& senaryo) const {
     Kur(BaslangicAgaci(senaryo));
     DurumKur({});
 }
 
-void Saha::Yaz(const fs::path& klasor, const Agac& agac) {
-    const Agac eski = Oku(klasor);
+void Saha::Yaz(const fs::path& klasor, const Agac& eski, const Agac& agac) {
     for (auto i = eski.rbegin(); i != eski.rend(); ++i) // what lies in a folder before the folder
         if (!agac.contains(i->first))
             fs::remove(klasor / i->first.substr(0, i->first.find_last_not_of('/') + 1));
@@ -69,36 +93,46 @@ void Saha::Yaz(const fs::path& klasor, const Agac& agac) {
         if (yol.ends_with('/'))
             fs::create_directory(klasor / yol.substr(0, yol.size() - 1));
         else if (yer == eski.end() || yer->second != bayt)
-            std::ofstream(klasor / yol, std::ios::binary) << bayt;
+            BaytKoy(klasor.string() + "/" + yol, bayt);
     }
 }
 
 Agac Saha::Oku(const fs::path& klasor) {
     Agac agac;
-    const std::size_t bas = klasor.string().size() + 1;
-    for (const auto& oge : fs::recursive_directory_iterator(klasor)) {
-        const std::string yol = oge.path().string().substr(bas);
-        if (oge.is_directory())
-            agac[yol + "/"];
-        else
-            agac[yol] = Bayt(oge.path());
+    std::vector<std::string> klasorler{""};
+    while (!klasorler.empty()) {
+        const std::string ust = klasorler.back();
+        klasorler.pop_back();
+        DIR* akis = ::opendir((klasor.string() + "/" + ust).c_str());
+        while (const dirent* oge = akis == nullptr ? nullptr : ::readdir(akis)) {
+            const std::string ad = static_cast<const char*>(oge->d_name);
+            if (ad == "." || ad == "..")
+                continue;
+            if (oge->d_type != DT_DIR)
+                agac[ust + ad] = Bayt(klasor.string() + "/" + ust + ad);
+            else
+                agac[klasorler.emplace_back(ust + ad + "/")];
+        }
+        if (akis != nullptr)
+            ::closedir(akis);
     }
     return agac;
 }
 
-Agac Saha::Baslat() const {
+const Agac& Saha::Baslat() const {
     test::SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
     {
         Program program(ortam.Ver(), kok_);
         GunlukAc(program, gunluklu ? durum_ : fs::path());
     }
+    Degisti();
     return Oku();
 }
 
 namespace {
 
 std::vector<KayitliCagri> KayitOku(const fs::path& yol) {
-    const std::string bayt = Bayt(yol);
+    const std::string bayt = Bayt(yol.string());
     std::vector<KayitliCagri> cagrilar;
     for (std::size_t yer = 0; yer + sizeof(KayitBasi) <= bayt.size();) {
         KayitliCagri cagri;
@@ -172,6 +206,7 @@ KosumSonucu Kos(const Saha& saha, std::string_view senaryo, const Ariza& ariza, 
         Dogur({std::string(senaryo), saha.Kok().string(), DurumMetni(saha)}, Cevre(saha, ariza, dosya));
     int durum = 0;
     KosumSonucu sonuc;
+    saha.Degisti();
     if (cocuk <= 0 || ::waitpid(cocuk, &durum, 0) != cocuk) {
         sonuc.sonuc = "it can't be started";
         return sonuc;

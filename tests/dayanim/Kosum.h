@@ -27,24 +27,27 @@ class Saha {
     const std::filesystem::path& Durum() const { return durum_; }
 
     /// Makes the tree hold just this. What is so already isn't touched.
-    void Kur(const Agac& agac) const { Yaz(kok_, agac); }
-    Agac Oku() const { return Oku(kok_); }
+    void Kur(const Agac& agac) const;
+    const Agac& Oku() const;
     /// The same of the journal's folder.
-    void DurumKur(const Agac& agac) const { Yaz(durum_, agac); }
+    void DurumKur(const Agac& agac) const { Yaz(durum_, Oku(durum_), agac); }
     Agac DurumOku() const { return Oku(durum_); }
 
     /// Both as a scenario begins with them; the journal has nothing yet.
     void Kur(const Senaryo& senaryo) const;
     /// A fresh start: the journal is opened, in this process. The tree behind it.
-    Agac Baslat() const;
+    const Agac& Baslat() const;
+    /// Somebody else has changed the tree.
+    void Degisti() const { bilinen_.reset(); }
     /// Whether scenarios run with a journal; true unless told otherwise.
     bool gunluklu = true;
 
   private:
-    static void Yaz(const std::filesystem::path& klasor, const Agac& agac);
+    static void Yaz(const std::filesystem::path& klasor, const Agac& eski, const Agac& agac);
     static Agac Oku(const std::filesystem::path& klasor);
 
     std::filesystem::path ust_, durumUstu_, kok_, durum_;
+    mutable std::optional<Agac> bilinen_; // what the tree holds, so that not all is read again and again
 };
 
 /// What is done to the calls of a run.
