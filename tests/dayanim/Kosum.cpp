@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <random>
 #include <spawn.h>
+#include <sstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -297,6 +298,29 @@ std::string Kayip(const Beklenen& beklenen, const Agac& kalan) {
     return {};
 }
 
+/// A line that both have and the third one hasn't; nothing when there is none.
+std::optional<std::string> KayipSatir(const std::string& once, const std::string& sonra,
+                                      const std::string& simdi) {
+    std::istringstream satirlar(once);
+    const std::string arananlar = "\n" + sonra;
+    const std::string kalanlar = "\n" + simdi;
+    for (std::string satir; std::getline(satirlar, satir);)
+        if (const std::string tam = "\n" + satir + "\n";
+            arananlar.find(tam) != std::string::npos && kalanlar.find(tam) == std::string::npos)
+            return satir;
+    return std::nullopt;
+}
+
+/// By `Olcu::Satir`, of one file of the action.
+std::string SatirKusuru(const std::string* once, const std::string* sonra, const std::string* simdi) {
+    if (once == nullptr || sonra == nullptr)
+        return {};
+    if (simdi == nullptr)
+        return "isn't there";
+    const auto kayip = KayipSatir(*once, *sonra, *simdi);
+    return kayip ? Kisa(simdi) + " and lacks the line " + Kisa(&*kayip) : std::string();
+}
+
 } // namespace
 
 std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
@@ -310,6 +334,11 @@ std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
         const std::string* once = Bul(beklenen.once, yol);
         const std::string* sonra = Bul(beklenen.sonra, yol);
         const std::string* simdi = Bul(kalan, yol);
+        if (olcu == Olcu::Satir && !Ayni(once, sonra)) {
+            if (const std::string kusur = SatirKusuru(once, sonra, simdi); !kusur.empty())
+                return yol + " " + kusur;
+            continue;
+        }
         if (!Ayni(simdi, once) && !Ayni(simdi, sonra))
             return yol + " " + Kisa(simdi) + (Ayni(once, sonra) ? " (it is none of the action's)" : "");
         // A folder more says nothing: a program that looks at a year makes its folder.
@@ -317,7 +346,7 @@ std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
             continue;
         (Ayni(simdi, once) ? eski : yeni) += " [" + yol + "]";
     }
-    if (const std::string kayip = Kayip(beklenen, kalan); !kayip.empty())
+    if (const std::string kayip = Kayip(beklenen, kalan); !kayip.empty() && olcu != Olcu::Satir)
         return kayip;
     if (olcu == Olcu::Butun && !eski.empty() && !yeni.empty())
         return "as before:" + eski + ", but as behind:" + yeni;

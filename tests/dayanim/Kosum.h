@@ -104,7 +104,9 @@ Beklenen TemizKosum(const Saha& saha, const Senaryo& senaryo);
 /// How much may be left of a scenario that was cut through.
 enum class Olcu {
     Butun, ///< all of it or nothing
-    Parca  ///< of each file the text before or the text behind it
+    Parca, ///< of each file the text before or the text behind it
+    Satir  ///< of its files may be made what a user has to make of what couldn't be read, but each line that
+          ///< was there before and is there behind is still there
 };
 
 /// What is wrong with a tree that was left; empty: nothing.
