@@ -110,6 +110,7 @@ void FormGiderler::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         yazici.Yaz(satir.sutun[KasaSutunu::Tarih], satir.sutun[KasaSutunu::Tutar],
                    satir.sutun[KasaSutunu::Aciklama]);
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Gider kaydı");
     const bool yazildi = !okunamadi_ && program_.dosyalar.Yaz(Yol(), yazici.Bayt());
     ListeleGun(); // where it couldn't be written, the rows that the file still has
     if (!yazildi)

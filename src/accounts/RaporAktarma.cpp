@@ -7,6 +7,7 @@ namespace velora {
 
 void RaporAktar(Program& program, std::vector<Metin> basliklar, const ListeGorunumu& liste) {
     const Metin yol = program.agac.KokYolu(kRaporDosyasi);
+    const Dosyalar::GunlukDisi gecici(program.dosyalar);
     program.dosyalar.Sil(yol);
     XlsTablosu tablo{.basliklar = std::move(basliklar), .satirlar = {}, .sayiSutunlari = liste.sayiSutunlari};
     tablo.satirlar.reserve(liste.satirlar.size());

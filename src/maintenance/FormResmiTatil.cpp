@@ -54,7 +54,8 @@ void FormResmiTatil::Command1_Click() {
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
-    SatirlariYaz(p.dosyalar, p.agac.KokYolu(kTatilDosyasi), satirlar);
+    EylemleYap(p.dosyalar, u"Tatil kaydı",
+               [&] { SatirlariYaz(p.dosyalar, p.agac.KokYolu(kTatilDosyasi), satirlar); });
     p.FormResmiTatil.Bosalt();
     p.FormTablo->Command1();
 }

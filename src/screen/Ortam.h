@@ -174,6 +174,9 @@ struct Ortam {
     } odak;
 
     struct Klasorler {
+        /// Where the program keeps what is its own and no setting: outside of the data tree, for this user
+        /// alone. Empty where there is no such folder: then there is no journal.
+        std::function<std::filesystem::path()> durum = [] { return std::filesystem::path(); };
         /// Where backups go as long as the user says nothing else.
         std::function<std::filesystem::path()> yedek = [] { return std::filesystem::path(); };
         /// Begins to watch a folder. Where it can't be watched there is nothing to wait with.

@@ -26,8 +26,10 @@ void FormAyarlar::Command4_Click() {
 void FormAyarlar::Command1_Click() {
     Program& p = program_;
     Command4_Click();
-    p.dosyalar.Yaz(p.agac.KokYolu(kAyarDosyasi), AlanBaytlari(AyarAlanlari()));
-    p.dosyalar.Yaz(p.agac.KokYolu(kAyDosyasi), AlanBaytlari(AyAlanlari()));
+    EylemleYap(p.dosyalar, u"Program ayarları", [&] {
+        p.dosyalar.Yaz(p.agac.KokYolu(kAyarDosyasi), AlanBaytlari(AyarAlanlari()));
+        p.dosyalar.Yaz(p.agac.KokYolu(kAyDosyasi), AlanBaytlari(AyAlanlari()));
+    });
     p.FormAyarlar.Bosalt();
 }
 

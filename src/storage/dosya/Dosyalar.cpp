@@ -1,34 +1,21 @@
 #include "storage/dosya/Dosyalar.h"
 
 #include <algorithm>
-#include <exception>
 #include <memory>
 
 #include "storage/dosya/AdListesi.h"
-#include "storage/dosya/Aktarim.h"
 #include "storage/dosya/KlasorBellegi.h"
+#include "storage/dosya/Sessiz.h"
 #include "storage/dosya/Sistem.h"
+#include "storage/dosya/Yazim.h"
 #include "storage/dosya/YazmaAkisi.h"
+#include "storage/gunluk/EylemDefteri.h"
 
 namespace velora {
 namespace {
 
-using sistem::AcikDosya;
-using sistem::Acilis;
-using sistem::Kip;
-
 // Folders that are kept at a time: of a search that stands open as many halls.
 constexpr std::size_t kEnCokBellek = 4;
-
-/// What a system throws is memory running out. That is a failed step as any other.
-template <class Is>
-auto Sessiz(Is is) noexcept -> decltype(is()) {
-    try {
-        return is();
-    } catch (const std::exception&) {
-        return decltype(is()){};
-    }
-}
 
 /// No system of the two takes these in a name, and a name of dots and blanks alone can mean another folder.
 bool AdUygun(MetinBakis ad) {
@@ -42,42 +29,6 @@ std::filesystem::path Mutlak(const std::filesystem::path& yol) {
     std::error_code hata;
     const auto mutlak = std::filesystem::absolute(yol, hata);
     return hata ? yol : mutlak;
-}
-
-/// Runs the work on the file, on a disk as narrow as the test wants it.
-template <class Is>
-bool Yerle(AcikDosya& dosya, const std::optional<std::size_t>& yer, Is is) {
-    if (!yer)
-        return is(dosya);
-    DarDosya<AcikDosya> dar(dosya, *yer);
-    return is(dar);
-}
-
-bool YeniYaz(const std::filesystem::path& yol, std::string_view bayt, const std::optional<std::size_t>& yer) {
-    AcikDosya dosya;
-    if (dosya.Ac(yol, Kip::Yeni) != Acilis::Acildi)
-        return false;
-    const bool yazildi = Yerle(dosya, yer, [&](auto& hedef) { return HepsiniYaz(hedef, 0, bayt); });
-    if (dosya.Kapat() && yazildi)
-        return true;
-    sistem::DosyaSil(yol);
-    return false;
-}
-
-/// Writes a file that is there with `is`, and makes one that isn't.
-template <class Is>
-bool EskiVeyaYeni(const std::filesystem::path& yol, std::string_view bayt,
-                  const std::optional<std::size_t>& yer, Is is) {
-    AcikDosya dosya;
-    switch (dosya.Ac(yol, Kip::Guncelle)) {
-    case Acilis::Acildi:
-        return Yerle(dosya, yer, is) && dosya.Kapat();
-    case Acilis::Yok:
-        return YeniYaz(yol, bayt, yer);
-    case Acilis::Olmadi:
-        break;
-    }
-    return false;
 }
 
 AdListesi AdlariAl(sistem::Klasor& klasor) {
@@ -96,6 +47,8 @@ Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), ko
            (kok_.back() == u'/' || kok_.back() == std::filesystem::path::preferred_separator))
         kok_.pop_back();
 }
+
+Dosyalar::~Dosyalar() = default;
 
 std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& yol) const {
     if (ariza && ariza(is, yol))
@@ -167,18 +120,7 @@ std::vector<Metin> Dosyalar::Listele(const Metin& klasor) const {
 std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
     return Sessiz([&]() -> std::optional<std::string> {
         const auto p = Cevir(DosyaIsi::Oku, yol);
-        AcikDosya dosya;
-        if (!p || dosya.Ac(*p, Kip::Oku) != Acilis::Acildi)
-            return {};
-        const auto boy = dosya.Boy();
-        if (!boy || *boy > kEnUzunOkuma)
-            return {};
-        std::string bayt(static_cast<std::size_t>(*boy) + 1, '\0');
-        const auto okunan = OkuHepsini(dosya, kEnUzunOkuma, bayt, static_cast<std::size_t>(*boy));
-        if (!okunan)
-            return {};
-        bayt.resize(*okunan);
-        return bayt;
+        return p ? yazim::Oku(*p).metin : std::nullopt;
     });
 }
 
@@ -267,36 +209,6 @@ void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const Ok
     }
 }
 
-bool Dosyalar::Yaz(const Metin& yol, std::string_view bayt) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Yaz, yol);
-        return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return UzerineYaz(dosya, bayt); });
-    });
-}
-
-bool Dosyalar::Yarat(const Metin& yol, std::string_view bayt) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Yaz, yol);
-        return p && YeniYaz(*p, bayt, bosYer);
-    });
-}
-
-bool Dosyalar::Ekle(const Metin& yol, std::string_view bayt) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Ekle, yol);
-        return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return SonunaYaz(dosya, bayt); });
-    });
-}
-
-bool Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
-    return Sessiz([&] {
-        if (!Cevir(DosyaIsi::Kopyala, hedef))
-            return false;
-        const auto bayt = Oku(kaynak);
-        return bayt && Yaz(hedef, *bayt);
-    });
-}
-
 std::unique_ptr<YazmaAkisi> Dosyalar::AkisAc(const Metin& yol, std::uint64_t konum) const {
     return Sessiz([&]() -> std::unique_ptr<YazmaAkisi> {
         const auto p = Cevir(DosyaIsi::Yaz, yol);
@@ -318,20 +230,6 @@ std::optional<std::uint64_t> Dosyalar::BosAlan(const Metin& yol) const {
             p = p->parent_path();
         const auto alan = p ? std::filesystem::space(*p, hata) : std::filesystem::space_info{};
         return p && !hata ? std::optional<std::uint64_t>(alan.available) : std::nullopt;
-    });
-}
-
-bool Dosyalar::Sil(const Metin& yol) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Sil, yol);
-        return p && sistem::DosyaSil(*p);
-    });
-}
-
-bool Dosyalar::KlasorYap(const Metin& yol) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::KlasorYap, yol);
-        return p && sistem::KlasorYap(*p);
     });
 }
 
