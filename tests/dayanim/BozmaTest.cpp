@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "dayanim/Kosum.h"
+#include "dayanim/Olcum.h"
 
 namespace velora::dayanim {
 namespace {

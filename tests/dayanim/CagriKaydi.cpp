@@ -38,7 +38,7 @@ struct Durum {
     std::uint32_t seri = 0, no = 0;
     std::uint32_t oldur = 0, boz = 0, kisa = 0;
     int hata = EIO;
-    bool sonra = false, yarim = false, yalniz = false, sayar = false;
+    bool sonra = false, yarim = false, yalniz = false, yavas = false, sayar = false;
 
     Durum() {
         agac = Deger(kAgacDegiskeni);
@@ -50,6 +50,7 @@ struct Durum {
         sonra = Sayi(kSonraDegiskeni) != 0;
         yarim = Sayi(kYarimDegiskeni) != 0;
         yalniz = Sayi(kYalnizDegiskeni) != 0;
+        yavas = Sayi(kYavasDegiskeni) != 0;
         if (const std::string dosya = Deger(kDosyaDegiskeni); !dosya.empty())
             kayit = static_cast<int>(::syscall(SYS_openat, AT_FDCWD, dosya.c_str(),
                                                O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600));
@@ -205,6 +206,12 @@ ssize_t Oku(int no, void* hedef, std::size_t adet, std::int64_t konum, bool yeri
 }
 
 ssize_t Yaz(int no, const void* kaynak, std::size_t adet, std::int64_t konum, bool yerinde) {
+    constexpr std::size_t kYavasBoyu = 1500;
+    constexpr useconds_t kYavasBekleme = 300;
+    if (D().yavas && Altinda(Bul(no).yol, D().agac)) {
+        adet = std::min(adet, kYavasBoyu);
+        ::usleep(kYavasBekleme);
+    }
     const std::lock_guard kilit(D().kilit);
     const Konu konu = Bul(no);
     if (!yerinde && !konu.yol.empty())

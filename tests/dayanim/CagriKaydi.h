@@ -21,6 +21,7 @@ inline constexpr const char* kSonraDegiskeni = "VELORA_KAYIT_SONRA";   ///< set:
 inline constexpr const char* kHataDegiskeni = "VELORA_KAYIT_HATA";     ///< with this errno
 inline constexpr const char* kKisaDegiskeni = "VELORA_KAYIT_KISA";     ///< it reads or writes half of what it
                                                                        ///< should
+inline constexpr const char* kYavasDegiskeni = "VELORA_KAYIT_YAVAS";   ///< set: writes are short and slow
 inline constexpr const char* kYalnizDegiskeni = "VELORA_KAYIT_YALNIZ"; ///< set: only what changes is numbered
 
 /// Calls are numbered from 1, from here on ...

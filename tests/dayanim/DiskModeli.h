@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "dayanim/Kosum.h"
+#include "dayanim/Olcum.h"
 
 namespace velora::dayanim {
 

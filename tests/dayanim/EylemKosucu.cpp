@@ -3,7 +3,8 @@
 //
 //   eylem_kosucu SCENARIO TREE JOURNAL    JOURNAL: the folder of the journal, or "-" for none
 //   eylem_kosucu ac TREE JOURNAL          opens the program's journal alone: that is counted
-//   eylem_kosucu tekrar SCENARIO ...      does it again and again, until it is killed
+//   eylem_kosucu tekrar KIND TREE JOURNAL does it again and again, until it is killed; tells of its beginning
+//   eylem_kosucu masa KIND TREE JOURNAL   does it once for each byte that comes in, and answers with one
 #include <cstdio>
 #include <dlfcn.h>
 #include <unistd.h>
@@ -44,9 +45,27 @@ void YalnizAc(const std::filesystem::path& kok, const std::filesystem::path& dur
     Bildir(kBitir);
 }
 
+/// Until it is killed, or what it is told by has ended.
+void Tekrarla(const Tekrar& tekrar, Masa& masa, bool sorarak) {
+    char haber = 'x';
+    for (int sira = 1;; ++sira) {
+        if (sorarak && ::read(STDIN_FILENO, &haber, 1) != 1)
+            return;
+        tekrar.yap(masa, sira);
+        if ((sorarak || sira == 1) && ::write(STDOUT_FILENO, &haber, 1) != 1)
+            return;
+    }
+}
+
 /// 0 when all went as the script of the scenario says; what was shown otherwise is no matter of a run that is
 /// disturbed.
 int Kos(std::span<char*> degerler) {
+    if (degerler.size() == 4)
+        if (const Tekrar* tekrar = TekrarBul(degerler[1]); tekrar != nullptr) {
+            Masa masa(degerler[2], degerler[3]);
+            Tekrarla(*tekrar, masa, std::string_view(degerler[0]) == "masa");
+            return 0;
+        }
     if (degerler.size() != 3)
         return 2;
     const std::filesystem::path durum = std::string_view(degerler[2]) == "-" ? "" : degerler[2];

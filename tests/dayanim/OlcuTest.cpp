@@ -1,7 +1,7 @@
 // The tools of the proof: that scenarios do what they say, and that a tree that was torn is seen.
 #include <gtest/gtest.h>
 
-#include "dayanim/Kosum.h"
+#include "dayanim/Olcum.h"
 
 namespace velora::dayanim {
 

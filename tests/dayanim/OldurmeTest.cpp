@@ -1,7 +1,7 @@
 // A program that dies before, or in, each of its calls.
 #include <gtest/gtest.h>
 
-#include "dayanim/Kosum.h"
+#include "dayanim/Olcum.h"
 
 namespace velora::dayanim {
 namespace {

@@ -47,7 +47,19 @@ struct Senaryo {
 
 std::span<const Senaryo> Senaryolar();
 const Senaryo* SenaryoBul(std::string_view ad);
-/// The tree that a scenario begins with.
-Agac BaslangicAgaci(const Senaryo& senaryo);
+/// The firm's tree with these differences.
+Agac BaslangicAgaci(const Agac& degisik);
+
+/// A kind of writing that can go on for ever: `yap` does one piece of it, counted from 1; the second piece
+/// takes the tree back to where the first one was, or nearly so.
+struct Tekrar {
+    std::string_view ad;
+    std::function<void(Masa&, int sira)> yap;
+    Agac degisik = {};       ///< as in `Senaryo`
+    std::string uzayan = {}; ///< a file that only grows, line by line
+};
+
+std::span<const Tekrar> Tekrarlar();
+const Tekrar* TekrarBul(std::string_view ad);
 
 } // namespace velora::dayanim

@@ -83,9 +83,9 @@ const Agac& TemelAgac() {
     return agac;
 }
 
-Agac BaslangicAgaci(const Senaryo& senaryo) {
+Agac BaslangicAgaci(const Agac& degisik) {
     Agac agac = TemelAgac();
-    for (const auto& [yol, bayt] : senaryo.degisik) {
+    for (const auto& [yol, bayt] : degisik) {
         agac.erase(yol);
         if (!bayt.empty())
             agac[yol] = bayt;
