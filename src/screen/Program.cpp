@@ -9,8 +9,7 @@ Program::Program(Ortam disDunya, const std::filesystem::path& kok)
 
 void Program::GunluguAc() {
     if (const auto klasor = ortam.klasorler.durum(); !klasor.empty())
-        dosyalar.GunluguAc(klasor,
-                           {.kim = [this] { return oturum.UserNamem; }, .simdi = ortam.zaman.simdi});
+        dosyalar.GunluguAc(klasor, {.kim = [this] { return oturum.UserNamem; }, .simdi = ortam.zaman.simdi});
 }
 
 void Program::EkranKalmadiysaBitir() const {

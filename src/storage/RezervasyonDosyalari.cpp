@@ -137,8 +137,8 @@ bool RezervasyonTasi(const Dosyalar& dosyalar, const Metin& kaynak, const Metin&
         return false;
     std::array<Kopyalanis, kRezervasyonEkleri.size()> kopyalar{};
     for (std::size_t i = 0; i < kopyalar.size(); ++i)
-        kopyalar[i] = dosyalar.Kopyala(kaynak + Metin(kRezervasyonEkleri[i]),
-                                       hedef + Metin(kRezervasyonEkleri[i]));
+        kopyalar[i] =
+            dosyalar.Kopyala(kaynak + Metin(kRezervasyonEkleri[i]), hedef + Metin(kRezervasyonEkleri[i]));
     // What has no copy stays where it is.
     for (std::size_t i = 0; i < kopyalar.size(); ++i)
         if (kopyalar[i] != Kopyalanis::Olmadi)

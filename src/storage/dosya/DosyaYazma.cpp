@@ -26,6 +26,10 @@ bool Dosyalar::GunluguBekle() const {
     return !defter_ || defter_->Bekle();
 }
 
+std::chrono::nanoseconds Dosyalar::GunlukBeklemesi() const {
+    return defter_ ? defter_->Defter().Beklenen() : std::chrono::nanoseconds(0);
+}
+
 Dosyalar::Eylem::Eylem(const Dosyalar& dosyalar, const Metin& ad, const std::function<void()>& adimlar)
     : defter_(dosyalar.defter_.get()) {
     if (defter_ != nullptr && !Sessiz([&] { return defter_->Ac(ad, adimlar); }))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -92,6 +93,8 @@ class Dosyalar {
     /// For tests and measurements: waits until all that was written stands on the medium and is marked in
     /// the journal, a time at most.
     bool GunluguBekle() const;
+    /// For measurements: how long the handlers have waited for the medium so far.
+    std::chrono::nanoseconds GunlukBeklemesi() const;
 
     /// The root, without a separator at its end.
     const Metin& Kok() const { return kok_; }
@@ -198,7 +201,7 @@ class Dosyalar {
     std::filesystem::path kokYolu_;
     Metin kok_;
     std::unique_ptr<EylemDefteri> defter_; // none: there is no journal
-    mutable AdArama arama_; // remembers listings
+    mutable AdArama arama_;                // remembers listings
     mutable std::size_t okunan_ = 0;
     mutable int hatirlayan_ = 0; // that stand
     mutable std::vector<std::shared_ptr<KlasorBellegi>> bellekler_;

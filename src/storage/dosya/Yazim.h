@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-/// How the text of one file comes to the disk and from it, by the file's own path. Nothing here checks a path.
-/// `yer` is for tests: the room that is left on the disk, in bytes.
+/// How the text of one file comes to the disk and from it, by the file's own path. Nothing here checks a
+/// path. `yer` is for tests: the room that is left on the disk, in bytes.
 namespace velora::yazim {
 
 using Yer = std::optional<std::size_t>;

@@ -40,7 +40,8 @@ class EylemDefteri {
     EylemDefteri(std::shared_ptr<Gunluk> gunluk, std::filesystem::path kok, EylemSahibi sahip);
 
     /// Begins an action. `adimlar`, if there is one, is run at once and comes to nothing but `Planla`,
-    /// `KlasorPlanla` and `Bak`: what it plans is put down in one piece, and waited for once. True: it has begun.
+    /// `KlasorPlanla` and `Bak`: what it plans is put down in one piece, and waited for once. True: it has
+    /// begun.
     bool Ac(const Metin& ad, const std::function<void()>& adimlar);
     /// Begins one of which nothing is put down.
     bool DisindaAc();

@@ -35,7 +35,6 @@ std::filesystem::path Ekli(std::filesystem::path yol, std::string_view ek) {
     return yol;
 }
 
-
 /// Who has touched a file last.
 struct SonDokunan {
     std::size_t sira = 0; ///< of the record
@@ -194,9 +193,16 @@ std::size_t Gunluk::Coz(std::string_view bayt) {
     return konum;
 }
 
+bool Gunluk::Esitle() {
+    const auto bas = std::chrono::steady_clock::now();
+    const bool durur = dosya_->Esitle();
+    beklenen_ = beklenen_.load() + (std::chrono::steady_clock::now() - bas);
+    return durur;
+}
+
 bool Gunluk::Koy(std::uint64_t no, const GunlukKaydi& kayit, bool bekle) {
     const std::string bayt = KayitBaytlari(kayit);
-    if (!HepsiniYaz(*dosya_, boy_, bayt) || (bekle && !dosya_->Esitle())) {
+    if (!HepsiniYaz(*dosya_, boy_, bayt) || (bekle && !Esitle())) {
         dosya_->Kes(boy_);
         return false;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -46,6 +48,8 @@ class Gunluk {
     void Bitti(std::uint64_t no);
     /// Keeps what was done for an action of an earlier run.
     void Onarildi(OnarimKaydi kayit);
+    /// For measurements: how long was waited for the medium so far.
+    std::chrono::nanoseconds Beklenen() const { return beklenen_; }
     /// Forgets the oldest of what is done, when there is more than is to be kept.
     void Kisalt();
 
@@ -63,6 +67,7 @@ class Gunluk {
     Icindeki Oku();
     bool BasiYaz();
     std::size_t Coz(std::string_view bayt);
+    bool Esitle();
     bool Koy(std::uint64_t no, const GunlukKaydi& kayit, bool bekle);
     std::set<std::uint64_t> Kalacaklar() const;
     bool YerineKoy(const std::string& bayt);
@@ -77,6 +82,7 @@ class Gunluk {
     std::size_t eylemSayisi_ = 0;  // in them
     std::set<std::uint64_t> acik_; // actions without a mark
     std::vector<EylemKaydi> yarimlar_;
+    std::atomic<std::chrono::nanoseconds> beklenen_{};
 };
 
 } // namespace velora

@@ -49,7 +49,9 @@ std::optional<Sayi> SayiOku(std::string_view metin, int taban) {
 /// whatever it likes.
 class AlanYazan {
   public:
-    void operator()(std::string_view alan) { (((bayt_ += std::to_string(alan.size())) += ':') += alan) += ','; }
+    void operator()(std::string_view alan) {
+        (((bayt_ += std::to_string(alan.size())) += ':') += alan) += ',';
+    }
     void operator()(const Metin& metin) {
         std::string utf8;
         Utf8Ekle(metin, utf8);
@@ -167,9 +169,7 @@ EylemAdimi AlanOkuyan::Adim() {
         return adim;
     adim.tur = static_cast<EylemAdimi::Tur>(varlik[0]);
     adim.onceBilinir = varlik[1] != '?';
-    const auto metin = [&](std::string_view orta) {
-        return ((std::string(parca[0]) += orta) += parca[3]);
-    };
+    const auto metin = [&](std::string_view orta) { return ((std::string(parca[0]) += orta) += parca[3]); };
     if (varlik[1] == '+')
         adim.once = metin(parca[1]);
     if (varlik[2] == '+')
