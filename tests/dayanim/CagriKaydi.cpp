@@ -1,185 +1,20 @@
 // The library that is preloaded (CagriKaydi.h). Each call of the program lands in the function of its name
 // below, which hands it to the kernel itself; so no name of the C library is needed here but those of
 // folders.
-#include "dayanim/CagriKaydi.h"
-
 #include <algorithm>
-#include <array>
-#include <cerrno>
-#include <csignal>
 #include <cstdarg>
-#include <cstdlib>
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <mutex>
-#include <string>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "dayanim/Gecit.h"
+
 namespace velora::dayanim {
 namespace {
-
-constexpr std::size_t kEnCokAcik = 1024;
-constexpr long kHata = -1;
-
-struct Acik {
-    std::string yol; ///< empty: none of ours
-    std::uint32_t seri = 0;
-};
-
-struct Durum {
-    std::recursive_mutex kilit;
-    std::string agac, durum;
-    std::array<Acik, kEnCokAcik> acik;
-    int kayit = -1;
-    std::uint32_t seri = 0, no = 0;
-    std::uint32_t oldur = 0, boz = 0, kisa = 0;
-    int hata = EIO;
-    bool sonra = false, yarim = false, yalniz = false, yavas = false, sayar = false;
-
-    Durum() {
-        agac = Deger(kAgacDegiskeni);
-        durum = Deger(kDurumDegiskeni);
-        oldur = Sayi(kOldurDegiskeni);
-        boz = Sayi(kBozDegiskeni);
-        kisa = Sayi(kKisaDegiskeni);
-        hata = static_cast<int>(Sayi(kHataDegiskeni));
-        sonra = Sayi(kSonraDegiskeni) != 0;
-        yarim = Sayi(kYarimDegiskeni) != 0;
-        yalniz = Sayi(kYalnizDegiskeni) != 0;
-        yavas = Sayi(kYavasDegiskeni) != 0;
-        if (const std::string dosya = Deger(kDosyaDegiskeni); !dosya.empty())
-            kayit = static_cast<int>(::syscall(SYS_openat, AT_FDCWD, dosya.c_str(),
-                                               O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600));
-    }
-    static std::string Deger(const char* ad) {
-        const char* deger = ::getenv(ad);
-        return deger == nullptr ? std::string() : std::string(deger);
-    }
-    static std::uint32_t Sayi(const char* ad) {
-        return static_cast<std::uint32_t>(std::strtoul(Deger(ad).c_str(), nullptr, 10));
-    }
-};
-
-/// Made at the first call, and never unmade: the program's last calls come behind all destructors.
-Durum& D() {
-    static Durum& durum = *new Durum; // NOLINT: see above
-    return durum;
-}
-
-bool Altinda(std::string_view yol, const std::string& klasor) {
-    return !klasor.empty() && yol.starts_with(klasor) &&
-           (yol.size() == klasor.size() || yol[klasor.size()] == '/');
-}
-
-/// What a call works on.
-struct Konu {
-    std::string yol; ///< empty: none of ours
-    std::uint32_t seri = 0;
-};
-
-/// The name without what says nothing: "//", and a "/" at its end.
-std::string Sade(std::string_view yol) {
-    std::string sade;
-    for (const char harf : yol)
-        if (harf != '/' || sade.empty() || sade.back() != '/')
-            sade += harf;
-    while (sade.size() > 1 && sade.back() == '/')
-        sade.pop_back();
-    return sade;
-}
-
-Konu Bul(int no) {
-    if (no < 0 || static_cast<std::size_t>(no) >= kEnCokAcik)
-        return {};
-    const Acik& acik = D().acik[static_cast<std::size_t>(no)];
-    return {acik.yol, acik.seri};
-}
-
-Konu Bul(int klasor, const char* ad) {
-    if (ad == nullptr)
-        return {};
-    const std::string_view bakis(ad);
-    if (constexpr std::string_view kAcik = "/proc/self/fd/"; bakis.starts_with(kAcik))
-        return Bul(std::atoi(ad + kAcik.size()));
-    if (bakis.empty())
-        return Bul(klasor);
-    std::string tam = Sade(bakis);
-    if (tam.front() != '/') {
-        const std::string ust = Bul(klasor).yol;
-        if (ust.empty())
-            return {};
-        tam = ust + "/" + tam;
-    }
-    return Altinda(tam, D().agac) || Altinda(tam, D().durum) ? Konu{std::move(tam), 0} : Konu{};
-}
-
-struct Is {
-    Cagri cagri;
-    Konu konu;
-    std::string hedef = {};
-    std::uint64_t konum = 0;
-    std::uint64_t ek = 0;
-    const void* veri = nullptr;
-};
-
-void Kaydet(const Is& is, std::uint32_t no, long sonuc, int hata) {
-    if (D().kayit < 0)
-        return;
-    KayitBasi bas{is.cagri, no, sonuc < 0 ? hata : 0, is.konu.seri, is.konum, is.ek, 0, 0, 0, 0};
-    bas.yolBoyu = static_cast<std::uint32_t>(is.konu.yol.size());
-    bas.hedefBoyu = static_cast<std::uint32_t>(is.hedef.size());
-    bas.veriBoyu = is.veri != nullptr && sonuc > 0 ? static_cast<std::uint32_t>(sonuc) : 0;
-    bas.durumda = Altinda(is.konu.yol, D().durum) ? 1 : 0;
-    std::string satir(reinterpret_cast<const char*>(&bas), sizeof bas);
-    satir += is.konu.yol;
-    satir += is.hedef;
-    satir.append(static_cast<const char*>(is.veri), bas.veriBoyu);
-    ::syscall(SYS_write, D().kayit, satir.data(), satir.size());
-}
-
-/// A death in a long write leaves some of its pages.
-template <class Yap>
-[[noreturn]] void Ol(const Is& is, Yap yap) {
-    constexpr std::size_t kSayfa = 4096;
-    if (D().yarim && is.cagri == Cagri::Yaz && is.ek > kSayfa)
-        yap(std::max<std::size_t>(1, is.ek / kSayfa / 2) * kSayfa);
-    for (;;)
-        ::kill(::getpid(), SIGKILL);
-}
-
-/// Does the call, unless it is to die or to fail before it. `yap` gets how much it may read or write at most.
-template <class Yap>
-long Gecir(Is is, Yap yap) {
-    constexpr std::size_t kHepsi = ~std::size_t{0};
-    const std::lock_guard kilit(D().kilit);
-    if (is.konu.yol.empty() && is.hedef.empty())
-        return yap(kHepsi);
-    const bool sayilir = D().sayar && (!D().yalniz || Degistirir(is.cagri, is.ek));
-    const std::uint32_t no = sayilir ? ++D().no : 0;
-    if (no != 0 && no == D().oldur)
-        Ol(is, yap);
-    const bool bozulur = no != 0 && D().boz != 0 && (no == D().boz || (D().sonra && no > D().boz));
-    long sonuc = kHata;
-    // A file whose closing fails is closed all the same.
-    if (!bozulur || is.cagri == Cagri::Kapat)
-        sonuc = yap(no != 0 && no == D().kisa ? std::max<std::size_t>(1, is.ek / 2) : kHepsi);
-    int hata = errno;
-    if (bozulur) {
-        sonuc = kHata;
-        hata = D().hata;
-    }
-    if (is.cagri == Cagri::Ac && sonuc >= 0 && static_cast<std::size_t>(sonuc) < kEnCokAcik) {
-        is.konu.seri = ++D().seri;
-        D().acik[static_cast<std::size_t>(sonuc)] = {is.konu.yol, is.konu.seri};
-    }
-    Kaydet(is, no, sonuc, hata);
-    errno = hata;
-    return sonuc;
-}
 
 int No(long sonuc) {
     return static_cast<int>(sonuc);
@@ -213,7 +48,7 @@ ssize_t Yaz(int no, const void* kaynak, std::size_t adet, std::int64_t konum, bo
         ::usleep(kYavasBekleme);
     }
     const std::lock_guard kilit(D().kilit);
-    const Konu konu = Bul(no);
+    const Acik konu = Bul(no);
     if (!yerinde && !konu.yol.empty())
         konum = ::syscall(SYS_lseek, no, 0, SEEK_CUR);
     // What is put at the end goes there whatever the place is.
@@ -376,9 +211,9 @@ VELORA_CAGRI(int, "flock", kayit_flock, int no, int is) {
 }
 VELORA_CAGRI(int, "close", kayit_close, int no) {
     const std::lock_guard kilit(D().kilit);
-    const Konu konu = Bul(no);
+    const Acik konu = Bul(no);
     if (!konu.yol.empty())
-        D().acik[static_cast<std::size_t>(no)] = {};
+        D().Bagla(no, {});
     return Yolda({.cagri = Cagri::Kapat, .konu = konu}, SYS_close, no);
 }
 VELORA_CAGRI(int, "stat", kayit_stat, Isim yol, struct stat* bilgi) {
@@ -410,16 +245,12 @@ VELORA_CAGRI(DIR*, "opendir", kayit_opendir, Isim yol) {
     });
     // Entries are asked about, and files opened, below it.
     const std::lock_guard kilit(D().kilit);
-    const int no = akis == nullptr ? -1 : ::dirfd(akis);
-    if (no >= 0 && static_cast<std::size_t>(no) < kEnCokAcik)
-        D().acik[static_cast<std::size_t>(no)] = {Bul(AT_FDCWD, yol).yol, 0};
+    D().Bagla(akis == nullptr ? -1 : ::dirfd(akis), {Bul(AT_FDCWD, yol).yol, 0});
     return akis;
 }
 VELORA_CAGRI(int, "closedir", kayit_closedir, DIR* akis) {
     const std::lock_guard kilit(D().kilit);
-    const int no = ::dirfd(akis);
-    if (no >= 0 && static_cast<std::size_t>(no) < kEnCokAcik)
-        D().acik[static_cast<std::size_t>(no)] = {};
+    D().Bagla(::dirfd(akis), {});
     return Asil<int (*)(DIR*)>("closedir")(akis);
 }
 VELORA_CAGRI(dirent*, "readdir", kayit_readdir, DIR* akis) {

@@ -9,13 +9,13 @@
 /// touches no other file but its log.
 namespace velora::dayanim {
 
-inline constexpr const char* kAgacDegiskeni = "VELORA_KAYIT_AGAC";     ///< the tree, without a "/" at its end
-inline constexpr const char* kDurumDegiskeni = "VELORA_KAYIT_DURUM";   ///< the folder of the journal
-inline constexpr const char* kDosyaDegiskeni = "VELORA_KAYIT_DOSYA";   ///< the log; lies in neither of them
-inline constexpr const char* kOldurDegiskeni = "VELORA_KAYIT_OLDUR";   ///< SIGKILL before the call of this
-                                                                       ///< number
-inline constexpr const char* kYarimDegiskeni = "VELORA_KAYIT_YARIM";   ///< set: in it, as far as a page of
-                                                                       ///< memory
+inline constexpr const char* kAgacDegiskeni = "VELORA_KAYIT_AGAC";   ///< the tree, without a "/" at its end
+inline constexpr const char* kDurumDegiskeni = "VELORA_KAYIT_DURUM"; ///< the folder of the journal
+inline constexpr const char* kDosyaDegiskeni = "VELORA_KAYIT_DOSYA"; ///< the log; lies in neither of them
+inline constexpr const char* kOldurDegiskeni = "VELORA_KAYIT_OLDUR"; ///< SIGKILL before the call of this
+                                                                     ///< number
+inline constexpr const char* kYarimDegiskeni = "VELORA_KAYIT_YARIM"; ///< set: only long writes are numbered;
+                                                                     ///< it dies in them memory
 inline constexpr const char* kBozDegiskeni = "VELORA_KAYIT_BOZ";       ///< the call of this number fails
 inline constexpr const char* kSonraDegiskeni = "VELORA_KAYIT_SONRA";   ///< set: and so does each behind it
 inline constexpr const char* kHataDegiskeni = "VELORA_KAYIT_HATA";     ///< with this errno

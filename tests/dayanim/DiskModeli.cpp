@@ -9,7 +9,8 @@ DiskModeli::DiskModeli(const Saha& saha, const Agac& agac, const Agac& durum)
     : agacKoku_(saha.Kok().string() + "/"), durumKoku_(saha.Durum().string() + "/") {
     for (const auto& [kok, dosyalar] : {std::pair{&agacKoku_, &agac}, std::pair{&durumKoku_, &durum}})
         for (const auto& [yol, bayt] : *dosyalar)
-            kalici_[*kok + yol] = yol.ends_with('/') ? nullptr : std::make_shared<Govde>(Govde{bayt, bayt});
+            kalici_[*kok + yol] =
+                yol.ends_with('/') ? nullptr : std::make_shared<Govde>(Govde{bayt, bayt, std::string::npos});
     simdi_ = kalici_;
 }
 
@@ -27,8 +28,10 @@ void DiskModeli::Ac(const KayitliCagri& cagri) {
             AdDegistir(cagri.yol, govde, [yol = cagri.yol, govde](Adlar& adlar) { adlar[yol] = govde; });
         acik_[cagri.bas.seri] = govde;
     } else if (yer != simdi_.end()) {
-        if ((cagri.bas.ek & O_TRUNC) != 0)
+        if ((cagri.bas.ek & O_TRUNC) != 0) {
             yer->second->simdi.clear();
+            yer->second->kirli = 0;
+        }
         acik_[cagri.bas.seri] = yer->second;
     }
 }
@@ -36,13 +39,17 @@ void DiskModeli::Ac(const KayitliCagri& cagri) {
 void DiskModeli::Esle(const KayitliCagri& cagri) {
     const auto acik = acik_.find(cagri.bas.seri);
     const GovdeNo govde = acik == acik_.end() ? nullptr : acik->second;
+    const auto kalir = [](Govde& biri) {
+        biri.kalici = biri.simdi;
+        biri.kirli = std::string::npos;
+    };
     if (govde)
-        govde->kalici = govde->simdi;
+        kalir(*govde);
     const bool hepsi = cagri.bas.cagri == Cagri::HepsiniEsle;
     if (hepsi)
         for (const auto& [yol, baska] : simdi_)
             if (baska)
-                baska->kalici = baska->simdi;
+                kalir(*baska);
     const auto son = std::find_if(bekleyen_.rbegin(), bekleyen_.rend(), [&](const AdIsi& is) {
         return hepsi || (govde ? is.govde == govde : is.klasor == cagri.yol);
     });
@@ -65,11 +72,13 @@ bool DiskModeli::Uygula(const KayitliCagri& cagri) {
         return cagri.Degistirir();
     case Cagri::Yaz: {
         std::string& bayt = govde->second->simdi;
+        govde->second->kirli = std::min<std::size_t>(govde->second->kirli, cagri.bas.konum);
         bayt.resize(std::max<std::size_t>(bayt.size(), cagri.bas.konum + cagri.veri.size()));
         bayt.replace(cagri.bas.konum, cagri.veri.size(), cagri.veri);
         return true;
     }
     case Cagri::Kes:
+        govde->second->kirli = std::min<std::size_t>(govde->second->kirli, cagri.bas.konum);
         govde->second->simdi.resize(cagri.bas.konum);
         return true;
     case Cagri::Sil:
@@ -102,18 +111,19 @@ bool DiskModeli::Uygula(const KayitliCagri& cagri) {
 }
 
 std::vector<std::string> DiskModeli::Halleri(const Govde& govde) {
-    const std::string& eski = govde.kalici;
-    const std::string& yeni = govde.simdi;
-    if (eski == yeni)
-        return {eski};
-    std::vector<std::string> haller{eski, yeni, "", std::string(yeni.size(), '\0')};
     constexpr std::size_t kSayfa = 4096;
     constexpr std::size_t kKesim = 512;
+    const std::string& eski = govde.kalici;
+    const std::string& yeni = govde.simdi;
     const std::size_t boy = yeni.size();
+    const std::size_t kirli = std::min(govde.kirli, boy);
+    const auto sonraki = [kirli](std::size_t birim) { return (kirli / birim + 1) * birim; };
+    const std::string duran = yeni.substr(0, kirli);
+    std::vector<std::string> haller{eski, yeni, duran, duran + std::string(boy - kirli, '\0')};
     // The first border of each kind, the last one, and one in the middle of a short text.
-    for (const std::size_t sinir :
-         {kKesim, kSayfa, (boy - 1) / kKesim * kKesim, (boy - 1) / kSayfa * kSayfa, boy / 2}) {
-        if (boy == 0 || sinir == 0 || sinir >= boy)
+    for (const std::size_t sinir : {sonraki(kKesim), sonraki(kSayfa), (boy - 1) / kKesim * kKesim,
+                                    (boy - 1) / kSayfa * kSayfa, (kirli + boy) / 2}) {
+        if (boy == 0 || sinir <= kirli || sinir >= boy)
             continue;
         const std::string bas = yeni.substr(0, sinir);
         haller.push_back(bas);

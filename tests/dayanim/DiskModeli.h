@@ -19,8 +19,8 @@ struct DiskHali {
 /// Changes of names (a file is made, removed, renamed, gets a second name; a folder is made) come to the disk
 /// in their order, as journaling file systems have it: any first part of them may stand there. The sync of a
 /// folder, or of a file whose name is new, makes them durable up to its own. The bytes of a file are durable
-/// with its sync; of what came later there may stand nothing, all, no byte, NUL bytes in the full length, a
-/// beginning, or a beginning of the new with the rest of the old.
+/// with its sync; of those that were written later there may stand nothing, all, no byte, NUL bytes in the
+/// full length, a beginning, or a beginning of the new with the rest of the old.
 class DiskModeli {
   public:
     DiskModeli(const Saha& saha, const Agac& agac, const Agac& durum);
@@ -37,6 +37,7 @@ class DiskModeli {
     struct Govde { ///< a file's bytes, whatever its name
         std::string kalici;
         std::string simdi;
+        std::size_t kirli = std::string::npos; ///< the first byte that was written to since its sync
     };
     using GovdeNo = std::shared_ptr<Govde>;
     using Adlar = std::map<std::string, GovdeNo>; ///< by whole path; a folder has none, and a "/" at its end

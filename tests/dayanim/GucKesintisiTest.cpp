@@ -38,6 +38,7 @@ class GucKesintisiTest : public SenaryoTest {
   protected:
     GucKesintisiTest() : beklenen(TemizKosum(saha, *GetParam())), disk(saha, beklenen.once, {}) {}
 
+    static std::size_t EnCok() { return Uzun() ? 2000 : 12; }
     /// Each state is tried once, whenever it could be left.
     void Dene(const DiskHali& hal, const std::string& nerede) {
         if (!denenen.insert(Parmakizi(hal)).second)
@@ -55,22 +56,44 @@ class GucKesintisiTest : public SenaryoTest {
 };
 
 TEST_P(GucKesintisiTest, Whatever_it_leaves_all_of_an_action_or_nothing_stands_there) {
-    const std::size_t enCok = Uzun() ? 2000 : 24;
     Yurut(disk, beklenen, [&](const KayitliCagri& cagri) {
-        disk.Haller(enCok, [&](const DiskHali& hal) { Dene(hal, "behind " + Tarif(cagri)); });
+        disk.Haller(EnCok(), [&](const DiskHali& hal) { Dene(hal, "behind " + Tarif(cagri)); });
     });
     EXPECT_GT(kusurlar.Kosulan(), 0);
 }
 
 TEST_P(GucKesintisiTest, Behind_the_end_of_the_program_nothing_of_an_action_can_be_lost) {
     Yurut(disk, beklenen, [](const KayitliCagri&) {});
-    disk.Haller(Uzun() ? 2000 : 24, [&](const DiskHali& hal) {
+    disk.Haller(EnCok(), [&](const DiskHali& hal) {
         saha.Kur(hal.agac);
         saha.DurumKur(hal.durum);
         kusurlar.Say("at the end", Dosyalari(saha.Baslat()) == Dosyalari(beklenen.sonra)
                                        ? ""
                                        : "it isn't the tree behind the action");
     });
+}
+
+TEST_P(GucKesintisiTest, A_second_one_while_the_first_is_mended_changes_nothing_of_that) {
+    const std::size_t atlanan = Uzun() ? 10 : 250; // every so many states that a start has to mend
+    std::vector<DiskHali> onarilacaklar;
+    Yurut(disk, beklenen, [&](const KayitliCagri&) {
+        disk.Haller(EnCok(), [&](const DiskHali& hal) {
+            if (Dosyalari(hal.agac) != Dosyalari(beklenen.once) && denenen.insert(Parmakizi(hal)).second)
+                onarilacaklar.push_back(hal);
+        });
+    });
+    for (std::size_t i = onarilacaklar.size() / 2 % atlanan; i < onarilacaklar.size(); i += atlanan) {
+        const DiskHali& ilk = onarilacaklar[i];
+        saha.Kur(ilk.agac);
+        saha.DurumKur(ilk.durum);
+        const KosumSonucu onarim = Kos(saha, "ac", {}, true);
+        DiskModeli ikinci(saha, ilk.agac, ilk.durum);
+        for (const KayitliCagri& cagri : onarim.cagrilar)
+            if (ikinci.Uygula(cagri))
+                ikinci.Haller(EnCok(), [&](const DiskHali& hal) {
+                    Dene(hal, std::to_string(i) + ", then behind " + Tarif(cagri));
+                });
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Her, GucKesintisiTest, ::testing::ValuesIn(HerSenaryo()), SenaryoAdi);

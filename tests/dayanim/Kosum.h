@@ -10,12 +10,12 @@ namespace velora::dayanim {
 
 /// What is done to the calls of a run.
 struct Ariza {
-    unsigned oldur = 0;         ///< the number of the call before which it is killed
-    bool yarim = false;         ///< or in the middle of it, when it is a long write
-    unsigned boz = 0;           ///< that fails
-    int hata = 0;               ///< with this errno
-    bool sonra = false;         ///< and so does all behind it
-    unsigned kisa = 0;          ///< that is short
+    unsigned oldur = 0; ///< the number of the call before which it is killed
+    bool yarim = false; ///< only writes longer than a page have numbers, and it dies in the middle of one
+    unsigned boz = 0;   ///< that fails
+    int hata = 0;       ///< with this errno
+    bool sonra = false; ///< and so does all behind it
+    unsigned kisa = 0;  ///< that is short
     bool yalnizDegisen = false; ///< only calls that change something have numbers
 };
 

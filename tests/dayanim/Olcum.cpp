@@ -17,7 +17,7 @@ std::vector<KayitliCagri> Beklenen::Sayililar() const {
 }
 
 Beklenen TemizKosum(const Saha& saha, const Senaryo& senaryo) {
-    Beklenen beklenen{BaslangicAgaci(senaryo.degisik), {}, {}};
+    Beklenen beklenen{BaslangicAgaci(senaryo.degisik), {}, {}, senaryo.ayri, senaryo.bosalan};
     saha.Kur(senaryo);
     KosumSonucu sonuc = Kos(saha, senaryo.ad, {}, true);
     EXPECT_EQ(sonuc.sonuc, "exit 0") << senaryo.ad;
@@ -101,6 +101,8 @@ std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
         const std::string* once = Bul(beklenen.once, yol);
         const std::string* sonra = Bul(beklenen.sonra, yol);
         const std::string* simdi = Bul(kalan, yol);
+        if (simdi != nullptr && simdi->empty() && yol == beklenen.bosalan)
+            simdi = nullptr;
         if (olcu == Olcu::Satir && !Ayni(once, sonra)) {
             if (const std::string kusur = SatirKusuru(once, sonra, simdi); !kusur.empty())
                 return yol + " " + kusur;
@@ -115,7 +117,7 @@ std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
     }
     if (const std::string kayip = Kayip(beklenen, kalan); !kayip.empty() && olcu != Olcu::Satir)
         return kayip;
-    if (olcu == Olcu::Butun && !eski.empty() && !yeni.empty())
+    if (olcu == Olcu::Butun && !beklenen.ayri && !eski.empty() && !yeni.empty())
         return "as before:" + eski + ", but as behind:" + yeni;
     return {};
 }

@@ -13,6 +13,8 @@ struct Beklenen {
     Agac once;
     Agac sonra;
     std::vector<KayitliCagri> cagrilar; ///< of a run that nothing disturbs
+    bool ayri = false;                  ///< as in `Senaryo`
+    std::string bosalan;                ///< the same
 
     /// The numbered calls.
     std::vector<KayitliCagri> Sayililar() const;

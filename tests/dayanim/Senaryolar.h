@@ -42,7 +42,8 @@ struct Senaryo {
     std::function<void(Masa&)> hazirla = {}; ///< what he does before; its calls aren't counted
     /// The files, below the root, of which the tree has another text than the firm's; empty text: none.
     Agac degisik = {};
-    bool uzun = false; ///< its records are longer than a page of memory
+    bool ayri = false;        ///< it is more than one action: each of them is there wholly or not at all
+    std::string bosalan = {}; ///< a list that is emptied before it goes: an empty one is as good as none
 };
 
 std::span<const Senaryo> Senaryolar();
