@@ -6,8 +6,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <linux/ptrace.h>
-
 #include <functional>
 #include <optional>
 
@@ -38,7 +36,7 @@ inline std::optional<Cagrilar> CagrilariSay(const std::function<void()>& is) {
     Cagrilar sayi;
     while (ptrace(PTRACE_SYSCALL, cocuk, nullptr, nullptr) == 0 && waitpid(cocuk, &durum, 0) == cocuk &&
            WIFSTOPPED(durum)) {
-        ptrace_syscall_info bilgi{};
+        __ptrace_syscall_info bilgi{};
         if (WSTOPSIG(durum) != (SIGTRAP | 0x80) ||
             ptrace(PTRACE_GET_SYSCALL_INFO, cocuk, sizeof bilgi, &bilgi) <= 0 ||
             bilgi.op != PTRACE_SYSCALL_INFO_ENTRY)

@@ -16,12 +16,12 @@ inline constexpr const char* kOldurDegiskeni = "VELORA_KAYIT_OLDUR"; ///< SIGKIL
                                                                      ///< number
 inline constexpr const char* kYarimDegiskeni = "VELORA_KAYIT_YARIM"; ///< set: only long writes are numbered;
                                                                      ///< it dies in them memory
-inline constexpr const char* kBozDegiskeni = "VELORA_KAYIT_BOZ";       ///< the call of this number fails
-inline constexpr const char* kSonraDegiskeni = "VELORA_KAYIT_SONRA";   ///< set: and so does each behind it
-inline constexpr const char* kHataDegiskeni = "VELORA_KAYIT_HATA";     ///< with this errno
-inline constexpr const char* kKisaDegiskeni = "VELORA_KAYIT_KISA";     ///< it reads or writes half of what it
-                                                                       ///< should
-inline constexpr const char* kYavasDegiskeni = "VELORA_KAYIT_YAVAS";   ///< set: writes are short and slow
+inline constexpr const char* kBozDegiskeni = "VELORA_KAYIT_BOZ";     ///< the call of this number fails
+inline constexpr const char* kSonraDegiskeni = "VELORA_KAYIT_SONRA"; ///< set: and so does each behind it
+inline constexpr const char* kHataDegiskeni = "VELORA_KAYIT_HATA";   ///< with this errno
+inline constexpr const char* kKisaDegiskeni = "VELORA_KAYIT_KISA";   ///< it reads or writes half of what it
+                                                                     ///< should
+inline constexpr const char* kYavasDegiskeni = "VELORA_KAYIT_YAVAS"; ///< set: writes are short and slow
 inline constexpr const char* kYalnizDegiskeni = "VELORA_KAYIT_YALNIZ"; ///< set: only what changes is numbered
 
 /// Calls are numbered from 1, from here on ...

@@ -37,11 +37,9 @@ void Yap(const Senaryo& senaryo, const std::filesystem::path& kok, const std::fi
 
 void YalnizAc(const std::filesystem::path& kok, const std::filesystem::path& durum) {
     test::SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
+    ortam.durumKlasoru = durum;
     Bildir(kBasla);
-    {
-        Program program(ortam.Ver(), kok);
-        GunlukAc(program, durum);
-    }
+    Program(ortam.Ver(), kok).GunluguAc();
     Bildir(kBitir);
 }
 

@@ -118,10 +118,8 @@ Agac Saha::Oku(const fs::path& klasor) {
 
 const Agac& Saha::Baslat() const {
     test::SahteOrtam ortam{Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}};
-    {
-        Program program(ortam.Ver(), kok_);
-        GunlukAc(program, gunluklu ? durum_ : fs::path());
-    }
+    ortam.durumKlasoru = gunluklu ? durum_ : fs::path();
+    Program(ortam.Ver(), kok_).GunluguAc();
     Degisti();
     return Oku();
 }

@@ -80,14 +80,8 @@ const std::vector<Senaryo>& Tablo() {
 
 } // namespace
 
-void GunlukAc(Program& program, const std::filesystem::path& durum) {
-    program.ortam.klasorler.durum = [durum] { return durum; };
-    program.GunluguAc();
-}
-
 Masa::Masa(const std::filesystem::path& kok, const std::filesystem::path& durum)
-    : kullanici(kok, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}) {
-    kullanici.once = [durum](Program& program) { GunlukAc(program, durum); };
+    : kullanici(kok, durum, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}) {
     kullanici.ortam.baglanti = false;
     kullanici.ProgramiAc();
 }

@@ -31,10 +31,6 @@ class Masa {
     test::Kullanici kullanici;
 };
 
-/// Opens the journal of a program in this folder and completes what a death has cut through: what the start
-/// does before anything is read. Nothing happens without a folder.
-void GunlukAc(Program& program, const std::filesystem::path& durum);
-
 /// Something that a user does and that changes files.
 struct Senaryo {
     std::string_view ad;

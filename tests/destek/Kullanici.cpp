@@ -1,5 +1,7 @@
 #include "destek/Kullanici.h"
 
+#include <utility>
+
 #include <array>
 
 #include "access/FormSifre.h"
@@ -12,19 +14,27 @@
 
 namespace velora::test {
 
-void Kullanici::ProgramiAc() {
+Kullanici::Kullanici(std::filesystem::path kok, const std::filesystem::path& durum, Gun bugun)
+    : ortam(bugun), kok_(std::move(kok)) {
+    ortam.durumKlasoru = durum;
+}
+
+void Kullanici::YeniProgram() {
     gecen_.clear();
+    program_.reset(); // two of them can't have one journal
     program_ = std::make_unique<Program>(ortam.Ver(), kok_);
-    if (once)
-        once(*program_);
+}
+
+void Kullanici::ProgramiAc() {
+    YeniProgram();
+    program_->GunluguAc();
     program_->FormTablo.Tut();
     Boyutla(1280, 620);
     program_->FormTablo.Goster();
 }
 
 void Kullanici::Baslat() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
+    YeniProgram();
     const auto acilis = program_->Splash.Tut();
     acilis->Baslat();
     while (acilis->Timer1.aralik > 0)
@@ -32,8 +42,8 @@ void Kullanici::Baslat() {
 }
 
 void Kullanici::GirisiAc() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
+    YeniProgram();
+    program_->GunluguAc();
     program_->FormSifre.Goster();
 }
 

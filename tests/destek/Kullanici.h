@@ -1,10 +1,8 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <memory>
-#include <utility>
 
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
@@ -23,9 +21,9 @@ struct TabloGozu {
 /// A person at the desk: a program over a data tree, and the verbs of working with it. No toolkit is needed.
 class Kullanici {
   public:
-    Kullanici(const GeciciAgac& agac, Gun bugun) : Kullanici(agac.Kok(), bugun) {}
-    /// The same over a folder that belongs to somebody else.
-    Kullanici(std::filesystem::path kok, Gun bugun) : ortam(bugun), kok_(std::move(kok)) {}
+    Kullanici(const GeciciAgac& agac, Gun bugun) : Kullanici(agac.Kok(), agac.Disi() / "durum", bugun) {}
+    /// Over a folder that belongs to somebody else; `durum` is that of the journal, empty for none.
+    Kullanici(std::filesystem::path kok, const std::filesystem::path& durum, Gun bugun);
 
     /// Starts the program as its user does and lets the ladder of the start tick to its end, where it stands
     /// at the login; on a first run there is no ladder.
@@ -66,10 +64,9 @@ class Kullanici {
     Program& Prog() { return *program_; }
 
     SahteOrtam ortam;
-    /// Runs on a program that `ProgramiAc` has made, before anything is read.
-    std::function<void(Program&)> once;
 
   private:
+    void YeniProgram();
     std::filesystem::path kok_;
     std::unique_ptr<Program> program_;
     std::map<Zamanlayici*, int> gecen_; // milliseconds since each timer's last tick

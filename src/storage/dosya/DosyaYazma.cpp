@@ -92,9 +92,11 @@ bool Dosyalar::Ekle(const Metin& yol, std::string_view bayt) const {
 Kopyalanis Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
     return Sessiz([&] {
         const bool planda = defter_ && defter_->Planda();
-        const auto p = planda ? Bul(kaynak, sistem::Tur::Dosya) : Cevir(DosyaIsi::Oku, kaynak);
-        if (!planda && !Cevir(DosyaIsi::Kopyala, hedef))
-            return Kopyalanis::Olmadi;
+        std::optional<std::filesystem::path> p;
+        if (planda)
+            p = Bul(kaynak, sistem::Tur::Dosya);
+        else if (Cevir(DosyaIsi::Kopyala, hedef))
+            p = Cevir(DosyaIsi::Oku, kaynak);
         const yazim::Okunan okunan = !p ? yazim::Okunan() : planda ? defter_->Bak(*p) : yazim::Oku(*p);
         if (okunan.okundu && !okunan.metin)
             return Kopyalanis::KaynakYok;

@@ -87,7 +87,7 @@ void EylemDefteri::Esitle(const Eylem& eylem) {
             yol /= MetinYolu(ad).value_or(std::filesystem::path());
             kalan.remove_prefix(ad.size());
         }
-        if (!adim.once || !adim.sonra)
+        if (!adim.onceBilinir || adim.once.has_value() != adim.sonra.has_value())
             klasorler.insert(yol.parent_path());
         if (adim.sonra)
             dosyalar.insert(yol);
