@@ -1,8 +1,7 @@
 #include "destek/Kullanici.h"
 
-#include <utility>
-
 #include <array>
+#include <utility>
 
 #include "access/FormSifre.h"
 #include "access/Splash.h"
