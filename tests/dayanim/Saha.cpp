@@ -78,7 +78,7 @@ void Saha::Kur(const Agac& agac) const {
 
 void Saha::Kur(const Senaryo& senaryo) const {
     Kur(BaslangicAgaci(senaryo.degisik));
-    DurumKur({});
+    DurumKur(ilkDurum);
 }
 
 void Saha::Yaz(const fs::path& klasor, const Agac& eski, const Agac& agac) {

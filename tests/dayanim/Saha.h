@@ -27,7 +27,7 @@ class Saha {
     void DurumKur(const Agac& agac) const { Yaz(durum_, Oku(durum_), agac); }
     Agac DurumOku() const { return Oku(durum_); }
 
-    /// Both as a scenario begins with them; the journal has nothing yet.
+    /// Both as a scenario begins with them.
     void Kur(const Senaryo& senaryo) const;
     /// A fresh start: the journal is opened, in this process. The tree behind it.
     const Agac& Baslat() const;
@@ -35,6 +35,8 @@ class Saha {
     void Degisti() const { bilinen_.reset(); }
     /// Whether scenarios run with a journal; true unless told otherwise.
     bool gunluklu = true;
+    /// What the journal's folder holds when a scenario begins; nothing unless told otherwise.
+    Agac ilkDurum;
 
   private:
     static void Yaz(const std::filesystem::path& klasor, const Agac& eski, const Agac& agac);
