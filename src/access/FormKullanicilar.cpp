@@ -69,11 +69,11 @@ void FormKullanicilar::Command4_Click() {
 
 void FormKullanicilar::Command5_Click() {
     Liste.Temizle();
-    Liste.satirlar = KullanicilariOku(program_);
+    Liste.satirlar = KullanicilariOku(program_, &koken_);
 }
 
 void FormKullanicilar::Command6_Click() {
-    KullanicilariYaz(program_, Liste.satirlar);
+    KullanicilariYaz(program_, Liste.satirlar, koken_);
 }
 
 } // namespace velora

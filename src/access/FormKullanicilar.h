@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -35,6 +36,7 @@ struct FormKullanicilar {
 
   private:
     Program& program_;
+    Koken koken_; // of the list
 };
 
 } // namespace velora

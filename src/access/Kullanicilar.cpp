@@ -7,20 +7,20 @@
 
 namespace velora {
 
-SatirListesi KullanicilariOku(const Program& program) {
+SatirListesi KullanicilariOku(const Program& program, Koken* koken) {
     SatirListesi kullanicilar;
-    for (auto& degerler :
-         SatirlariOku(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi), kKullaniciDegerSayisi))
+    for (auto& degerler : SatirlariOku(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi),
+                                       kKullaniciDegerSayisi, koken))
         kullanicilar.push_back({std::move(degerler), {}, 0});
     return kullanicilar;
 }
 
-void KullanicilariYaz(const Program& program, const SatirListesi& kullanicilar) {
+void KullanicilariYaz(const Program& program, const SatirListesi& kullanicilar, const Koken& koken) {
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& kullanici : kullanicilar)
         satirlar.push_back(kullanici.sutun);
     const Dosyalar::Eylem eylem(program.dosyalar, u"Kullanıcı kaydı");
-    SatirlariYaz(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi), satirlar);
+    SatirlariYaz(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi), satirlar, koken);
 }
 
 ListeSatiri KullaniciSatiri(const Metin& ad, const Metin& parola,

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -24,10 +25,11 @@ static_assert(kKullaniciDegerSayisi == 13);
 /// Reads the users, in the order of the file, thirteen values for each, whatever lines they stand on. One
 /// whose name is blank is left out. A cut off last record keeps the values of the record before. A file that
 /// can't be opened gives no users.
-SatirListesi KullanicilariOku(const Program& program);
+SatirListesi KullanicilariOku(const Program& program, Koken* koken = nullptr);
 
-/// Makes the file hold these users, one on a line, texts uncleaned. A failed write is not reported.
-void KullanicilariYaz(const Program& program, const SatirListesi& kullanicilar);
+/// Makes the file hold these users, one on a line, texts uncleaned. A failed write is not reported, and
+/// neither is one that `koken` doesn't let go out.
+void KullanicilariYaz(const Program& program, const SatirListesi& kullanicilar, const Koken& koken = {});
 
 /// A row of the lists of users.
 ListeSatiri KullaniciSatiri(const Metin& ad, const Metin& parola,

@@ -63,9 +63,7 @@ void FormGiderler::ListeleGun() {
     // No row of the new list has been clicked yet.
     Liste.secimDugmeleri.Ac(false);
     Liste.Temizle();
-    const auto bayt = program_.dosyalar.Oku(Yol());
-    okunamadi_ = !bayt && program_.dosyalar.VarMi(Yol());
-    if (bayt)
+    if (const auto bayt = koken_.Oku(program_.dosyalar, Yol()))
         KasaDerleme(Liste, DTPicker1.deger, DTPicker2.deger).Ekle(*bayt, kGider);
     Giderler.baslik = TutarMetni(KasaToplami(Liste, kGider));
     Label4.baslik = Yil() + u" Yılı";
@@ -110,12 +108,16 @@ void FormGiderler::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         yazici.Yaz(satir.sutun[KasaSutunu::Tarih], satir.sutun[KasaSutunu::Tutar],
                    satir.sutun[KasaSutunu::Aciklama]);
-    const Dosyalar::Eylem eylem(program_.dosyalar, u"Gider kaydı");
-    const bool yazildi = !okunamadi_ && program_.dosyalar.Yaz(Yol(), yazici.Bayt());
+    const auto yaz = [&] { return koken_.Yaz(program_.dosyalar, Yol(), yazici.Bayt()); };
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Gider kaydı", [&] {
+        if (yaz() && Liste.satirlar.empty())
+            program_.dosyalar.Sil(Yol());
+    });
+    const bool yazildi = yaz();
     ListeleGun(); // where it couldn't be written, the rows that the file still has
     if (!yazildi)
         return;
-    if (Liste.satirlar.empty() && !okunamadi_)
+    if (Liste.satirlar.empty() && koken_.Yazilir())
         program_.dosyalar.Sil(Yol());
     KasayiTazele(program_, Combo2.Metni());
 }

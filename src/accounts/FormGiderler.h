@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -51,7 +52,7 @@ struct FormGiderler {
     void YiliAl();
 
     Program& program_;
-    bool okunamadi_ = false; // the last listing found a file and no way to read it
+    Koken koken_; // of the last listing
 };
 
 } // namespace velora

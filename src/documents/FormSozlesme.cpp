@@ -52,7 +52,8 @@ void FormSozlesme::Load() {
     // What the profile asks for is no city, and would stand on paper as one.
     if (const Metin sehir = firma->t8.Metni(); sehir != kSehirSeciniz)
         Sehir.MetinAta(sehir);
-    AlanlariOku(program_.dosyalar, SozlesmeYolu(program_), SozlesmeAlanlari(Baslik.metin, Sozlesme.metin));
+    AlanlariOku(program_.dosyalar, SozlesmeYolu(program_), SozlesmeAlanlari(Baslik.metin, Sozlesme.metin),
+                &koken_);
 }
 
 /// No customer's data that a print has left there stand on the sample, and nothing of the sample stays.
@@ -82,7 +83,8 @@ void FormSozlesme::Command2_Click() {
     Metin temizBaslik = Tirnaksiz(Baslik.metin);
     Metin maddeler = Tirnaksiz(Sozlesme.metin);
     const Dosyalar::Eylem eylem(program_.dosyalar, u"Sözleşme metni");
-    program_.dosyalar.Yaz(SozlesmeYolu(program_), AlanBaytlari(SozlesmeAlanlari(temizBaslik, maddeler)));
+    koken_.Yaz(program_.dosyalar, SozlesmeYolu(program_),
+               AlanBaytlari(SozlesmeAlanlari(temizBaslik, maddeler)));
     program_.FormSozlesme.Bosalt();
 }
 

@@ -4,6 +4,7 @@
 
 #include "screen/Kontroller.h"
 #include "screen/Sayfa.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -43,6 +44,7 @@ struct FormSozlesme {
     std::vector<Sayfa> OrnekSayfalar() const;
 
     Program& program_;
+    Koken koken_; // of the values
 };
 
 /// The template for a print or an opening: loaded afresh, for the profile may have changed since. While it is

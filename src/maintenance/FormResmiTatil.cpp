@@ -31,12 +31,13 @@ FormResmiTatil::FormResmiTatil(Program& program) : program_(program) {
 
 void FormResmiTatil::Load() {
     Liste.Temizle();
-    Oku(kTatilDosyasi);
+    genelKoken_ = {};
+    Oku(kTatilDosyasi, koken_);
 }
 
-void FormResmiTatil::Oku(MetinBakis dosya) {
+void FormResmiTatil::Oku(MetinBakis dosya, Koken& koken) {
     for (auto& sutunlar :
-         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(dosya), Liste.basliklar.size()))
+         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(dosya), Liste.basliklar.size(), &koken))
         Ekle(std::move(sutunlar));
 }
 
@@ -54,8 +55,10 @@ void FormResmiTatil::Command1_Click() {
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
-    EylemleYap(p.dosyalar, u"Tatil kaydı",
-               [&] { SatirlariYaz(p.dosyalar, p.agac.KokYolu(kTatilDosyasi), satirlar); });
+    // Without the rows that were to come in their place the general ones aren't given up.
+    if (genelKoken_.Yazilir())
+        EylemleYap(p.dosyalar, u"Tatil kaydı",
+                   [&] { SatirlariYaz(p.dosyalar, p.agac.KokYolu(kTatilDosyasi), satirlar, koken_); });
     p.FormResmiTatil.Bosalt();
     p.FormTablo->Command1();
 }
@@ -86,7 +89,7 @@ void FormResmiTatil::Temizle_Click() {
             Liste.satirlar.erase(i - 1);
     Liste.secili = -1;
     Liste.secimDugmeleri.Ac(false);
-    Oku(kGenelTatilDosyasi);
+    Oku(kGenelTatilDosyasi, genelKoken_);
 }
 
 } // namespace velora

@@ -44,9 +44,11 @@ struct FormResmiTatil {
     Dugme Temizle;
 
   private:
-    void Oku(MetinBakis dosya);
+    void Oku(MetinBakis dosya, Koken& koken);
 
     Program& program_;
+    Koken koken_;      // of the list
+    Koken genelKoken_; // of the general rows that were put into it
 };
 
 } // namespace velora

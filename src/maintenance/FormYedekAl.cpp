@@ -57,7 +57,7 @@ FormYedekAl::FormYedekAl(Program& program) : program_(program), izleme_(program)
 void FormYedekAl::Load() {
     Metin hedef;
     const bool okundu =
-        AlanlariOku(program_.dosyalar, program_.agac.KokYolu(kYedekDosyasi), YedekAlanlari(hedef));
+        AlanlariOku(program_.dosyalar, program_.agac.KokYolu(kYedekDosyasi), YedekAlanlari(hedef), &koken_);
     if (okundu && hedef != txtDestination.metin && !BaskaSistemin(hedef)) {
         txtDestination.metin = hedef;
         txtDestination_Change();
@@ -96,8 +96,8 @@ void FormYedekAl::cmdStart_Click() {
     if (!cmdStart.etkin)
         return;
     EylemleYap(program_.dosyalar, u"Yedek ayarı", [&] {
-        program_.dosyalar.Yaz(program_.agac.KokYolu(kYedekDosyasi),
-                              AlanBaytlari(YedekAlanlari(txtDestination.metin)));
+        koken_.Yaz(program_.dosyalar, program_.agac.KokYolu(kYedekDosyasi),
+                   AlanBaytlari(YedekAlanlari(txtDestination.metin)));
     });
     const Metin hedef = GunlukYol(txtDestination.metin, program_.Bugun());
     KlasorYap(txtDestination.metin);

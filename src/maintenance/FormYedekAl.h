@@ -4,6 +4,7 @@
 
 #include "maintenance/KlasorIzleme.h"
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -57,6 +58,7 @@ struct FormYedekAl {
     void Sakla(MetinBakis ad, const Metin& deger) const;
 
     Program& program_;
+    Koken koken_; // of the values
     KlasorIzleme izleme_;
 };
 

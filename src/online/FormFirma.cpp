@@ -31,8 +31,8 @@ Metin FirmaYolu(const Program& program) {
 }
 
 /// Fills what the file holds and leaves the rest.
-void FirmaOku(const Program& program, FirmaKaydi& kayit) {
-    const auto bayt = program.dosyalar.Oku(FirmaYolu(program));
+void FirmaOku(const Program& program, FirmaKaydi& kayit, Koken& koken) {
+    const auto bayt = koken.Oku(program.dosyalar, FirmaYolu(program));
     if (!bayt)
         return;
     DegerOkuyucu okuyucu(*bayt);
@@ -77,7 +77,7 @@ FormFirma::FormFirma(Program& program) : Inet1(program), program_(program) {
 
 void FormFirma::Load() {
     FirmaKaydi kayit = Kayit();
-    FirmaOku(program_, kayit);
+    FirmaOku(program_, kayit, koken_);
     GunuKoy(kayit);
     KayittanAl(kayit);
 }
@@ -143,7 +143,7 @@ bool FormFirma::AlanlarTamam() const {
 void FormFirma::Yaz() const {
     const FirmaKaydi kayit = Kayit();
     const Dosyalar::Eylem eylem(program_.dosyalar, u"Firma bilgileri");
-    SatirlariYaz(program_.dosyalar, FirmaYolu(program_), {{kayit.begin(), kayit.end()}});
+    SatirlariYaz(program_.dosyalar, FirmaYolu(program_), {{kayit.begin(), kayit.end()}}, koken_);
 }
 
 void FormFirma::Yolla(const FirmaKaydi& kayit) {
@@ -192,9 +192,14 @@ void FormFirma::gonder() {
     FirmaKaydi kayit = Kayit();
     // Before the file is read: what it holds is what is sent.
     GunuKoy(kayit);
-    FirmaOku(program_, kayit);
-    if (!program_.yigin.Acik(EkranAdi::FormFirma))
+    Koken koken;
+    FirmaOku(program_, kayit, koken);
+    if (!program_.yigin.Acik(EkranAdi::FormFirma)) {
         KayittanAl(kayit);
+        // Where it couldn't be read now, the fields are those of the reading before.
+        if (koken.Yazilir())
+            koken_ = koken;
+    }
     Yolla(kayit);
 }
 

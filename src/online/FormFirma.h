@@ -4,6 +4,7 @@
 
 #include "screen/Inet.h"
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -72,6 +73,7 @@ struct FormFirma {
     void Yolla(const FirmaKaydi& kayit);
 
     Program& program_;
+    Koken koken_; // of the fields
 };
 
 /// What follows the profile on the first run: the screen on which the administrator's password is made.

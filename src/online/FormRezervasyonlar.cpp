@@ -57,7 +57,7 @@ void FormRezervasyonlar::Activate() {
     Liste.secimDugmeleri.Ac(false);
     Liste.Temizle();
     std::vector<ListeSatiri> satirlar;
-    for (auto& degerler : SatirlariOku(program_.dosyalar, IstekYolu(program_), IstekNo::Adet))
+    for (auto& degerler : SatirlariOku(program_.dosyalar, IstekYolu(program_), IstekNo::Adet, &koken_))
         satirlar.push_back({std::move(degerler), {}});
     Liste.satirlar = std::move(satirlar);
     program_.ortam.odak.ver(EkranAdi::FormRezervasyonlar, u"Command1");
@@ -81,7 +81,7 @@ void FormRezervasyonlar::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
     const Dosyalar::GunlukDisi gecici(program_.dosyalar);
-    SatirlariYaz(program_.dosyalar, IstekYolu(program_), satirlar);
+    SatirlariYaz(program_.dosyalar, IstekYolu(program_), satirlar, koken_);
 }
 
 /// As it stands now: what let events run may have moved or taken it.

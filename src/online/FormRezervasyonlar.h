@@ -2,6 +2,7 @@
 
 #include "screen/Inet.h"
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -44,6 +45,7 @@ struct FormRezervasyonlar {
     bool Duruyor() const;
 
     Program& program_;
+    Koken koken_; // of the list
 };
 
 } // namespace velora

@@ -29,14 +29,14 @@ FormSunucu::FormSunucu(Program& program) : program_(program) {
 }
 
 void FormSunucu::Load() {
-    if (!AlanlariOku(program_.dosyalar, SunucuYolu(program_), SunucuAlanlari(*this)))
+    if (!AlanlariOku(program_.dosyalar, SunucuYolu(program_), SunucuAlanlari(*this), &koken_))
         Check1.deger = 1;
     Text1.metin = FirmaAnahtari(program_);
 }
 
 void FormSunucu::Command1_Click() {
     const Dosyalar::Eylem eylem(program_.dosyalar, u"Sunucu ayarları");
-    program_.dosyalar.Yaz(SunucuYolu(program_), AlanBaytlari(SunucuAlanlari(*this)));
+    koken_.Yaz(program_.dosyalar, SunucuYolu(program_), AlanBaytlari(SunucuAlanlari(*this)));
     program_.FormSunucu.Bosalt();
 }
 

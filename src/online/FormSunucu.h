@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -26,6 +27,7 @@ struct FormSunucu {
 
   private:
     Program& program_;
+    Koken koken_; // of the values
 };
 
 } // namespace velora

@@ -83,7 +83,8 @@ void FormKayit::Load() {
 bool FormKayit::MenuleriOku() {
     Combo1.ogeler.emplace_back(kMenuSeciniz);
     ListCombo1.emplace_back();
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kMenuDosyasi));
+    // Without the menus the counter isn't looked at: while they can't be read it isn't set back either.
+    const auto bayt = sayacKoken_.Oku(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi));
     if (!bayt)
         return false;
     DegerOkuyucu okuyucu(*bayt);
@@ -111,7 +112,7 @@ bool FormKayit::SozlesmeNoOner() {
     // Another number in the file is neither on nor off: the field is left as it is.
     if (ayarlar->Check7.deger != 0)
         return true;
-    const auto bayt = program_.dosyalar.Oku(program_.agac.KokYolu(kSayacDosyasi));
+    const auto bayt = sayacKoken_.Oku(program_.dosyalar, program_.agac.KokYolu(kSayacDosyasi));
     Metin sonNo;
     if (!bayt || !DegerOkuyucu(*bayt).Oku(sonNo))
         return false;

@@ -44,9 +44,9 @@ struct FormKayit {
     void Command4_Click(); ///< "Ödemeler": to the page of payments
 
     // --- saving (Kaydetme.cpp) ---
-    /// "Oluştur" / "Kaydet": checks, writes the three files and the counter, unloads the screen and brings
-    /// the open views up to date. Nothing that fails on the disk is reported, and the screen closes all the
-    /// same.
+    /// "Oluştur" / "Kaydet": checks, writes the three files and the counter, but for what couldn't be read of
+    /// them, unloads the screen and brings the open views up to date. Nothing that fails on the disk is
+    /// reported, and the screen closes all the same.
     void Command1_Click();
     /// "GizliKayit": writes without checking the fields, leaves payments alone and the screen open.
     void Command11();
@@ -74,6 +74,12 @@ struct FormKayit {
     int KayitAc = 0; ///< 1: an existing record. Set by who opens one.
     int Basildi = 0; ///< 1: saved in this opening
     Metin Tag;       ///< path of the main file of an existing record
+
+    // Of the three files of an existing record: what couldn't be read isn't saved over.
+    Koken anaKoken;
+    Koken detayKoken;
+    Koken odemeKoken;
+    Metin kayitliOdeme; ///< what was paid, by the main file
 
     Metin Tarih; ///< day file name of the record
     Metin tarihBaslik = u"Rezervasyon Tarihi";
@@ -131,6 +137,7 @@ struct FormKayit {
     bool KopyalariBas(const std::vector<Sayfa>& baskilar, const Metin& ad, double kopya) const;
 
     Program& program_;
+    Koken sayacKoken_; // of the number that is offered
 };
 
 } // namespace velora

@@ -6,6 +6,7 @@
 #include "screen/Sorular.h"
 #include "setup/FormAyarlar.h"
 #include "storage/Harf.h"
+#include "storage/Sayi.h"
 #include "storage/YazimBicimi.h"
 #include "table/FormTablo.h"
 
@@ -52,6 +53,13 @@ void AcikEkranlariTazele(Program& p) {
     tablo->DegisikligiGoster([&p] { p.OlaylariIsle(); });
 }
 
+/// The payments stay as they are on the disk, and so does their sum.
+void OdemeOzetiniKoru(AnaKayit& kayit, const Metin& alinan) {
+    const auto deger = [&kayit](int no) -> Metin& { return kayit.kay[static_cast<std::size_t>(no - 1)]; };
+    deger(AnaNo::AlinanOdeme) = alinan;
+    deger(AnaNo::KalanOdeme) = DuzMetin(SayisalDeger(deger(AnaNo::ToplamUcret)) - SayisalDeger(alinan));
+}
+
 } // namespace
 
 void FormKayit::Command1_Click() {
@@ -77,8 +85,8 @@ void FormKayit::DosyalariYaz() {
     const bool sayac = KayitAc == 0 && program_.FormAyarlar->Check7.deger == 0;
     const Dosyalar::Eylem eylem(p.dosyalar, kEylemAdi, [&] {
         KlasoruYap();
-        AnaYaz(p.dosyalar, AnaYolu(), Ana());
-        DetayYaz(p.dosyalar, DetayYolu(), Detay());
+        AnaYaz(p.dosyalar, AnaYolu(), Ana(), anaKoken);
+        DetayYaz(p.dosyalar, DetayYolu(), Detay(), detayKoken);
         Kaydet();
         if (sayac)
             SayaciYaz();
@@ -169,12 +177,12 @@ void FormKayit::KlasoruVeKayitlariYaz() {
     for (MetinKutusu& kutu : Kay)
         kutu.metin = AnaTemizle(kutu.metin);
     p.OlaylariIsle();
-    AnaYaz(p.dosyalar, AnaYolu(), Ana());
+    AnaYaz(p.dosyalar, AnaYolu(), Ana(), anaKoken);
     p.OlaylariIsle();
     for (MetinKutusu& kutu : TT)
         kutu.metin = DetayTemizle(kutu.metin);
     Aciklamalar.metin = DetayTemizle(Aciklamalar.metin);
-    DetayYaz(p.dosyalar, DetayYolu(), Detay());
+    DetayYaz(p.dosyalar, DetayYolu(), Detay(), detayKoken);
     p.OlaylariIsle();
 }
 
@@ -182,6 +190,8 @@ AnaKayit FormKayit::Ana() const {
     AnaKayit kayit;
     for (int no = 1; no <= kKaySayisi; ++no)
         kayit.kay[static_cast<std::size_t>(no - 1)] = AnaTemizle(Kay[no].metin);
+    if (!odemeKoken.Yazilir() && !kayitliOdeme.empty())
+        OdemeOzetiniKoru(kayit, kayitliOdeme);
     kayit.check18 = Check18.deger;
     kayit.check19 = Check19.deger;
     return kayit;
@@ -210,7 +220,7 @@ Metin FormKayit::GunYolu() const {
 void FormKayit::SayaciYaz() const {
     DegerYazici yazici;
     yazici.Yaz(AnaTemizle(Kay[AnaNo::SozlesmeNo].metin));
-    program_.dosyalar.Yaz(program_.agac.KokYolu(kSayacDosyasi), yazici.Bayt());
+    sayacKoken_.Yaz(program_.dosyalar, program_.agac.KokYolu(kSayacDosyasi), yazici.Bayt());
 }
 
 } // namespace velora

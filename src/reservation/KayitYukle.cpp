@@ -16,6 +16,7 @@ void OnayAta(OnayKutusu& kutu, MetinBakis deger) {
 
 void AnayiYerlestir(FormKayit& kayit, const AnaDegerler& ana) {
     kayit.KayitAc = 1;
+    kayit.kayitliOdeme = ana.No(AnaNo::AlinanOdeme);
     for (int no = 1; no <= kKaySayisi; ++no) {
         MetinKutusu& kutu = kayit.Kay[no];
         kutu.metin = ana.No(no);
@@ -49,17 +50,16 @@ bool KayitDoldur(Program& program, const Metin& yol, const std::optional<Metin>&
     // First of all: the loading of the screen lets events run, and the pointer may move on to another day.
     const Metin gun = tarih ? *tarih : program.FormTablo->SeciliTarih;
     const auto kayit = program.FormKayit.Tut();
-    if (program.agac.RezervasyonVarMi(yol)) {
-        AnaDegerler ana;
-        AnaOku(program.dosyalar, yol, ana);
+    AnaDegerler ana;
+    // Read first: what is there, and can't be asked about just now, is no new record.
+    if (AnaOku(program.dosyalar, yol, ana, &kayit->anaKoken) || program.agac.RezervasyonVarMi(yol))
         AnayiYerlestir(*kayit, ana);
-    }
     kayit->Tarih = gun;
     const Metin detayYolu = yol + Metin(kDetayEki);
     if (!program.dosyalar.VarMi(detayYolu))
         return false;
     DetayDegerler detay;
-    DetayOku(program.dosyalar, detayYolu, detay);
+    DetayOku(program.dosyalar, detayYolu, detay, &kayit->detayKoken);
     DetayiYerlestir(*kayit, detay);
     kayit->Tag = yol;
     kayit->Command10(); // the payments

@@ -61,7 +61,7 @@ void FormKayit::Command12() {
 
 void FormKayit::Command10() {
     std::vector<Odeme> odemeler;
-    OdemeOku(program_.dosyalar, GunYolu() + Metin(kOdemeEki), odemeler);
+    OdemeOku(program_.dosyalar, GunYolu() + Metin(kOdemeEki), odemeler, &odemeKoken);
     for (Odeme& odeme : odemeler)
         Liste.satirlar.push_back({{odeme.tarih, odeme.tutar, odeme.aciklama}, {}, 0});
 }
@@ -70,7 +70,7 @@ void FormKayit::Kaydet() const {
     std::vector<Odeme> odemeler;
     for (const ListeSatiri& satir : Liste.satirlar)
         odemeler.push_back({satir.sutun[0], satir.sutun[1], satir.sutun[2]});
-    OdemeYaz(program_.dosyalar, GunYolu() + Metin(kOdemeEki), odemeler);
+    OdemeYaz(program_.dosyalar, GunYolu() + Metin(kOdemeEki), odemeler, odemeKoken);
 }
 
 } // namespace velora

@@ -78,19 +78,36 @@ void FormAyarlar::BasliklariKoy() {
 }
 
 void FormAyarlar::Load() {
-    if (!DosyalardanOku())
+    if (!DosyalardanOku()) {
         Varsayilanlar();
+        VarsayilanlariTut();
+    }
     // Last of all: setting the slot order has counted as a change.
     Check4.Ata(0);
 }
 
 bool FormAyarlar::DosyalardanOku() {
     const VeriAgaci& agac = program_.agac;
-    if (!AlanlariOku(program_.dosyalar, agac.KokYolu(kAyarDosyasi), AyarAlanlari()))
-        return false;
-    GunduzGece_Click();
-    Check7_Click();
-    return AlanlariOku(program_.dosyalar, agac.KokYolu(kAyDosyasi), AyAlanlari());
+    ayarlar_.okundu =
+        AlanlariOku(program_.dosyalar, agac.KokYolu(kAyarDosyasi), AyarAlanlari(), &ayarlar_.koken);
+    if (ayarlar_.okundu) {
+        GunduzGece_Click();
+        Check7_Click();
+    }
+    // Whatever came of the first: a save wants to know it of each.
+    aylar_.okundu = AlanlariOku(program_.dosyalar, agac.KokYolu(kAyDosyasi), AyAlanlari(), &aylar_.koken);
+    return ayarlar_.okundu && aylar_.okundu;
+}
+
+/// Where one file couldn't be read, the defaults stand in the place of the other one's values too, whole as
+/// they are. As long as nothing of these is changed on the screen, they stay.
+void FormAyarlar::VarsayilanlariTut() {
+    if (ayarlar_.koken.Yazilir() && aylar_.koken.Yazilir())
+        return;
+    if (ayarlar_.okundu)
+        ayarlar_.varsayilan = AlanBaytlari(AyarAlanlari());
+    if (aylar_.okundu)
+        aylar_.varsayilan = AlanBaytlari(AyAlanlari());
 }
 
 std::vector<Alan> FormAyarlar::AyarAlanlari() {

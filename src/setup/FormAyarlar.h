@@ -35,8 +35,9 @@ struct FormAyarlar {
     void GunduzGece_Click();
     /// Opens the colour picker for slot `n`.
     void Renk_Click(int n);
-    /// "Kaydet": applies, writes both files and unloads. A failed write is not reported; the next reading
-    /// then brings what the disk holds.
+    /// "Kaydet": applies, writes both files and unloads. One that couldn't be read isn't written, and the
+    /// other one then only when it was changed here. A failed write is not reported; the next reading then
+    /// brings what the disk holds.
     void Command1_Click();
     /// "İptal": drops what was not saved, also what the table already shows; the table keeps that until its
     /// next repaint.
@@ -69,13 +70,23 @@ struct FormAyarlar {
     Dugme Command4;
 
   private:
+    /// One of the two files.
+    struct Dosya {
+        Koken koken;
+        bool okundu = false;      ///< its values are whole
+        std::string varsayilan{}; ///< what isn't written over them
+    };
     bool DosyalardanOku();
+    void Yaz(MetinBakis ad, const Dosya& dosya, const std::string& bayt) const;
+    void VarsayilanlariTut();
     void BasliklariKoy();
     /// The values of the two files, in their order. Whoever holds a table must not outlive the screen.
     std::vector<Alan> AyarAlanlari();
     std::vector<Alan> AyAlanlari();
 
     Program& program_;
+    Dosya ayarlar_;
+    Dosya aylar_;
 };
 
 } // namespace velora

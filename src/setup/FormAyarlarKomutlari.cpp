@@ -26,11 +26,16 @@ void FormAyarlar::Command4_Click() {
 void FormAyarlar::Command1_Click() {
     Program& p = program_;
     Command4_Click();
-    EylemleYap(p.dosyalar, u"Program ayarları", [&] {
-        p.dosyalar.Yaz(p.agac.KokYolu(kAyarDosyasi), AlanBaytlari(AyarAlanlari()));
-        p.dosyalar.Yaz(p.agac.KokYolu(kAyDosyasi), AlanBaytlari(AyAlanlari()));
+    EylemleYap(p.dosyalar, u"Program ayarları", [this] {
+        Yaz(kAyarDosyasi, ayarlar_, AlanBaytlari(AyarAlanlari()));
+        Yaz(kAyDosyasi, aylar_, AlanBaytlari(AyAlanlari()));
     });
     p.FormAyarlar.Bosalt();
+}
+
+void FormAyarlar::Yaz(MetinBakis ad, const Dosya& dosya, const std::string& bayt) const {
+    if (bayt != dosya.varsayilan)
+        dosya.koken.Yaz(program_.dosyalar, program_.agac.KokYolu(ad), bayt);
 }
 
 void FormAyarlar::Command3_Click() {

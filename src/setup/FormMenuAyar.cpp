@@ -21,8 +21,8 @@ FormMenuAyar::FormMenuAyar(Program& program) : program_(program) {
 }
 
 void FormMenuAyar::Load() {
-    for (auto& sutunlar :
-         SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), Liste.basliklar.size()))
+    for (auto& sutunlar : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi),
+                                       Liste.basliklar.size(), &koken_))
         Liste.satirlar.push_back({std::move(sutunlar), {}, 0});
 }
 
@@ -81,7 +81,7 @@ void FormMenuAyar::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
     const Dosyalar::Eylem eylem(program_.dosyalar, u"Menü kaydı");
-    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar);
+    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar, koken_);
     Liste.secimDugmeleri.Ac(false);
 }
 

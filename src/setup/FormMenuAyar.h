@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -33,6 +34,7 @@ struct FormMenuAyar {
 
   private:
     Program& program_;
+    Koken koken_; // of the list
 };
 
 } // namespace velora

@@ -38,7 +38,7 @@ FormSalonTanim::FormSalonTanim(Program& program) : program_(program) {
 }
 
 void FormSalonTanim::Load() {
-    for (auto& satir : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), 1))
+    for (auto& satir : SatirlariOku(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), 1, &koken_))
         List1.ogeler.push_back(std::move(satir.front()));
 }
 
@@ -115,7 +115,7 @@ void FormSalonTanim::Kaydet_Click() {
     std::vector<SutunMetinleri> satirlar;
     for (const Metin& salon : List1.ogeler)
         satirlar.push_back({salon});
-    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), satirlar);
+    SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kSalonDosyasi), satirlar, koken_);
     List1.secimDugmeleri.Ac(false);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screen/Kontroller.h"
+#include "storage/Koken.h"
 
 namespace velora {
 
@@ -35,6 +36,7 @@ struct FormSalonTanim {
     void Ekle(const Metin& salon);
 
     Program& program_;
+    Koken koken_; // of the list
 };
 
 /// The prompt of a first run: with no hall selected in the table, offers to define one and opens the screen

@@ -36,8 +36,8 @@ Alan SayiAlani(std::int32_t& sayi) {
             .yaz = [&sayi](DegerYazici& yazici) { yazici.Parca(sayi); }};
 }
 
-bool AlanlariOku(const Dosyalar& dosyalar, const Metin& yol, std::span<const Alan> alanlar) {
-    const auto bayt = dosyalar.Oku(yol);
+bool AlanlariOku(const Dosyalar& dosyalar, const Metin& yol, std::span<const Alan> alanlar, Koken* koken) {
+    const auto bayt = KokenleOku(dosyalar, yol, koken);
     if (!bayt)
         return false;
     DegerOkuyucu okuyucu(*bayt);

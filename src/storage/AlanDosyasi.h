@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 
+#include "storage/Koken.h"
 #include "storage/YazimBicimi.h"
 #include "storage/dosya/Dosyalar.h"
 
@@ -29,8 +30,10 @@ Alan SayiAlani(std::int32_t& sayi);
 std::optional<std::int32_t> TamSayi(MetinBakis metin);
 
 /// Reads a file into its fields. False when it can't be opened, holds fewer values or one that is none: in
-/// the first two cases no field has changed, in the last those before it.
-bool AlanlariOku(const Dosyalar& dosyalar, const Metin& yol, std::span<const Alan> alanlar);
+/// the first two cases no field has changed, in the last those before it. Who writes the fields back gives
+/// them a `koken`, and writes by it.
+bool AlanlariOku(const Dosyalar& dosyalar, const Metin& yol, std::span<const Alan> alanlar,
+                 Koken* koken = nullptr);
 
 /// The file's bytes: all fields in one line.
 std::string AlanBaytlari(std::span<const Alan> alanlar);

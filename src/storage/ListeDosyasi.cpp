@@ -4,9 +4,10 @@
 
 namespace velora {
 
-std::vector<SutunMetinleri> SatirlariOku(const Dosyalar& dosyalar, const Metin& yol, std::size_t sutun) {
+std::vector<SutunMetinleri> SatirlariOku(const Dosyalar& dosyalar, const Metin& yol, std::size_t sutun,
+                                         Koken* koken) {
     std::vector<SutunMetinleri> satirlar;
-    const auto bayt = dosyalar.Oku(yol);
+    const auto bayt = KokenleOku(dosyalar, yol, koken);
     if (!bayt || sutun == 0)
         return satirlar;
     DegerOkuyucu okuyucu(*bayt);
@@ -20,14 +21,15 @@ std::vector<SutunMetinleri> SatirlariOku(const Dosyalar& dosyalar, const Metin& 
     return satirlar;
 }
 
-bool SatirlariYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<SutunMetinleri>& satirlar) {
+bool SatirlariYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<SutunMetinleri>& satirlar,
+                  const Koken& koken) {
     DegerYazici yazici;
     for (const SutunMetinleri& satir : satirlar) {
         for (const Metin& deger : satir)
             yazici.Parca(deger);
         yazici.SatirSonu();
     }
-    return dosyalar.Yaz(yol, yazici.Bayt());
+    return koken.Yaz(dosyalar, yol, yazici.Bayt());
 }
 
 } // namespace velora

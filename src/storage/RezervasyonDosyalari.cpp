@@ -8,8 +8,8 @@ namespace velora {
 namespace {
 
 template <class Degerler>
-std::optional<int> DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef) {
-    const auto bayt = dosyalar.Oku(yol);
+std::optional<int> DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef, Koken* koken) {
+    const auto bayt = KokenleOku(dosyalar, yol, koken);
     if (!bayt)
         return std::nullopt;
     DegerOkuyucu okuyucu(*bayt);
@@ -43,16 +43,16 @@ bool GunuVar(const Metin& yol) {
 
 } // namespace
 
-std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef) {
-    return DegerlerOku(dosyalar, yol, hedef);
+std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef, Koken* koken) {
+    return DegerlerOku(dosyalar, yol, hedef, koken);
 }
 
-std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef) {
-    return DegerlerOku(dosyalar, yol, hedef);
+std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef, Koken* koken) {
+    return DegerlerOku(dosyalar, yol, hedef, koken);
 }
 
-bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef) {
-    const auto bayt = dosyalar.Oku(yol);
+bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef, Koken* koken) {
+    const auto bayt = KokenleOku(dosyalar, yol, koken);
     if (!bayt)
         return false;
     DegerOkuyucu okuyucu(*bayt);
@@ -108,16 +108,17 @@ std::string OdemeBayt(const std::vector<Odeme>& odemeler) {
     return yazici.Bayt();
 }
 
-bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit) {
-    return GunuVar(yol) && dosyalar.Yaz(yol, AnaBayt(kayit));
+bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit, const Koken& koken) {
+    return GunuVar(yol) && koken.Yaz(dosyalar, yol, AnaBayt(kayit));
 }
 
-bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit) {
-    return GunuVar(yol) && dosyalar.Yaz(yol, DetayBayt(kayit));
+bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit, const Koken& koken) {
+    return GunuVar(yol) && koken.Yaz(dosyalar, yol, DetayBayt(kayit));
 }
 
-bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler) {
-    if (!GunuVar(yol))
+bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler,
+              const Koken& koken) {
+    if (!GunuVar(yol) || !koken.Yazilir())
         return false;
     if (!odemeler.empty())
         return dosyalar.Yaz(yol, OdemeBayt(odemeler));

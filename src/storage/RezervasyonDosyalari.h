@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "storage/Koken.h"
 #include "storage/Metin.h"
 #include "storage/YazimBicimi.h"
 #include "storage/dosya/Dosyalar.h"
@@ -82,12 +83,15 @@ struct Odeme {
 };
 
 /// Each fills what the file holds, in order, leaves the rest as it was, and says how many values it filled.
-/// Nothing when the file can't be opened.
-std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef);
-std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef);
+/// Nothing when the file can't be opened or read. Who writes back what was read gives each file a `koken` of
+/// its own.
+std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef,
+                          Koken* koken = nullptr);
+std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef,
+                            Koken* koken = nullptr);
 /// Adds the payments of the file to the list. A payment whose date is blank adds nothing. False when the file
-/// can't be opened.
-bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef);
+/// can't be opened or read.
+bool OdemeOku(const Dosyalar& dosyalar, const Metin& yol, std::vector<Odeme>& hedef, Koken* koken = nullptr);
 
 /// Main record: every double quote goes, every comma becomes a full stop.
 Metin AnaTemizle(MetinBakis metin);
@@ -118,13 +122,14 @@ std::string AnaBayt(const AnaKayit& kayit);
 std::string DetayBayt(const DetayKaydi& kayit);
 std::string OdemeBayt(const std::vector<Odeme>& odemeler);
 
-// Each of these refuses a path without a day: false, and nothing on the disk changes. The companions' paths
-// have their word behind the day's.
+// Each of these refuses a path without a day, and where it takes a `koken` one that lets nothing be written:
+// false, and nothing on the disk changes. The companions' paths have their word behind the day's.
 
-bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit);
-bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit);
+bool AnaYaz(const Dosyalar& dosyalar, const Metin& yol, const AnaKayit& kayit, const Koken& koken = {});
+bool DetayYaz(const Dosyalar& dosyalar, const Metin& yol, const DetayKaydi& kayit, const Koken& koken = {});
 /// An empty list leaves no file.
-bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler);
+bool OdemeYaz(const Dosyalar& dosyalar, const Metin& yol, const std::vector<Odeme>& odemeler,
+              const Koken& koken = {});
 /// Makes an empty file of payments, or leaves the one that is there.
 bool OdemeHazirla(const Dosyalar& dosyalar, const Metin& yol);
 

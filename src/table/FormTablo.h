@@ -9,6 +9,7 @@
 
 #include "screen/Inet.h"
 #include "screen/Kontroller.h"
+#include "screen/Ortam.h"
 #include "screen/TabloSatirlari.h"
 #include "storage/VeriAgaci.h"
 #include "table/GozDurumu.h"

@@ -1,6 +1,8 @@
 #include "access/FormKullanicilar.h"
 
 #include "access/AccessTest.h"
+#include "destek/Ariza.h"
+#include "storage/VeriAgaci.h"
 
 namespace velora::test {
 
@@ -64,14 +66,20 @@ TEST_F(FormKullanicilarTest, User_with_a_blank_name_is_gone_at_the_next_save_as_
     EXPECT_EQ(Dosya(), admin + can);
 }
 
-TEST_F(FormKullanicilarTest, What_could_not_be_read_is_written_over_by_the_next_save_as_is_meant) {
+TEST_F(FormKullanicilarTest, What_could_not_be_read_is_not_written_over_until_it_is_listed_again) {
     KullaniciKoy(admin + can);
-    program.dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Oku; };
+    const auto ali = [&] { GirVeTamam(u"ali", u"a1", u"a1"); };
+    const auto bozuldu = BirKezOkunmaz(program.dosyalar, kKullaniciDosyasi);
     EXPECT_TRUE(Liste().empty());
-    program.dosyalar.ariza = nullptr;
-    EkleAcikken([&] { GirVeTamam(u"ali", u"a1", u"a1"); });
+    EXPECT_TRUE(*bozuldu);
+    EkleAcikken(ali);
     VELORA_BAS(program.FormKullanicilar, Command1);
-    EXPECT_EQ(Dosya(), Satir("ali", "a1", "11111111101"));
+    EXPECT_EQ(Liste().size(), 1U) << "what is shown is what is entered";
+    EXPECT_EQ(Dosya(), admin + can);
+    VELORA_BAS(program.FormKullanicilar, Command5);
+    EkleAcikken(ali);
+    VELORA_BAS(program.FormKullanicilar, Command1);
+    EXPECT_EQ(Dosya(), admin + can + Satir("ali", "a1", "11111111101"));
 }
 
 TEST_F(FormKullanicilarTest, Click_on_a_user_opens_edit_and_delete_and_on_admin_edit_alone) {

@@ -1,5 +1,6 @@
 // The list of a year's expenses, and the file that it leaves.
 #include "accounts/KasaTest.h"
+#include "destek/Ariza.h"
 #include "documents/FormMakbuzPrint.h"
 
 namespace velora::test {
@@ -284,6 +285,21 @@ TEST_F(GiderlerTesti, A_file_that_can_not_be_read_is_not_written_over) {
         EXPECT_TRUE(Giderler().Liste.satirlar.empty());
         VELORA_BAS(Prog().FormGiderler, Kaydet);
         EXPECT_EQ(agac.Bayt(kGiderYolu), kUcAy);
+    });
+}
+
+TEST_F(GiderlerTesti, A_file_that_can_not_be_read_back_behind_a_save_is_not_deleted) {
+    agac.Koy(kGiderYolu, kUcAy);
+    GiderleriAc([&] {
+        const std::size_t satir = Giderler().Liste.satirlar.size();
+        BirKezOkunmaz(Prog().dosyalar, kGiderDosyasi);
+        GideriSil(0, Cevap::Evet);
+        EXPECT_TRUE(Giderler().Liste.satirlar.empty()) << "of " << satir;
+        EXPECT_NE(agac.Bayt(kGiderYolu), kUcAy);
+        EXPECT_NE(agac.Bayt(kGiderYolu), "");
+        VELORA_BAS(Prog().FormGiderler, Kaydet);
+        EXPECT_NE(agac.Bayt(kGiderYolu), "") << "nor by the next one";
+        EXPECT_EQ(Giderler().Liste.satirlar.size(), satir - 1);
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "destek/Ariza.h"
 #include "destek/Eylemler.h"
 #include "destek/GeciciAgac.h"
 #include "destek/SahteOrtam.h"
@@ -86,6 +87,18 @@ TEST_F(FormYedekAlTest, The_target_comes_from_its_file) {
 TEST_F(FormYedekAlTest, A_kept_target_that_is_another_systems_path_is_passed_over_on_purpose) {
     agac.Koy(u"BackupSetting.dat", "\"C:\\VRYedek\"\r\n");
     EXPECT_EQ(program.FormYedekAl->txtDestination.metin, YolMetni(Hedef()));
+}
+
+TEST_F(FormYedekAlTest, A_kept_target_that_could_not_be_read_stays_and_the_backup_goes_to_the_one_shown) {
+    const std::string kalan = "\"" + Hedef("baska").string() + "\"\r\n";
+    agac.Koy(u"BackupSetting.dat", kalan);
+    const auto bozuldu = BirKezOkunmaz(program.dosyalar, u"BackupSetting.dat");
+    EXPECT_EQ(program.FormYedekAl->txtDestination.metin, YolMetni(Hedef()));
+    EXPECT_TRUE(*bozuldu);
+    Kutu(bitti);
+    Bas();
+    EXPECT_EQ(agac.Bayt(u"BackupSetting.dat"), kalan);
+    EXPECT_EQ(Bayt(Hedef("07_03_2026/BackupSetting.dat")), kalan);
 }
 
 TEST_F(FormYedekAlTest, A_backup_copies_the_tree_into_the_folder_of_the_day) {

@@ -1,4 +1,5 @@
 // What is done to the list of holidays: sorted, added to, removed from, replaced, kept and dropped.
+#include "destek/Ariza.h"
 #include "maintenance/TatilTest.h"
 
 namespace velora::test {
@@ -142,6 +143,40 @@ TEST_F(TatilIslemleriTest,
     EXPECT_EQ(agac.Bayt(u"Tatiller.dll"), kTatiller);
     program.FormResmiTatil->Command2_Click();
     EXPECT_EQ(Adlar().size(), 3U);
+}
+
+TEST_F(TatilIslemleriTest, A_published_list_that_could_not_be_read_gives_up_no_general_row_on_the_disk) {
+    agac.Koy(u"Tatiller.dat", "\"01.01.2010\",\"Y\xFDlba\xFE\xFD\",\"Evet\",\"Genel\"\r\n");
+    const auto bozuldu = BirKezOkunmaz(program.dosyalar, kGenelTatilDosyasi);
+    Tatil().Temizle_Click();
+    EXPECT_TRUE(*bozuldu);
+    EXPECT_EQ(Adlar(), Liste{u"Kuruluş"}) << "shown as without one";
+    program.FormResmiTatil->Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Tatiller.dll"), kTatiller);
+    BirKezOkunmaz(program.dosyalar, kGenelTatilDosyasi);
+    Tatil().Temizle_Click();
+    Tatil().Temizle_Click();
+    program.FormResmiTatil->Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Tatiller.dll"), "\"05.06.2012\",\"Kurulu\xFE\",\"Hay\xFDr\",\"\xD6zel\"\r\n"
+                                          "\"01.01.2010\",\"Y\xFDlba\xFE\xFD\",\"Evet\",\"Genel\"\r\n")
+        << "the second press has read it";
+}
+
+TEST_F(TatilIslemleriTest, The_list_read_afresh_is_not_kept_back_by_a_published_one_that_failed_before) {
+    agac.Koy(u"Tatiller.dat", "");
+    BirKezOkunmaz(program.dosyalar, kGenelTatilDosyasi);
+    Tatil().Temizle_Click();
+    Tatil().Load();
+    Tatil().Ekle({u"07.08.2012", u"Panayır", u"Hayır", Metin(kOzelTatil)});
+    program.FormResmiTatil->Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Tatiller.dll"),
+              std::string(kTatiller) + "\"07.08.2012\",\"Panay\xFDr\",\"Hay\xFDr\",\"\xD6zel\"\r\n");
+}
+
+TEST_F(TatilIslemleriTest, Without_a_published_list_what_is_left_is_written) {
+    Tatil().Temizle_Click();
+    program.FormResmiTatil->Command1_Click();
+    EXPECT_EQ(agac.Bayt(u"Tatiller.dll"), "\"05.06.2012\",\"Kurulu\xFE\",\"Hay\xFDr\",\"\xD6zel\"\r\n");
 }
 
 TEST_F(TatilIslemleriTest, A_published_list_that_is_none_costs_no_row_of_the_firm_and_nothing_on_the_disk) {

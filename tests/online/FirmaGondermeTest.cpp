@@ -1,4 +1,6 @@
 // The firm's profile on its way to the service.
+#include "access/FormSifreDegistir.h"
+#include "destek/Ariza.h"
 #include "online/FirmaTest.h"
 #include "online/FormIpMac.h"
 
@@ -145,6 +147,52 @@ TEST_F(FirmaGondermeTest, The_screen_may_go_before_the_send_or_while_it_is_waite
         EXPECT_TRUE(agac.Var(u"Sunucu.dat"));
         std::filesystem::remove(agac.Yol(u"Sunucu.dat"));
     }
+}
+
+TEST_F(FirmaGondermeTest, Fields_that_a_sending_has_read_may_be_saved_though_the_loading_had_failed) {
+    const auto bozuldu = BirKezOkunmaz(program.dosyalar, kFirmaDosyasi);
+    EXPECT_EQ(Firma().t1.metin, u"");
+    EXPECT_TRUE(*bozuldu);
+    VELORA_BAS(program.FormFirma, Command3);
+    EXPECT_EQ(agac.Bayt(u"Firma.dll"), kDosya);
+    ortam.Bekle(BeklenenIstek{.adres = Metin(kDosyaIstegi)});
+    program.FormFirma->gonder();
+    AlanaYaz(Firma().t3, u"0212 99");
+    VELORA_BAS(program.FormFirma, Command3);
+    EXPECT_NE(agac.Bayt(u"Firma.dll").find(",\"0212 99\",\"0532 2\","), std::string::npos);
+}
+
+TEST_F(FirmaGondermeTest, A_sending_that_could_not_read_keeps_the_fields_and_what_may_be_done_with_them) {
+    Firma();
+    const auto bozuldu = BirKezOkunmaz(program.dosyalar, kFirmaDosyasi);
+    program.Splash->Check1 = 0;
+    program.FormFirma->gonder();
+    EXPECT_TRUE(*bozuldu);
+    AlanaYaz(Firma().t3, u"0212 99");
+    VELORA_BAS(program.FormFirma, Command3);
+    EXPECT_NE(agac.Bayt(u"Firma.dll").find(",\"0212 99\",\"0532 2\","), std::string::npos);
+}
+
+TEST_F(FirmaGondermeTest, Fields_that_could_not_be_read_stay_unsaved_while_a_sending_leaves_them_alone) {
+    BirKezOkunmaz(program.dosyalar, kFirmaDosyasi);
+    program.Splash->Check1 = 0;
+    program.FormFirma.Goster();
+    program.FormFirma->gonder();
+    EXPECT_EQ(Firma().t1.metin, u"") << "somebody may be typing";
+    VELORA_BAS(program.FormFirma, Command3);
+    EXPECT_EQ(agac.Bayt(u"Firma.dll"), kDosya);
+}
+
+TEST_F(FirmaGondermeTest, A_first_run_for_want_of_a_reading_writes_over_nothing_and_goes_on) {
+    program.Splash->Check1 = 0;
+    agac.Koy(u"Sunucu.dat", "\"00-11\",0\r\n");
+    BirKezOkunmaz(program.dosyalar, kFirmaDosyasi);
+    Firma().Tag = u"1";
+    Doldur();
+    VELORA_BAS(program.FormFirma, Command1);
+    EXPECT_EQ(agac.Bayt(u"Firma.dll"), kDosya);
+    EXPECT_TRUE(program.FormSifreDegistir.Yuklu());
+    EXPECT_FALSE(program.FormFirma.Yuklu());
 }
 
 } // namespace velora::test

@@ -1,9 +1,11 @@
 // What the user does with the settings: type, apply, save, reset, drop.
 #include <algorithm>
 
+#include "destek/Ariza.h"
 #include "destek/Eylemler.h"
 #include "setup/FormAyarlar.h"
 #include "setup/RenkSatirlari.h"
+#include "storage/KodSayfasi.h"
 #include "table/HucreRenkleri.h"
 #include "table/TabloTest.h"
 
@@ -214,6 +216,72 @@ TEST_F(AyarKomutlari, Full_disk_keeps_the_old_settings_and_still_writes_the_mont
     VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
     EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
     EXPECT_EQ(agac.Bayt(u"Visible.dll"), "1,1,1,1,1,1,0,1,1,1,1,1,1\r\n");
+}
+
+TEST_F(AyarKomutlari,
+       Of_two_files_the_one_that_could_not_be_read_stays_and_so_does_what_nobody_changed_of_the_other) {
+    const std::string ayarlar = KodYaz(AyarMetni(2, u"4711"));
+    const std::string aylar = "1,1,1,1,0,1,1,1,1,1,1,1,1\r\n";
+    for (const auto& [bozuk, giris, eskiAyar, eskiAy] : {std::tuple{kAyarDosyasi, 0, true, true},
+                                                         {kAyarDosyasi, 1, true, true},
+                                                         {kAyarDosyasi, 2, true, false},
+                                                         {kAyDosyasi, 0, true, true},
+                                                         {kAyDosyasi, 1, false, true},
+                                                         {kAyDosyasi, 2, true, true}}) {
+        agac.Koy(u"Settings.dll", ayarlar);
+        agac.Koy(u"Visible.dll", aylar);
+        kullanici.Prog().FormAyarlar.Bosalt();
+        const auto bozuldu = BirKezOkunmaz(kullanici.Prog().dosyalar, bozuk);
+        EXPECT_EQ(Ayarlar().Renk(1), 16777215) << "all defaults";
+        EXPECT_TRUE(Ayarlar().AyGorunur(5));
+        EXPECT_TRUE(*bozuldu);
+        if (giris == 1)
+            AlanaYaz(Ayarlar().UyariGun, u"19");
+        if (giris == 2)
+            Tikla(Ayarlar().Aylar[7]);
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
+        EXPECT_EQ(agac.Bayt(u"Settings.dll") == ayarlar, eskiAyar) << KodYaz(bozuk) << giris;
+        EXPECT_EQ(agac.Bayt(u"Visible.dll") == aylar, eskiAy) << KodYaz(bozuk) << giris;
+    }
+}
+
+TEST_F(AyarKomutlari, Beside_a_file_that_could_not_be_read_a_missing_and_a_damaged_one_are_written) {
+    agac.Koy(u"Settings.dll", KodYaz(AyarMetni(2, u"4711")));
+    for (const MetinBakis aylar : {u"", u"1,0,1\r\n"}) {
+        agac.KoyMetin(u"Visible.dll", aylar);
+        if (aylar.empty())
+            std::filesystem::remove(agac.Yol(u"Visible.dll"));
+        kullanici.Prog().FormAyarlar.Bosalt();
+        BirKezOkunmaz(kullanici.Prog().dosyalar, kAyarDosyasi);
+        Ayarlar();
+        VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
+        EXPECT_EQ(agac.Bayt(u"Settings.dll"), KodYaz(AyarMetni(2, u"4711")));
+        EXPECT_EQ(agac.Bayt(u"Visible.dll"), kTumAylar);
+    }
+}
+
+TEST_F(AyarKomutlari, Beside_a_damaged_file_that_can_be_read_the_other_one_is_written_over_on_purpose) {
+    agac.Koy(u"Settings.dll", "1,2,3\r\n");
+    agac.Koy(u"Visible.dll", "1,1,1,1,0,1,1,1,1,1,1,1,1\r\n");
+    kullanici.Prog().FormAyarlar.Bosalt();
+    Ayarlar();
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
+    EXPECT_EQ(agac.Bayt(u"Settings.dll"), kVarsayilanAyarlar);
+    EXPECT_EQ(agac.Bayt(u"Visible.dll"), kTumAylar);
+}
+
+TEST_F(AyarKomutlari, Both_files_that_could_not_be_read_stay_whatever_is_changed) {
+    agac.Koy(u"Settings.dll", KodYaz(AyarMetni(2, u"4711")));
+    agac.Koy(u"Visible.dll", "1,1,1,1,0,1,1,1,1,1,1,1,1\r\n");
+    kullanici.Prog().FormAyarlar.Bosalt();
+    const std::string once = agac.Resim();
+    kullanici.Prog().dosyalar.ariza = [](DosyaIsi is, const Metin&) { return is == DosyaIsi::Oku; };
+    Ayarlar();
+    kullanici.Prog().dosyalar.ariza = {};
+    AlanaYaz(Ayarlar().UyariGun, u"19");
+    Tikla(Ayarlar().Aylar[7]);
+    VELORA_BAS(kullanici.Prog().FormAyarlar, Command1);
+    EXPECT_EQ(agac.Resim(), once);
 }
 
 TEST_F(AyarKomutlari, Defaults_count_as_a_change_of_the_slot_order_always_as_is_meant) {

@@ -95,7 +95,7 @@ Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
     if (no < 0)
         no = Sabirla([&] { return ::open(yol.c_str(), Bayraklar(kip), hak); });
     if (no < 0)
-        return errno == ENOENT ? Acilis::Yok : Acilis::Olmadi;
+        return errno == ENOENT || errno == ENOTDIR ? Acilis::Yok : Acilis::Olmadi;
     tutamac_ = no;
     const Acilis sonuc = Uydur(no, kip);
     if (sonuc == Acilis::Acildi)

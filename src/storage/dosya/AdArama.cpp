@@ -31,6 +31,7 @@ std::optional<std::filesystem::file_time_type> GuvenilirDegisim(const std::files
 
 std::filesystem::path AdArama::Coz(const std::filesystem::path& kok,
                                    const std::vector<std::filesystem::path>& adlar, sistem::Tur tur) {
+    tam_ = true;
     std::filesystem::path tam = kok;
     for (const auto& ad : adlar)
         tam /= ad;
@@ -81,7 +82,9 @@ const std::vector<AdArama::Ad>& AdArama::Listesi(const Anahtar& klasor) {
         icerik.adlar.push_back({AdAnahtari(liste[i]), Metin(liste.Diskteki(i))});
     std::stable_sort(icerik.adlar.begin(), icerik.adlar.end(),
                      [](const Ad& bir, const Ad& iki) { return bir.anahtar < iki.anahtar; });
-    icerik.degisim = degisim;
+    tam_ = tam_ && acik.Tam();
+    if (acik.Tam())
+        icerik.degisim = degisim;
     return icerik.adlar;
 }
 

@@ -26,6 +26,10 @@ class AdArama {
     std::filesystem::path Coz(const std::filesystem::path& kok,
                               const std::vector<std::filesystem::path>& adlar, sistem::Tur tur);
 
+    /// Whether the last `Coz` could list each folder that it had to. Otherwise a name that it left as it
+    /// stands may be there all the same, in another spelling.
+    bool Tam() const { return tam_; }
+
     /// How many folders have been listed so far.
     std::size_t Listelenen() const { return listelenen_; }
 
@@ -46,6 +50,7 @@ class AdArama {
 
     std::map<Anahtar, Icerik> icerikler_;
     std::size_t listelenen_ = 0;
+    bool tam_ = true;
 };
 
 } // namespace velora

@@ -15,11 +15,14 @@ inline constexpr std::uint64_t kEnUzunKayit = 16U << 20U;
 
 inline constexpr std::size_t kOkumaTamponu = 64U << 10U;
 
+/// The blocks and pages that systems and networks read by are multiples of it.
+inline constexpr std::size_t kEnKucukBlok = 512;
+
 /// Reads with `oku(hedef, adet)` into the buffer until the end or up to `enCok` bytes, and returns how many
-/// came. A plain file gives less than was asked for only at its end, so that a short file costs one call. Of
-/// one that is known to hold `boy` bytes, what comes short of them isn't taken for the end.
-template <class Okur>
-std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur oku, std::size_t boy = 0) {
+/// came. What comes short of what was asked for is taken for the end, so that a short file costs one call,
+/// unless `sonu(dolu)` says that it can't be: then it is asked for more.
+template <class Okur, class Son>
+std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur oku, Son sonu) {
     std::size_t dolu = 0;
     while (dolu < enCok) {
         if (dolu == tampon.size())
@@ -29,27 +32,39 @@ std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur o
         if (!gelen)
             return {};
         dolu += *gelen;
-        if (*gelen == 0 || (*gelen < istenen && dolu >= boy))
+        if (*gelen == 0 || (*gelen < istenen && sonu(dolu)))
             break;
     }
     return dolu;
 }
 
+/// Whether a read that came short so far may have come to the end. A system may break one off before: a disk
+/// that fails in the middle gives what lies before, up to the border of a block, and fails at the next call.
+/// Every text of ours ends with a line.
+inline bool SonuOlabilir(std::string_view okunan) {
+    return okunan.ends_with('\n') && okunan.size() % kEnKucukBlok != 0;
+}
+
 /// Reads a whole file as `Doldur` does. Nothing when it is longer than `enCok`. A short file, and that is
-/// every record, isn't asked for its length: `boyu()` is called only for what one buffer doesn't hold.
+/// every record, isn't asked for its length: `boyu()` is called only for what one buffer doesn't hold, and
+/// where one read may have been broken off.
 template <class Boy, class Okur>
 std::optional<std::size_t> SinirliDoldur(std::string& tampon, std::size_t enCok, Boy boyu, Okur oku) {
     bool ilk = true;
-    const auto okunan = Doldur(tampon, enCok, [&](char* hedef, std::size_t adet) {
+    const auto sinirliOku = [&](char* hedef, std::size_t adet) {
         const bool uygun = ilk || boyu().value_or(enCok + 1) <= enCok;
         ilk = false;
         return uygun ? oku(hedef, adet) : std::nullopt;
+    };
+    const auto okunan = Doldur(tampon, enCok, sinirliOku, [&](std::size_t dolu) {
+        return SonuOlabilir(std::string_view(tampon).substr(0, dolu));
     });
     // Full to the limit by a first buffer that was as large: there may be more.
     return okunan == enCok && boyu().value_or(enCok + 1) > enCok ? std::nullopt : okunan;
 }
 
-/// Reads an open file of that length from its beginning, as `Doldur` does.
+/// Reads an open file of that length from its beginning, as `Doldur` does. What comes short of the length
+/// isn't taken for the end.
 template <class Dosya>
 std::optional<std::size_t> OkuHepsini(Dosya& dosya, std::size_t enCok, std::string& tampon, std::size_t boy) {
     std::uint64_t konum = 0;
@@ -58,7 +73,7 @@ std::optional<std::size_t> OkuHepsini(Dosya& dosya, std::size_t enCok, std::stri
         konum += gelen.value_or(0);
         return gelen;
     };
-    return Doldur(tampon, enCok, oku, boy);
+    return Doldur(tampon, enCok, oku, [boy](std::size_t dolu) { return dolu >= boy; });
 }
 
 /// Writes again and again until all is down. False when the file takes no more.
@@ -75,9 +90,10 @@ bool HepsiniYaz(Dosya& dosya, std::uint64_t konum, std::string_view bayt) {
 }
 
 /// Makes an old file hold the new text. At no moment is it empty. Where the system takes a write in one piece
-/// it holds the old text at every moment, or the new one with line ends behind it; a longer one, from some KiB
-/// on, a death can cut at a border of the system's pages, and what stands on the medium when the power goes
-/// nobody knows. False when that can't be: then the old text stands again, as far as the file still takes it.
+/// it holds the old text at every moment, or the new one with line ends behind it; a longer one, from some
+/// KiB on, a death can cut at a border of the system's pages, and what stands on the medium when the power
+/// goes nobody knows. False when that can't be: then the old text stands again, as far as the file still
+/// takes it.
 template <class Dosya>
 bool UzerineYaz(Dosya& dosya, std::string_view yeni) {
     const std::optional<std::uint64_t> boy = dosya.Boy();

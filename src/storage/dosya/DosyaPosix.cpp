@@ -80,17 +80,19 @@ struct Klasor::Ic {
 
 Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
     ic_->akis = ::opendir(yol.c_str());
+    tam_ = ic_->akis != nullptr || errno == ENOENT || errno == ENOTDIR || errno == EACCES;
 }
 
 Klasor::~Klasor() = default;
 
 bool Klasor::Sonraki(Metin& ad, Tur tur) {
-    while (const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr) {
+    for (errno = 0; const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr; errno = 0) {
         if (!ic_->Bu(tur, *kayit))
             continue;
         Utf8Coz(static_cast<const char*>(kayit->d_name), ad);
         return true;
     }
+    tam_ = tam_ && errno == 0;
     return false;
 }
 

@@ -42,6 +42,12 @@ std::wstring UzunYol(const std::filesystem::path& yol) {
     return yol.has_relative_path() ? sonuc : sonuc + L'\\';
 }
 
+/// Whether the last call failed because the name, or the folder that it is to be in, isn't there.
+bool YokHatasi() {
+    const DWORD hata = ::GetLastError();
+    return hata == ERROR_FILE_NOT_FOUND || hata == ERROR_PATH_NOT_FOUND || hata == ERROR_DIRECTORY;
+}
+
 HANDLE Tutamac(std::intptr_t tutamac) {
     return reinterpret_cast<HANDLE>(tutamac);
 }
@@ -107,7 +113,7 @@ bool BuTur(Tur tur, DWORD oznitelik) {
 Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
     const HANDLE dosya = sistem::Ac(UzunYol(yol), kip);
     if (dosya == INVALID_HANDLE_VALUE)
-        return ::GetLastError() == ERROR_FILE_NOT_FOUND ? Acilis::Yok : Acilis::Olmadi;
+        return YokHatasi() ? Acilis::Yok : Acilis::Olmadi;
     tutamac_ = reinterpret_cast<std::intptr_t>(dosya);
     if (::GetFileType(dosya) == FILE_TYPE_DISK)
         return Acilis::Acildi;
@@ -182,6 +188,7 @@ Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
     ic_->arama = ::FindFirstFileExW((ic_->yol + L'*').c_str(), FindExInfoBasic, &ic_->bulunan,
                                     FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
     ic_->var = ic_->arama != INVALID_HANDLE_VALUE;
+    tam_ = ic_->var || YokHatasi() || ::GetLastError() == ERROR_ACCESS_DENIED;
 }
 
 Klasor::~Klasor() = default;
@@ -194,6 +201,7 @@ bool Klasor::Sonraki(Metin& ad, Tur tur) {
             ad.assign(bulunan.begin(), bulunan.end());
         }
         ic_->var = ::FindNextFileW(ic_->arama, &ic_->bulunan) != 0;
+        tam_ = tam_ && (ic_->var || ::GetLastError() == ERROR_NO_MORE_FILES);
         if (uyan)
             return true;
     }

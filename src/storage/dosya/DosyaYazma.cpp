@@ -97,8 +97,9 @@ Kopyalanis Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
             p = Bul(kaynak, sistem::Tur::Dosya);
         else if (Cevir(DosyaIsi::Kopyala, hedef))
             p = Cevir(DosyaIsi::Oku, kaynak);
+        const bool tam = arama_.Tam();
         const yazim::Okunan okunan = !p ? yazim::Okunan() : planda ? defter_->Bak(*p) : yazim::Oku(*p);
-        if (okunan.okundu && !okunan.metin)
+        if (okunan.okundu && !okunan.metin && tam)
             return Kopyalanis::KaynakYok;
         if (!okunan.metin && defter_)
             defter_->Olmadi();

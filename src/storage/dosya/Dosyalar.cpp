@@ -117,11 +117,24 @@ std::vector<Metin> Dosyalar::Listele(const Metin& klasor) const {
     });
 }
 
-std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
-    return Sessiz([&]() -> std::optional<std::string> {
+OkumaSonucu Dosyalar::SonucluOku(const Metin& yol) const {
+    return Sessiz([&]() -> OkumaSonucu {
         const auto p = Cevir(DosyaIsi::Oku, yol);
-        return p ? yazim::Oku(*p).metin : std::nullopt;
+        if (!p)
+            return {};
+        const bool tam = arama_.Tam();
+        yazim::Okunan okunan = yazim::Oku(*p);
+        if (okunan.metin)
+            return {.okunus = Okunus::Okundu, .bayt = std::move(*okunan.metin)};
+        return {.okunus = okunan.okundu && tam ? Okunus::Yok : Okunus::Okunamadi};
     });
+}
+
+std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
+    OkumaSonucu sonuc = SonucluOku(yol);
+    if (sonuc.okunus != Okunus::Okundu)
+        return {};
+    return std::move(sonuc.bayt);
 }
 
 /// A folder whose files are read one after the other, from the disk or from what is kept of it.

@@ -32,6 +32,16 @@ enum class Tur;
 /// memory of the machine.
 inline constexpr std::size_t kEnUzunOkuma = std::size_t{256} << 20U;
 
+/// What has come of reading a file. `Yok`: its name isn't in its folder, or the folder isn't there. Whatever
+/// else keeps it from being read, be it that it can't be told, is `Okunamadi`.
+enum class Okunus { Okundu, Yok, Okunamadi };
+
+/// The bytes are those of the whole file, or none.
+struct OkumaSonucu {
+    Okunus okunus = Okunus::Okunamadi;
+    std::string bayt = {};
+};
+
 enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 
 /// What came of a copy. A source that isn't there is no failure: there is nothing to copy.
@@ -106,8 +116,10 @@ class Dosyalar {
     /// lists nothing.
     std::vector<Metin> Listele(const Metin& klasor) const;
 
-    /// The whole file, or nothing when it can't be opened or read. One longer than `kEnUzunOkuma` can't be
-    /// read.
+    /// The whole file. One longer than `kEnUzunOkuma` can't be read, and so can't a path that is refused.
+    OkumaSonucu SonucluOku(const Metin& yol) const;
+
+    /// The same for who doesn't ask why: nothing when it can't be opened or read.
     std::optional<std::string> Oku(const Metin& yol) const;
 
     /// One file of a folder, as `KlasoruOku` hands it over. The views last until `ver` returns.

@@ -28,6 +28,7 @@ enum class Kip {
 /// What a name in a folder may stand for; all else counts as nothing.
 enum class Tur { Dosya, Klasor };
 
+/// `Yok`: the name isn't in its folder, or the folder isn't there.
 enum class Acilis { Acildi, Yok, Olmadi };
 
 class AcikDosya {
@@ -86,6 +87,10 @@ class Klasor {
     /// The name of the next entry of this kind, in the order of the disk. False after the last.
     bool Sonraki(Metin& ad, Tur tur);
 
+    /// Whether the names handed over so far are all that there were up to that place. A folder that isn't
+    /// there, or that nobody may list, has none.
+    bool Tam() const { return tam_; }
+
     /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
     /// again. Nothing when the file can't be opened or read, or is longer than `enCok`.
     std::optional<std::string_view> Oku(MetinBakis ad, std::size_t enCok, std::string& tampon);
@@ -96,6 +101,7 @@ class Klasor {
   private:
     struct Ic;
     std::unique_ptr<Ic> ic_;
+    bool tam_ = true;
 };
 
 /// Tells what changes in a folder while it is watched, whoever changes it. One that has watched is kept for

@@ -231,7 +231,8 @@ std::string KayitBaytlari(const GunlukKaydi& kayit) {
 
 std::optional<GunlukKaydi> KayitOku(std::string_view bayt, std::size_t& konum) {
     const std::string_view kalan = bayt.substr(std::min(konum, bayt.size()));
-    if (kalan.size() <= kCerceve || kalan[0] != '#' || kTurler.find(kalan[1]) == std::string_view::npos)
+    if (kalan.size() <= kCerceve || kalan[0] != '#' || kTurler.find(kalan[1]) == std::string_view::npos ||
+        kalan[kBoyYeri - 1] != ' ' || kalan[kCrcYeri - 1] != ' ' || kalan[kCerceve - 1] != '\n')
         return {};
     const auto boy = SayiOku<std::size_t>(kalan.substr(kBoyYeri, kBoyHanesi), 16);
     const auto crc = SayiOku<std::uint32_t>(kalan.substr(kCrcYeri, kCrcHanesi), 16);

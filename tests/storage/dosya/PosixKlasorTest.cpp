@@ -1,12 +1,48 @@
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <dirent.h>
+#include <dlfcn.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "storage/DosyaAgaci.h"
+
+namespace {
+
+// What the listing of a folder fails with; 0: it works.
+int acmaHatasi = 0;
+int okumaHatasi = 0;
+
+template <class Cagri>
+Cagri* Asil(const char* ad) {
+    return reinterpret_cast<Cagri*>(::dlsym(RTLD_NEXT, ad));
+}
+
+} // namespace
+
+// These take the place of the system's own in this program: a disk that fails at listing, and at nothing
+// else.
+extern "C" DIR* opendir(const char* yol) {
+    static const auto asil = Asil<DIR*(const char*)>("opendir");
+    if (acmaHatasi == 0)
+        return asil(yol);
+    errno = acmaHatasi;
+    return nullptr;
+}
+
+extern "C" dirent* readdir(DIR* akis) {
+    static const auto asil = Asil<dirent*(DIR*)>("readdir");
+    if (okumaHatasi == 0)
+        return asil(akis);
+    errno = okumaHatasi;
+    return nullptr;
+}
 
 // What only a POSIX folder can hold: pipes, links, names that are no UTF-8.
 namespace velora {
@@ -21,6 +57,26 @@ std::vector<Metin> Okunanlar(const DosyaAgaci& kok) {
             adlar.emplace_back(dosya.ad);
     });
     return adlar;
+}
+
+/// As long as it stands, this process can open no more files.
+class DosyaKalmadi {
+  public:
+    DosyaKalmadi() {
+        EXPECT_EQ(::getrlimit(RLIMIT_NOFILE, &eski_), 0);
+        const rlimit hic{0, eski_.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &hic), 0);
+    }
+    DosyaKalmadi(const DosyaKalmadi&) = delete;
+    DosyaKalmadi& operator=(const DosyaKalmadi&) = delete;
+    ~DosyaKalmadi() { ::setrlimit(RLIMIT_NOFILE, &eski_); }
+
+  private:
+    rlimit eski_{};
+};
+
+Okunus Durumu(const DosyaAgaci& kok, MetinBakis ad) {
+    return kok.dosyalar.SonucluOku(kok.TamYol(ad)).okunus;
 }
 
 } // namespace
@@ -98,6 +154,51 @@ TEST(PosixKlasor, A_file_without_rights_is_told_as_one_that_cannot_be_opened) {
     EXPECT_FALSE(kok.dosyalar.Oku(kok.TamYol(u"a")));
     EXPECT_FALSE(kok.dosyalar.Yaz(kok.TamYol(u"a"), "y"));
     EXPECT_TRUE(Okunanlar(kok).empty());
+}
+
+TEST(PosixKlasor, What_is_no_plain_file_or_may_not_be_opened_could_not_be_read_and_a_dead_link_is_not_there) {
+    const DosyaAgaci kok;
+    ASSERT_EQ(::mkfifo(kok.Yol(u"boru").c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/zero", kok.Yol(u"aygit"));
+    std::filesystem::create_symlink("dongu", kok.Yol(u"dongu"));
+    std::filesystem::create_symlink("yok", kok.Yol(u"bos"));
+    for (const MetinBakis ad : {u"boru", u"aygit", u"dongu"})
+        EXPECT_EQ(Durumu(kok, ad), Okunus::Okunamadi) << std::filesystem::path(Metin(ad));
+    EXPECT_EQ(Durumu(kok, Metin(300, u'a')), Okunus::Okunamadi) << "a name too long";
+    EXPECT_EQ(Durumu(kok, u"bos"), Okunus::Yok);
+}
+
+TEST(PosixKlasor, A_process_that_can_open_no_more_files_has_found_none_missing) {
+    const DosyaAgaci kok;
+    kok.Koy(u"a", "x");
+    {
+        const DosyaKalmadi dar;
+        EXPECT_EQ(Durumu(kok, u"a"), Okunus::Okunamadi);
+    }
+    EXPECT_EQ(Durumu(kok, u"a"), Okunus::Okundu);
+}
+
+TEST(PosixKlasor, A_listing_that_failed_is_neither_believed_nor_kept) {
+    DosyaAgaci kok;
+    kok.Koy(u"SALON.DAT", "x");
+    std::filesystem::last_write_time(kok.Kok(),
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    for (int* hata : {&acmaHatasi, &okumaHatasi}) {
+        *hata = EIO;
+        EXPECT_EQ(Durumu(kok, u"Salon.dat"), Okunus::Okunamadi) << "it may lie there in another spelling";
+        *hata = 0;
+    }
+    EXPECT_EQ(kok.dosyalar.Oku(kok.TamYol(u"Salon.dat")), "x");
+    EXPECT_EQ(Durumu(kok, u"Menuler.dat"), Okunus::Yok);
+}
+
+TEST(PosixKlasor, Where_nobody_may_list_a_name_has_no_other_spelling) {
+    const DosyaAgaci kok;
+    kok.Koy(u"SALON.DAT", "x");
+    acmaHatasi = EACCES;
+    EXPECT_EQ(Durumu(kok, u"Salon.dat"), Okunus::Yok);
+    EXPECT_EQ(Durumu(kok, u"SALON.DAT"), Okunus::Okundu);
+    acmaHatasi = 0;
 }
 
 TEST(PosixKlasor, No_file_stays_open_behind_any_call) {

@@ -69,9 +69,7 @@ TEST(GunlukKaydi, A_record_of_which_any_byte_is_another_one_is_none) {
         std::string bayt = saglam;
         bayt[yer] = static_cast<char>(bayt[yer] ^ 1);
         std::size_t konum = 0;
-        const auto kayit = KayitOku(bayt, konum);
-        // A digit of the frame in capitals says the same.
-        ASSERT_TRUE(!kayit || *kayit == GunlukKaydi(OrnekEylem())) << yer;
+        ASSERT_FALSE(KayitOku(bayt, konum)) << yer;
     }
 }
 
