@@ -129,6 +129,11 @@ std::vector<std::string> DiskModeli::Halleri(const Govde& govde) {
         haller.push_back(bas);
         haller.push_back(bas + (eski.size() > sinir ? eski.substr(sinir) : std::string()));
         haller.push_back(bas + std::string(boy - sinir, '\0'));
+        // Pages may come to the disk out of their order.
+        std::string onceki = eski.substr(0, sinir);
+        onceki.resize(sinir, '\0');
+        haller.push_back(onceki + yeni.substr(sinir));
+        haller.push_back(duran + std::string(sinir - kirli, '\0') + yeni.substr(sinir));
     }
     std::set<std::string> gorulen;
     std::erase_if(haller, [&](const std::string& hal) { return !gorulen.insert(hal).second; });

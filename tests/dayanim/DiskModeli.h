@@ -20,7 +20,7 @@ struct DiskHali {
 /// in their order, as journaling file systems have it: any first part of them may stand there. The sync of a
 /// folder, or of a file whose name is new, makes them durable up to its own. The bytes of a file are durable
 /// with its sync; of those that were written later there may stand nothing, all, no byte, NUL bytes in the
-/// full length, a beginning, or a beginning of the new with the rest of the old.
+/// full length, a beginning, and a beginning or an end of the new beside the rest of the old or NUL bytes.
 class DiskModeli {
   public:
     DiskModeli(const Saha& saha, const Agac& agac, const Agac& durum);
