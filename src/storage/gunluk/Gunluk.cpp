@@ -22,7 +22,7 @@ constexpr std::string_view kYeniUzantisi = ".yeni";
 constexpr std::uint64_t kEnUzunGunluk = std::uint64_t{1} << 30U;
 
 // Cutting back writes all that is kept: not for each action anew.
-constexpr std::size_t kPay = Gunluk::kEnAzEylem / 4;
+constexpr std::size_t kKisaltmaPayi = Gunluk::kEnAzEylem / 4;
 
 std::filesystem::path Gercek(const std::filesystem::path& kok) {
     std::error_code hata;
@@ -261,7 +261,7 @@ std::set<std::uint64_t> Gunluk::Kalacaklar() const {
 
 void Gunluk::Kisalt() {
     const std::lock_guard kilit(kilit_);
-    if (boy_ <= kEnCokBayt && eylemSayisi_ <= kEnAzEylem + kPay)
+    if (boy_ <= kEnCokBayt && eylemSayisi_ <= kEnAzEylem + kKisaltmaPayi)
         return;
     std::string eski(static_cast<std::size_t>(boy_), '\0');
     if (OkuHepsini(*dosya_, eski.size(), eski, eski.size()) != eski.size())
