@@ -129,7 +129,9 @@ std::vector<std::string> DiskModeli::Halleri(const Govde& govde) {
         haller.push_back(bas);
         haller.push_back(bas + (eski.size() > sinir ? eski.substr(sinir) : std::string()));
         haller.push_back(bas + std::string(boy - sinir, '\0'));
-        // Pages may come to the disk out of their order.
+        // Blocks may come to the disk out of their order, but none in two parts.
+        if (sinir % kKesim != 0)
+            continue;
         std::string onceki = eski.substr(0, sinir);
         onceki.resize(sinir, '\0');
         haller.push_back(onceki + yeni.substr(sinir));
