@@ -1,6 +1,7 @@
 #include "destek/Kullanici.h"
 
 #include <array>
+#include <utility>
 
 #include "access/FormSifre.h"
 #include "access/Splash.h"
@@ -12,14 +13,15 @@
 
 namespace velora::test {
 
-Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {
-    ortam.durumKlasoru = agac.Disi() / "durum";
+Kullanici::Kullanici(std::filesystem::path kok, const std::filesystem::path& durum, Gun bugun)
+    : ortam(bugun), kok_(std::move(kok)) {
+    ortam.durumKlasoru = durum;
 }
 
 void Kullanici::YeniProgram() {
     gecen_.clear();
     program_.reset(); // two of them can't have one journal
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
 }
 
 void Kullanici::ProgramiAc() {
