@@ -93,6 +93,8 @@ Kopyalanis Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
     return Sessiz([&] {
         const bool planda = defter_ && defter_->Planda();
         std::optional<std::filesystem::path> p;
+        if (planda && okurken)
+            okurken();
         if (planda)
             p = Bul(kaynak, sistem::Tur::Dosya);
         else if (Cevir(DosyaIsi::Kopyala, hedef))
