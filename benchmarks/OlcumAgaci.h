@@ -16,6 +16,8 @@ class OlcumAgaci {
         do
             kok_ = std::filesystem::temp_directory_path() / ("velora-olcum-" + std::to_string(rastgele()));
         while (!std::filesystem::create_directory(kok_));
+        durum_ = kok_;
+        durum_ += "-durum";
         ornek::Istek istek;
         istek.salon = 1;
         istek.yil = 1;
@@ -27,6 +29,7 @@ class OlcumAgaci {
     ~OlcumAgaci() {
         std::error_code hata;
         std::filesystem::remove_all(kok_, hata);
+        std::filesystem::remove_all(durum_, hata);
     }
     OlcumAgaci(const OlcumAgaci&) = delete;
     OlcumAgaci& operator=(const OlcumAgaci&) = delete;
@@ -35,10 +38,13 @@ class OlcumAgaci {
         return {std::chrono::year{2026}, std::chrono::month{6}, std::chrono::day{15}};
     }
     const std::filesystem::path& Kok() const { return kok_; }
+    /// Where a program on it may keep its journal.
+    const std::filesystem::path& DurumKlasoru() const { return durum_; }
     std::filesystem::path YilYolu() const { return kok_ / salon_ / "2026"; }
 
   private:
     std::filesystem::path kok_;
+    std::filesystem::path durum_;
     Metin salon_;
 };
 

@@ -19,6 +19,7 @@ void KullanicilariYaz(const Program& program, const SatirListesi& kullanicilar, 
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& kullanici : kullanicilar)
         satirlar.push_back(kullanici.sutun);
+    const Dosyalar::Eylem eylem(program.dosyalar, u"Kullanıcı kaydı");
     SatirlariYaz(program.dosyalar, program.agac.KokYolu(kKullaniciDosyasi), satirlar, koken);
 }
 

@@ -78,8 +78,10 @@ void Splash::Baslat() {
     if (!p.ortam.kopya.tek()) {
         Soyle(p, u"Velora Programı zaten çalışıyor!", u"Hata", Simge::Kritik);
         p.Splash.Bosalt();
-        p.ortam.olaylar.bitir();
-    } else if (!Okunur(kFirmaDosyasi)) {
+        return p.ortam.olaylar.bitir();
+    }
+    p.GunluguAc();
+    if (!Okunur(kFirmaDosyasi)) {
         p.Splash.Gizle();
         p.FormFirma->Tag = u"1";
         p.FormFirma.Goster();

@@ -108,7 +108,12 @@ void FormGiderler::Kaydet_Click() {
     for (const ListeSatiri& satir : Liste.satirlar)
         yazici.Yaz(satir.sutun[KasaSutunu::Tarih], satir.sutun[KasaSutunu::Tutar],
                    satir.sutun[KasaSutunu::Aciklama]);
-    const bool yazildi = koken_.Yaz(program_.dosyalar, Yol(), yazici.Bayt());
+    const auto yaz = [&] { return koken_.Yaz(program_.dosyalar, Yol(), yazici.Bayt()); };
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Gider kaydı", [&] {
+        if (yaz() && Liste.satirlar.empty())
+            program_.dosyalar.Sil(Yol());
+    });
+    const bool yazildi = yaz();
     ListeleGun(); // where it couldn't be written, the rows that the file still has
     if (!yazildi)
         return;

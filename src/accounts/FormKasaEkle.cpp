@@ -46,6 +46,7 @@ void FormKasaEkle::Command1_Click() {
     Program& p = program_;
     const Metin salon = Combo1.Metni();
     const Metin yil = Bicimle(TarihMetni(DTPicker1.deger), u"yyyy");
+    const Dosyalar::Eylem eylem(p.dosyalar, u"Gider girişi");
     p.dosyalar.Ekle(p.agac.GunYolu(salon, yil, kGiderDosyasi),
                     GiderBayt(DTPicker1.deger, Tutar.metin, Aciklama.metin));
     KasayiTazele(p, salon);

@@ -6,6 +6,7 @@
 
 #include "access/Splash.h"
 #include "platform/Ag.h"
+#include "platform/DurumKlasoru.h"
 #include "platform/KlasorIzleme.h"
 #include "platform/TekKopya.h"
 #include "qt/Dil.h"
@@ -34,6 +35,7 @@ static int Calistir(char** argv) {
     velora::BeklerkenGoster(ortam);
     velora::KopyayiBagla(ortam);
     velora::IzlemeyiBagla(ortam);
+    velora::DurumuBagla(ortam);
     velora::Program program(std::move(ortam), programDizini);
     velora::EkranlariTanit(disDunya, program);
     program.Splash->Baslat();

@@ -82,6 +82,7 @@ void FormSozlesme::Pdf_Click() {
 void FormSozlesme::Command2_Click() {
     Metin temizBaslik = Tirnaksiz(Baslik.metin);
     Metin maddeler = Tirnaksiz(Sozlesme.metin);
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Sözleşme metni");
     koken_.Yaz(program_.dosyalar, SozlesmeYolu(program_),
                AlanBaytlari(SozlesmeAlanlari(temizBaslik, maddeler)));
     program_.FormSozlesme.Bosalt();

@@ -27,10 +27,14 @@ double EnAlt(std::span<const SayfaParcasi> parcalar) {
 SayfaParcasi SayfaAkisi::Parca(Metin ad, MetinBakis metin, const SayfaYeri& yer,
                                const AlanBicimi& bicim) const {
     SayfaYazisi yazi = bicim.yazi;
-    auto satirlar = SatirlaraBol(metin, yer.en, yazi, olcer_);
-    while (MetinBoyu(satirlar.size(), yazi) > yer.boy + kPay && yazi.punto - kAdim >= bicim.enKucuk) {
-        yazi.punto -= kAdim;
-        satirlar = SatirlaraBol(metin, yer.en, yazi, olcer_);
+    std::vector<Metin> satirlar;
+    for (;; yazi.punto -= kAdim) {
+        // A size that is too large is known by its first lines too many; heights aren't exact to one line.
+        const bool enKucuk = yazi.punto - kAdim < bicim.enKucuk;
+        const auto sigan = static_cast<std::size_t>((yer.boy + kPay) / SatirBoyu(yazi));
+        satirlar = SatirlaraBol(metin, yer.en, yazi, olcer_, enKucuk ? MetinBakis::npos : sigan + 1);
+        if (enKucuk || MetinBoyu(satirlar.size(), yazi) <= yer.boy + kPay)
+            break;
     }
     SayfaYeri tutulan = yer;
     tutulan.boy = std::max(yer.boy, MetinBoyu(satirlar.size(), yazi));

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t kParcaBoyu = 1024;  // bytes of a chunk
 constexpr std::uint64_t kGeriAdim = 4096; // bytes that a fetch which goes on steps back
-constexpr MetinBakis kSatirSonu = u"\r\n";
+constexpr MetinBakis kBaslikSonu = u"\r\n";
 constexpr MetinBakis kKoptu = u"The connection with the server was reset.";
 
 // Where disks have letters, only a path that begins with one has a disk to ask. Elsewhere every path has.
@@ -30,7 +30,7 @@ bool DiskiVar(MetinBakis hedef) {
 }
 
 MetinBakis IlkSatir(MetinBakis basliklar) {
-    return basliklar.substr(0, basliklar.find(kSatirSonu));
+    return basliklar.substr(0, basliklar.find(kBaslikSonu));
 }
 
 /// The header "Content-Length"; 0 without one, and for what is no number.
@@ -38,7 +38,7 @@ std::uint64_t UzakBoy(MetinBakis basliklar) {
     constexpr MetinBakis kAd = u"content-length:";
     while (!basliklar.empty()) {
         const MetinBakis satir = IlkSatir(basliklar);
-        basliklar.remove_prefix(std::min(basliklar.size(), satir.size() + kSatirSonu.size()));
+        basliklar.remove_prefix(std::min(basliklar.size(), satir.size() + kBaslikSonu.size()));
         if (Kucult(satir.substr(0, kAd.size())) != kAd)
             continue;
         const std::string deger = KodYaz(Kirp(satir.substr(kAd.size())));
@@ -56,6 +56,7 @@ struct FileDownloader::Kosu {
     bool Calis(const Metin& kullanici, const Metin& parola, int verisizSure);
     void Dur();
     void Birak();
+    void HedefiSil() const;
 
   private:
     bool CevapUygun(const Metin& basliklar);
@@ -139,14 +140,14 @@ bool FileDownloader::Kosu::CevapUygun(const Metin& basliklar) {
     if (kod == u"206" || (kod == u"200" && !devam))
         return true;
     if (kod == u"200") {
-        program.dosyalar.Sil(hedef);
+        HedefiSil();
         return Hata(u"The server is unable to resume this download.");
     }
     const std::array<std::pair<MetinBakis, Metin>, 4> hatalar{
         {{u"204", u"Nothing to download!"},
          {u"401", u"Authorization failed!"},
          {u"404", u"The file, \"" + adres + u"\" was not found!"},
-         {kSatirSonu, u"Cannot establish connection."}}};
+         {kBaslikSonu, u"Cannot establish connection."}}};
     for (const auto& [hataKodu, metin] : hatalar)
         if (kod == hataKodu)
             return Hata(metin);
@@ -206,7 +207,13 @@ void FileDownloader::Kosu::Birak() {
     aktarim.iptal();
     dosya.reset();
     if (std::exchange(acildi, false) && !Tamam())
-        program.dosyalar.Sil(hedef);
+        HedefiSil();
+}
+
+/// It can be fetched anew: the journal needs nothing of it.
+void FileDownloader::Kosu::HedefiSil() const {
+    const Dosyalar::GunlukDisi gecici(program.dosyalar);
+    program.dosyalar.Sil(hedef);
 }
 
 } // namespace velora

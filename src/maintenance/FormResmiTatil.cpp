@@ -57,7 +57,8 @@ void FormResmiTatil::Command1_Click() {
         satirlar.push_back(satir.sutun);
     // Without the rows that were to come in their place the general ones aren't given up.
     if (genelKoken_.Yazilir())
-        SatirlariYaz(p.dosyalar, p.agac.KokYolu(kTatilDosyasi), satirlar, koken_);
+        EylemleYap(p.dosyalar, u"Tatil kaydı",
+                   [&] { SatirlariYaz(p.dosyalar, p.agac.KokYolu(kTatilDosyasi), satirlar, koken_); });
     p.FormResmiTatil.Bosalt();
     p.FormTablo->Command1();
 }

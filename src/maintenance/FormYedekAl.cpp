@@ -95,8 +95,10 @@ void FormYedekAl::Command2_Click() {
 void FormYedekAl::cmdStart_Click() {
     if (!cmdStart.etkin)
         return;
-    koken_.Yaz(program_.dosyalar, program_.agac.KokYolu(kYedekDosyasi),
-               AlanBaytlari(YedekAlanlari(txtDestination.metin)));
+    EylemleYap(program_.dosyalar, u"Yedek ayarı", [&] {
+        koken_.Yaz(program_.dosyalar, program_.agac.KokYolu(kYedekDosyasi),
+                   AlanBaytlari(YedekAlanlari(txtDestination.metin)));
+    });
     const Metin hedef = GunlukYol(txtDestination.metin, program_.Bugun());
     KlasorYap(txtDestination.metin);
     KlasorYap(hedef);

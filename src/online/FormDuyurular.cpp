@@ -11,16 +11,16 @@ namespace velora {
 
 namespace {
 
-constexpr MetinBakis kSatirSonu = u"<br>";
+constexpr MetinBakis kDuyuruAyraci = u"<br>";
 
 Metin SatirlaraBol(MetinBakis cevap) {
     Metin metin;
     for (std::size_t yer = 0; yer <= cevap.size();) {
-        const std::size_t son = std::min(cevap.find(kSatirSonu, yer), cevap.size());
+        const std::size_t son = std::min(cevap.find(kDuyuruAyraci, yer), cevap.size());
         metin += cevap.substr(yer, son - yer);
         if (son < cevap.size())
             metin += u"\r\n";
-        yer = son + kSatirSonu.size();
+        yer = son + kDuyuruAyraci.size();
     }
     return metin;
 }

@@ -142,6 +142,7 @@ bool FormFirma::AlanlarTamam() const {
 
 void FormFirma::Yaz() const {
     const FirmaKaydi kayit = Kayit();
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Firma bilgileri");
     SatirlariYaz(program_.dosyalar, FirmaYolu(program_), {{kayit.begin(), kayit.end()}}, koken_);
 }
 

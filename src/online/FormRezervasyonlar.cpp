@@ -80,6 +80,7 @@ void FormRezervasyonlar::Kaydet_Click() {
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
+    const Dosyalar::GunlukDisi gecici(program_.dosyalar);
     SatirlariYaz(program_.dosyalar, IstekYolu(program_), satirlar, koken_);
 }
 

@@ -35,6 +35,7 @@ void FormSunucu::Load() {
 }
 
 void FormSunucu::Command1_Click() {
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Sunucu ayarları");
     koken_.Yaz(program_.dosyalar, SunucuYolu(program_), AlanBaytlari(SunucuAlanlari(*this)));
     program_.FormSunucu.Bosalt();
 }

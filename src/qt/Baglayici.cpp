@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -20,6 +21,8 @@
 
 #include "qt/Ceviri.h"
 #include "qt/Gorunum.h"
+#include "qt/Nefes.h"
+#include "qt/SecimModeli.h"
 #include "screen/Bayrak.h"
 
 namespace velora {
@@ -32,6 +35,7 @@ struct Ortak {
     int derinlik = 0; // handlers that run, one inside the other
     bool tazeleniyor = false;
     bool bekliyor = false; // the innermost one waits for the user
+    std::vector<std::pair<QPointer<Baglayici>, Baglayici::Isleyici>> ertelenenler; // what came in a breath
 };
 
 Ortak& Durum() {
@@ -42,10 +46,14 @@ Ortak& Durum() {
 /// Counts a running handler, also when it ends by an exception.
 class IsSayaci {
   public:
-    IsSayaci() : disaridaki_(std::exchange(Durum().bekliyor, false)) { ++Durum().derinlik; }
+    IsSayaci() : disaridaki_(std::exchange(Durum().bekliyor, false)) {
+        ++Durum().derinlik;
+        Nefes::Basla();
+    }
     ~IsSayaci() {
-        --Durum().derinlik;
         Durum().bekliyor = disaridaki_;
+        if (--Durum().derinlik == 0 || disaridaki_)
+            Nefes::Bitir();
     }
     IsSayaci(const IsSayaci&) = delete;
     IsSayaci& operator=(const IsSayaci&) = delete;
@@ -67,13 +75,18 @@ Baglayici::~Baglayici() {
 
 void Baglayici::Izle(Isleyici tazele) {
     tazele();
+    Nefes::Al();
     tazeleyenler_.push_back(std::move(tazele));
 }
 
 void Baglayici::Calistir(const Isleyici& isleyici) {
     // Kept here: the handler may unload its own screen.
     const auto ekran = ekran_.lock();
-    if (!ekran || !isleyici || Durum().tazeleniyor)
+    if (!ekran || !isleyici)
+        return;
+    if (Nefes::Aliniyor())
+        return Ertele([this, isleyici] { Calistir(isleyici); });
+    if (Durum().tazeleniyor)
         return;
     const QPointer<Baglayici> kendisi = this;
     ++derinlik_;
@@ -84,9 +97,26 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
     if (kendisi != nullptr && --derinlik_ == 0 && birakildi_)
         parent()->deleteLater();
     HepsiniTazele();
+    if (!IsSuruyor() && !Durum().ertelenenler.empty())
+        QMetaObject::invokeMethod(qApp, ErtelenenleriCalistir, Qt::QueuedConnection);
+}
+
+/// What comes in a breath waits until no handler works any more, as it would have without one.
+void Baglayici::Ertele(Isleyici is) {
+    Durum().ertelenenler.emplace_back(this, std::move(is));
+}
+
+void Baglayici::ErtelenenleriCalistir() {
+    if (Nefes::Aliniyor())
+        return; // that handler's end asks again
+    for (const auto& [baglayici, is] : std::exchange(Durum().ertelenenler, {}))
+        if (baglayici != nullptr)
+            is();
 }
 
 void Baglayici::Bas(const Isleyici& isleyici, bool aradaDa) {
+    if (Nefes::Aliniyor())
+        return Ertele([this, isleyici, aradaDa] { Bas(isleyici, aradaDa); });
     if (basildi_)
         return aradaDa ? Calistir(isleyici) : void();
     // The handler may unload the screen, but the window stands until it has returned.
@@ -152,19 +182,24 @@ bool Baglayici::IsSuruyor() {
 }
 
 Baglayici::KullaniciBekleme::KullaniciBekleme() : onceki_(std::exchange(Durum().bekliyor, true)) {
+    Nefes::Bitir();
     HepsiniTazele();
 }
 
 Baglayici::KullaniciBekleme::~KullaniciBekleme() {
     Durum().bekliyor = onceki_;
+    if (IsSuruyor())
+        Nefes::Basla();
 }
 
 void Baglayici::Tazele() {
     const auto ekran = ekran_.lock();
     if (!ekran)
         return;
-    for (const Isleyici& tazele : tazeleyenler_)
+    for (const Isleyici& tazele : tazeleyenler_) {
         tazele();
+        Nefes::Al();
+    }
 }
 
 bool Baglayici::OdakDonecek(const QEvent& olay) {
@@ -251,15 +286,16 @@ namespace {
 constexpr int kEnGenisSecim = 26; // letters that a drop-down makes room for: names of halls may be longer
 
 /// As wide as its entries want, up to a limit. A longer one is told by its tip, here and in the open list.
-void SecimleriKoy(QComboBox& kutu, const AcilirListe& model) {
-    kutu.clear();
+void SecimleriKoy(QComboBox& kutu, SecimModeli& secimler, const AcilirListe& model) {
+    secimler.Koy(model.ogeler);
+    AyniBoyluSay(kutu.view(), model.ogeler.size());
+    const int harf = kutu.fontMetrics().horizontalAdvance(u'X');
     int en = kutu.fontMetrics().horizontalAdvance(QMetin(model.bosYazi));
     for (const Metin& oge : model.ogeler) {
-        kutu.addItem(QMetin(oge));
-        kutu.setItemData(kutu.count() - 1, QIpucu(oge), Qt::ToolTipRole);
+        if (en >= kEnGenisSecim * harf)
+            break;
         en = std::max(en, kutu.fontMetrics().horizontalAdvance(QMetin(oge)));
     }
-    const int harf = kutu.fontMetrics().horizontalAdvance(u'X');
     kutu.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     kutu.setMinimumContentsLength(std::min(en / harf + 1, kEnGenisSecim));
 }
@@ -277,12 +313,14 @@ QString KesikSecim(const QComboBox& kutu, MetinBakis metin) {
 
 void Baglayici::Bagla(QComboBox& kutu, AcilirListe& model) {
     TekeriBagla(kutu);
+    auto* secimler = new SecimModeli(&kutu);
+    kutu.setModel(secimler);
     connect(&kutu, &QComboBox::activated, this,
             [this, &model](int sira) { Calistir([&model, sira] { model.Tikla(sira); }); });
-    Izle([&kutu, &model, konan = std::optional<std::vector<Metin>>()]() mutable {
+    Izle([&kutu, &model, secimler, konan = std::optional<std::vector<Metin>>()]() mutable {
         const QSignalBlocker sus(&kutu);
         if (konan != model.ogeler) {
-            SecimleriKoy(kutu, model);
+            SecimleriKoy(kutu, *secimler, model);
             konan = model.ogeler;
         }
         kutu.setCurrentIndex(model.secili);
@@ -337,6 +375,8 @@ void Baglayici::Bagla(Zamanlayici& model, const QString& ad) {
     auto* saat = new QTimer(this);
     saat->setObjectName(ad);
     connect(saat, &QTimer::timeout, this, [this, &model] {
+        if (Nefes::Aliniyor())
+            return; // the next tick is soon enough
         if (!model.sakin || Durum().derinlik == 0 || (model.beklerken && Durum().bekliyor))
             Calistir([&model] { model.Calis(); });
     });

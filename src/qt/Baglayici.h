@@ -18,13 +18,14 @@ class QDateEdit;
 class QLabel;
 class QLineEdit;
 class QListWidget;
-class QPlainTextEdit;
 class QProgressBar;
 class QRadioButton;
 class QTreeWidget;
 class QWidget;
 
 namespace velora {
+
+class CokSatirKutusu;
 
 /// Connects the widgets of one window with the control models of one screen.
 ///
@@ -54,7 +55,7 @@ class Baglayici : public QObject {
     /// `GirdiyiSuz`; a text set by code stands whole.
     void Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
     /// A field of many lines. The model's line ends are CR LF.
-    void Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
+    void Bagla(CokSatirKutusu& kutu, MetinKutusu& model, const AlanIsleri& isler = {});
     /// An editable list.
     void Bagla(QComboBox& kutu, MetinKutusu& model);
     /// A date, with its calendar. A day outside the model's limits can be neither typed nor chosen.
@@ -131,6 +132,8 @@ class Baglayici : public QObject {
   private:
     void Tazele();
     void TekeriBagla(QWidget& parca);
+    void Ertele(Isleyici is);
+    static void ErtelenenleriCalistir();
     void AlandanCikildi(const Isleyici& isleyici);
     void OdagiIzle(QWidget& parca, const MetinKutusu& model, const Isleyici& odakGitti);
 

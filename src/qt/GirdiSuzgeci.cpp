@@ -6,8 +6,6 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QTextCursor>
 
 #include "qt/Ceviri.h"
 
@@ -122,16 +120,6 @@ void MetniKoy(QLineEdit& kutu, const QString& metin) {
     kutu.setText(metin);
     if (kutu.hasFocus())
         kutu.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, kutu.displayText().size() - geriden)));
-}
-
-void MetniKoy(QPlainTextEdit& kutu, const QString& metin) {
-    const qsizetype yer = kutu.textCursor().position();
-    const qsizetype geriden = kutu.toPlainText().size() - yer;
-    kutu.setPlainText(metin);
-    QTextCursor imlec = kutu.textCursor();
-    const qsizetype yeniYer = kutu.hasFocus() ? metin.size() - geriden : std::min(yer, metin.size());
-    imlec.setPosition(static_cast<int>(std::max<qsizetype>(0, yeniYer)));
-    kutu.setTextCursor(imlec);
 }
 
 } // namespace velora

@@ -5,7 +5,6 @@
 #include "screen/GirdiKurali.h"
 
 class QLineEdit;
-class QPlainTextEdit;
 class QWidget;
 
 namespace velora {
@@ -30,7 +29,5 @@ void TuslariSuz(QWidget& alan, HarfIzni izin = nullptr);
 /// Sets the text; the cursor of a field that has the focus keeps its place, counted from the end, behind what
 /// was refused.
 void MetniKoy(QLineEdit& kutu, const QString& metin);
-/// Without the focus the cursor keeps its place counted from the beginning.
-void MetniKoy(QPlainTextEdit& kutu, const QString& metin);
 
 } // namespace velora

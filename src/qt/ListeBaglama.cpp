@@ -16,19 +16,14 @@
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/ListeSatirlari.h"
 #include "qt/ListeSiralama.h"
 #include "qt/Pano.h"
+#include "qt/SecimModeli.h"
 
 namespace velora {
 
 namespace {
-
-/// A row is one line: what stands on several lines in a file stands side by side in it.
-QString TekSatir(const Metin& metin) {
-    return QMetin(metin).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ');
-}
-
-constexpr Qt::Alignment kSaga = Qt::AlignRight | Qt::AlignVCenter;
 
 void BasliklariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     QStringList metinler;
@@ -37,47 +32,7 @@ void BasliklariKoy(QTreeWidget& liste, const ListeGorunumu& model) {
     liste.setColumnCount(static_cast<int>(metinler.size()));
     liste.setHeaderLabels(metinler);
     for (const int sutun : model.sayiSutunlari)
-        liste.headerItem()->setTextAlignment(sutun, kSaga);
-}
-
-/// Where the rows of a list are seen, beside their places in the model: the same, unless it is sorted.
-class SatirSirasi {
-  public:
-    void Koy(std::vector<int> modeldeki) {
-        modeldeki_ = std::move(modeldeki);
-        gorunen_.resize(modeldeki_.size());
-        for (std::size_t i = 0; i < modeldeki_.size(); ++i)
-            gorunen_[static_cast<std::size_t>(modeldeki_[i])] = static_cast<int>(i);
-    }
-    const std::vector<int>& Hepsi() const { return modeldeki_; }
-    int Modeldeki(int gorunen) const { return Karsilik(modeldeki_, gorunen); }
-    int Gorunen(int modeldeki) const { return Karsilik(gorunen_, modeldeki); }
-
-  private:
-    static int Karsilik(const std::vector<int>& sira, int yer) {
-        return yer >= 0 && yer < static_cast<int>(sira.size()) ? sira[static_cast<std::size_t>(yer)] : yer;
-    }
-    std::vector<int> modeldeki_;
-    std::vector<int> gorunen_;
-};
-
-void SatirlariKoy(QTreeWidget& liste, const ListeGorunumu& model, const SatirSirasi& sira) {
-    liste.clear();
-    QList<QTreeWidgetItem*> ogeler;
-    for (const int yer : sira.Hepsi()) {
-        const ListeSatiri& satir = model.satirlar[static_cast<std::size_t>(yer)];
-        ogeler << new QTreeWidgetItem;
-        for (int sutun = 0; sutun < static_cast<int>(satir.sutun.size()); ++sutun) {
-            ogeler.back()->setText(sutun, TekSatir(satir.sutun[static_cast<std::size_t>(sutun)]));
-            ogeler.back()->setForeground(sutun, QRenk(satir.yazi));
-            QFont tip = liste.font();
-            tip.setBold(satir.kalin);
-            ogeler.back()->setFont(sutun, tip);
-        }
-        for (const int sutun : model.sayiSutunlari)
-            ogeler.back()->setTextAlignment(sutun, kSaga);
-    }
-    liste.addTopLevelItems(ogeler);
+        liste.headerItem()->setTextAlignment(sutun, kSayiYeri);
 }
 
 /// Marks a row as it is seen, -1 for none. A press beside the rows, or one with Ctrl, takes a mark away that
@@ -183,12 +138,22 @@ class KesikGozIpucu : public QStyledItemDelegate {
             return QStyledItemDelegate::helpEvent(olay, liste, secenek, goz);
         const QRect gorunen = liste->visualRect(goz).intersected(liste->viewport()->rect());
         if (sizeHint(secenek, goz).width() > gorunen.width())
-            QToolTip::showText(olay->globalPos(), QIpucu(MetinYap(goz.data().toString())), liste->viewport(),
-                               gorunen);
+            QToolTip::showText(olay->globalPos(), QIpucu(MetinYap(goz.data().toString().left(kGorulebilen))),
+                               liste->viewport(), gorunen);
         else
             QToolTip::hideText();
         return true;
     }
+
+  protected:
+    /// The toolkit measures all of a text before it shows its beginning.
+    void initStyleOption(QStyleOptionViewItem* secenek, const QModelIndex& goz) const override {
+        QStyledItemDelegate::initStyleOption(secenek, goz);
+        secenek->text.truncate(kGorulebilen);
+    }
+
+  private:
+    static constexpr qsizetype kGorulebilen = 2000; // letters: more than any screen is wide
 };
 
 /// What the user does to the marks of a list, of either kind.
@@ -256,9 +221,10 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
     liste.setAlternatingRowColors(true);
     BasliklariKur(*this, *liste.header(), model);
     const auto sira = std::make_shared<SatirSirasi>();
+    const auto kaynak = std::make_shared<const SatirKaynagi>(SatirKaynagi{ekran_, model, sira});
     IsaretiDinle(*this, liste, model, secildi, sira);
     connect(&liste, &QTreeWidget::itemDoubleClicked, this, [this, ciftTiklandi] { Bas(ciftTiklandi); });
-    Izle([&liste, &model, sira, basliklar = std::vector<Metin>(),
+    Izle([&liste, &model, sira, kaynak, basliklar = std::vector<Metin>(),
           konan = std::optional<KonanSatirlar>()]() mutable {
         const QSignalBlocker sus(&liste);
         if (basliklar != model.basliklar)
@@ -271,7 +237,7 @@ void Baglayici::Bagla(QTreeWidget& liste, ListeGorunumu& model, const Isleyici& 
         const bool yeni = konan != istenen;
         if (yeni) {
             sira->Koy(GorunenSira(model, model.basligaTiklandi ? -1 : istenen.sutun, istenen.yon));
-            SatirlariKoy(liste, model, *sira);
+            SatirlariKoy(liste, kaynak);
             konan = istenen;
         }
         Isaretle(liste, sira->Gorunen(model.secili), yeni);
@@ -287,6 +253,7 @@ void Baglayici::Bagla(QListWidget& liste, ListeKutusu& model, const Isleyici& se
             liste.clear();
             for (const Metin& oge : model.ogeler)
                 liste.addItem(QMetin(oge));
+            AyniBoyluSay(&liste, model.ogeler.size());
             konan = model.ogeler;
         }
         Isaretle(liste, model.secili, yeni);

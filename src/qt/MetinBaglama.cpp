@@ -9,12 +9,12 @@
 #include <QDateEdit>
 #include <QEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSignalBlocker>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/CokSatirKutusu.h"
 #include "qt/GirdiSuzgeci.h"
 #include "qt/Gorunum.h"
 #include "qt/Pano.h"
@@ -182,28 +182,34 @@ void Baglayici::Bagla(QLineEdit& kutu, MetinKutusu& model, const AlanIsleri& isl
     });
 }
 
-void Baglayici::Bagla(QPlainTextEdit& kutu, MetinKutusu& model, const AlanIsleri& isler) {
+void Baglayici::Bagla(CokSatirKutusu& kutu, MetinKutusu& model, const AlanIsleri& isler) {
     kutu.setTabChangesFocus(true);
     TuslariSuz(kutu);
     OdagiIzle(kutu, model, isler.odakGitti);
     const auto son = std::make_shared<SonHal>();
     connect(&kutu, &QPlainTextEdit::textChanged, this, [this, &kutu, &model, isler, son] {
-        if (kutu.toPlainText() == son->gorunen)
+        const QString gorunen = kutu.Metni();
+        if (gorunen == son->gorunen)
             return;
         Calistir([&] {
-            model.metin = MetinYap(GirdiyiSuz(son->metin, kutu.toPlainText(), KutununKurali(model, true)));
+            model.metin = MetinYap(GirdiyiSuz(son->metin, gorunen, KutununKurali(model, true)));
             if (isler.degisti)
                 isler.degisti();
         });
     });
-    Izle([&kutu, &model, son] {
+    // A file may hold a text of a megabyte: one that nobody has changed isn't looked through again.
+    Izle([&kutu, &model, son, bakilan = -1]() mutable {
         const QSignalBlocker sus(&kutu);
+        DurumunuVer(kutu, model);
+        if (kutu.document()->revision() == bakilan && QStringView(model.metin) == son->metin)
+            return;
         const QString metin = QMetin(model.metin);
         const QString istenen = CokSatirGoster(metin);
-        if (kutu.toPlainText() != istenen && !son->Ayni(metin, kutu.toPlainText()))
-            MetniKoy(kutu, istenen);
-        *son = {metin, kutu.toPlainText()};
-        DurumunuVer(kutu, model);
+        const QString gorunen = kutu.Metni();
+        if (gorunen != istenen && !son->Ayni(metin, gorunen))
+            kutu.MetniKoy(istenen);
+        *son = {metin, kutu.Metni()};
+        bakilan = kutu.document()->revision();
     });
 }
 

@@ -15,6 +15,7 @@
 #include "qt/Kabuk.h"
 #include "qt/Klasorler.h"
 #include "qt/Kutular.h"
+#include "qt/Nefes.h"
 #include "qt/OlayKilidi.h"
 #include "qt/PencereYeri.h"
 #include "qt/Saat.h"
@@ -58,6 +59,8 @@ void OlaylariIsle() {
     Baglayici::HepsiniTazele();
     if (!OlayKilidi::Kapali())
         QCoreApplication::processEvents();
+    if (Baglayici::IsSuruyor())
+        Nefes::Basla();
 }
 
 /// Seldom enough to cost little, often enough for windows that are alive.
@@ -96,6 +99,7 @@ Ortam QtOrtam::Ver() {
     ortam.zaman.simdi = MakineSaati;
     ortam.olaylar.isle = OlaylariIsle;
     ortam.olaylar.adimda = AdimdaIsle;
+    ortam.olaylar.nefes = Nefes::Al;
     ortam.olaylar.bitti = [this] { return bitti_; };
     ortam.klasorler.yedek = YedekKlasoru;
     ortam.ayarlar.yaz = [this](MetinBakis bolum, MetinBakis anahtar, const Metin& deger) {
@@ -112,7 +116,10 @@ Ortam QtOrtam::Ver() {
 
 Ortam::Kagit QtOrtam::Kagit() {
     Ortam::Kagit kagit;
-    kagit.olcer = SayfaOlcer();
+    kagit.olcer = [olcer = SayfaOlcer()](MetinBakis metin, const SayfaYazisi& yazi) {
+        Nefes::Al(); // a page measures much
+        return olcer(metin, yazi);
+    };
     kagit.yazdir = [this](const std::vector<Sayfa>& sayfalar, const Metin& isAdi) {
         return Arkada(basimIscisi_, [sayfalar, ad = QMetin(isAdi)](const Vazgecildi& vazgecildi) {
             return YaziciyaBas(sayfalar, ad, vazgecildi);

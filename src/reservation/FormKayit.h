@@ -122,7 +122,11 @@ struct FormKayit {
     bool NumaraUygun();
     void AlanaDon(int no, const Metin& mesaj);
     void BasliklariKoy();
+    void DosyalariYaz();
+    void KlasoruYap() const;
     void KlasoruVeKayitlariYaz();
+    Metin AnaYolu() const;
+    Metin DetayYolu() const;
     AnaKayit Ana() const;
     DetayKaydi Detay() const;
     /// The path of this day in the hall and year that are selected now.

@@ -14,6 +14,8 @@ namespace velora {
 
 namespace {
 
+constexpr const char16_t* kEylemAdi = u"Rezervasyon kaydı";
+
 struct AlanKontrolu {
     int no;             ///< of the field
     MetinBakis olmayan; ///< the trimmed text that isn't taken
@@ -70,21 +72,37 @@ void FormKayit::Command1_Click() {
         Kay[no].metin = BuyukBas(Kay[no].metin);
     if (!NumaraUygun())
         return;
-    KlasoruVeKayitlariYaz();
-    Kaydet();
-    p.OlaylariIsle();
-    if (KayitAc == 0 && p.FormAyarlar->Check7.deger == 0)
-        SayaciYaz();
-    p.OlaylariIsle();
+    DosyalariYaz();
     Basildi = 1;
     p.FormKayit.Bosalt();
     p.OlaylariIsle();
     AcikEkranlariTazele(p);
 }
 
+/// The journal knows beforehand what the fields say now. What changes in them while events run costs it more.
+void FormKayit::DosyalariYaz() {
+    const Program& p = program_;
+    const bool sayac = KayitAc == 0 && program_.FormAyarlar->Check7.deger == 0;
+    const Dosyalar::Eylem eylem(p.dosyalar, kEylemAdi, [&] {
+        KlasoruYap();
+        AnaYaz(p.dosyalar, AnaYolu(), Ana(), anaKoken);
+        DetayYaz(p.dosyalar, DetayYolu(), Detay(), detayKoken);
+        Kaydet();
+        if (sayac)
+            SayaciYaz();
+    });
+    KlasoruVeKayitlariYaz();
+    Kaydet();
+    p.OlaylariIsle();
+    if (KayitAc == 0 && program_.FormAyarlar->Check7.deger == 0)
+        SayaciYaz();
+    p.OlaylariIsle();
+}
+
 void FormKayit::Command11() {
     if (!GunVar() || !NumaraUygun())
         return;
+    const Dosyalar::Eylem eylem(program_.dosyalar, kEylemAdi);
     KlasoruVeKayitlariYaz();
     if (KayitAc != 0)
         return;
@@ -139,30 +157,39 @@ bool FormKayit::NumaraVar(const Metin& no) const {
     return var;
 }
 
+void FormKayit::KlasoruYap() const {
+    const auto tablo = program_.FormTablo.Tut();
+    program_.dosyalar.KlasorYap(program_.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()));
+}
+
+Metin FormKayit::AnaYolu() const {
+    return KayitAc == 0 ? GunYolu() : Tag;
+}
+
+Metin FormKayit::DetayYolu() const {
+    const Metin yol(Kirp(Tag));
+    return (KayitAc == 0 || yol.empty() ? GunYolu() : yol) + Metin(kDetayEki);
+}
+
 void FormKayit::KlasoruVeKayitlariYaz() {
-    Program& p = program_;
-    {
-        const auto tablo = p.FormTablo.Tut();
-        p.dosyalar.KlasorYap(p.agac.YilKlasoru(tablo->Salon.Metni(), tablo->Sene.Metni()));
-    }
+    const Program& p = program_;
+    KlasoruYap();
     for (MetinKutusu& kutu : Kay)
         kutu.metin = AnaTemizle(kutu.metin);
     p.OlaylariIsle();
-    AnaYaz(p.dosyalar, KayitAc == 0 ? GunYolu() : Tag, Ana(), anaKoken);
+    AnaYaz(p.dosyalar, AnaYolu(), Ana(), anaKoken);
     p.OlaylariIsle();
     for (MetinKutusu& kutu : TT)
         kutu.metin = DetayTemizle(kutu.metin);
     Aciklamalar.metin = DetayTemizle(Aciklamalar.metin);
-    const Metin yol(Kirp(Tag));
-    DetayYaz(p.dosyalar, (KayitAc == 0 || yol.empty() ? GunYolu() : yol) + Metin(kDetayEki), Detay(),
-             detayKoken);
+    DetayYaz(p.dosyalar, DetayYolu(), Detay(), detayKoken);
     p.OlaylariIsle();
 }
 
 AnaKayit FormKayit::Ana() const {
     AnaKayit kayit;
     for (int no = 1; no <= kKaySayisi; ++no)
-        kayit.kay[static_cast<std::size_t>(no - 1)] = Kay[no].metin;
+        kayit.kay[static_cast<std::size_t>(no - 1)] = AnaTemizle(Kay[no].metin);
     if (!odemeKoken.Yazilir() && !kayitliOdeme.empty())
         OdemeOzetiniKoru(kayit, kayitliOdeme);
     kayit.check18 = Check18.deger;
@@ -192,7 +219,7 @@ Metin FormKayit::GunYolu() const {
 
 void FormKayit::SayaciYaz() const {
     DegerYazici yazici;
-    yazici.Yaz(Kay[AnaNo::SozlesmeNo].metin);
+    yazici.Yaz(AnaTemizle(Kay[AnaNo::SozlesmeNo].metin));
     sayacKoken_.Yaz(program_.dosyalar, program_.agac.KokYolu(kSayacDosyasi), yazici.Bayt());
 }
 

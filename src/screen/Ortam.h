@@ -129,6 +129,9 @@ struct Ortam {
         /// The same behind each of many small steps: what lets events run at most every few milliseconds is
         /// soon enough for a user, and costs little beside the steps.
         std::function<void()> adimda = [] {};
+        /// Behind each small step of what reads much, where no event may come in between: once in a while the
+        /// windows are painted and the user sees that the program is busy. No handler and no timer runs.
+        std::function<void()> nefes = [] {};
         /// Ends the program, with all its screens.
         std::function<void()> bitir;
         /// The program has been told to end: what is long stops where it is.
@@ -174,6 +177,9 @@ struct Ortam {
     } odak;
 
     struct Klasorler {
+        /// Where the program keeps what is its own and no setting: outside of the data tree, for this user
+        /// alone. Empty where there is no such folder: then there is no journal.
+        std::function<std::filesystem::path()> durum = [] { return std::filesystem::path(); };
         /// Where backups go as long as the user says nothing else.
         std::function<std::filesystem::path()> yedek = [] { return std::filesystem::path(); };
         /// Begins to watch a folder. Where it can't be watched there is nothing to wait with.

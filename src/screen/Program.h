@@ -28,6 +28,9 @@ struct Program {
     VELORA_EKRANLAR(VELORA_TUT)
 #undef VELORA_TUT
 
+    /// Opens the journal of the tree and completes what a death has cut through in an earlier run: before
+    /// anything of the tree is read.
+    void GunluguAc();
     /// For a screen that has closed and shown no other: ends the program when none stands any more.
     void EkranKalmadiysaBitir() const;
     /// Today, by the clock of the outside world.

@@ -35,8 +35,10 @@ std::size_t SiganHarf(MetinBakis metin, double en, const SayfaYazisi& yazi, cons
 
 /// Breaks what stands between two line ends.
 void ParagrafiBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer,
-                  std::vector<Metin>& satirlar) {
+                  std::vector<Metin>& satirlar, std::size_t enCok) {
     while (!metin.empty()) {
+        if (satirlar.size() > enCok)
+            return;
         const std::size_t sigan = SiganHarf(metin, en, yazi, olcer);
         if (sigan >= metin.size())
             break;
@@ -81,12 +83,12 @@ double SatirBoyu(const SayfaYazisi& yazi) {
     return yazi.punto * kPunto * kSatirArasi;
 }
 
-std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi,
-                                const YaziOlcer& olcer) {
+std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer,
+                                std::size_t enCok) {
     std::vector<Metin> satirlar;
-    while (!metin.empty()) {
+    while (!metin.empty() && satirlar.size() <= enCok) {
         const std::size_t son = std::min(metin.find_first_of(u"\r\n"), metin.size());
-        ParagrafiBol(metin.substr(0, son), en, yazi, olcer, satirlar);
+        ParagrafiBol(metin.substr(0, son), en, yazi, olcer, satirlar, enCok);
         metin.remove_prefix(son);
         metin.remove_prefix(metin.starts_with(u"\r\n") ? 2U : metin.empty() ? 0U : 1U);
     }

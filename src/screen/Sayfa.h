@@ -70,7 +70,9 @@ double SatirBoyu(const SayfaYazisi& yazi);
 
 /// Breaks a text into lines that are no wider than `en`: at its line ends, else at blanks, else within a word
 /// that is too wide for a line of its own. Blanks at a break go, all else stays. An empty text has no line.
-std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer);
+/// It stops as soon as there are more than `enCok`: who asks then only wants to know that.
+std::vector<Metin> SatirlaraBol(MetinBakis metin, double en, const SayfaYazisi& yazi, const YaziOlcer& olcer,
+                                std::size_t enCok = MetinBakis::npos);
 
 /// The pages as text, one line for each part: its field, its place, its size, its colours where it isn't
 /// plain black, and its lines.

@@ -26,8 +26,10 @@ void FormAyarlar::Command4_Click() {
 void FormAyarlar::Command1_Click() {
     Program& p = program_;
     Command4_Click();
-    Yaz(kAyarDosyasi, ayarlar_, AlanBaytlari(AyarAlanlari()));
-    Yaz(kAyDosyasi, aylar_, AlanBaytlari(AyAlanlari()));
+    EylemleYap(p.dosyalar, u"Program ayarları", [this] {
+        Yaz(kAyarDosyasi, ayarlar_, AlanBaytlari(AyarAlanlari()));
+        Yaz(kAyDosyasi, aylar_, AlanBaytlari(AyAlanlari()));
+    });
     p.FormAyarlar.Bosalt();
 }
 

@@ -80,6 +80,7 @@ void FormMenuAyar::Kaydet_Click() {
     std::vector<SutunMetinleri> satirlar;
     for (const ListeSatiri& satir : Liste.satirlar)
         satirlar.push_back(satir.sutun);
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Menü kaydı");
     SatirlariYaz(program_.dosyalar, program_.agac.KokYolu(kMenuDosyasi), satirlar, koken_);
     Liste.secimDugmeleri.Ac(false);
 }

@@ -67,11 +67,13 @@ void FormSalonTanim::Ekle(const Metin& salon) {
     const auto tablo = program_.FormTablo.Tut();
     List1.ogeler.push_back(salon);
     tablo->Salon.ogeler.push_back(salon);
-    Kaydet_Click();
     const Metin yil = tablo->Sene.Metni();
-    program_.agac.KlasorHazirla(salon, yil);
-    for (int i = 1; i <= kSonrakiYillar; ++i)
-        program_.agac.KlasorHazirla(salon, SayiMetni(static_cast<long long>(SayisalDeger(yil)) + i));
+    EylemleYap(program_.dosyalar, u"Salon ekleme", [&] {
+        Kaydet_Click();
+        program_.agac.KlasorHazirla(salon, yil);
+        for (int i = 1; i <= kSonrakiYillar; ++i)
+            program_.agac.KlasorHazirla(salon, SayiMetni(static_cast<long long>(SayisalDeger(yil)) + i));
+    });
     if (tablo->Salon.ogeler.size() == 1)
         tablo->Salon.Sec(0);
 }
@@ -85,6 +87,7 @@ void FormSalonTanim::Command2_Click() {
     tablo->Salon.Sil(List1.secili);
     List1.Sil(List1.secili);
     tablo->Salon.Sec(0);
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Salon silme");
     Kaydet_Click();
 }
 

@@ -62,12 +62,15 @@ void FormSalonTanimAd::Command1_Click() {
     Program& p = program_;
     Text1.metin = KodaSigdir(BuyukBas(Text1.metin));
     const auto tablo = p.FormTablo.Tut();
-    DosyalariKopyala(p, Tag, Text1.metin, static_cast<long long>(SayisalDeger(tablo->Sene.Metni())));
+    const auto yil = static_cast<long long>(SayisalDeger(tablo->Sene.Metni()));
     const double sira = SayisalDeger(Label2.baslik);
     const auto tanim = p.FormSalonTanim.Tut();
     AdiDegistir(tanim->List1.ogeler, sira, Text1.metin);
     AdiDegistir(tablo->Salon.ogeler, sira, Text1.metin);
-    tanim->Kaydet_Click();
+    EylemleYap(p.dosyalar, u"Salon adı", [&] {
+        DosyalariKopyala(p, Tag, Text1.metin, yil);
+        tanim->Kaydet_Click();
+    });
     p.FormSalonTanimAd.Bosalt();
 }
 

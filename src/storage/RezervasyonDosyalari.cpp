@@ -136,10 +136,15 @@ bool OdemeHazirla(const Dosyalar& dosyalar, const Metin& yol) {
 bool RezervasyonTasi(const Dosyalar& dosyalar, const Metin& kaynak, const Metin& hedef) {
     if (!GunuVar(kaynak) || !GunuVar(hedef))
         return false;
-    // A copy that fails doesn't keep the source from being deleted.
-    for (const MetinBakis ek : kRezervasyonEkleri)
-        dosyalar.Kopyala(kaynak + Metin(ek), hedef + Metin(ek));
-    return RezervasyonSil(dosyalar, kaynak);
+    std::array<Kopyalanis, kRezervasyonEkleri.size()> kopyalar{};
+    for (std::size_t i = 0; i < kopyalar.size(); ++i)
+        kopyalar[i] =
+            dosyalar.Kopyala(kaynak + Metin(kRezervasyonEkleri[i]), hedef + Metin(kRezervasyonEkleri[i]));
+    // What has no copy stays where it is.
+    for (std::size_t i = 0; i < kopyalar.size(); ++i)
+        if (kopyalar[i] != Kopyalanis::Olmadi)
+            dosyalar.Sil(kaynak + Metin(kRezervasyonEkleri[i]));
+    return true;
 }
 
 bool RezervasyonSil(const Dosyalar& dosyalar, const Metin& yol) {

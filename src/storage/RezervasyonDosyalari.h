@@ -135,7 +135,8 @@ bool OdemeHazirla(const Dosyalar& dosyalar, const Metin& yol);
 
 // These two take the path of the main file and pass over each step that fails. False is a refusal alone.
 
-/// Copies the three files to the names of another day, then deletes them under the old ones.
+/// Copies the three files to the names of another day, then deletes those under the old ones that have come
+/// there.
 bool RezervasyonTasi(const Dosyalar& dosyalar, const Metin& kaynak, const Metin& hedef);
 bool RezervasyonSil(const Dosyalar& dosyalar, const Metin& yol);
 

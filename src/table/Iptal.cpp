@@ -17,9 +17,15 @@ void FormTablo::iptals_Click() {
     AnaDegerler kayit;
     AnaOku(program_.dosyalar, yol, kayit);
     program_.OlaylariIsle();
-    IptalSatiriEkle(kayit, sebep);
-    program_.OlaylariIsle();
-    RezervasyonSil(program_.dosyalar, yol);
+    {
+        const Dosyalar::Eylem eylem(program_.dosyalar, u"Rezervasyon iptali", [&] {
+            IptalSatiriEkle(kayit, sebep);
+            RezervasyonSil(program_.dosyalar, yol);
+        });
+        IptalSatiriEkle(kayit, sebep);
+        program_.OlaylariIsle();
+        RezervasyonSil(program_.dosyalar, yol);
+    }
     program_.OlaylariIsle();
     program_.OlaylariIsle();
     DegisikligiGoster();

@@ -71,6 +71,7 @@ void FormTablo::DuyuruKontrol_Tick() {
 
 void FormTablo::IstekleriAl(MetinBakis cevap) {
     if (!cevap.empty() && cevap != u"0") {
+        const Dosyalar::GunlukDisi gecici(program_.dosyalar);
         program_.dosyalar.Yaz(program_.agac.KokYolu(kIstekDosyasi), IstekBaytlari(cevap));
         YeniRezTimer.aralik = kIsaretYanipSonme;
         return;

@@ -37,8 +37,10 @@ void FormTablo::RezervasyonuTasi(const Metin& kaynakAdi, const Metin& hedefAdi) 
         return;
     const Metin salon = Salon.Metni();
     const Metin yil = Sene.Metni();
-    RezervasyonTasi(program_.dosyalar, program_.agac.GunYolu(salon, yil, kaynakAdi),
-                    program_.agac.GunYolu(salon, yil, hedefAdi));
+    EylemleYap(program_.dosyalar, u"Rezervasyon taşıma", [&] {
+        RezervasyonTasi(program_.dosyalar, program_.agac.GunYolu(salon, yil, kaynakAdi),
+                        program_.agac.GunYolu(salon, yil, hedefAdi));
+    });
 }
 
 void FormTablo::TasimaBitir() {

@@ -1,6 +1,7 @@
 #include "destek/Kullanici.h"
 
 #include <array>
+#include <utility>
 
 #include "access/FormSifre.h"
 #include "access/Splash.h"
@@ -12,19 +13,27 @@
 
 namespace velora::test {
 
-Kullanici::Kullanici(const GeciciAgac& agac, Gun bugun) : ortam(bugun), agac_(agac) {}
+Kullanici::Kullanici(std::filesystem::path kok, const std::filesystem::path& durum, Gun bugun)
+    : ortam(bugun), kok_(std::move(kok)) {
+    ortam.durumKlasoru = durum;
+}
+
+void Kullanici::YeniProgram() {
+    gecen_.clear();
+    program_.reset(); // two of them can't have one journal
+    program_ = std::make_unique<Program>(ortam.Ver(), kok_);
+}
 
 void Kullanici::ProgramiAc() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    YeniProgram();
+    program_->GunluguAc();
     program_->FormTablo.Tut();
     Boyutla(1280, 620);
     program_->FormTablo.Goster();
 }
 
 void Kullanici::Baslat() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    YeniProgram();
     const auto acilis = program_->Splash.Tut();
     acilis->Baslat();
     while (acilis->Timer1.aralik > 0)
@@ -32,8 +41,8 @@ void Kullanici::Baslat() {
 }
 
 void Kullanici::GirisiAc() {
-    gecen_.clear();
-    program_ = std::make_unique<Program>(ortam.Ver(), agac_.Kok());
+    YeniProgram();
+    program_->GunluguAc();
     program_->FormSifre.Goster();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <memory>
 
@@ -20,7 +21,9 @@ struct TabloGozu {
 /// A person at the desk: a program over a data tree, and the verbs of working with it. No toolkit is needed.
 class Kullanici {
   public:
-    Kullanici(const GeciciAgac& agac, Gun bugun);
+    Kullanici(const GeciciAgac& agac, Gun bugun) : Kullanici(agac.Kok(), agac.Disi() / "durum", bugun) {}
+    /// Over a folder that belongs to somebody else; `durum` is that of the journal, empty for none.
+    Kullanici(std::filesystem::path kok, const std::filesystem::path& durum, Gun bugun);
 
     /// Starts the program as its user does and lets the ladder of the start tick to its end, where it stands
     /// at the login; on a first run there is no ladder.
@@ -63,7 +66,8 @@ class Kullanici {
     SahteOrtam ortam;
 
   private:
-    const GeciciAgac& agac_;
+    void YeniProgram();
+    std::filesystem::path kok_;
     std::unique_ptr<Program> program_;
     std::map<Zamanlayici*, int> gecen_; // milliseconds since each timer's last tick
 };

@@ -82,6 +82,7 @@ Ortam SahteOrtam::Ver() {
     };
     ortam.olaylar.adimda = ortam.olaylar.isle;
     ortam.olaylar.bitti = [this] { return bitti; };
+    ortam.klasorler.durum = [this] { return durumKlasoru; };
     ortam.klasorler.yedek = [this] { return yedekKlasoru; };
     ortam.klasorler.izle = [this](const std::filesystem::path& klasor) { return Izle(klasor); };
     ortam.ayarlar.yaz = [this](MetinBakis bolum, MetinBakis anahtar, const Metin& deger) {

@@ -140,6 +140,7 @@ class SahteOrtam {
     int birakilanAktarim = 0;                          ///< how often one was given up, also behind its end
     std::vector<std::filesystem::path> calisanlar;     ///< programs that were to be started
     bool calisir = true;                               ///< the system can start them
+    std::filesystem::path durumKlasoru;                ///< where the journal is kept; empty: there is none
     std::filesystem::path yedekKlasoru = "yedekler";   ///< where backups go as long as nothing else is said
     std::vector<SaklananAyar> ayarlar;                 ///< kept, in their order
     std::filesystem::path izlenen;                     ///< the folder that is watched; empty: none

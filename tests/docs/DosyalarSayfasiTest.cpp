@@ -22,6 +22,7 @@
 #include "setup/FormMenuAyar.h"
 #include "storage/KodSayfasi.h"
 #include "storage/RezervasyonDosyalari.h"
+#include "storage/gunluk/GunlukKaydi.h"
 #include "table/FormTablo.h"
 
 namespace velora::test {
@@ -70,6 +71,21 @@ std::map<std::string, DosyaBolumu> SayfayiOku() {
     return bolumler;
 }
 
+/// The indented lines of a section, without what indents them.
+std::string GiritiliSatirlar(const std::string& bolum) {
+    constexpr std::string_view kGirinti = "    ";
+    std::ifstream sayfa(VELORA_DOCS "/dosyalar.md");
+    std::string simdiki;
+    std::string metin;
+    for (std::string satir; std::getline(sayfa, satir);) {
+        if (satir.starts_with("## "))
+            simdiki = satir.substr(3);
+        else if (simdiki == bolum && satir.starts_with(kGirinti))
+            metin += satir.substr(kGirinti.size()) + '\n';
+    }
+    return metin;
+}
+
 } // namespace
 
 class DosyalarSayfasi : public ::testing::Test {
@@ -87,6 +103,25 @@ TEST_F(DosyalarSayfasi, Each_example_holds_as_many_values_as_its_table_has_field
         EXPECT_EQ(okuyucu.Atla(1000), bolum.alanSayisi) << ad;
         EXPECT_GT(bolum.alanSayisi, 0) << ad;
     }
+}
+
+TEST_F(DosyalarSayfasi, The_example_of_the_journal_holds_whole_records) {
+    const std::string bayt = GiritiliSatirlar("The journal");
+    const std::string bas = GunlukBasi(u"/home/gul/Velora");
+    ASSERT_TRUE(bayt.starts_with(bas));
+    std::size_t konum = bas.size();
+    const auto eylem = KayitOku(bayt, konum);
+    ASSERT_TRUE(eylem);
+    EXPECT_EQ(*eylem,
+              GunlukKaydi(EylemKaydi{
+                  1,
+                  u"Salon ekleme",
+                  u"zeynep",
+                  u"2026-11-05 14:20:07",
+                  {{.yol = u"\\Gül\\2026\\Gider.dat", .once = {}, .sonra = ""},
+                   {.tur = EylemAdimi::Tur::Klasor, .yol = u"\\Gül\\2027", .once = {}, .sonra = {}}}}));
+    EXPECT_EQ(KayitOku(bayt, konum), GunlukKaydi(BittiKaydi{1}));
+    EXPECT_EQ(konum, bayt.size());
 }
 
 TEST_F(DosyalarSayfasi, Program_reads_the_examples_of_the_firms_files) {

@@ -14,6 +14,7 @@
 #include "maintenance/FormResmiTatilYukle.h"
 #include "platform/Ag.h"
 #include "platform/Sunucu.h"
+#include "qt/table/TabloPenceresi.h"
 
 using namespace velora;
 using namespace velora::test;

@@ -3,12 +3,12 @@
 #include <QComboBox>
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QTest>
 
 #include "gui/GuiProgram.h"
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/CokSatirKutusu.h"
 
 using namespace velora;
 
@@ -43,7 +43,7 @@ void Yapistir(Alan& alan, const QString& metin) {
     alan.paste();
 }
 
-void ImleciKoy(QPlainTextEdit& alan, int yer) {
+void ImleciKoy(CokSatirKutusu& alan, int yer) {
     QTextCursor imlec = alan.textCursor();
     imlec.setPosition(yer);
     alan.setTextCursor(imlec);
@@ -122,7 +122,7 @@ class MetinBaglamaTest : public QObject {
 
     void a_field_of_many_lines_takes_line_breaks_and_tabs() {
         MetinSahnesi sahne;
-        QPlainTextEdit alan(&sahne.pencere);
+        CokSatirKutusu alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         Yapistir(alan, QStringLiteral("a\r\nb\nc\td\u2028e"));
         QCOMPARE(sahne.Model(), QStringLiteral("a\r\nb\r\nc\td\r\ne"));
@@ -133,7 +133,7 @@ class MetinBaglamaTest : public QObject {
     void a_line_break_counts_twice_for_the_limit() {
         MetinSahnesi sahne;
         sahne.metin->enUzun = 5;
-        QPlainTextEdit alan(&sahne.pencere);
+        CokSatirKutusu alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         QTest::keyClick(&alan, Qt::Key_A);
         QTest::keyClick(&alan, Qt::Key_Return);
@@ -153,7 +153,7 @@ class MetinBaglamaTest : public QObject {
         MetinSahnesi sahne;
         sahne.metin->enUzun = 4;
         sahne.metin->metin = u"a\r\nb";
-        QPlainTextEdit alan(&sahne.pencere);
+        CokSatirKutusu alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         sahne.pencere.show();
         QVERIFY(QTest::qWaitForWindowActive(&sahne.pencere));
@@ -170,7 +170,7 @@ class MetinBaglamaTest : public QObject {
         const QString yuz = QStringLiteral("\U0001F600");
         MetinSahnesi sahne;
         QLineEdit satir(&sahne.pencere);
-        QPlainTextEdit satirlar(&sahne.pencere);
+        CokSatirKutusu satirlar(&sahne.pencere);
         sahne.baglayici.Bagla(satir, *sahne.metin);
         sahne.baglayici.Bagla(satirlar, *sahne.metin);
         for (QWidget* alan : {static_cast<QWidget*>(&satir), static_cast<QWidget*>(&satirlar)}) {
@@ -237,7 +237,7 @@ class MetinBaglamaTest : public QObject {
         MetinSahnesi sahne;
         const QString dosyadan = QStringLiteral("bir\riki\nüç\r\ndört\u00A0beş");
         sahne.metin->metin = MetinYap(dosyadan);
-        QPlainTextEdit alan(&sahne.pencere);
+        CokSatirKutusu alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         QCOMPARE(alan.toPlainText(), QStringLiteral("bir\niki\nüç\ndört beş"));
         QCOMPARE(sahne.Model(), dosyadan);
@@ -254,7 +254,7 @@ class MetinBaglamaTest : public QObject {
     void a_text_that_is_shown_otherwise_is_put_once() {
         MetinSahnesi sahne;
         sahne.metin->metin = u"bir\riki\u00A0üç";
-        QPlainTextEdit alan(&sahne.pencere);
+        CokSatirKutusu alan(&sahne.pencere);
         sahne.baglayici.Bagla(alan, *sahne.metin);
         alan.selectAll();
         Baglayici::HepsiniTazele();

@@ -44,7 +44,8 @@ QString Hata(const QDBusMessage& yanit) {
 
 Oturum::Oturum() : ortam_(QProcessEnvironment::systemEnvironment()) {
     const QString klasor = klasor_.path();
-    for (const char* ad : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
+    for (const char* ad :
+         {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         ortam_.insert(QString::fromLatin1(ad), klasor);
     for (const char* ad : {"DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS",
                            "DESKTOP_SESSION", "XDG_CURRENT_DESKTOP", "QT_SCALE_FACTOR", "NO_AT_BRIDGE"})

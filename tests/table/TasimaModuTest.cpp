@@ -264,7 +264,7 @@ TEST_F(TasimaModu, Scan_leaves_the_drag_flags_alone) {
     EXPECT_EQ(Suruklenebilen(), 1);
 }
 
-TEST_F(TasimaModu, Failed_copy_does_not_keep_the_source_from_being_deleted_on_purpose) {
+TEST_F(TasimaModu, A_file_whose_copy_failed_stays_where_it_is_and_the_next_start_brings_it_along) {
     UcDosyaKoy(u"20.06.2012 - Gündüz", "A");
     kullanici.ProgramiAc();
     kullanici.KomutSec(Komut::TasimaModuAc);
@@ -276,6 +276,12 @@ TEST_F(TasimaModu, Failed_copy_does_not_keep_the_source_from_being_deleted_on_pu
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/01.07.2012 - Gündüz"), "\"A\",\"Bolu\"\r\n");
     EXPECT_FALSE(agac.DosyaVar(u"Salon A/2012/01.07.2012 - Gündüz-Detay"));
     EXPECT_EQ(agac.Bayt(u"Salon A/2012/01.07.2012 - Gündüz-Odeme"), "A odeme");
+    const std::string detay = agac.Bayt(u"Salon A/2012/20.06.2012 - Gündüz-Detay");
+    EXPECT_EQ(detay, "A detay");
+    EXPECT_FALSE(agac.DosyaVar(u"Salon A/2012/20.06.2012 - Gündüz"));
+    EXPECT_FALSE(agac.DosyaVar(u"Salon A/2012/20.06.2012 - Gündüz-Odeme"));
+    kullanici.ProgramiAc();
+    EXPECT_EQ(agac.Bayt(u"Salon A/2012/01.07.2012 - Gündüz-Detay"), detay);
     DosyaYok(u"20.06.2012 - Gündüz");
 }
 

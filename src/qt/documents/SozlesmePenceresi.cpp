@@ -4,11 +4,11 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "documents/FormSozlesme.h"
 #include "qt/Baglayici.h"
+#include "qt/CokSatirKutusu.h"
 #include "qt/Yerlesimler.h"
 #include "screen/Program.h"
 
@@ -20,7 +20,7 @@ SozlesmePenceresi::SozlesmePenceresi(Program& program) : EkranPenceresi(program.
     SatirEkle<QLineEdit>(*form, QStringLiteral("Unvan"), Model().Unvan);
     SatirEkle<QComboBox>(*form, QStringLiteral("Sehir"), Model().Sehir);
     SatirEkle<QLineEdit>(*form, QStringLiteral("Baslik"), Model().Baslik);
-    SatirEkle<QPlainTextEdit>(*form, QStringLiteral("Sozlesme"), Model().Sozlesme);
+    SatirEkle<CokSatirKutusu>(*form, QStringLiteral("Sozlesme"), Model().Sozlesme);
     sutun->addLayout(form, 1);
     auto* ornek = DugmeYap({"Command1", &FormSozlesme::Command1, &FormSozlesme::Command1_Click});
     auto* pdf = DugmeYap({"Pdf", &FormSozlesme::Pdf, &FormSozlesme::Pdf_Click});

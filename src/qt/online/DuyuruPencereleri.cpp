@@ -1,12 +1,12 @@
 #include "qt/online/DuyuruPencereleri.h"
 
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "online/FormDuyurular.h"
 #include "online/FormOneri.h"
 #include "qt/Baglayici.h"
+#include "qt/CokSatirKutusu.h"
 #include "qt/Yerlesimler.h"
 #include "screen/Program.h"
 
@@ -14,7 +14,7 @@ namespace velora {
 
 DuyurularPenceresi::DuyurularPenceresi(Program& program) : EkranPenceresi(program.FormDuyurular.Tut()) {
     auto* sutun = SutunKur(*this);
-    sutun->addWidget(ParcaYap<QPlainTextEdit>(QStringLiteral("Text1"), Model().Text1), 1);
+    sutun->addWidget(ParcaYap<CokSatirKutusu>(QStringLiteral("Text1"), Model().Text1), 1);
     auto* kapat = DugmeYap({"Command1", &FormDuyurular::Command1, &FormDuyurular::Command1_Click});
     kapat->setDefault(true);
     IptalDugmesi(kapat);
@@ -28,7 +28,7 @@ OneriPenceresi::OneriPenceresi(Program& program) : EkranPenceresi(program.FormOn
     auto* sutun = SutunKur(*this);
     sutun->addWidget(YaziYap(QStringLiteral("Label2"), Model().Label2));
     const Baglayici::AlanIsleri isler{.degisti = Isle(&F::Aciklama_Change), .odakGitti = {}};
-    sutun->addWidget(ParcaYap<QPlainTextEdit>(QStringLiteral("Aciklama"), Model().Aciklama, isler), 1);
+    sutun->addWidget(ParcaYap<CokSatirKutusu>(QStringLiteral("Aciklama"), Model().Aciklama, isler), 1);
     sutun->addLayout(TamamIptal({"Command1", &F::Command1, &F::Command1_Click},
                                 {"Command2", &F::Command2, &F::Command2_Click}));
     resize(480, 320);

@@ -8,13 +8,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/CokSatirKutusu.h"
 #include "qt/Gorunum.h"
 #include "qt/Yerlesimler.h"
 #include "reservation/FormKayit.h"
@@ -78,7 +78,7 @@ QWidget* KayitPenceresi::AlanYap(int no) {
     if (!model.ogeler.empty())
         return ParcaYap<QComboBox>(ad, model);
     if (Icinde(kCokSatirlilar, no)) {
-        auto* kutu = ParcaYap<QPlainTextEdit>(ad, model);
+        auto* kutu = ParcaYap<CokSatirKutusu>(ad, model);
         kutu->setMinimumHeight(0);
         kutu->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // as high as its rows
         return kutu;
@@ -204,8 +204,8 @@ QWidget* KayitPenceresi::MenuSayfasi() {
     auto* sayfa = new QWidget;
     QVBoxLayout* sutun = SutunKur(*sayfa);
     auto* secim = ParcaYap<QComboBox>(QStringLiteral("Combo1"), Model().Combo1);
-    auto* metin = ParcaYap<QPlainTextEdit>(QStringLiteral("Label20"), Model().Label20);
-    auto* aciklama = ParcaYap<QPlainTextEdit>(QStringLiteral("Aciklamalar"), Model().Aciklamalar);
+    auto* metin = ParcaYap<CokSatirKutusu>(QStringLiteral("Label20"), Model().Label20);
+    auto* aciklama = ParcaYap<CokSatirKutusu>(QStringLiteral("Aciklamalar"), Model().Aciklamalar);
     sutun->addWidget(EtiketYap(QMetin(Model().Combo1.baslik), *secim));
     sutun->addWidget(secim);
     sutun->addWidget(metin, 1);

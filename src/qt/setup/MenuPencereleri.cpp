@@ -5,12 +5,12 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 
 #include "qt/Baglayici.h"
 #include "qt/Ceviri.h"
+#include "qt/CokSatirKutusu.h"
 #include "qt/Yerlesimler.h"
 #include "screen/Program.h"
 #include "setup/FormMenuAyar.h"
@@ -40,7 +40,7 @@ MenuEklePenceresi::MenuEklePenceresi(Program& program) : EkranPenceresi(program.
     const Baglayici::AlanIsleri isler{.degisti = Isle(&FormMenuEkle::Text1_Change), .odakGitti = {}};
     auto* ad = SatirEkle<QLineEdit>(*form, QStringLiteral("Text1"), Model().Text1, isler);
     ad->setMinimumWidth(kMenuAlaniEni);
-    SatirEkle<QPlainTextEdit>(*form, QStringLiteral("Text2"), Model().Text2);
+    SatirEkle<CokSatirKutusu>(*form, QStringLiteral("Text2"), Model().Text2);
     sutun->addLayout(form, 1);
     sutun->addLayout(TamamIptal({"Command4", &FormMenuEkle::Command4, &FormMenuEkle::Command4_Click},
                                 {"Command3", &FormMenuEkle::Command3, &FormMenuEkle::Command3_Click}));

@@ -101,7 +101,7 @@ void UyariPaneli::Tazele(const FormTablo& tablo) {
     RenkVer(*this, QPalette::Window, QRenk(model.zemin));
     const auto piksel = [](double twip) { return qRound(twip / kTwipPikseli); };
     // What the columns need comes before the model's width: a row is read without scrolling.
-    const int en = std::max(piksel(model.yer.genislik), SutunlarinEni());
+    const int en = std::max(piksel(model.yer.genislik), SutunlarinEni(tablo.Liste));
     const QSize boy = QSize(en, piksel(model.yer.yukseklik))
                           .expandedTo(minimumSizeHint())
                           .boundedTo(parentWidget()->size());
@@ -121,7 +121,15 @@ void UyariPaneli::Tazele(const FormTablo& tablo) {
         liste_->setFocus();
 }
 
-int UyariPaneli::SutunlarinEni() const {
+/// Measured once for the rows that stand: a refresh comes several times a second.
+int UyariPaneli::SutunlarinEni(const ListeGorunumu& model) {
+    if (olculen_ != model.satirlar.Degisme())
+        sutunlarinEni_ = SutunlariOlc();
+    olculen_ = model.satirlar.Degisme();
+    return sutunlarinEni_;
+}
+
+int UyariPaneli::SutunlariOlc() const {
     const QAbstractItemView& liste = *liste_;
     const QMargins kenar = layout()->contentsMargins();
     int en = kenar.left() + kenar.right() + 2 * (frameWidth() + liste_->frameWidth()) +

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include <QFrame>
 
 class QPushButton;
@@ -9,6 +12,7 @@ namespace velora {
 
 class Baglayici;
 struct FormTablo;
+struct ListeGorunumu;
 
 /// The panel of warnings over the table: the reservations that are near. It stands where the model says, and
 /// within the table. Its list has the focus when it comes, and the table when it goes.
@@ -28,11 +32,14 @@ class UyariPaneli : public QFrame {
     void Tazele(const FormTablo& tablo);
     void Gizle();
     /// The width in which all columns of the list are seen.
-    int SutunlarinEni() const;
+    int SutunlarinEni(const ListeGorunumu& model);
+    int SutunlariOlc() const;
 
     QTreeWidget* liste_;
     QPushButton* detaylar_;
     QPushButton* kapat_;
+    std::optional<std::uint64_t> olculen_; // the rows that `sutunlarinEni_` is of
+    int sutunlarinEni_ = 0;
 };
 
 } // namespace velora

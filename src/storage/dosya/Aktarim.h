@@ -89,8 +89,11 @@ bool HepsiniYaz(Dosya& dosya, std::uint64_t konum, std::string_view bayt) {
     return true;
 }
 
-/// Makes an old file hold the new text. At every moment it holds the old text, or the new one with line ends
-/// behind it. False when that can't be: then the old text stands again, as far as the file still takes it.
+/// Makes an old file hold the new text. At no moment is it empty. Where the system takes a write in one piece
+/// it holds the old text at every moment, or the new one with line ends behind it; a longer one, from some
+/// KiB on, a death can cut at a border of the system's pages, and what stands on the medium when the power
+/// goes nobody knows. False when that can't be: then the old text stands again, as far as the file still
+/// takes it.
 template <class Dosya>
 bool UzerineYaz(Dosya& dosya, std::string_view yeni) {
     const std::optional<std::uint64_t> boy = dosya.Boy();

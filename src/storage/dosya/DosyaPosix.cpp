@@ -11,6 +11,7 @@
 
 #include "storage/dosya/Aktarim.h"
 #include "storage/dosya/Dosyalar.h"
+#include "storage/dosya/Posix.h"
 #include "storage/dosya/Sistem.h"
 #include "storage/dosya/Utf8.h"
 
@@ -31,52 +32,6 @@ std::optional<std::filesystem::path> MetinYolu(MetinBakis metin) {
 
 namespace sistem {
 namespace {
-
-constexpr mode_t kDosyaHakki = 0666;
-constexpr mode_t kKlasorHakki = 0777;
-
-// A pipe must not stop us, nor a terminal become ours.
-constexpr int kHerAcilis = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-constexpr int kYeniDosya = O_WRONLY | O_CREAT | O_EXCL | kHerAcilis;
-
-int Bayraklar(Kip kip) {
-    if (kip == Kip::Yeni)
-        return kYeniDosya;
-    return (kip == Kip::Oku ? O_RDONLY : O_RDWR) | kHerAcilis;
-}
-
-/// Repeats a call that a signal broke off.
-template <class Cagri>
-auto Sabirla(Cagri cagri) {
-    auto sonuc = cagri();
-    while (sonuc < 0 && errno == EINTR)
-        sonuc = cagri();
-    return sonuc;
-}
-
-bool BuTur(Tur tur, const struct stat& bilgi) {
-    return tur == Tur::Dosya ? S_ISREG(bilgi.st_mode) : S_ISDIR(bilgi.st_mode);
-}
-
-int No(std::intptr_t tutamac) {
-    return static_cast<int>(tutamac);
-}
-
-/// Closes on every way out, also when a buffer can't grow.
-struct Tanitici {
-    int no;
-    explicit Tanitici(int acilan) : no(acilan) {}
-    Tanitici(const Tanitici&) = delete;
-    Tanitici& operator=(const Tanitici&) = delete;
-    ~Tanitici() {
-        if (no >= 0)
-            ::close(no);
-    }
-};
-
-std::optional<std::size_t> Adet(ssize_t sonuc) {
-    return sonuc < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(sonuc));
-}
 
 constexpr mode_t kHaklar = 07777;
 
@@ -102,63 +57,6 @@ bool BaytlariTasi(int kaynak, int hedef) {
 }
 
 } // namespace
-
-Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
-    const int no = Sabirla([&] { return ::open(yol.c_str(), Bayraklar(kip), kDosyaHakki); });
-    if (no < 0)
-        return errno == ENOENT || errno == ENOTDIR ? Acilis::Yok : Acilis::Olmadi;
-    tutamac_ = no;
-    struct stat bilgi {};
-    if (::fstat(no, &bilgi) == 0 && S_ISREG(bilgi.st_mode))
-        return Acilis::Acildi;
-    Kapat();
-    // Made just now, and of no use.
-    if (kip == Kip::Yeni)
-        ::unlink(yol.c_str());
-    return Acilis::Olmadi;
-}
-
-std::optional<std::uint64_t> AcikDosya::Boy() const {
-    struct stat bilgi {};
-    if (::fstat(No(tutamac_), &bilgi) != 0)
-        return {};
-    return static_cast<std::uint64_t>(bilgi.st_size);
-}
-
-std::optional<std::size_t> AcikDosya::Oku(std::uint64_t konum, char* hedef, std::size_t adet) {
-    return Adet(Sabirla([&] { return ::pread(No(tutamac_), hedef, adet, static_cast<off_t>(konum)); }));
-}
-
-std::size_t AcikDosya::Yaz(std::uint64_t konum, std::string_view bayt) {
-    const auto giden =
-        Sabirla([&] { return ::pwrite(No(tutamac_), bayt.data(), bayt.size(), static_cast<off_t>(konum)); });
-    return Adet(giden).value_or(0);
-}
-
-bool AcikDosya::YerAyir(std::uint64_t boy) {
-#ifdef FALLOC_FL_KEEP_SIZE
-    const auto ayir = [&] {
-        return ::fallocate(No(tutamac_), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(boy));
-    };
-    return Sabirla(ayir) == 0 || (errno != ENOSPC && errno != EDQUOT);
-#else
-    static_cast<void>(boy);
-    return true;
-#endif
-}
-
-bool AcikDosya::Kes(std::uint64_t boy) {
-    return Sabirla([&] { return ::ftruncate(No(tutamac_), static_cast<off_t>(boy)); }) == 0;
-}
-
-bool AcikDosya::Kapat() {
-    if (tutamac_ == kKapali)
-        return true;
-    const int sonuc = ::close(No(tutamac_));
-    tutamac_ = kKapali;
-    // After a signal the file is closed all the same.
-    return sonuc == 0 || errno == EINTR;
-}
 
 struct Klasor::Ic {
     DIR* akis = nullptr;
@@ -203,7 +101,7 @@ std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, st
     if (!Utf8Ekle(ad, ic_->ad))
         return {};
     const Tanitici dosya(
-        Sabirla([&] { return ::openat(::dirfd(ic_->akis), ic_->ad.c_str(), Bayraklar(Kip::Oku)); }));
+        Sabirla([&] { return ::openat(::dirfd(ic_->akis), ic_->ad.c_str(), kOkumaAcilisi); }));
     const int no = dosya.no;
     if (no < 0)
         return {};
@@ -344,7 +242,7 @@ struct Kopyaci::Ic {
 
     /// Whether the file stayed as it was meanwhile. Nothing when it can't be copied.
     std::optional<bool> BirKez(const char* ad) const {
-        const Tanitici okunan(Sabirla([&] { return ::openat(kaynak.no, ad, Bayraklar(Kip::Oku)); }));
+        const Tanitici okunan(Sabirla([&] { return ::openat(kaynak.no, ad, kOkumaAcilisi); }));
         struct stat once {};
         if (okunan.no < 0 || ::fstat(okunan.no, &once) != 0 || !S_ISREG(once.st_mode))
             return {};
@@ -385,14 +283,6 @@ bool Kopyaci::Kopyala(const std::filesystem::path& ad) const {
 bool Var(const std::filesystem::path& yol, Tur tur) {
     const auto bilgi = Bilgi(yol);
     return bilgi && bilgi->tur == tur;
-}
-
-bool DosyaSil(const std::filesystem::path& yol) {
-    return ::unlink(yol.c_str()) == 0;
-}
-
-bool KlasorYap(const std::filesystem::path& yol) {
-    return ::mkdir(yol.c_str(), kKlasorHakki) == 0;
 }
 
 } // namespace sistem

@@ -52,11 +52,30 @@ HANDLE Tutamac(std::intptr_t tutamac) {
     return reinterpret_cast<HANDLE>(tutamac);
 }
 
-HANDLE Ac(const std::wstring& yol, Kip kip) {
+DWORD Nasil(Kip kip) {
+    if (kip == Kip::Ozel)
+        return OPEN_ALWAYS;
+    return kip == Kip::Yeni || kip == Kip::Adsiz ? CREATE_NEW : OPEN_EXISTING;
+}
+
+HANDLE BirKezAc(const std::wstring& yol, Kip kip) {
     const DWORD hak = kip == Kip::Oku ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
     const DWORD paylasim = kip == Kip::Oku ? kHerkesle : FILE_SHARE_READ;
-    const DWORD nasil = kip == Kip::Yeni ? CREATE_NEW : OPEN_EXISTING;
-    return ::CreateFileW(yol.c_str(), hak, paylasim, nullptr, nasil, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return ::CreateFileW(yol.c_str(), hak, paylasim, nullptr, Nasil(kip), FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+/// Who writes shares the file with readers alone. Another program that does so is waited for.
+HANDLE Ac(const std::wstring& yol, Kip kip) {
+    constexpr DWORD kKilitAdimi = 5; // milliseconds
+    constexpr DWORD kKilitBeklemesi = 200;
+    HANDLE dosya = BirKezAc(yol, kip);
+    for (DWORD beklenen = 0; dosya == INVALID_HANDLE_VALUE && kip == Kip::Guncelle &&
+                             ::GetLastError() == ERROR_SHARING_VIOLATION && beklenen < kKilitBeklemesi;
+         beklenen += kKilitAdimi) {
+        ::Sleep(kKilitAdimi);
+        dosya = BirKezAc(yol, kip);
+    }
+    return dosya;
 }
 
 OVERLAPPED Konum(std::uint64_t konum) {
@@ -132,6 +151,14 @@ bool AcikDosya::YerAyir(std::uint64_t boy) {
 bool AcikDosya::Kes(std::uint64_t boy) {
     return ::SetFilePointerEx(Tutamac(tutamac_), Buyuk(boy), nullptr, FILE_BEGIN) != 0 &&
            ::SetEndOfFile(Tutamac(tutamac_)) != 0;
+}
+
+bool AcikDosya::AdVer(const std::filesystem::path& /*yol*/) {
+    return true; // it has had its name from the beginning
+}
+
+bool AcikDosya::Esitle() {
+    return ::FlushFileBuffers(Tutamac(tutamac_)) != 0;
 }
 
 bool AcikDosya::Kapat() {
@@ -307,6 +334,25 @@ bool DosyaSil(const std::filesystem::path& yol) {
 
 bool KlasorYap(const std::filesystem::path& yol) {
     return ::CreateDirectoryW(UzunYol(yol).c_str(), nullptr) != 0;
+}
+
+bool OzelKlasorYap(const std::filesystem::path& yol) {
+    // What lies in the user's own folders is his alone.
+    return KlasorYap(yol);
+}
+
+bool DosyaEsitle(const std::filesystem::path& yol) {
+    AcikDosya dosya;
+    const Acilis acilis = dosya.Ac(yol, Kip::Guncelle);
+    return acilis == Acilis::Yok || (acilis == Acilis::Acildi && dosya.Esitle());
+}
+
+bool AdlariEsitle(const std::filesystem::path& /*klasor*/) {
+    return true;
+}
+
+bool DiskiEsitle(const std::filesystem::path& /*klasor*/) {
+    return false;
 }
 
 } // namespace sistem

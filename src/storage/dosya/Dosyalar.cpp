@@ -1,34 +1,21 @@
 #include "storage/dosya/Dosyalar.h"
 
 #include <algorithm>
-#include <exception>
 #include <memory>
 
 #include "storage/dosya/AdListesi.h"
-#include "storage/dosya/Aktarim.h"
 #include "storage/dosya/KlasorBellegi.h"
+#include "storage/dosya/Sessiz.h"
 #include "storage/dosya/Sistem.h"
+#include "storage/dosya/Yazim.h"
 #include "storage/dosya/YazmaAkisi.h"
+#include "storage/gunluk/EylemDefteri.h"
 
 namespace velora {
 namespace {
 
-using sistem::AcikDosya;
-using sistem::Acilis;
-using sistem::Kip;
-
 // Folders that are kept at a time: of a search that stands open as many halls.
 constexpr std::size_t kEnCokBellek = 4;
-
-/// What a system throws is memory running out. That is a failed step as any other.
-template <class Is>
-auto Sessiz(Is is) noexcept -> decltype(is()) {
-    try {
-        return is();
-    } catch (const std::exception&) {
-        return decltype(is()){};
-    }
-}
 
 /// No system of the two takes these in a name, and a name of dots and blanks alone can mean another folder.
 bool AdUygun(MetinBakis ad) {
@@ -42,42 +29,6 @@ std::filesystem::path Mutlak(const std::filesystem::path& yol) {
     std::error_code hata;
     const auto mutlak = std::filesystem::absolute(yol, hata);
     return hata ? yol : mutlak;
-}
-
-/// Runs the work on the file, on a disk as narrow as the test wants it.
-template <class Is>
-bool Yerle(AcikDosya& dosya, const std::optional<std::size_t>& yer, Is is) {
-    if (!yer)
-        return is(dosya);
-    DarDosya<AcikDosya> dar(dosya, *yer);
-    return is(dar);
-}
-
-bool YeniYaz(const std::filesystem::path& yol, std::string_view bayt, const std::optional<std::size_t>& yer) {
-    AcikDosya dosya;
-    if (dosya.Ac(yol, Kip::Yeni) != Acilis::Acildi)
-        return false;
-    const bool yazildi = Yerle(dosya, yer, [&](auto& hedef) { return HepsiniYaz(hedef, 0, bayt); });
-    if (dosya.Kapat() && yazildi)
-        return true;
-    sistem::DosyaSil(yol);
-    return false;
-}
-
-/// Writes a file that is there with `is`, and makes one that isn't.
-template <class Is>
-bool EskiVeyaYeni(const std::filesystem::path& yol, std::string_view bayt,
-                  const std::optional<std::size_t>& yer, Is is) {
-    AcikDosya dosya;
-    switch (dosya.Ac(yol, Kip::Guncelle)) {
-    case Acilis::Acildi:
-        return Yerle(dosya, yer, is) && dosya.Kapat();
-    case Acilis::Yok:
-        return YeniYaz(yol, bayt, yer);
-    case Acilis::Olmadi:
-        break;
-    }
-    return false;
 }
 
 AdListesi AdlariAl(sistem::Klasor& klasor) {
@@ -97,7 +48,13 @@ Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), ko
         kok_.pop_back();
 }
 
+Dosyalar::~Dosyalar() = default;
+
 std::optional<std::filesystem::path> Dosyalar::Cevir(DosyaIsi is, const Metin& yol) const {
+    const bool yazar =
+        is == DosyaIsi::Yaz || is == DosyaIsi::Ekle || is == DosyaIsi::Kopyala || is == DosyaIsi::Sil;
+    if (okurken && !yazar)
+        okurken();
     if (ariza && ariza(is, yol))
         return {};
     const bool klasor = is == DosyaIsi::Listele || is == DosyaIsi::KlasorYap;
@@ -167,19 +124,13 @@ std::vector<Metin> Dosyalar::Listele(const Metin& klasor) const {
 OkumaSonucu Dosyalar::SonucluOku(const Metin& yol) const {
     return Sessiz([&]() -> OkumaSonucu {
         const auto p = Cevir(DosyaIsi::Oku, yol);
-        AcikDosya dosya;
-        const Acilis acilis = p ? dosya.Ac(*p, Kip::Oku) : Acilis::Olmadi;
-        if (acilis == Acilis::Yok && arama_.Tam())
-            return {.okunus = Okunus::Yok};
-        const auto boy = acilis == Acilis::Acildi ? dosya.Boy() : std::nullopt;
-        if (!boy || *boy > kEnUzunOkuma)
+        if (!p)
             return {};
-        std::string bayt(static_cast<std::size_t>(*boy) + 1, '\0');
-        const auto okunan = OkuHepsini(dosya, kEnUzunOkuma, bayt, static_cast<std::size_t>(*boy));
-        if (!okunan)
-            return {};
-        bayt.resize(*okunan);
-        return {.okunus = Okunus::Okundu, .bayt = std::move(bayt)};
+        const bool tam = arama_.Tam();
+        yazim::Okunan okunan = yazim::Oku(*p);
+        if (okunan.metin)
+            return {.okunus = Okunus::Okundu, .bayt = std::move(*okunan.metin)};
+        return {.okunus = okunan.okundu && tam ? Okunus::Yok : Okunus::Okunamadi};
     });
 }
 
@@ -266,6 +217,8 @@ void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const Ok
         const MetinBakis ad = okuma->Adlar()[i];
         if (istenen && !istenen(ad))
             continue;
+        if (okurken)
+            okurken();
         const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
             if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
                 return {};
@@ -273,36 +226,6 @@ void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const Ok
         });
         ver({ad, bayt.has_value(), bayt.value_or(std::string_view())});
     }
-}
-
-bool Dosyalar::Yaz(const Metin& yol, std::string_view bayt) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Yaz, yol);
-        return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return UzerineYaz(dosya, bayt); });
-    });
-}
-
-bool Dosyalar::Yarat(const Metin& yol, std::string_view bayt) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Yaz, yol);
-        return p && YeniYaz(*p, bayt, bosYer);
-    });
-}
-
-bool Dosyalar::Ekle(const Metin& yol, std::string_view bayt) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Ekle, yol);
-        return p && EskiVeyaYeni(*p, bayt, bosYer, [&](auto& dosya) { return SonunaYaz(dosya, bayt); });
-    });
-}
-
-bool Dosyalar::Kopyala(const Metin& kaynak, const Metin& hedef) const {
-    return Sessiz([&] {
-        if (!Cevir(DosyaIsi::Kopyala, hedef))
-            return false;
-        const auto bayt = Oku(kaynak);
-        return bayt && Yaz(hedef, *bayt);
-    });
 }
 
 std::unique_ptr<YazmaAkisi> Dosyalar::AkisAc(const Metin& yol, std::uint64_t konum) const {
@@ -326,20 +249,6 @@ std::optional<std::uint64_t> Dosyalar::BosAlan(const Metin& yol) const {
             p = p->parent_path();
         const auto alan = p ? std::filesystem::space(*p, hata) : std::filesystem::space_info{};
         return p && !hata ? std::optional<std::uint64_t>(alan.available) : std::nullopt;
-    });
-}
-
-bool Dosyalar::Sil(const Metin& yol) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::Sil, yol);
-        return p && sistem::DosyaSil(*p);
-    });
-}
-
-bool Dosyalar::KlasorYap(const Metin& yol) const {
-    return Sessiz([&] {
-        const auto p = Cevir(DosyaIsi::KlasorYap, yol);
-        return p && sistem::KlasorYap(*p);
     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -17,8 +18,11 @@ namespace velora {
 /// The separator of the paths inside the system. The file module turns it into the one of the machine.
 inline constexpr char16_t kAyrac = u'\\';
 
+class EylemDefteri;
 class KlasorBellegi;
 class YazmaAkisi;
+struct Degisiklik;
+struct EylemSahibi;
 
 namespace sistem {
 enum class Tur;
@@ -40,6 +44,9 @@ struct OkumaSonucu {
 
 enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 
+/// What came of a copy. A source that isn't there is no failure: there is nothing to copy.
+enum class Kopyalanis { Olmadi, KaynakYok, Oldu };
+
 /// The one door to the disk. Every path is a text: the root, then names with a backslash before each. A path
 /// that doesn't lie below the root is refused: it must begin with the root, and none of its names may be "."
 /// or "..", or hold a character that a name can't hold on any of the systems the program runs on, such as
@@ -57,6 +64,47 @@ enum class DosyaIsi { VarMi, Listele, Oku, Yaz, Ekle, Kopyala, Sil, KlasorYap };
 class Dosyalar {
   public:
     explicit Dosyalar(const std::filesystem::path& kok);
+    ~Dosyalar();
+
+    /// Opens the journal of this tree in that folder (storage/gunluk/Gunluk) and completes what a death has
+    /// cut through in an earlier run. From then on all that is written, appended, copied, deleted and made
+    /// here stands in it first. Where none can be had, all goes on as without.
+    void GunluguAc(const std::filesystem::path& klasor, EylemSahibi sahip);
+
+    /// One action of a user, as long as this stands: the journal takes it as a whole, and a start after a
+    /// death completes it or finds nothing of it. `ad` says what it is, in the user's words.
+    ///
+    /// `adimlar`, where it is known beforehand what will be written, makes the same calls as the handler
+    /// does, and nothing else: while it runs, they touch nothing and tell the journal what is to come, so
+    /// that one sync is enough for all. What comes otherwise then costs one each.
+    class Eylem {
+      public:
+        Eylem(const Dosyalar& dosyalar, const Metin& ad, const std::function<void()>& adimlar = {});
+        Eylem(const Eylem&) = delete;
+        Eylem& operator=(const Eylem&) = delete;
+        ~Eylem();
+
+      private:
+        EylemDefteri* defter_;
+    };
+
+    /// As long as one stands, the journal takes no notice: for what can be made or fetched anew at any time.
+    class GunlukDisi {
+      public:
+        explicit GunlukDisi(const Dosyalar& dosyalar);
+        GunlukDisi(const GunlukDisi&) = delete;
+        GunlukDisi& operator=(const GunlukDisi&) = delete;
+        ~GunlukDisi();
+
+      private:
+        EylemDefteri* defter_;
+    };
+
+    /// For tests and measurements: waits until all that was written stands on the medium and is marked in
+    /// the journal, a time at most.
+    bool GunluguBekle() const;
+    /// For measurements: how long the handlers have waited for the medium so far.
+    std::chrono::nanoseconds GunlukBeklemesi() const;
 
     /// The root, without a separator at its end.
     const Metin& Kok() const { return kok_; }
@@ -104,7 +152,9 @@ class Dosyalar {
     /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
     /// new one goes over it in a single write, filled up with line ends to the old length, and then the file
     /// is cut to its length. Room on the disk is taken beforehand where the system can do that; when there is
-    /// none, the old text stays. A new file whose text can't be put down is removed again. False on failure.
+    /// none, the old text stays. A new file appears whole under its name where the system can do that; one
+    /// whose text can't be put down is removed again. Another program that writes over the same file is
+    /// waited for, a fifth of a second at most. False on failure.
     bool Yaz(const Metin& yol, std::string_view bayt) const;
 
     /// Makes a file that isn't there yet, as `Yaz` does. False, and nothing is changed, where one is there,
@@ -115,9 +165,9 @@ class Dosyalar {
     /// the file gets its old length back.
     bool Ekle(const Metin& yol, std::string_view bayt) const;
 
-    /// Copies a file over another, with the care of `Yaz`. False when the source can't be read. `ariza` is
-    /// asked for the copy with the target's path, then for the reading and the writing in it.
-    bool Kopyala(const Metin& kaynak, const Metin& hedef) const;
+    /// Copies a file over another, with the care of `Yaz`. `ariza` is asked for the copy with the target's
+    /// path, then for the reading and the writing in it.
+    Kopyalanis Kopyala(const Metin& kaynak, const Metin& hedef) const;
 
     /// Opens a file to be written piece by piece, from `konum` on (storage/dosya/YazmaAkisi). Null when it
     /// can't be. `ariza` is asked for a writing here and at each piece; the stream must not outlive this.
@@ -126,6 +176,7 @@ class Dosyalar {
     /// Bytes that the disk of a path still has room for, there or not. Nothing when that can't be told.
     std::optional<std::uint64_t> BosAlan(const Metin& yol) const;
 
+    /// False when it can't be removed, also when it isn't there.
     bool Sil(const Metin& yol) const;
 
     /// Makes one folder, the last name of the path. False when it can't, also when it is there already.
@@ -144,6 +195,9 @@ class Dosyalar {
     /// For tests: how many folders were listed to find a name that isn't there to the letter.
     std::size_t AramadaListelenen() const { return arama_.Listelenen(); }
 
+    /// Runs before each file that is read or asked for, and before each folder. It works on no file.
+    std::function<void()> okurken;
+
     /// For tests: asked before each piece of work; where it says true, that work fails as it would on a bad
     /// disk.
     std::function<bool(DosyaIsi, const Metin& yol)> ariza;
@@ -153,17 +207,26 @@ class Dosyalar {
   private:
     std::optional<std::filesystem::path> Bul(const Metin& yol, sistem::Tur tur) const;
     std::optional<std::filesystem::path> Cevir(DosyaIsi is, const Metin& yol) const;
+    template <class Yap>
+    bool Adim(DosyaIsi is, const Metin& yol, const Degisiklik& degisiklik, Yap yap) const;
     struct Okuma;
     std::unique_ptr<Okuma> OkumaBasla(const std::filesystem::path& yol) const;
     std::shared_ptr<KlasorBellegi> Bellek(const std::filesystem::path& yol) const;
 
     std::filesystem::path kokYolu_;
     Metin kok_;
-    mutable AdArama arama_; // remembers listings
+    std::unique_ptr<EylemDefteri> defter_; // none: there is no journal
+    mutable AdArama arama_;                // remembers listings
     mutable std::size_t okunan_ = 0;
     mutable int hatirlayan_ = 0; // that stand
     mutable std::vector<std::shared_ptr<KlasorBellegi>> bellekler_;
 };
+
+/// An action whose steps are known beforehand and follow each other at once: plans them, then makes them.
+inline void EylemleYap(const Dosyalar& dosyalar, const Metin& ad, const std::function<void()>& adimlar) {
+    const Dosyalar::Eylem eylem(dosyalar, ad, adimlar);
+    adimlar();
+}
 
 /// True when two names, in the form that listings give them, are the same but for their case.
 bool AyniAd(MetinBakis bir, MetinBakis iki);

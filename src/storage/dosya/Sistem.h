@@ -19,7 +19,10 @@ namespace velora::sistem {
 enum class Kip {
     Oku,      ///< reading
     Guncelle, ///< reading and writing over a file that is there
-    Yeni      ///< writing a file that isn't there yet
+    Yeni,     ///< writing a file that isn't there yet
+    Adsiz,    ///< the same, but where the system can do that the file has its name only from `AdVer` on
+    Ozel      ///< reading and writing for the owner alone; it is made when missing, and this process has it
+              ///< for itself as long as it is open
 };
 
 /// What a name in a folder may stand for; all else counts as nothing.
@@ -35,7 +38,15 @@ class AcikDosya {
     AcikDosya& operator=(const AcikDosya&) = delete;
     ~AcikDosya() { Kapat(); }
 
+    /// A file that is written over is locked against other programs that write so. One that stays locked is
+    /// waited for, a fifth of a second at most, and then opened all the same where the system allows it.
     Acilis Ac(const std::filesystem::path& yol, Kip kip);
+
+    /// Gives a file of `Kip::Adsiz` its name. False when something of this name is there by now, or it can't
+    /// be: then no file is left.
+    bool AdVer(const std::filesystem::path& yol);
+    /// Whether it has been opened without one.
+    bool Adsiz() const { return adsiz_; }
 
     std::optional<std::uint64_t> Boy() const;
 
@@ -52,12 +63,16 @@ class AcikDosya {
     /// Cuts the file to this length.
     bool Kes(std::uint64_t boy);
 
+    /// Waits until what was written stands on the medium. False when that can't be said.
+    bool Esitle();
+
     /// False when the system took back what it had promised.
     bool Kapat();
 
   private:
     static constexpr std::intptr_t kKapali = -1;
     std::intptr_t tutamac_ = kKapali;
+    bool adsiz_ = false;
 };
 
 /// A folder that is listed, and whose files are then read by name.
@@ -159,5 +174,19 @@ class Kopyaci {
 bool Var(const std::filesystem::path& yol, Tur tur);
 bool DosyaSil(const std::filesystem::path& yol);
 bool KlasorYap(const std::filesystem::path& yol);
+
+/// The same for a folder that is for its owner alone.
+bool OzelKlasorYap(const std::filesystem::path& yol);
+
+/// Waits until the bytes of a file stand on the medium. True also when it isn't there any more.
+bool DosyaEsitle(const std::filesystem::path& yol);
+
+/// Waits until the names in a folder stand on the medium. True also when it isn't there any more, and where
+/// the system keeps names by itself.
+bool AdlariEsitle(const std::filesystem::path& klasor);
+
+/// Waits until all that was written to the disk of this folder stands on the medium. False where the system
+/// can't be asked for that.
+bool DiskiEsitle(const std::filesystem::path& klasor);
 
 } // namespace velora::sistem

@@ -276,7 +276,7 @@ std::string KitapBasi(std::size_t sayfaSayisi) {
 
 } // namespace
 
-std::string XlsYaz(const XlsTablosu& tablo) {
+std::string XlsYaz(const XlsTablosu& tablo, const std::function<void()>& arada) {
     XlsMetinleri metinler;
     std::vector<std::string> sayfalar;
     std::span<const std::span<const Metin>> kalan = tablo.satirlar;
@@ -284,6 +284,7 @@ std::string XlsYaz(const XlsTablosu& tablo) {
         const std::size_t adet = std::min(kalan.size(), kEnCokSatir - 1);
         sayfalar.push_back(XlsSayfasi(tablo, metinler).Yaz(kalan.first(adet), sayfalar.empty()));
         kalan = kalan.subspan(adet);
+        arada();
     } while (!kalan.empty());
 
     std::string akis = KitapBasi(sayfalar.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -22,7 +23,8 @@ struct XlsTablosu {
 /// Every cell is a text, also one that looks like a formula, a date or a number; in the columns named above a
 /// text is a number when `DuzSayi` says so. Texts are cut as `XlsMetni` tells. What doesn't fit into the
 /// 65,536 rows of a sheet goes on in the next one, under the headings again. Columns behind the 256th are
-/// left out.
-std::string XlsYaz(const XlsTablosu& tablo);
+/// left out. `arada` runs behind each sheet.
+std::string XlsYaz(
+    const XlsTablosu& tablo, const std::function<void()>& arada = [] {});
 
 } // namespace velora

@@ -56,7 +56,7 @@ TEST(AdArama, Every_piece_of_work_finds_a_file_in_any_of_the_three_forms) {
         EXPECT_TRUE(d.Ekle(aranan, "+"));
         EXPECT_EQ(d.Oku(aranan), "yeni+");
         EXPECT_EQ(d.SistemYolu(aranan), yol);
-        EXPECT_TRUE(d.Kopyala(aranan, kok.TamYol(u"Gül\\kopya")));
+        EXPECT_EQ(d.Kopyala(aranan, kok.TamYol(u"Gül\\kopya")), Kopyalanis::Oldu);
         EXPECT_EQ(kok.Bayt(u"Gül/kopya"), "yeni+");
         EXPECT_TRUE(d.Sil(aranan));
         EXPECT_FALSE(std::filesystem::exists(yol));

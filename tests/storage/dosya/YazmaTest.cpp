@@ -119,9 +119,9 @@ TEST(DosyalarKopyala, Makes_the_target_hold_the_bytes_of_the_source) {
     const DosyaAgaci kok;
     kok.Koy(u"a", kSonraki);
     kok.Koy(u"b", std::string(500, 'x'));
-    EXPECT_TRUE(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"b")));
-    EXPECT_TRUE(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"c")));
-    EXPECT_TRUE(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"a")));
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"b")), Kopyalanis::Oldu);
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"c")), Kopyalanis::Oldu);
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"a")), Kopyalanis::Oldu);
     for (const MetinBakis ad : {u"a", u"b", u"c"})
         EXPECT_EQ(kok.Oku(ad), kSonraki);
 }
@@ -129,8 +129,8 @@ TEST(DosyalarKopyala, Makes_the_target_hold_the_bytes_of_the_source) {
 TEST(DosyalarKopyala, A_missing_source_leaves_the_target_as_it_was) {
     const DosyaAgaci kok;
     kok.Koy(u"b", kOnceki);
-    EXPECT_FALSE(kok.dosyalar.Kopyala(kok.TamYol(u"yok"), kok.TamYol(u"b")));
-    EXPECT_FALSE(kok.dosyalar.Kopyala(kok.TamYol(u"yok"), kok.TamYol(u"c")));
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"yok"), kok.TamYol(u"b")), Kopyalanis::KaynakYok);
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"yok"), kok.TamYol(u"c")), Kopyalanis::KaynakYok);
     EXPECT_EQ(kok.Oku(u"b"), kOnceki);
     EXPECT_FALSE(kok.Var(u"c"));
 }
@@ -165,13 +165,13 @@ TEST(DosyalarAriza, Each_piece_of_work_can_be_made_to_fail) {
     EXPECT_TRUE(kok.dosyalar.Listele(kok.dosyalar.Kok()).empty());
     bozuk = DosyaIsi::Oku;
     EXPECT_FALSE(kok.dosyalar.Oku(kok.TamYol(u"a")));
-    EXPECT_FALSE(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"b")));
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"b")), Kopyalanis::Olmadi);
     bozuk = DosyaIsi::Yaz;
     EXPECT_FALSE(kok.dosyalar.Yaz(kok.TamYol(u"a"), kSonraki));
     bozuk = DosyaIsi::Ekle;
     EXPECT_FALSE(kok.dosyalar.Ekle(kok.TamYol(u"a"), kSonraki));
     bozuk = DosyaIsi::Kopyala;
-    EXPECT_FALSE(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"b")));
+    EXPECT_EQ(kok.dosyalar.Kopyala(kok.TamYol(u"a"), kok.TamYol(u"b")), Kopyalanis::Olmadi);
     bozuk = DosyaIsi::Sil;
     EXPECT_FALSE(kok.dosyalar.Sil(kok.TamYol(u"a")));
     bozuk = DosyaIsi::KlasorYap;

@@ -15,8 +15,8 @@ bool HepsiReddetti(const Dosyalar& dosyalar, const Metin& yol) {
     dosyalar.KlasoruOku(yol, [&](const Dosyalar::OkunanDosya&) { okundu = true; });
     return !okundu && dosyalar.Listele(yol).empty() && !dosyalar.VarMi(yol) && !dosyalar.Oku(yol) &&
            !dosyalar.Yaz(yol, "x") && !dosyalar.Ekle(yol, "x") && !dosyalar.KlasorYap(yol) &&
-           !dosyalar.Kopyala(dosyalar.Kok() + u"\\kaynak", yol) &&
-           !dosyalar.Kopyala(yol, dosyalar.Kok() + u"\\hedef") && !dosyalar.Sil(yol);
+           dosyalar.Kopyala(dosyalar.Kok() + u"\\kaynak", yol) == Kopyalanis::Olmadi &&
+           dosyalar.Kopyala(yol, dosyalar.Kok() + u"\\hedef") == Kopyalanis::Olmadi && !dosyalar.Sil(yol);
 }
 
 std::size_t GirisSayisi(const std::filesystem::path& klasor) {
