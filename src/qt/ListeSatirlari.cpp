@@ -43,7 +43,7 @@ class GorunenSatir : public QTreeWidgetItem {
         case Qt::FontRole:
             return Yazi(satir.kalin);
         default:
-            return {};
+            return QTreeWidgetItem::data(sutun, rol); // what somebody put on the row itself
         }
     }
 

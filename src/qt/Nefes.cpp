@@ -1,5 +1,6 @@
 #include "qt/Nefes.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>

@@ -130,6 +130,7 @@ class BuyukVeriTest : public QObject {
         SatirSahnesi sahne;
         sahne.model->satirlar.erase(0);
         QCOMPARE(sahne.liste.topLevelItem(1)->text(0), QString());
+        QCOMPARE(sahne.liste.topLevelItem(1)->textAlignment(1), 0);
         Baglayici::HepsiniTazele();
         QCOMPARE(sahne.liste.topLevelItemCount(), 1);
         QCOMPARE(sahne.liste.topLevelItem(0)->text(0), QStringLiteral("03.04.2026"));
