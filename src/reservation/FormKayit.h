@@ -123,6 +123,7 @@ struct FormKayit {
     void AlanaDon(int no, const Metin& mesaj);
     void BasliklariKoy();
     void DosyalariYaz();
+    bool SayacYazilir() const;
     void KlasoruYap() const;
     void KlasoruVeKayitlariYaz();
     Metin AnaYolu() const;

@@ -82,7 +82,7 @@ void FormKayit::Command1_Click() {
 /// The journal knows beforehand what the fields say now. What changes in them while events run costs it more.
 void FormKayit::DosyalariYaz() {
     const Program& p = program_;
-    const bool sayac = KayitAc == 0 && program_.FormAyarlar->Check7.deger == 0;
+    const bool sayac = SayacYazilir();
     const Dosyalar::Eylem eylem(p.dosyalar, kEylemAdi, [&] {
         KlasoruYap();
         AnaYaz(p.dosyalar, AnaYolu(), Ana(), anaKoken);
@@ -94,9 +94,13 @@ void FormKayit::DosyalariYaz() {
     KlasoruVeKayitlariYaz();
     Kaydet();
     p.OlaylariIsle();
-    if (KayitAc == 0 && program_.FormAyarlar->Check7.deger == 0)
+    if (SayacYazilir())
         SayaciYaz();
     p.OlaylariIsle();
+}
+
+bool FormKayit::SayacYazilir() const {
+    return KayitAc == 0 && program_.FormAyarlar->Check7.deger == 0;
 }
 
 void FormKayit::Command11() {

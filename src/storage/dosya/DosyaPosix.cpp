@@ -44,15 +44,18 @@ std::optional<OgeBilgisi> Bilgi(const struct stat& bilgi) {
                       bilgi.st_mtim.tv_sec * kSaniye + bilgi.st_mtim.tv_nsec, bilgi.st_mode & kHaklar};
 }
 
-/// A short file in one piece: what is written to as a whole is read as one.
-bool BaytlariTasi(int kaynak, int hedef) {
+/// A short file in one piece: what is written to as a whole is read as one. A read that comes short of the
+/// length, which is known, isn't the end.
+bool BaytlariTasi(int kaynak, int hedef, off_t boy) {
     static std::array<char, kOkumaTamponu> tampon;
+    off_t tasinan = 0;
     ssize_t gelen = 0;
     do {
         gelen = Sabirla([&] { return ::read(kaynak, tampon.data(), tampon.size()); });
         if (gelen < 0 || ::write(hedef, tampon.data(), static_cast<std::size_t>(gelen)) != gelen)
             return false;
-    } while (gelen == static_cast<ssize_t>(tampon.size()));
+        tasinan += gelen;
+    } while (gelen == static_cast<ssize_t>(tampon.size()) || (gelen > 0 && tasinan < boy));
     return true;
 }
 
@@ -250,7 +253,7 @@ struct Kopyaci::Ic {
         const int yeni = ac();
         // A crash, or the try before, may have left one.
         const Tanitici yazilan(yeni < 0 && ::unlinkat(hedef.no, gecici.c_str(), 0) == 0 ? ac() : yeni);
-        if (yazilan.no < 0 || !BaytlariTasi(okunan.no, yazilan.no))
+        if (yazilan.no < 0 || !BaytlariTasi(okunan.no, yazilan.no, once.st_size))
             return {};
         // Not every disk keeps rights or times: the bytes come first.
         const std::array<timespec, 2> zamanlar{once.st_atim, once.st_mtim};
