@@ -1,10 +1,9 @@
 #include <cerrno>
-#include <chrono>
+#include <ctime>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 #include "storage/dosya/Posix.h"
@@ -18,8 +17,8 @@ constexpr mode_t kOzelDosyaHakki = 0600;
 constexpr mode_t kOzelKlasorHakki = 0700;
 
 // Another program that writes over the same file has done so long before.
-constexpr std::chrono::milliseconds kKilitBeklemesi{200};
-constexpr std::chrono::milliseconds kKilitAdimi{5};
+constexpr int kKilitBeklemesi = 200; // milliseconds
+constexpr int kKilitAdimi = 5;
 
 int Bayraklar(Kip kip) {
     switch (kip) {
@@ -52,12 +51,14 @@ int AdsizAc(const std::filesystem::path& yol) {
 }
 
 /// False when another program has it, and keeps it for that long. A disk that knows no locks has none.
-bool Kilitle(int no, std::chrono::milliseconds enCok) {
-    std::chrono::milliseconds beklenen{0};
+bool Kilitle(int no, int enCok) {
+    constexpr long kNanosaniye = 1'000'000;
+    const timespec adim{0, kKilitAdimi * kNanosaniye};
+    int beklenen = 0;
     while (::flock(no, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         if (beklenen >= enCok)
             return false;
-        std::this_thread::sleep_for(kKilitAdimi);
+        ::nanosleep(&adim, nullptr);
         beklenen += kKilitAdimi;
     }
     return true;
@@ -72,7 +73,7 @@ Acilis Uydur(int no, Kip kip) {
         return Acilis::Olmadi;
     if (kip == Kip::Guncelle && bilgi.st_nlink == 0)
         return Acilis::Yok;
-    if (kip == Kip::Ozel && (!Kilitle(no, {}) || ::fchmod(no, kOzelDosyaHakki) != 0))
+    if (kip == Kip::Ozel && (!Kilitle(no, 0) || ::fchmod(no, kOzelDosyaHakki) != 0))
         return Acilis::Olmadi;
     return Acilis::Acildi;
 }
