@@ -63,8 +63,6 @@ void DiskModeli::Esle(const KayitliCagri& cagri) {
 bool DiskModeli::Uygula(const KayitliCagri& cagri) {
     if (cagri.bas.hata != 0)
         return false;
-    const std::string& yol = cagri.yol;
-    const std::string& hedef = cagri.hedef;
     const auto govde = acik_.find(cagri.bas.seri);
     switch (cagri.bas.cagri) {
     case Cagri::Ac:
@@ -81,6 +79,20 @@ bool DiskModeli::Uygula(const KayitliCagri& cagri) {
         govde->second->kirli = std::min<std::size_t>(govde->second->kirli, cagri.bas.konum);
         govde->second->simdi.resize(cagri.bas.konum);
         return true;
+    case Cagri::Esle:
+    case Cagri::HepsiniEsle:
+        Esle(cagri);
+        return true;
+    default:
+        return AdlariUygula(cagri);
+    }
+}
+
+bool DiskModeli::AdlariUygula(const KayitliCagri& cagri) {
+    const std::string& yol = cagri.yol;
+    const std::string& hedef = cagri.hedef;
+    const auto govde = acik_.find(cagri.bas.seri);
+    switch (cagri.bas.cagri) {
     case Cagri::Sil:
         AdDegistir(yol, simdi_[yol], [yol](Adlar& adlar) { adlar.erase(yol); });
         return true;
@@ -101,10 +113,6 @@ bool DiskModeli::Uygula(const KayitliCagri& cagri) {
         AdDegistir(hedef, bagli, [hedef, bagli](Adlar& adlar) { adlar[hedef] = bagli; });
         return true;
     }
-    case Cagri::Esle:
-    case Cagri::HepsiniEsle:
-        Esle(cagri);
-        return true;
     default:
         return false;
     }
@@ -148,8 +156,8 @@ DiskHali DiskModeli::Hal(const Adlar& adlar, const std::map<GovdeNo, std::string
         const bool durumda = yol.starts_with(durumKoku_);
         const std::string ad = yol.substr((durumda ? durumKoku_ : agacKoku_).size());
         const auto icerik = icerikler.find(govde);
-        std::string bayt = govde ? govde->kalici : std::string();
-        (durumda ? hal.durum : hal.agac)[ad] = icerik == icerikler.end() ? std::move(bayt) : icerik->second;
+        const std::string bayt = govde ? govde->kalici : std::string();
+        (durumda ? hal.durum : hal.agac)[ad] = icerik == icerikler.end() ? bayt : icerik->second;
     }
     return hal;
 }
@@ -207,6 +215,7 @@ void DiskModeli::AdHalindeki(const Adlar& adlar, std::size_t enCok,
             haller.push_back(Halleri(*govde));
         }
     std::vector<std::size_t> adetler;
+    adetler.reserve(haller.size());
     for (const auto& biri : haller)
         adetler.push_back(biri.size());
     for (const auto& birlesim : Birlesimler(adetler, enCok)) {

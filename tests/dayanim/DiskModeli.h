@@ -49,6 +49,7 @@ class DiskModeli {
     };
 
     void AdDegistir(const std::string& yol, GovdeNo govde, std::function<void(Adlar&)> uygula);
+    bool AdlariUygula(const KayitliCagri& cagri);
     void Ac(const KayitliCagri& cagri);
     void Esle(const KayitliCagri& cagri);
     static std::vector<std::string> Halleri(const Govde& govde);

@@ -51,7 +51,7 @@ std::string DiskKur(const std::filesystem::path& yer) {
 }
 
 struct Deneme {
-    bool durumDa; ///< the journal is on that disk, too
+    bool durumDa = false; ///< the journal is on that disk, too
     bool sigdi = false;
 };
 
@@ -118,10 +118,11 @@ std::string KendiDiskinde(const std::filesystem::path& yer,
 
 /// A folder for the disk.
 class DoluDiskDeneyi : public ::testing::Test {
-  protected:
+  public:
     DoluDiskDeneyi() { std::filesystem::create_directory(yer); }
     ~DoluDiskDeneyi() override { std::filesystem::remove(yer); }
 
+  protected:
     std::filesystem::path yer =
         std::filesystem::temp_directory_path() / ("velora-disk-" + std::to_string(::getpid()));
 };

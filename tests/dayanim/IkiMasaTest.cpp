@@ -33,6 +33,7 @@ TEST(IkiMasa, Of_two_that_save_at_once_each_file_is_of_one_or_the_other) {
     const Saha oteki; // its tree is left alone: the second desk has a journal of its own
     saha.Kur(TemelAgac());
     std::vector<Agac> beklenen;
+    beklenen.reserve(kMasalar.size());
     for (const char* masa : kMasalar)
         beklenen.push_back(Tekbasina(saha, masa));
     ASSERT_NE(beklenen[0], beklenen[1]);

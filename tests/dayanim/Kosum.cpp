@@ -60,6 +60,7 @@ std::vector<std::string> Cevre(const Saha& saha, const Ariza& ariza, const fs::p
 
 std::vector<char*> Isaretciler(std::vector<std::string>& metinler) {
     std::vector<char*> isaretciler;
+    isaretciler.reserve(metinler.size() + 1);
     for (std::string& metin : metinler)
         isaretciler.push_back(metin.data());
     isaretciler.push_back(nullptr);

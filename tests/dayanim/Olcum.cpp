@@ -115,7 +115,7 @@ std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
             continue;
         (Ayni(simdi, once) ? eski : yeni) += " [" + yol + "]";
     }
-    if (const std::string kayip = Kayip(beklenen, kalan); !kayip.empty() && olcu != Olcu::Satir)
+    if (std::string kayip = Kayip(beklenen, kalan); !kayip.empty() && olcu != Olcu::Satir)
         return kayip;
     if (olcu == Olcu::Butun && !beklenen.ayri && !eski.empty() && !yeni.empty())
         return "as before:" + eski + ", but as behind:" + yeni;

@@ -4,6 +4,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <random>
+#include <ranges>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -82,9 +83,9 @@ void Saha::Kur(const Senaryo& senaryo) const {
 }
 
 void Saha::Yaz(const fs::path& klasor, const Agac& eski, const Agac& agac) {
-    for (auto i = eski.rbegin(); i != eski.rend(); ++i) // what lies in a folder before the folder
-        if (!agac.contains(i->first))
-            fs::remove(klasor / i->first.substr(0, i->first.find_last_not_of('/') + 1));
+    for (const auto& [yol, bayt] : std::views::reverse(eski)) // what lies in a folder before the folder
+        if (!agac.contains(yol))
+            fs::remove(klasor / yol.substr(0, yol.find_last_not_of('/') + 1));
     for (const auto& [yol, bayt] : agac) {
         const auto yer = eski.find(yol);
         if (yol.ends_with('/'))
