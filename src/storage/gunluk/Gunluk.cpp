@@ -96,10 +96,11 @@ std::uint64_t KaydinNosu(const GunlukKaydi& kayit) {
     return std::visit([](const auto& k) { return k.no; }, kayit);
 }
 
-/// Whether another whole record stands somewhere in the bytes: then what stands before it was damaged, not
-/// cut off.
+/// Whether another whole record stands somewhere behind bytes that were damaged. Behind NUL bytes one says
+/// nothing: blocks of an end that nobody has waited for come to the medium in any order.
 bool KayitVar(std::string_view bayt) {
-    for (std::size_t yer = bayt.find("\n#"); yer != std::string_view::npos; yer = bayt.find("\n#", yer + 1)) {
+    const std::string_view gelen = bayt.substr(0, bayt.find('\0'));
+    for (std::size_t yer = bayt.find("\n#"); yer < gelen.size(); yer = bayt.find("\n#", yer + 1)) {
         std::size_t konum = yer + 1;
         if (KayitOku(bayt, konum))
             return true;
