@@ -99,12 +99,12 @@ void CokSatirKutusu::insertFromMimeData(const QMimeData* gelen) {
 void CokSatirKutusu::Kaydir(int yer, int giden, int gelen) {
     std::vector<int> kalan;
     for (const int ek : ekler_) {
-        if (ek < yer)
-            kalan.push_back(ek);
-        else if (ek >= yer + giden)
+        const bool oncesinde = ek < yer;
+        const bool yalnizBakilan = giden == gelen && document()->characterAt(ek) == QChar::ParagraphSeparator;
+        if (ek >= yer + giden)
             kalan.push_back(ek + gelen - giden);
-        else if (giden == gelen && document()->characterAt(ek) == QChar::ParagraphSeparator)
-            kalan.push_back(ek); // only looked at anew
+        else if (oncesinde || yalnizBakilan)
+            kalan.push_back(ek);
     }
     ekler_ = std::move(kalan);
 }

@@ -25,14 +25,21 @@ Metin Klasor(const Program& program, const Metin& salon, long long yil) {
     return program.agac.YilKlasoru(salon, SayiMetni(yil)) + kAyrac;
 }
 
-void DosyalariKopyala(const Program& program, const Metin& eski, const Metin& yeni, long long yil) {
+/// The names in each folder that is copied. Before the first copy: with an unchanged name the copies go where
+/// the lists come from.
+using KopyaListeleri = std::array<std::vector<Metin>, kKopyalar.size()>;
+KopyaListeleri DosyalariListele(const Program& program, const Metin& eski, long long yil) {
+    KopyaListeleri adlar;
+    for (std::size_t i = 0; i < kKopyalar.size(); ++i)
+        adlar[i] = program.dosyalar.Listele(Klasor(program, eski, yil + kKopyalar[i].kaynak));
+    return adlar;
+}
+
+void DosyalariKopyala(const Program& program, const KopyaListeleri& adlar, const Metin& eski,
+                      const Metin& yeni, long long yil) {
     for (const Metin& salon : {eski, yeni})
         for (const YilKopyasi& kopya : kKopyalar)
             program.agac.KlasorHazirla(salon, SayiMetni(yil + kopya.kaynak));
-    // All lists before the first copy: with an unchanged name the copies go where the lists come from.
-    std::array<std::vector<Metin>, kKopyalar.size()> adlar;
-    for (std::size_t i = 0; i < kKopyalar.size(); ++i)
-        adlar[i] = program.dosyalar.Listele(Klasor(program, eski, yil + kKopyalar[i].kaynak));
     for (std::size_t i = 0; i < kKopyalar.size(); ++i) {
         const Metin kaynak = Klasor(program, eski, yil + kKopyalar[i].kaynak);
         const Metin hedef = Klasor(program, yeni, yil + kKopyalar[i].hedef);
@@ -67,8 +74,10 @@ void FormSalonTanimAd::Command1_Click() {
     const auto tanim = p.FormSalonTanim.Tut();
     AdiDegistir(tanim->List1.ogeler, sira, Text1.metin);
     AdiDegistir(tablo->Salon.ogeler, sira, Text1.metin);
+    // Once: what is planned is what is copied.
+    const KopyaListeleri adlar = DosyalariListele(p, Tag, yil);
     EylemleYap(p.dosyalar, u"Salon adı", [&] {
-        DosyalariKopyala(p, Tag, Text1.metin, yil);
+        DosyalariKopyala(p, adlar, Tag, Text1.metin, yil);
         tanim->Kaydet_Click();
     });
     p.FormSalonTanimAd.Bosalt();

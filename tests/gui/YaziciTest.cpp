@@ -133,7 +133,7 @@ class YaziciTest : public QObject {
     }
 
     void a_window_lives_on_while_a_long_file_is_written_and_a_second_one_waits_its_turn() {
-        const std::vector<Sayfa> uzun(400, OrnekYuz(u"Uzun bir sözleşmenin bir sayfası"));
+        const std::vector<Sayfa> uzun(1000, OrnekYuz(u"Uzun bir sözleşmenin bir sayfası"));
         Tikler tikler;
         bool ikinci = false;
         QTimer::singleShot(kTikMs, qApp, [&] {
@@ -142,8 +142,8 @@ class YaziciTest : public QObject {
         QVERIFY(ortam_.kagit.pdfYaz(uzun, Metin(kAd), agac_.Yol(u"uzun.pdf")));
         QVERIFY2(tikler.adet > 5, qPrintable(QString::number(tikler.adet)));
         QVERIFY(ikinci);
-        QVERIFY(
-            PdfBilgisi(agac_.Yol(u"uzun.pdf")).contains(QRegularExpression(QStringLiteral("Pages: +400\n"))));
+        QVERIFY(PdfBilgisi(agac_.Yol(u"uzun.pdf"))
+                    .contains(QRegularExpression(QStringLiteral("Pages: +1000\n"))));
     }
 
     void a_file_that_nobody_waits_for_any_more_leaves_what_stood_there() {

@@ -1,6 +1,7 @@
 #include "storage/gunluk/Gunluk.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -242,20 +243,20 @@ void Gunluk::Onarildi(OnarimKaydi kayit) {
 
 /// The actions that stay: all that aren't done, and the last of those that are.
 std::set<std::uint64_t> Gunluk::Kalacaklar() const {
-    std::map<std::uint64_t, std::uint64_t> boylar;
+    std::map<std::uint64_t, std::uint64_t, std::greater<>> boylar; // by number, the newest first
     for (const Yeri& yer : yerler_)
         boylar[yer.no] += yer.boy;
     std::uint64_t toplam = bas_.size();
     for (const std::uint64_t no : acik_)
         toplam += boylar[no];
     std::set<std::uint64_t> kalan = acik_;
-    for (auto yer = boylar.rbegin(); yer != boylar.rend(); ++yer) {
-        if (acik_.contains(yer->first))
+    for (const auto& [no, boy] : boylar) {
+        if (acik_.contains(no))
             continue;
-        toplam += yer->second;
+        toplam += boy;
         if (toplam > kEnCokBayt - kEnCokBayt / 4 || kalan.size() >= kEnAzEylem + acik_.size())
             break;
-        kalan.insert(yer->first);
+        kalan.insert(no);
     }
     return kalan;
 }
