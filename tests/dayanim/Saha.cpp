@@ -4,7 +4,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <random>
-#include <ranges>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -83,9 +82,12 @@ void Saha::Kur(const Senaryo& senaryo) const {
 }
 
 void Saha::Yaz(const fs::path& klasor, const Agac& eski, const Agac& agac) {
-    for (const auto& [yol, bayt] : std::views::reverse(eski)) // what lies in a folder before the folder
+    std::vector<std::string> gidenler;
+    for (const auto& [yol, bayt] : eski)
         if (!agac.contains(yol))
-            fs::remove(klasor / yol.substr(0, yol.find_last_not_of('/') + 1));
+            gidenler.push_back(yol.substr(0, yol.find_last_not_of('/') + 1));
+    for (; !gidenler.empty(); gidenler.pop_back()) // what lies in a folder before the folder
+        fs::remove(klasor / gidenler.back());
     for (const auto& [yol, bayt] : agac) {
         const auto yer = eski.find(yol);
         if (yol.ends_with('/'))
