@@ -41,6 +41,14 @@ Metin ToplamMetni(double tutar) {
     return metin == u":  TL" ? u": 0 TL" : metin;
 }
 
+/// False where the file couldn't be read.
+template <class Degerler>
+bool Al(const std::optional<std::string_view>& bayt, Degerler& hedef) {
+    if (bayt)
+        DegerleriAl(*bayt, hedef);
+    return bayt.has_value();
+}
+
 Metin SayacMetni(std::ptrdiff_t sayi) {
     return u": " + SayiMetni(sayi);
 }
@@ -129,21 +137,21 @@ bool FormBakiye::Tara(Toplamlar& toplamlar) {
     // Outside the loop: a file that is too short leaves the values of the one before it.
     AnaDegerler ana;
     DetayDegerler detay;
-    for (const Metin& ad : program_.dosyalar.Listele(program_.agac.YilKlasoru(salon, yil))) {
-        if (!GunDosyasiDeseni(ad) || EslikDosyasi(ad))
+    KlasorOkumasi okuma = program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(salon, yil));
+    for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
+        if (!GunDosyasiDeseni(okuma[i]) || EslikDosyasi(okuma[i]))
             continue;
+        const Metin ad(okuma[i]);
         const auto gun = TarihCoz(Parca(ad, 1, kTarihUzunlugu));
         if (!gun)
             return false;
         if (*gun < DTPicker1.deger || *gun > DTPicker2.deger)
             continue;
-        const Metin yol = program_.agac.GunYolu(salon, yil, ad);
-        if (!AnaOku(program_.dosyalar, yol, ana) ||
-            !DetayOku(program_.dosyalar, yol + Metin(kDetayEki), detay))
+        if (!Al(okuma.Oku(i), ana) || !Al(okuma.Oku(ad + Metin(kDetayEki)), detay))
             return false;
         if (!Istenen(detay))
             continue;
-        SatirEkle(ad, yol, ana, detay);
+        SatirEkle(ad, program_.agac.GunYolu(salon, yil, ad), ana, detay);
         toplamlar[TurSirasi(ana.No(AnaNo::Niteligi))] += TutarDegeri(ana.No(AnaNo::ToplamUcret));
         std::size_t sira = kBakiyeTurleri.size();
         for (const int no : {AnaNo::ToplamUcret, AnaNo::AlinanOdeme, AnaNo::KalanOdeme})

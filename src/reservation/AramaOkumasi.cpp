@@ -33,19 +33,23 @@ AramaOkumasi::AramaOkumasi(const Dosyalar& dosyalar, const Metin& klasor) {
     });
 }
 
-const AramaOkumasi::Dosya* AramaOkumasi::Bul(MetinBakis ad) const {
+const AramaOkumasi::Dosya* AramaOkumasi::Bul(MetinBakis ad) {
+    if (siradaki_ < dosyalari_.size() && dosyalari_[siradaki_].ad == ad)
+        return &dosyalari_[siradaki_++];
     auto yer =
         std::lower_bound(dosyalari_.begin(), dosyalari_.end(), ad,
                          [](const Dosya& dosya, MetinBakis aranan) { return AdSirasi(dosya.ad, aranan); });
-    if (yer != dosyalari_.end() && yer->ad == ad)
+    if (yer != dosyalari_.end() && yer->ad == ad) {
+        siradaki_ = static_cast<std::size_t>(yer - dosyalari_.begin()) + 1;
         return &*yer;
+    }
     // Names that differ only in case stand side by side: the first of them.
     while (yer != dosyalari_.begin() && AyniAd(std::prev(yer)->ad, ad))
         --yer;
     return yer != dosyalari_.end() && AyniAd(yer->ad, ad) ? &*yer : nullptr;
 }
 
-bool AramaOkumasi::Oku(MetinBakis ad, AramaDegerleri& hedef) const {
+bool AramaOkumasi::Oku(MetinBakis ad, AramaDegerleri& hedef) {
     const Dosya* dosya = Bul(ad);
     if (dosya == nullptr)
         return false;

@@ -25,7 +25,9 @@ class AramaOkumasi {
     /// What opening the file of this name leaves in the variables: it fills those whose values the file
     /// holds, in order, and leaves the rest as they were. False when it fills none; a file that isn't in the
     /// folder or can't be opened does so too.
-    bool Oku(MetinBakis ad, AramaDegerleri& hedef) const;
+    ///
+    /// Names that are asked for in the order of the listing are found at once.
+    bool Oku(MetinBakis ad, AramaDegerleri& hedef);
 
   private:
     struct Dosya {
@@ -33,9 +35,10 @@ class AramaOkumasi {
         std::size_t adet; ///< of the values that the file holds
         AramaDegerleri deger;
     };
-    const Dosya* Bul(MetinBakis ad) const;
+    const Dosya* Bul(MetinBakis ad);
 
     std::vector<Dosya> dosyalari_; // in the order of the listing
+    std::size_t siradaki_ = 0;     // behind the one that was found last
 };
 
 } // namespace velora

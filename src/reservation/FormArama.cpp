@@ -104,12 +104,15 @@ void FormArama::Ara() {
     for (const Metin& sene : tablo->Sene.ogeler)
         for (std::size_t i = 0; i < okumalar.size(); ++i) {
             const Metin& salon = tablo->Salon.ogeler[i];
-            for (const Metin& ad : program_.dosyalar.Listele(program_.agac.YilKlasoru(salon, sene))) {
+            const KlasorOkumasi adlar = program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(salon, sene));
+            for (std::size_t j = 0; j < adlar.Sayi(); ++j) {
+                const MetinBakis ad = adlar[j];
                 if (okumalar[i].Oku(ad, degerler))
                     uyan = uyanSayisi();
                 for (auto kez = uyan; kez > 0; --kez)
-                    Liste.satirlar.push_back({{ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]},
-                                              program_.agac.GunYolu(salon, yil, ad)});
+                    Liste.satirlar.push_back(
+                        {{Metin(ad), salon, degerler[0], degerler[1], degerler[2], degerler[3]},
+                         program_.agac.GunYolu(salon, yil, ad)});
             }
         }
 }

@@ -35,15 +35,18 @@ bool FormOzelHatirlatma::Listele() {
     Liste.Temizle();
     Liste.secimDugmeleri.Ac(false);
     AnaDegerler ana; // outside the loop: what can't be read shows the record before it
-    for (const Metin& ad : program_.dosyalar.Listele(klasor)) {
-        if (!AnaDosyaAdi(ad))
+    KlasorOkumasi okuma = program_.dosyalar.KlasorAc(klasor);
+    for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
+        if (!AnaDosyaAdi(okuma[i]))
             continue;
-        const Metin yol = klasor + kAyrac + ad;
-        AnaOku(program_.dosyalar, yol, ana);
-        if (ana.No(AnaNo::HatirlatmaTarihi) == bugun && ana.No(AnaNo::BuTarihteHatirlat) == u"1")
-            Liste.satirlar.push_back({{ad, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::Niteligi),
-                                       ana.No(AnaNo::Telefon), ana.No(AnaNo::Cep)},
-                                      yol});
+        if (const auto bayt = okuma.Oku(i))
+            DegerleriAl(*bayt, ana);
+        if (ana.No(AnaNo::HatirlatmaTarihi) != bugun || ana.No(AnaNo::BuTarihteHatirlat) != u"1")
+            continue;
+        const Metin ad(okuma[i]);
+        Liste.satirlar.push_back({{ad, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::Niteligi),
+                                   ana.No(AnaNo::Telefon), ana.No(AnaNo::Cep)},
+                                  klasor + kAyrac + ad});
     }
     return !Liste.satirlar.empty();
 }

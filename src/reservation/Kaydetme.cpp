@@ -64,8 +64,6 @@ void OdemeOzetiniKoru(AnaKayit& kayit, const Metin& alinan) {
 
 void FormKayit::Command1_Click() {
     Program& p = program_;
-    // The number, the scan and the panel of warnings all read the year.
-    const Dosyalar::Hatirlama hatirlama(p.dosyalar);
     if (!GunVar() || !AlanlarTamam())
         return;
     for (const int no : {AnaNo::AdiSoyadi, AnaNo::Yoresi, AnaNo::GelinDamat, AnaNo::Adres})

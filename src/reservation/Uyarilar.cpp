@@ -25,6 +25,17 @@ constexpr std::array<UyariTuru, 2> kTurler{
     {{u"Kesin", DetayNo::KesinRezervasyon, &UyariSuresi::kesin, true, 0, false},
      {u"Ön", DetayNo::OnRezervasyon, &UyariSuresi::on, false, kOnUyariRengi, true}}};
 
+/// The rows show no value behind these.
+constexpr std::size_t kAnaYeter = AnaNo::YaklasincaHatirlat;
+constexpr std::size_t kDetayYeter = DetayNo::OnRezervasyon;
+
+/// The day of a name that begins with a day number.
+std::optional<Gun> AnahtarGunu(MetinBakis ad) {
+    const MetinBakis tarih = Parca(ad, 1, kTarihUzunlugu);
+    const bool yazili = tarih.size() == kTarihUzunlugu && tarih[5] == u'.';
+    return yazili ? TarihCoz(tarih) : TarihCoz(AnahtarTarihi(ad));
+}
+
 ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const AnaDegerler& ana,
                      const UyariTuru& tur) {
     return {{ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
@@ -37,55 +48,60 @@ ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, cons
 } // namespace
 
 void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
-    for (Metin& ad : dosyalar_.Listele(klasor))
-        if (GunDosyasiDeseni(ad))
-            adlar_.push_back({klasorler_.size(), std::move(ad)});
-    klasorler_.push_back({salon, klasor});
-}
-
-Metin UyariTaramasi::Yol(std::size_t sira) const {
-    const Ad& ad = adlar_[sira];
-    return klasorler_[ad.klasor].yol + kAyrac + ad.metin;
-}
-
-/// Brings the values from where they stood before the name `ilk` to behind the name `sira`. Files fill from
-/// the first value on, so the latest of them come first and the ones before only add what is missing.
-template <class Degerler, class Oku>
-void UyariTaramasi::Yurut(Degerler& hal, std::size_t ilk, std::size_t sira, const Oku& oku) const {
-    std::size_t dolu = 0;
-    for (std::size_t i = sira + 1; i > ilk && dolu < hal.deger.size(); --i) {
-        Degerler okunan;
-        const auto adet = static_cast<std::size_t>(oku(Yol(i - 1), okunan).value_or(0));
-        for (; dolu < adet; ++dolu)
-            hal.deger[dolu] = std::move(okunan.deger[dolu]);
-    }
-}
-
-std::vector<ListeSatiri> UyariTaramasi::Satirlar(const Gun& bugun, const UyariSuresi& sure) const {
-    std::vector<ListeSatiri> satirlar;
-    AnaDegerler ana;
-    DetayDegerler detay;
-    std::size_t ilk = 0; // the values stand as before this name
-    int kalan = 0;       // a name without a date keeps the days of the name before it
-    const double enCok = std::max(sure.kesin, sure.on);
-    for (std::size_t i = 0; i < adlar_.size(); ++i) {
-        const Ad& ad = adlar_[i];
-        if (const auto gun = TarihCoz(AnahtarTarihi(ad.metin)))
-            kalan = static_cast<int>((std::chrono::sys_days(*gun) - std::chrono::sys_days(bugun)).count());
-        if (kalan <= 0 || kalan > enCok || EslikDosyasi(ad.metin))
+    klasorler_.push_back(klasor);
+    KlasorOkumasi okuma = dosyalar_.KlasorAc(klasor);
+    for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
+        if (!GunDosyasiDeseni(okuma[i]) || !Yakin(okuma[i]))
             continue;
-        Yurut(ana, ilk, i, [this](const Metin& yol, AnaDegerler& d) { return AnaOku(dosyalar_, yol, d); });
-        Yurut(detay, ilk, i, [this](const Metin& yol, DetayDegerler& d) {
-            return DetayOku(dosyalar_, yol + Metin(kDetayEki), d);
-        });
-        ilk = i + 1;
-        for (const UyariTuru& tur : kTurler)
-            if (kalan <= sure.*tur.sure && detay.No(tur.isaret) == u"1" &&
-                ana.No(AnaNo::YaklasincaHatirlat) == u"1" &&
-                !(tur.sifirCiftsiz && ana.No(AnaNo::GelinDamat) == u"0"))
-                satirlar.push_back(SatirYap(ad.metin, klasorler_[ad.klasor].salon, Yol(i), ana, tur));
+        const Metin ad(okuma[i]);
+        Oku(okuma, i);
+        SatirlariEkle(ad, salon);
     }
-    return satirlar;
+}
+
+/// Whether the name is one of a reservation whose day is near.
+bool UyariTaramasi::Yakin(MetinBakis ad) {
+    if (const auto gun = AnahtarGunu(ad))
+        kalan_ = static_cast<int>((std::chrono::sys_days(*gun) - std::chrono::sys_days(bugun_)).count());
+    return kalan_ > 0 && kalan_ <= std::max(sure_.kesin, sure_.on) && !EslikDosyasi(ad);
+}
+
+void UyariTaramasi::Oku(KlasorOkumasi& okuma, std::size_t sira) {
+    Yurut(ana_, kAnaYeter, okuma, sira, [](KlasorOkumasi& o, std::size_t i) { return o.Oku(i); });
+    Yurut(detay_, kDetayYeter, okuma, sira,
+          [](KlasorOkumasi& o, std::size_t i) { return o.Oku(Metin(o[i]) + Metin(kDetayEki)); });
+    ilk_ = {klasorler_.size() - 1, sira + 1};
+}
+
+/// Brings the values from where they stood before the name `ilk_` to behind this one. Files fill from the
+/// first value on, so the latest of them come first and the ones before only add what is missing.
+template <class Degerler, class Dosya>
+void UyariTaramasi::Yurut(Degerler& hal, std::size_t yeter, KlasorOkumasi& okuma, std::size_t sira,
+                          const Dosya& dosya) const {
+    std::size_t dolu = 0;
+    const auto klasorde = [&](KlasorOkumasi& o, std::size_t son, std::size_t ilk) {
+        for (std::size_t i = son; i > ilk && dolu < yeter; --i) {
+            const auto bayt = GunDosyasiDeseni(o[i - 1]) ? dosya(o, i - 1) : std::nullopt;
+            Degerler okunan;
+            const auto adet = bayt ? static_cast<std::size_t>(DegerleriAl(*bayt, okunan)) : 0;
+            for (; dolu < adet; ++dolu)
+                hal.deger[dolu] = std::move(okunan.deger[dolu]);
+        }
+    };
+    const std::size_t bu = klasorler_.size() - 1;
+    klasorde(okuma, sira + 1, bu == ilk_.klasor ? ilk_.sira : 0);
+    for (std::size_t k = bu; k > ilk_.klasor && dolu < yeter; --k) {
+        KlasorOkumasi onceki = dosyalar_.KlasorAc(klasorler_[k - 1]);
+        klasorde(onceki, onceki.Sayi(), k - 1 == ilk_.klasor ? ilk_.sira : 0);
+    }
+}
+
+void UyariTaramasi::SatirlariEkle(const Metin& ad, const Metin& salon) {
+    for (const UyariTuru& tur : kTurler)
+        if (kalan_ <= sure_.*tur.sure && detay_.No(tur.isaret) == u"1" &&
+            ana_.No(AnaNo::YaklasincaHatirlat) == u"1" &&
+            !(tur.sifirCiftsiz && ana_.No(AnaNo::GelinDamat) == u"0"))
+            satirlar_.push_back(SatirYap(ad, salon, klasorler_.back() + kAyrac + ad, ana_, tur));
 }
 
 } // namespace velora

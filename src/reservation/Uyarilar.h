@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "screen/Kontroller.h"
+#include "storage/RezervasyonDosyalari.h"
 #include "storage/dosya/Dosyalar.h"
 
 namespace velora {
@@ -24,32 +25,40 @@ struct UyariSuresi {
 /// same.
 class UyariTaramasi {
   public:
-    explicit UyariTaramasi(const Dosyalar& dosyalar) : dosyalar_(dosyalar) {}
+    UyariTaramasi(const Dosyalar& dosyalar, const Gun& bugun, const UyariSuresi& sure)
+        : dosyalar_(dosyalar), bugun_(bugun), sure_(sure) {}
 
-    /// Adds the names of a year folder that begin with a day number, behind those of the folders before.
+    /// Goes on with the names of a year folder that begin with a day number, behind those of the folders
+    /// before.
     void KlasorEkle(const Metin& salon, const Metin& klasor);
 
     /// The rows, in the order of the names: day file name, hall, customer, couple, telephone, mobile phone,
     /// and "Kesin" or "Ön". The tag is the path of the main file. A record that is both gives both rows.
-    std::vector<ListeSatiri> Satirlar(const Gun& bugun, const UyariSuresi& sure) const;
+    const std::vector<ListeSatiri>& Satirlar() const { return satirlar_; }
 
   private:
-    struct Ad {
-        std::size_t klasor; ///< which of the folders
-        Metin metin;
-    };
-    struct Klasor {
-        Metin salon;
-        Metin yol;
+    /// A name's place: its folder, and its place in the listing of it.
+    struct Yer {
+        std::size_t klasor;
+        std::size_t sira;
     };
 
-    Metin Yol(std::size_t sira) const;
-    template <class Degerler, class Oku>
-    void Yurut(Degerler& hal, std::size_t ilk, std::size_t sira, const Oku& oku) const;
+    bool Yakin(MetinBakis ad);
+    void Oku(KlasorOkumasi& okuma, std::size_t sira);
+    template <class Degerler, class Dosya>
+    void Yurut(Degerler& hal, std::size_t yeter, KlasorOkumasi& okuma, std::size_t sira,
+               const Dosya& dosya) const;
+    void SatirlariEkle(const Metin& ad, const Metin& salon);
 
     const Dosyalar& dosyalar_;
-    std::vector<Klasor> klasorler_;
-    std::vector<Ad> adlar_;
+    Gun bugun_;
+    UyariSuresi sure_;
+    std::vector<Metin> klasorler_;
+    AnaDegerler ana_;
+    DetayDegerler detay_;
+    Yer ilk_{0, 0}; // the values stand as before this name
+    int kalan_ = 0; // a name without a date keeps the days of the name before it
+    std::vector<ListeSatiri> satirlar_;
 };
 
 } // namespace velora

@@ -8,11 +8,8 @@ namespace velora {
 namespace {
 
 template <class Degerler>
-std::optional<int> DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef, Koken* koken) {
-    const auto bayt = KokenleOku(dosyalar, yol, koken);
-    if (!bayt)
-        return std::nullopt;
-    DegerOkuyucu okuyucu(*bayt);
+int SiraylaAl(std::string_view bayt, Degerler& hedef) {
+    DegerOkuyucu okuyucu(bayt);
     int adet = 0;
     for (Metin& deger : hedef.deger) {
         if (!okuyucu.Oku(deger))
@@ -20,6 +17,12 @@ std::optional<int> DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Deger
         ++adet;
     }
     return adet;
+}
+
+template <class Degerler>
+std::optional<int> DegerlerOku(const Dosyalar& dosyalar, const Metin& yol, Degerler& hedef, Koken* koken) {
+    const auto bayt = KokenleOku(dosyalar, yol, koken);
+    return bayt ? std::optional(DegerleriAl(*bayt, hedef)) : std::nullopt;
 }
 
 Metin VirgulNokta(MetinBakis metin) {
@@ -42,6 +45,14 @@ bool GunuVar(const Metin& yol) {
 }
 
 } // namespace
+
+int DegerleriAl(std::string_view bayt, AnaDegerler& hedef) {
+    return SiraylaAl(bayt, hedef);
+}
+
+int DegerleriAl(std::string_view bayt, DetayDegerler& hedef) {
+    return SiraylaAl(bayt, hedef);
+}
 
 std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef, Koken* koken) {
     return DegerlerOku(dosyalar, yol, hedef, koken);

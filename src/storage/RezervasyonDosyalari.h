@@ -82,9 +82,13 @@ struct Odeme {
     Metin aciklama;
 };
 
-/// Each fills what the file holds, in order, leaves the rest as it was, and says how many values it filled.
-/// Nothing when the file can't be opened or read. Who writes back what was read gives each file a `koken` of
-/// its own.
+/// Fills what the bytes of a file hold, in order, leaves the rest as it was, and says how many values it
+/// filled.
+int DegerleriAl(std::string_view bayt, AnaDegerler& hedef);
+int DegerleriAl(std::string_view bayt, DetayDegerler& hedef);
+
+/// Each does that with a file. Nothing when the file can't be opened or read. Who writes back what was read
+/// gives each file a `koken` of its own.
 std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef,
                           Koken* koken = nullptr);
 std::optional<int> DetayOku(const Dosyalar& dosyalar, const Metin& yol, DetayDegerler& hedef,

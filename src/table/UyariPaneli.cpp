@@ -12,15 +12,15 @@ namespace velora {
 void FormTablo::UyariGoster() {
     Command1(); // the scan
     program_.OlaylariIsle();
-    UyariTaramasi tarama(program_.dosyalar);
+    const auto sure = [this] {
+        const auto ayarlar = program_.FormAyarlar.Tut();
+        return UyariSuresi{SayisalDeger(ayarlar->UyariGun.metin), SayisalDeger(ayarlar->UyariGun2.metin)};
+    };
+    UyariTaramasi tarama(program_.dosyalar, program_.Bugun(), sure());
     for (const Metin& salon : Salon.ogeler)
         for (const Metin& yil : Sene.ogeler)
             tarama.KlasorEkle(salon, program_.agac.YilKlasoru(salon, yil));
-    {
-        const auto ayarlar = program_.FormAyarlar.Tut();
-        Liste.satirlar = tarama.Satirlar(program_.Bugun(), {SayisalDeger(ayarlar->UyariGun.metin),
-                                                            SayisalDeger(ayarlar->UyariGun2.metin)});
-    }
+    Liste.satirlar = tarama.Satirlar();
     Liste.secili = -1;
     Liste.secimDugmeleri.Ac(false); // no row of the new list has been clicked yet
     if (!Liste.satirlar.empty())

@@ -4,19 +4,13 @@
 #include <iterator>
 #include <map>
 #include <random>
+#include <thread>
 
 #include "storage/KodSayfasi.h"
-#include "storage/dosya/Sistem.h"
 
 namespace velora::test {
 
 namespace fs = std::filesystem;
-
-bool KlasorIzlenir(const fs::path& klasor) {
-    sistem::Gozcu gozcu;
-    gozcu.Izle(klasor);
-    return gozcu.Degisenler([](MetinBakis) {});
-}
 
 GeciciAgac::GeciciAgac() {
     std::random_device rastgele;
@@ -70,6 +64,16 @@ bool GeciciAgac::DosyaVar(MetinBakis yol) const {
 
 bool GeciciAgac::KlasorVar(MetinBakis yol) const {
     return fs::is_directory(Yol(yol));
+}
+
+void GeciciAgac::YeniAn() const {
+    const fs::path saat = disi_ / "saat";
+    const auto yaz = [&] {
+        std::ofstream(saat) << 'x';
+        return fs::last_write_time(saat);
+    };
+    for (const auto once = yaz(); yaz() == once;)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
 std::string GeciciAgac::Resim() const {

@@ -9,10 +9,6 @@
 
 namespace velora::test {
 
-/// Whether the system surely tells of each change in this folder. Not all file systems do, and what is kept
-/// of a folder can be seen on such a one only.
-bool KlasorIzlenir(const std::filesystem::path& klasor);
-
 /// A program folder of its own for one test, gone when the test ends. Its name has blanks and Turkish letters
 /// in it. Files are put and taken as bytes by the standard library, not through the module under test.
 class GeciciAgac {
@@ -42,6 +38,9 @@ class GeciciAgac {
     bool Var(MetinBakis yol) const;
     bool DosyaVar(MetinBakis yol) const;
     bool KlasorVar(MetinBakis yol) const;
+
+    /// Waits until the disk gives a file another time than it gave any before.
+    void YeniAn() const;
 
     /// The whole tree as text: each file's path below the root and its bytes. Two equal answers: nothing
     /// changed.

@@ -59,7 +59,7 @@ std::optional<std::filesystem::path> AdArama::Bul(const Anahtar& klasor, const s
                                       [](const Ad& a, const Metin& anahtar) { return a.anahtar < anahtar; });
     if (yer == adlar.end() || yer->anahtar != aranan)
         return {};
-    return MetinYolu(yer->diskteki);
+    return yer->diskteki;
 }
 
 const std::vector<AdArama::Ad>& AdArama::Listesi(const Anahtar& klasor) {
@@ -74,12 +74,12 @@ const std::vector<AdArama::Ad>& AdArama::Listesi(const Anahtar& klasor) {
     icerik = {.degisim = {}, .adlar = {}};
     sistem::Klasor acik(klasor.first);
     AdListesi liste;
-    for (Metin ad; acik.Sonraki(ad, klasor.second);)
+    for (sistem::DiskAdi ad; acik.Sonraki(ad, klasor.second);)
         liste.Ekle(ad);
     liste.Sirala();
     icerik.adlar.reserve(liste.Sayi());
     for (std::size_t i = 0; i < liste.Sayi(); ++i)
-        icerik.adlar.push_back({AdAnahtari(liste[i]), Metin(liste.Diskteki(i))});
+        icerik.adlar.push_back({AdAnahtari(liste[i]), std::filesystem::path(liste.Diskteki(i))});
     std::stable_sort(icerik.adlar.begin(), icerik.adlar.end(),
                      [](const Ad& bir, const Ad& iki) { return bir.anahtar < iki.anahtar; });
     tam_ = tam_ && acik.Tam();

@@ -36,7 +36,7 @@ class AdArama {
   private:
     struct Ad {
         Metin anahtar;
-        Metin diskteki;
+        std::filesystem::path diskteki;
     };
     struct Icerik {
         std::optional<std::filesystem::file_time_type> degisim; ///< none: must be listed again

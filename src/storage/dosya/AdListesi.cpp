@@ -10,6 +10,9 @@
 namespace velora {
 namespace {
 
+using sistem::AdHarfi;
+using sistem::DiskAdi;
+
 constexpr std::size_t kAnahtarBoyu = 8;
 constexpr char16_t kTasan = 0xFF;
 
@@ -24,19 +27,102 @@ char16_t Sira(char16_t harf) {
     return harf < kSira.size() ? kSira[harf] : SiraHarfi(harf);
 }
 
-/// Letters beyond one byte share the highest value, and what stands behind the first of them may not count
-/// any more: such names come out equal and are compared in full.
-std::uint64_t Anahtar(MetinBakis ad) {
-    std::uint64_t anahtar = 0;
-    std::size_t yer = 0;
-    while (yer < kAnahtarBoyu) {
-        const char16_t harf = yer < ad.size() ? std::min(Sira(ad[yer]), kTasan) : u'\0';
-        anahtar = anahtar << 8U | harf;
-        ++yer;
-        if (harf == kTasan)
-            break;
+/// The letters of a name on the disk, one after the other: of one in which each stands for itself, be it in
+/// bytes of UTF-8, of which none takes more than two, or in letters of 16 bits.
+class Harfler {
+  public:
+    explicit Harfler(DiskAdi ad) : kalan_(ad) {}
+
+    bool Bitti() const { return kalan_.empty(); }
+    char16_t Al() {
+        constexpr unsigned kDevamBiti = 6;
+        constexpr unsigned kDevam = (1U << kDevamBiti) - 1;
+        constexpr unsigned kBas = 0x1F;
+        unsigned harf = Kod(kalan_.front());
+        if (sizeof(AdHarfi) == 1 && harf >= kIlkUzun) {
+            harf = (harf & kBas) << kDevamBiti | (Kod(kalan_[1]) & kDevam);
+            kalan_.remove_prefix(1);
+        }
+        kalan_.remove_prefix(1);
+        return static_cast<char16_t>(harf);
     }
-    return yer < kAnahtarBoyu ? anahtar << 8U * (kAnahtarBoyu - yer) : anahtar;
+
+    /// Whether a name is such a one.
+    static bool Sade(DiskAdi ad) {
+        std::size_t adim = 0;
+        for (std::size_t i = 0; i < ad.size(); i += adim)
+            if (adim = Uzunluk(ad, i); adim == 0)
+                return false;
+        return true;
+    }
+
+  private:
+    static constexpr unsigned kIlkUzun = 0x80;
+
+    static unsigned Kod(AdHarfi harf) { return static_cast<std::make_unsigned_t<AdHarfi>>(harf); }
+    /// How many units the letter takes. 0: it may be a mark that belongs to the one before it, or none at
+    /// all, and is left to the slow way.
+    static std::size_t Uzunluk(DiskAdi ad, std::size_t yer) {
+        constexpr unsigned kEnAz = 0xC2;
+        constexpr unsigned kIsaretBayti = 0xCC;
+        constexpr unsigned kDevamMaskesi = 0xC0;
+        constexpr unsigned kIlkBirlesen = 0x0300;
+        const unsigned bas = Kod(ad[yer]);
+        if (bas < kIlkUzun || (sizeof(AdHarfi) > 1 && bas < kIlkBirlesen))
+            return 1;
+        const bool iki = sizeof(AdHarfi) == 1 && kEnAz <= bas && bas < kIsaretBayti && yer + 1 < ad.size() &&
+                         (Kod(ad[yer + 1]) & kDevamMaskesi) == kIlkUzun;
+        return iki ? 2 : 0;
+    }
+
+    DiskAdi kalan_;
+};
+
+/// The same for a text.
+class MetinHarfleri {
+  public:
+    explicit MetinHarfleri(MetinBakis metin) : kalan_(metin) {}
+    bool Bitti() const { return kalan_.empty(); }
+    char16_t Al() {
+        const char16_t harf = kalan_.front();
+        kalan_.remove_prefix(1);
+        return harf;
+    }
+
+  private:
+    MetinBakis kalan_;
+};
+
+/// Eight letters. Those beyond one byte share the highest value, and what stands behind the first of them may
+/// not count any more: `tasti`. Such names come out equal and are compared in full.
+template <class Okuyan>
+std::uint64_t Anahtar(Okuyan& harfler, bool& tasti) {
+    std::uint64_t anahtar = 0;
+    for (std::size_t yer = 0; yer < kAnahtarBoyu; ++yer) {
+        const bool var = !tasti && !harfler.Bitti();
+        const char16_t harf = var ? std::min(Sira(harfler.Al()), kTasan) : u'\0';
+        tasti = tasti || harf == kTasan;
+        anahtar = anahtar << 8U | harf;
+    }
+    return anahtar;
+}
+
+Metin Metni(DiskAdi ad) {
+    Metin metin;
+    sistem::AdiCoz(ad, metin);
+    AdDuzelt(metin);
+    return metin;
+}
+
+/// Less, equal or more than 0 as `AdSirasi` has it, but that names which differ only in case are equal.
+int Karsilastir(Harfler bir, Harfler iki) {
+    while (!bir.Bitti() && !iki.Bitti()) {
+        const char16_t x = Sira(bir.Al());
+        const char16_t y = Sira(iki.Al());
+        if (x != y)
+            return x < y ? -1 : 1;
+    }
+    return static_cast<int>(iki.Bitti()) - static_cast<int>(bir.Bitti());
 }
 
 } // namespace
@@ -54,32 +140,69 @@ bool AdSirasi(MetinBakis bir, MetinBakis iki) {
     return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
 }
 
-AdListesi::Yer AdListesi::Sakla(MetinBakis ad) {
-    const Yer yer{harfler_.size(), ad.size()};
+void AdListesi::Ekle(DiskAdi ad) {
+    gelenler_.push_back({static_cast<std::uint32_t>(harfler_.size()), static_cast<std::uint32_t>(ad.size())});
     harfler_ += ad;
-    return yer;
+    harfler_ += AdHarfi{};
 }
 
-void AdListesi::Ekle(MetinBakis ad) {
-    const Yer diskteki = Sakla(ad);
-    gecici_ = ad;
-    const Yer yer = AdDuzelt(gecici_) ? Sakla(gecici_) : diskteki;
-    adlar_.push_back({Anahtar(gecici_), yer, diskteki});
+void AdListesi::BastanEkle(const AdListesi& baska, std::size_t adet) {
+    for (std::size_t i = 0; i < adet; ++i)
+        Ekle(baska.Bakis(baska.gelenler_[i]));
 }
 
 void AdListesi::Sirala() {
-    std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) {
-        if (bir.anahtar != iki.anahtar)
-            return bir.anahtar < iki.anahtar;
-        const MetinBakis x = Bakis(bir.ad);
-        const MetinBakis y = Bakis(iki.ad);
-        if (x != y)
-            return AdSirasi(x, y);
-        // The one that stands so on the disk comes first: a lookup takes it too.
-        const MetinBakis xDisk = Bakis(bir.diskteki);
-        const MetinBakis yDisk = Bakis(iki.diskteki);
-        return (xDisk == x) != (yDisk == y) ? xDisk == x : xDisk < yDisk;
+    adlar_.clear();
+    adlar_.reserve(gelenler_.size());
+    for (std::uint32_t i = 0; i < gelenler_.size(); ++i) {
+        const DiskAdi ad = Bakis(gelenler_[i]);
+        const auto ekle = [&](auto harfler, bool sade) {
+            bool tasti = false;
+            const std::uint64_t bas = Anahtar(harfler, tasti);
+            adlar_.push_back({bas, Anahtar(harfler, tasti), i, sade});
+        };
+        if (Harfler::Sade(ad))
+            ekle(Harfler(ad), true);
+        else
+            ekle(MetinHarfleri(okunan_ = Metni(ad)), false);
+    }
+    std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) { return Once(bir, iki); });
+}
+
+bool AdListesi::Once(const Ad& bir, const Ad& iki) const {
+    if (bir.anahtar != iki.anahtar)
+        return bir.anahtar < iki.anahtar;
+    if (bir.devami != iki.devami)
+        return bir.devami < iki.devami;
+    const DiskAdi birinci = Bakis(bir);
+    const DiskAdi ikinci = Bakis(iki);
+    if (const int sira = bir.sade && iki.sade ? Karsilastir(Harfler(birinci), Harfler(ikinci)) : 0; sira != 0)
+        return sira < 0;
+    const Metin x = Metni(birinci);
+    const Metin y = Metni(ikinci);
+    if (x != y)
+        return AdSirasi(x, y);
+    return bir.sade != iki.sade ? bir.sade : birinci < ikinci;
+}
+
+MetinBakis AdListesi::operator[](std::size_t i) const {
+    sistem::AdiCoz(Diskteki(i), okunan_);
+    if (!adlar_[i].sade)
+        AdDuzelt(okunan_);
+    return okunan_;
+}
+
+std::optional<std::size_t> AdListesi::Bul(MetinBakis ad) const {
+    const auto yer = std::partition_point(adlar_.begin(), adlar_.end(), [&](const Ad& baska) {
+        return AdSirasi((*this)[static_cast<std::size_t>(&baska - adlar_.data())], ad);
     });
+    const auto sira = static_cast<std::size_t>(yer - adlar_.begin());
+    return sira < adlar_.size() && (*this)[sira] == ad ? std::optional(sira) : std::nullopt;
+}
+
+std::size_t AdListesi::Bayt() const {
+    return harfler_.capacity() * sizeof(AdHarfi) + gelenler_.capacity() * sizeof(Yer) +
+           adlar_.capacity() * sizeof(Ad);
 }
 
 } // namespace velora

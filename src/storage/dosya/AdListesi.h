@@ -1,45 +1,66 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "storage/Metin.h"
+#include "storage/dosya/Sistem.h"
 
 namespace velora {
 
-/// The names of a folder, all in one piece of memory, so that a listing of thousands costs no memory call for
-/// each.
+/// The names of a folder as the disk has them, all in one piece of memory: a listing of thousands costs no
+/// memory call for each, and a name becomes a text only when somebody asks for it.
 class AdListesi {
   public:
     /// Takes a name as it stands on the disk.
-    void Ekle(MetinBakis ad);
+    void Ekle(sistem::DiskAdi ad);
 
     /// Puts the names into the order of `AdSirasi`. Of equal ones the one that stands so on the disk comes
     /// first.
     void Sirala();
 
-    std::size_t Sayi() const { return adlar_.size(); }
-    /// In the form of the program's own names (`AdDuzelt`).
-    MetinBakis operator[](std::size_t i) const { return Bakis(adlar_[i].ad); }
-    /// As it stands on the disk.
-    MetinBakis Diskteki(std::size_t i) const { return Bakis(adlar_[i].diskteki); }
+    std::size_t Sayi() const { return gelenler_.size(); }
+    /// In the form of the program's own names (`AdDuzelt`). It lasts until another one is asked for.
+    MetinBakis operator[](std::size_t i) const;
+    /// As it stands on the disk. A zero follows it.
+    sistem::DiskAdi Diskteki(std::size_t i) const { return Bakis(gelenler_[adlar_[i].gelen]); }
+
+    /// Whether this one was added as the `i`th, whatever its place is by now.
+    bool Gelen(std::size_t i, sistem::DiskAdi ad) const {
+        return i < gelenler_.size() && Bakis(gelenler_[i]) == ad;
+    }
+    /// Adds those that were added first to another one, in that order.
+    void BastanEkle(const AdListesi& baska, std::size_t adet);
+
+    /// The place of a name that stands so on the disk, or comes out as this text and nothing before it does.
+    std::optional<std::size_t> Bul(MetinBakis ad) const;
+
+    /// What it holds in memory.
+    std::size_t Bayt() const;
 
   private:
     struct Yer {
-        std::size_t bas;
-        std::size_t uzunluk;
+        std::uint32_t bas;
+        std::uint32_t uzunluk;
     };
     struct Ad {
-        std::uint64_t anahtar; ///< the first eight letters without their case; orders as the names do
-        Yer ad;
-        Yer diskteki;
+        std::uint64_t anahtar; ///< the first letters without their case; orders as the names do
+        std::uint64_t devami;
+        std::uint32_t gelen; ///< its place in the order of coming
+        bool sade;           ///< each letter stands for itself: nothing is changed for the program's form
     };
-    Yer Sakla(MetinBakis ad);
-    MetinBakis Bakis(const Yer& yer) const { return MetinBakis(harfler_).substr(yer.bas, yer.uzunluk); }
 
-    Metin harfler_;
-    Metin gecici_; // kept for its memory
+    sistem::DiskAdi Bakis(const Yer& yer) const {
+        return sistem::DiskAdi(harfler_).substr(yer.bas, yer.uzunluk);
+    }
+    sistem::DiskAdi Bakis(const Ad& ad) const { return Bakis(gelenler_[ad.gelen]); }
+    bool Once(const Ad& bir, const Ad& iki) const;
+
+    std::basic_string<sistem::AdHarfi> harfler_; // with a zero behind each
+    std::vector<Yer> gelenler_;
     std::vector<Ad> adlar_;
+    mutable Metin okunan_;
 };
 
 } // namespace velora

@@ -4,9 +4,7 @@
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/inotify.h>
 #include <sys/stat.h>
-#include <sys/statfs.h>
 #include <unistd.h>
 
 #include "storage/dosya/Aktarim.h"
@@ -35,13 +33,22 @@ namespace {
 
 constexpr mode_t kHaklar = 07777;
 
-std::optional<OgeBilgisi> Bilgi(const struct stat& bilgi) {
+std::int64_t Nanosaniye(const timespec& zaman) {
     constexpr std::int64_t kSaniye = 1'000'000'000;
+    return zaman.tv_sec * kSaniye + zaman.tv_nsec;
+}
+
+Kimlik KimligiAl(const struct stat& bilgi) {
+    return {bilgi.st_dev, bilgi.st_ino, static_cast<std::uint64_t>(bilgi.st_size), Nanosaniye(bilgi.st_mtim),
+            Nanosaniye(bilgi.st_ctim)};
+}
+
+std::optional<OgeBilgisi> Bilgi(const struct stat& bilgi) {
     if (!BuTur(Tur::Dosya, bilgi) && !BuTur(Tur::Klasor, bilgi))
         return std::nullopt;
     return OgeBilgisi{BuTur(Tur::Dosya, bilgi) ? Tur::Dosya : Tur::Klasor,
-                      static_cast<std::uint64_t>(bilgi.st_size),
-                      bilgi.st_mtim.tv_sec * kSaniye + bilgi.st_mtim.tv_nsec, bilgi.st_mode & kHaklar};
+                      static_cast<std::uint64_t>(bilgi.st_size), Nanosaniye(bilgi.st_mtim),
+                      bilgi.st_mode & kHaklar};
 }
 
 /// A short file in one piece: what is written to as a whole is read as one. A read that comes short of the
@@ -61,20 +68,21 @@ bool BaytlariTasi(int kaynak, int hedef, off_t boy) {
 
 } // namespace
 
+void AdiCoz(DiskAdi ad, Metin& hedef) {
+    Utf8Coz(ad, hedef);
+}
+
 struct Klasor::Ic {
     DIR* akis = nullptr;
-    bool baglantiVar = false;
-    std::string ad; ///< kept for its memory
 
     ~Ic() {
         if (akis != nullptr)
             ::closedir(akis);
     }
 
-    bool Bu(Tur tur, const dirent& kayit) {
+    bool Bu(Tur tur, const dirent& kayit) const {
         if (kayit.d_type != DT_LNK && kayit.d_type != DT_UNKNOWN)
             return kayit.d_type == (tur == Tur::Dosya ? DT_REG : DT_DIR);
-        baglantiVar = true;
         struct stat bilgi {};
         return ::fstatat(::dirfd(akis), static_cast<const char*>(kayit.d_name), &bilgi, 0) == 0 &&
                BuTur(tur, bilgi);
@@ -88,133 +96,43 @@ Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
 
 Klasor::~Klasor() = default;
 
-bool Klasor::Sonraki(Metin& ad, Tur tur) {
+bool Klasor::Sonraki(DiskAdi& ad, Tur tur) {
     for (errno = 0; const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr; errno = 0) {
         if (!ic_->Bu(tur, *kayit))
             continue;
-        Utf8Coz(static_cast<const char*>(kayit->d_name), ad);
+        ad = static_cast<const char*>(kayit->d_name);
         return true;
     }
     tam_ = tam_ && errno == 0;
     return false;
 }
 
-std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, std::string& tampon) {
-    ic_->ad.clear();
-    if (!Utf8Ekle(ad, ic_->ad))
+std::optional<Kimlik> Klasor::Sor(const AdHarfi* ad) const {
+    struct stat bilgi {};
+    if (ic_->akis == nullptr || ::fstatat(::dirfd(ic_->akis), ad, &bilgi, 0) != 0)
         return {};
-    const Tanitici dosya(
-        Sabirla([&] { return ::openat(::dirfd(ic_->akis), ic_->ad.c_str(), kOkumaAcilisi); }));
+    return KimligiAl(bilgi);
+}
+
+std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon,
+                                            Kimlik& kimlik) const {
+    const Tanitici dosya(Sabirla([&] { return ::openat(::dirfd(ic_->akis), ad, kOkumaAcilisi); }));
     const int no = dosya.no;
-    if (no < 0)
+    struct stat bilgi {};
+    if (no < 0 || ::fstat(no, &bilgi) != 0)
         return {};
-    const auto boy = SinirliDoldur(
+    kimlik = KimligiAl(bilgi);
+    if (kimlik.boy > enCok)
+        return {};
+    const auto boy = Doldur(
         tampon, enCok,
-        [no]() -> std::optional<std::uint64_t> {
-            struct stat bilgi {};
-            return ::fstat(no, &bilgi) == 0 ? std::optional(static_cast<std::uint64_t>(bilgi.st_size))
-                                            : std::nullopt;
-        },
         [no](char* hedef, std::size_t adet) {
             return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
-        });
+        },
+        [&kimlik](std::size_t dolu) { return dolu >= kimlik.boy; });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);
-}
-
-bool Klasor::BaglantiVar() const {
-    return ic_->baglantiVar;
-}
-
-namespace {
-
-// All that changes what a listing or a reading gives.
-constexpr std::uint32_t kGozlenen = IN_MODIFY | IN_ATTRIB | IN_CREATE | IN_DELETE | IN_MOVED_FROM |
-                                    IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
-constexpr std::uint32_t kKaybeden = IN_Q_OVERFLOW | IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT | IN_IGNORED;
-
-/// File systems of this machine alone, which tell of every change: ext2 to 4, XFS, Btrfs, F2FS, tmpfs and the
-/// layers of containers. What another machine writes on a share is told of by none.
-constexpr std::array<std::int64_t, 6> kYerelDiskler{0xEF53,     0x58465342, 0x9123683E,
-                                                    0xF2F52010, 0x01021994, 0x794C7630};
-
-bool AyniOge(const struct stat& bir, const struct stat& iki) {
-    return bir.st_dev == iki.st_dev && bir.st_ino == iki.st_ino;
-}
-
-} // namespace
-
-struct Gozcu::Ic {
-    std::filesystem::path yol;
-    int no = -1;
-    int izlenen = -1; ///< -1: it watches nothing
-    struct stat kimlik {};
-    Metin ad; ///< kept for its memory
-
-    bool YolAyni() const {
-        struct stat simdiki {};
-        return ::stat(yol.c_str(), &simdiki) == 0 && AyniOge(simdiki, kimlik);
-    }
-    /// False when this one says that changes were lost.
-    bool Al(const inotify_event& olay, const char* olayAdi, const std::function<void(MetinBakis ad)>& ver) {
-        if ((olay.mask & IN_Q_OVERFLOW) != 0)
-            return false;
-        if (olay.wd != izlenen)
-            return true; // of a folder that was watched before
-        if (olay.len > 0) {
-            Utf8Coz(olayAdi, ad);
-            ver(ad);
-        }
-        return (olay.mask & kKaybeden) == 0;
-    }
-};
-
-Gozcu::Gozcu() : ic_(std::make_unique<Ic>()) {}
-
-Gozcu::~Gozcu() {
-    if (ic_->no >= 0)
-        ::close(ic_->no);
-}
-
-void Gozcu::Izle(const std::filesystem::path& klasor) {
-    Birak();
-    ic_->yol = klasor;
-    struct statfs disk {};
-    if (::statfs(klasor.c_str(), &disk) != 0 ||
-        std::find(kYerelDiskler.begin(), kYerelDiskler.end(), disk.f_type) == kYerelDiskler.end())
-        return;
-    if (ic_->no < 0)
-        ic_->no = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-    if (ic_->no >= 0)
-        ic_->izlenen = ::inotify_add_watch(ic_->no, klasor.c_str(), kGozlenen);
-    if (ic_->izlenen >= 0 && ::stat(klasor.c_str(), &ic_->kimlik) != 0)
-        Birak();
-}
-
-void Gozcu::Birak() {
-    if (ic_->izlenen >= 0)
-        ::inotify_rm_watch(ic_->no, ic_->izlenen);
-    ic_->izlenen = -1;
-}
-
-bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& ver) {
-    alignas(inotify_event) std::array<char, 16 * 1024> tampon{};
-    bool emin = ic_->izlenen >= 0 && ic_->YolAyni();
-    while (emin) {
-        const ssize_t boy = Sabirla([&] { return ::read(ic_->no, tampon.data(), tampon.size()); });
-        if (boy < 0 && errno == EAGAIN)
-            return true;
-        emin = boy > 0;
-        for (ssize_t yer = 0; yer < boy;) {
-            inotify_event olay{};
-            std::memcpy(&olay, tampon.data() + yer, sizeof olay);
-            emin = ic_->Al(olay, tampon.data() + yer + sizeof olay, ver) && emin;
-            yer += static_cast<ssize_t>(sizeof olay + olay.len);
-        }
-    }
-    Birak();
-    return false;
 }
 
 std::optional<OgeBilgisi> Bilgi(const std::filesystem::path& yol) {

@@ -2,6 +2,9 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include <unordered_map>
+#include <vector>
+
 #include "storage/dosya/Aktarim.h"
 #include "storage/dosya/Dosyalar.h"
 #include "storage/dosya/Sistem.h"
@@ -97,6 +100,10 @@ std::optional<std::size_t> KonumdanOku(HANDLE dosya, std::uint64_t konum, char* 
     return gelen;
 }
 
+std::uint64_t Birlestir(DWORD ust, DWORD alt) {
+    return (std::uint64_t{ust} << 32U) | alt;
+}
+
 LARGE_INTEGER Buyuk(std::uint64_t sayi) {
     LARGE_INTEGER buyuk{};
     buyuk.QuadPart = static_cast<LONGLONG>(sayi);
@@ -169,90 +176,129 @@ bool AcikDosya::Kapat() {
     return oldu;
 }
 
-struct Klasor::Ic {
-    std::wstring yol; ///< with a separator at its end
-    HANDLE arama = INVALID_HANDLE_VALUE;
-    WIN32_FIND_DATAW bulunan{};
-    bool var = false; ///< `bulunan` holds an entry that wasn't handed over yet
+void AdiCoz(DiskAdi ad, Metin& hedef) {
+    hedef.assign(ad.begin(), ad.end());
+}
 
-    ~Ic() {
-        if (arama != INVALID_HANDLE_VALUE)
-            ::FindClose(arama);
+namespace {
+
+/// The system counts in steps of 100 ns from the year 1601 on.
+std::int64_t Nanosaniye(const LARGE_INTEGER& zaman) {
+    constexpr std::int64_t kYil1970 = 116'444'736'000'000'000;
+    constexpr std::int64_t kAdim = 100;
+    return (zaman.QuadPart - kYil1970) * kAdim;
+}
+
+/// Of what a listing and an open file tell alike.
+template <class Veri>
+Kimlik KimligiAl(std::uint64_t no, const LARGE_INTEGER& boy, const Veri& veri) {
+    return {0, no, static_cast<std::uint64_t>(boy.QuadPart), Nanosaniye(veri.LastWriteTime),
+            Nanosaniye(veri.ChangeTime)};
+}
+
+std::optional<Kimlik> AcikKimlik(HANDLE dosya) {
+    BY_HANDLE_FILE_INFORMATION bilgi{};
+    FILE_BASIC_INFO zamanlar{};
+    if (::GetFileInformationByHandle(dosya, &bilgi) == 0 ||
+        ::GetFileInformationByHandleEx(dosya, FileBasicInfo, &zamanlar, sizeof zamanlar) == 0)
+        return {};
+    return KimligiAl(Birlestir(bilgi.nFileIndexHigh, bilgi.nFileIndexLow),
+                     Buyuk(Birlestir(bilgi.nFileSizeHigh, bilgi.nFileSizeLow)), zamanlar);
+}
+
+struct KapananTutamac {
+    HANDLE no;
+    explicit KapananTutamac(HANDLE acilan) : no(acilan) {}
+    KapananTutamac(const KapananTutamac&) = delete;
+    KapananTutamac& operator=(const KapananTutamac&) = delete;
+    ~KapananTutamac() {
+        if (no != INVALID_HANDLE_VALUE)
+            ::CloseHandle(no);
     }
 };
 
-Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
-    ic_->yol = UzunYol(yol);
+} // namespace
+
+/// The listing tells times and lengths of all, so that none has to be asked about. Of what another program
+/// still holds open after it has written, the listing may be late.
+struct Klasor::Ic {
+    std::wstring yol; ///< with a separator at its end
+    KapananTutamac klasor;
+    std::vector<std::uint64_t> tampon = std::vector<std::uint64_t>(8192);
+    const FILE_ID_BOTH_DIR_INFO* siradaki = nullptr;    ///< wasn't handed over yet
+    std::unordered_map<std::wstring, Kimlik> kimlikler; ///< but of what leads elsewhere
+
+    /// The next piece of the listing. False behind the last.
+    bool Doldur() {
+        const bool geldi =
+            ::GetFileInformationByHandleEx(klasor.no, FileIdBothDirectoryInfo, tampon.data(),
+                                           static_cast<DWORD>(tampon.size() * sizeof tampon[0])) != 0;
+        siradaki = geldi ? reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(tampon.data()) : nullptr;
+        return geldi;
+    }
+    void Ilerle() {
+        const auto* bayt = reinterpret_cast<const char*>(siradaki);
+        siradaki = siradaki->NextEntryOffset == 0
+                       ? nullptr
+                       : reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(bayt + siradaki->NextEntryOffset);
+    }
+};
+
+Klasor::Klasor(const std::filesystem::path& yol)
+    : ic_(new Ic{UzunYol(yol),
+                 KapananTutamac(::CreateFileW(UzunYol(yol).c_str(), FILE_LIST_DIRECTORY, kHerkesle, nullptr,
+                                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr))}) {
+    tam_ = ic_->klasor.no != INVALID_HANDLE_VALUE || YokHatasi() || ::GetLastError() == ERROR_ACCESS_DENIED;
     if (ic_->yol.back() != L'\\')
         ic_->yol += L'\\';
-    ic_->arama = ::FindFirstFileExW((ic_->yol + L'*').c_str(), FindExInfoBasic, &ic_->bulunan,
-                                    FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-    ic_->var = ic_->arama != INVALID_HANDLE_VALUE;
-    tam_ = ic_->var || YokHatasi() || ::GetLastError() == ERROR_ACCESS_DENIED;
 }
 
 Klasor::~Klasor() = default;
 
-bool Klasor::Sonraki(Metin& ad, Tur tur) {
-    while (ic_->var) {
-        const bool uyan = BuTur(tur, ic_->bulunan.dwFileAttributes);
-        if (uyan) {
-            const std::wstring_view bulunan(static_cast<const wchar_t*>(ic_->bulunan.cFileName));
-            ad.assign(bulunan.begin(), bulunan.end());
-        }
-        ic_->var = ::FindNextFileW(ic_->arama, &ic_->bulunan) != 0;
-        tam_ = tam_ && (ic_->var || ::GetLastError() == ERROR_NO_MORE_FILES);
-        if (uyan)
-            return true;
+bool Klasor::Sonraki(DiskAdi& ad, Tur tur) {
+    while (ic_->klasor.no != INVALID_HANDLE_VALUE && (ic_->siradaki != nullptr || ic_->Doldur())) {
+        const FILE_ID_BOTH_DIR_INFO& oge = *ic_->siradaki;
+        ad = DiskAdi(static_cast<const wchar_t*>(oge.FileName), oge.FileNameLength / sizeof(wchar_t));
+        ic_->Ilerle();
+        if (ad == L"." || ad == L".." || !BuTur(tur, oge.FileAttributes))
+            continue;
+        if ((oge.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+            ic_->kimlikler.emplace(
+                ad, KimligiAl(static_cast<std::uint64_t>(oge.FileId.QuadPart), oge.EndOfFile, oge));
+        return true;
     }
+    tam_ = tam_ && (ic_->klasor.no == INVALID_HANDLE_VALUE || ::GetLastError() == ERROR_NO_MORE_FILES);
     return false;
 }
 
-std::optional<std::string_view> Klasor::Oku(MetinBakis ad, std::size_t enCok, std::string& tampon) {
-    const HANDLE dosya = sistem::Ac(ic_->yol + std::wstring(ad.begin(), ad.end()), Kip::Oku);
-    if (dosya == INVALID_HANDLE_VALUE)
+std::optional<Kimlik> Klasor::Sor(const AdHarfi* ad) const {
+    if (const auto yer = ic_->kimlikler.find(ad); yer != ic_->kimlikler.end())
+        return yer->second;
+    const KapananTutamac dosya(sistem::Ac(ic_->yol + ad, Kip::Oku));
+    return dosya.no != INVALID_HANDLE_VALUE ? AcikKimlik(dosya.no) : std::nullopt;
+}
+
+std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon,
+                                            Kimlik& kimlik) const {
+    const KapananTutamac dosya(sistem::Ac(ic_->yol + ad, Kip::Oku));
+    if (dosya.no == INVALID_HANDLE_VALUE)
         return {};
-    // Closes on every way out, also when the buffer can't grow.
-    struct Kapatan {
-        HANDLE dosya;
-        ~Kapatan() { ::CloseHandle(dosya); }
-    } const kapatan{dosya};
+    const auto acik = AcikKimlik(dosya.no);
+    if (!acik || acik->boy > enCok)
+        return {};
+    kimlik = *acik;
     std::uint64_t konum = 0;
-    const auto boy = SinirliDoldur(
+    const auto boy = Doldur(
         tampon, enCok,
-        [dosya]() -> std::optional<std::uint64_t> {
-            LARGE_INTEGER uzunluk{};
-            if (::GetFileSizeEx(dosya, &uzunluk) == 0)
-                return {};
-            return static_cast<std::uint64_t>(uzunluk.QuadPart);
-        },
         [&](char* hedef, std::size_t adet) {
-            const auto gelen = KonumdanOku(dosya, konum, hedef, adet);
+            const auto gelen = KonumdanOku(dosya.no, konum, hedef, adet);
             konum += gelen.value_or(0);
             return gelen;
-        });
+        },
+        [&kimlik](std::size_t dolu) { return dolu >= kimlik.boy; });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);
-}
-
-bool Klasor::BaglantiVar() const {
-    return false;
-}
-
-// This system may tell of a write only when it comes to the disk: it is never sure.
-struct Gozcu::Ic {};
-
-Gozcu::Gozcu() = default;
-
-Gozcu::~Gozcu() = default;
-
-void Gozcu::Izle(const std::filesystem::path& /*klasor*/) {}
-
-void Gozcu::Birak() {}
-
-bool Gozcu::Degisenler(const std::function<void(MetinBakis ad)>& /*ver*/) {
-    return false;
 }
 
 namespace {
@@ -263,12 +309,10 @@ OgeBilgisi Bilgi(const Veri& veri) {
     constexpr DWORD kHaklar =
         FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
     constexpr std::int64_t kYuzNanosaniye = 100;
-    constexpr unsigned kUst = 32;
-    const auto birlestir = [](DWORD ust, DWORD alt) { return (std::uint64_t{ust} << kUst) | alt; };
     const std::uint64_t an =
-        birlestir(veri.ftLastWriteTime.dwHighDateTime, veri.ftLastWriteTime.dwLowDateTime);
+        Birlestir(veri.ftLastWriteTime.dwHighDateTime, veri.ftLastWriteTime.dwLowDateTime);
     return {BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
-            birlestir(veri.nFileSizeHigh, veri.nFileSizeLow), static_cast<std::int64_t>(an) * kYuzNanosaniye,
+            Birlestir(veri.nFileSizeHigh, veri.nFileSizeLow), static_cast<std::int64_t>(an) * kYuzNanosaniye,
             veri.dwFileAttributes & kHaklar};
 }
 

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "storage/dosya/Dosyalar.h"
+#include "storage/dosya/OkumaBellegi.h"
 #include "storage/dosya/Sessiz.h"
 #include "storage/dosya/Sistem.h"
 #include "storage/dosya/Yazim.h"
@@ -68,6 +69,8 @@ bool Dosyalar::Adim(DosyaIsi is, const Metin& yol, const Degisiklik& degisiklik,
         if (p && defter_)
             defter_->Once(*p, degisiklik);
         const bool oldu = p && yap(*p);
+        if (p)
+            bellek_->Unut(*p);
         if (!oldu && defter_)
             defter_->Olmadi();
         return oldu;

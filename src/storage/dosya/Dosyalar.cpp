@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "storage/dosya/AdListesi.h"
-#include "storage/dosya/KlasorBellegi.h"
+#include "storage/dosya/OkumaBellegi.h"
 #include "storage/dosya/Sessiz.h"
 #include "storage/dosya/Sistem.h"
 #include "storage/dosya/Yazim.h"
@@ -13,9 +12,6 @@
 
 namespace velora {
 namespace {
-
-// Folders that are kept at a time: of a search that stands open as many halls.
-constexpr std::size_t kEnCokBellek = 4;
 
 /// No system of the two takes these in a name, and a name of dots and blanks alone can mean another folder.
 bool AdUygun(MetinBakis ad) {
@@ -31,18 +27,10 @@ std::filesystem::path Mutlak(const std::filesystem::path& yol) {
     return hata ? yol : mutlak;
 }
 
-AdListesi AdlariAl(sistem::Klasor& klasor) {
-    AdListesi adlar;
-    Metin ad;
-    while (klasor.Sonraki(ad, sistem::Tur::Dosya))
-        adlar.Ekle(ad);
-    adlar.Sirala();
-    return adlar;
-}
-
 } // namespace
 
-Dosyalar::Dosyalar(const std::filesystem::path& kok) : kokYolu_(Mutlak(kok)), kok_(YolMetni(kokYolu_)) {
+Dosyalar::Dosyalar(const std::filesystem::path& kok)
+    : kokYolu_(Mutlak(kok)), kok_(YolMetni(kokYolu_)), bellek_(std::make_unique<OkumaBellegi>()) {
     while (!kok_.empty() &&
            (kok_.back() == u'/' || kok_.back() == std::filesystem::path::preferred_separator))
         kok_.pop_back();
@@ -107,16 +95,12 @@ bool Dosyalar::VarMi(const Metin& yol) const {
 }
 
 std::vector<Metin> Dosyalar::Listele(const Metin& klasor) const {
-    return Sessiz([&]() -> std::vector<Metin> {
-        const auto p = Cevir(DosyaIsi::Listele, klasor);
-        if (!p)
-            return {};
-        sistem::Klasor acik(*p);
-        const AdListesi adlar = AdlariAl(acik);
+    return Sessiz([&] {
+        const KlasorOkumasi okuma = KlasorAc(klasor);
         std::vector<Metin> liste;
-        liste.reserve(adlar.Sayi());
-        for (std::size_t i = 0; i < adlar.Sayi(); ++i)
-            liste.emplace_back(adlar[i]);
+        liste.reserve(okuma.Sayi());
+        for (std::size_t i = 0; i < okuma.Sayi(); ++i)
+            liste.emplace_back(okuma[i]);
         return liste;
     });
 }
@@ -141,90 +125,23 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
     return std::move(sonuc.bayt);
 }
 
-/// A folder whose files are read one after the other, from the disk or from what is kept of it.
-struct Dosyalar::Okuma {
-    explicit Okuma(std::shared_ptr<KlasorBellegi> kalan) : bellek(std::move(kalan)) {}
-    explicit Okuma(const std::filesystem::path& yol)
-        : klasor(std::make_unique<sistem::Klasor>(yol)), listelenen(AdlariAl(*klasor)) {}
-
-    const AdListesi& Adlar() const { return bellek ? bellek->Adlar() : listelenen; }
-
-    std::optional<std::string_view> Oku(std::size_t sira, std::size_t& okunan) {
-        if (bellek)
-            return bellek->Oku(sira, kEnUzunOkuma, tampon, okunan);
-        ++okunan;
-        return klasor->Oku(listelenen.Diskteki(sira), kEnUzunOkuma, tampon);
-    }
-
-    std::shared_ptr<KlasorBellegi> bellek;
-    std::unique_ptr<sistem::Klasor> klasor;
-    AdListesi listelenen;
-    std::string tampon;
-};
-
-std::unique_ptr<Dosyalar::Okuma> Dosyalar::OkumaBasla(const std::filesystem::path& yol) const {
-    if (hatirlayan_ > 0)
-        if (auto bellek = Bellek(yol))
-            return std::make_unique<Okuma>(std::move(bellek));
-    return std::make_unique<Okuma>(yol);
-}
-
-/// What is kept of a folder, as it is now; null when nothing can be.
-std::shared_ptr<KlasorBellegi> Dosyalar::Bellek(const std::filesystem::path& yol) const {
-    auto yer =
-        std::find_if(bellekler_.begin(), bellekler_.end(), [&](const auto& b) { return b->Klasor() == yol; });
-    if (yer == bellekler_.end())
-        yer = std::find_if(bellekler_.begin(), bellekler_.end(),
-                           [](const auto& b) { return b->Klasor().empty(); });
-    if (yer == bellekler_.end()) {
-        if (bellekler_.size() == kEnCokBellek)
-            return nullptr;
-        yer = bellekler_.insert(yer, std::make_shared<KlasorBellegi>());
-    }
-    // Somebody reads from it just now, further out: it must not change under his hands.
-    if (yer->use_count() > 1)
-        return nullptr;
-    KlasorBellegi& bellek = **yer;
-    if (bellek.Klasor() == yol && bellek.Tazele())
-        return *yer;
-    bellek.Basla(yol);
-    if (bellek.Tazele())
-        return *yer;
-    bellek.Unut();
-    return nullptr;
-}
-
-Dosyalar::Hatirlama::Hatirlama(const Dosyalar& dosyalar) : dosyalar_(dosyalar) {
-    ++dosyalar_.hatirlayan_;
-}
-
-Dosyalar::Hatirlama::~Hatirlama() {
-    if (--dosyalar_.hatirlayan_ > 0)
-        return;
-    // One that is read from further out belongs to its reader.
-    std::erase_if(dosyalar_.bellekler_, [](const auto& bellek) { return bellek.use_count() > 1; });
-    for (const auto& bellek : dosyalar_.bellekler_)
-        bellek->Unut();
+KlasorOkumasi Dosyalar::KlasorAc(const Metin& klasor) const {
+    KlasorOkumasi okuma(*this, klasor);
+    Sessiz([&] {
+        if (const auto p = Cevir(DosyaIsi::Listele, klasor))
+            okuma.Ac(*p);
+    });
+    return okuma;
 }
 
 void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                           const std::function<bool(MetinBakis ad)>& istenen) const {
-    const auto okuma = Sessiz([&]() -> std::unique_ptr<Okuma> {
-        const auto p = Cevir(DosyaIsi::Listele, klasor);
-        return p ? OkumaBasla(*p) : nullptr;
-    });
-    for (std::size_t i = 0; okuma && i < okuma->Adlar().Sayi(); ++i) {
-        const MetinBakis ad = okuma->Adlar()[i];
-        if (istenen && !istenen(ad))
+    KlasorOkumasi okuma = KlasorAc(klasor);
+    for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
+        if (istenen && !istenen(okuma[i]))
             continue;
-        if (okurken)
-            okurken();
-        const auto bayt = Sessiz([&]() -> std::optional<std::string_view> {
-            if (ariza && ariza(DosyaIsi::Oku, klasor + kAyrac + Metin(ad)))
-                return {};
-            return okuma->Oku(i, okunan_);
-        });
-        ver({ad, bayt.has_value(), bayt.value_or(std::string_view())});
+        const auto bayt = okuma.Oku(i);
+        ver({okuma[i], bayt.has_value(), bayt.value_or(std::string_view())});
     }
 }
 

@@ -12,6 +12,7 @@
 
 #include "storage/Metin.h"
 #include "storage/dosya/AdArama.h"
+#include "storage/dosya/KlasorOkumasi.h"
 
 namespace velora {
 
@@ -19,7 +20,7 @@ namespace velora {
 inline constexpr char16_t kAyrac = u'\\';
 
 class EylemDefteri;
-class KlasorBellegi;
+class OkumaBellegi;
 class YazmaAkisi;
 struct Degisiklik;
 struct EylemSahibi;
@@ -122,6 +123,9 @@ class Dosyalar {
     /// The same for who doesn't ask why: nothing when it can't be opened or read.
     std::optional<std::string> Oku(const Metin& yol) const;
 
+    /// Opens a folder for who reads its files. One that isn't there has none.
+    KlasorOkumasi KlasorAc(const Metin& klasor) const;
+
     /// One file of a folder, as `KlasoruOku` hands it over. The views last until `ver` returns.
     struct OkunanDosya {
         MetinBakis ad;
@@ -129,25 +133,10 @@ class Dosyalar {
         std::string_view bayt;
     };
 
-    /// Lists a folder as `Listele` does and reads each of its files once, in that order and as `Oku` does. A
-    /// name that `istenen` says no to is passed over and not opened.
+    /// Opens a folder and hands over each of its files, in the order of its names. A name that `istenen` says
+    /// no to is passed over and not read.
     void KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,
                     const std::function<bool(MetinBakis ad)>& istenen = {}) const;
-
-    /// As long as one stands, `KlasoruOku` keeps what it has read. What it hands over is what the disk holds
-    /// at each call, as without; but what the system surely tells hasn't changed since is not read again,
-    /// whoever might have changed it. Where the system can't tell, all is. For a handler that reads a folder
-    /// more than once.
-    class Hatirlama {
-      public:
-        explicit Hatirlama(const Dosyalar& dosyalar);
-        Hatirlama(const Hatirlama&) = delete;
-        Hatirlama& operator=(const Hatirlama&) = delete;
-        ~Hatirlama();
-
-      private:
-        const Dosyalar& dosyalar_;
-    };
 
     /// Makes the file hold exactly these bytes. The old text is never emptied before the new one is down: the
     /// new one goes over it in a single write, filled up with line ends to the old length, and then the file
@@ -189,8 +178,10 @@ class Dosyalar {
     /// Whether two paths lead to one and the same folder. False when one isn't there.
     bool AyniKlasor(const Metin& bir, const Metin& iki) const;
 
-    /// For tests: how many files `KlasoruOku` has read from the disk.
+    /// For tests: how many files of folders have been read from the disk.
     std::size_t Okunan() const { return okunan_; }
+    /// For tests: what is kept of folders.
+    OkumaBellegi& Bellek() const { return *bellek_; }
 
     /// For tests: how many folders were listed to find a name that isn't there to the letter.
     std::size_t AramadaListelenen() const { return arama_.Listelenen(); }
@@ -205,21 +196,18 @@ class Dosyalar {
     std::optional<std::size_t> bosYer;
 
   private:
+    friend class KlasorOkumasi;
     std::optional<std::filesystem::path> Bul(const Metin& yol, sistem::Tur tur) const;
     std::optional<std::filesystem::path> Cevir(DosyaIsi is, const Metin& yol) const;
     template <class Yap>
     bool Adim(DosyaIsi is, const Metin& yol, const Degisiklik& degisiklik, Yap yap) const;
-    struct Okuma;
-    std::unique_ptr<Okuma> OkumaBasla(const std::filesystem::path& yol) const;
-    std::shared_ptr<KlasorBellegi> Bellek(const std::filesystem::path& yol) const;
 
     std::filesystem::path kokYolu_;
     Metin kok_;
     std::unique_ptr<EylemDefteri> defter_; // none: there is no journal
     mutable AdArama arama_;                // remembers listings
     mutable std::size_t okunan_ = 0;
-    mutable int hatirlayan_ = 0; // that stand
-    mutable std::vector<std::shared_ptr<KlasorBellegi>> bellekler_;
+    std::unique_ptr<OkumaBellegi> bellek_; // of the folders that were read
 };
 
 /// An action whose steps are known beforehand and follow each other at once: plans them, then makes them.

@@ -1,82 +1,116 @@
 #include "storage/dosya/KlasorBellegi.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <utility>
 
 namespace velora {
 
 namespace {
 
-// More than any year needs; whatever is beyond it is read each time.
-constexpr std::size_t kEnUzunSaklanan = std::size_t{256} << 10U;
-constexpr std::size_t kEnCokSaklanan = std::size_t{16} << 20U;
+// Whatever is longer is read each time.
+constexpr std::size_t kEnUzunSaklanan = std::size_t{1} << 20U;
+
+// The coarsest steps in which a disk tells times.
+constexpr std::chrono::seconds kZamanAdimi{2};
+
+// No year needs it, and places are 32 bits.
+constexpr std::size_t kEnCokSaklanan = std::size_t{64} << 20U;
 
 } // namespace
 
-void KlasorBellegi::Basla(const std::filesystem::path& klasor) {
-    Unut();
-    klasor_ = klasor;
-    gozcu_.Izle(klasor_); // before the first listing: no change gets lost
-}
-
-void KlasorBellegi::Unut() {
-    gozcu_.Birak();
-    klasor_.clear();
-    acik_.reset();
-    adlar_ = {};
-    icerikler_.clear();
-}
-
-bool KlasorBellegi::Tazele() {
-    std::vector<Metin> degisenler;
-    if (!gozcu_.Degisenler([&](MetinBakis ad) { degisenler.emplace_back(ad); }))
-        return false;
-    if (acik_ == nullptr || !degisenler.empty())
-        Listele(degisenler);
-    // What a link leads to lies elsewhere.
-    return !acik_->BaglantiVar();
-}
-
-/// Lists anew and takes over what is known of the names that haven't changed.
-void KlasorBellegi::Listele(const std::vector<Metin>& degisenler) {
-    acik_ = std::make_unique<sistem::Klasor>(klasor_);
+void KlasorBellegi::Listele(sistem::Klasor& acik) {
     AdListesi yeni;
-    Metin ad;
-    while (acik_->Sonraki(ad, sistem::Tur::Dosya))
-        yeni.Ekle(ad);
-    yeni.Sirala();
-    std::vector<std::optional<std::string>> icerikler(yeni.Sayi());
-    bayt_ = 0;
-    // Both are in the same order: a name that is in both stands behind the ones that are gone.
-    std::size_t eski = 0;
-    for (std::size_t i = 0; i < yeni.Sayi(); ++i) {
-        std::size_t yer = eski;
-        while (yer < adlar_.Sayi() && adlar_.Diskteki(yer) != yeni.Diskteki(i))
-            ++yer;
-        if (yer == adlar_.Sayi())
-            continue; // a new one
-        eski = yer + 1;
-        if (icerikler_[yer] && std::ranges::find(degisenler, yeni.Diskteki(i)) == degisenler.end()) {
-            icerikler[i] = std::move(icerikler_[yer]);
-            bayt_ += icerikler[i]->size();
+    std::size_t ayni = 0; // so many came as they did the last time, and no other
+    bool degisti = false;
+    for (sistem::DiskAdi ad; acik.Sonraki(ad, sistem::Tur::Dosya);) {
+        if (!degisti && adlar_.Gelen(ayni, ad)) {
+            ++ayni;
+            continue;
         }
+        if (!std::exchange(degisti, true))
+            yeni.BastanEkle(adlar_, ayni);
+        yeni.Ekle(ad);
+    }
+    if (!degisti && ayni == adlar_.Sayi())
+        return;
+    if (!degisti)
+        yeni.BastanEkle(adlar_, ayni);
+    yeni.Sirala();
+    AdlariDegistir(std::move(yeni));
+}
+
+void KlasorBellegi::AdlariDegistir(AdListesi yeni) {
+    std::vector<Kayit> kayitlar(yeni.Sayi());
+    if (saklanan_ > 0) {
+        std::unordered_map<sistem::DiskAdi, std::size_t> yerler;
+        for (std::size_t i = 0; i < yeni.Sayi(); ++i)
+            yerler.emplace(yeni.Diskteki(i), i);
+        for (std::size_t i = 0; i < kayitlar_.size(); ++i)
+            if (const auto yer = yerler.find(adlar_.Diskteki(i)); yer != yerler.end())
+                kayitlar[yer->second] = kayitlar_[i];
+            else
+                Birak(kayitlar_[i]);
     }
     adlar_ = std::move(yeni);
-    icerikler_ = std::move(icerikler);
+    kayitlar_ = std::move(kayitlar);
 }
 
-std::optional<std::string_view> KlasorBellegi::Oku(std::size_t sira, std::size_t enCok, std::string& tampon,
-                                                   std::size_t& okunan) {
-    auto& icerik = icerikler_[sira];
-    if (icerik)
-        return *icerik;
-    ++okunan;
-    const auto bayt = acik_->Oku(adlar_.Diskteki(sira), enCok, tampon);
-    // A failure may be over at the next reading without a change in the folder.
-    if (bayt && bayt->size() <= kEnUzunSaklanan && bayt_ + bayt->size() <= kEnCokSaklanan) {
-        icerik.emplace(*bayt);
-        bayt_ += bayt->size();
+std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& acik, std::size_t sira) const {
+    const Kayit& kayit = kayitlar_[sira];
+    if (!kayit.var || acik.Sor(adlar_.Diskteki(sira).data()) != kayit.kimlik)
+        return {};
+    return std::string_view(baytlar_).substr(kayit.bas, kayit.uzunluk);
+}
+
+bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt, const sistem::Kimlik& kimlik,
+                          SistemAni an) {
+    Kayit& kayit = kayitlar_[sira];
+    Birak(kayit);
+    const auto sonDegisme = SistemAni(std::chrono::nanoseconds(std::max(kimlik.yazma, kimlik.durum)));
+    if (sonDegisme + kZamanAdimi > an || bayt.size() != kimlik.boy || bayt.size() > kEnUzunSaklanan)
+        return false;
+    if (baytlar_.size() > 2 * kullanilan_ + kEnUzunSaklanan)
+        Sikistir();
+    if (baytlar_.size() + bayt.size() > kEnCokSaklanan)
+        return false;
+    const auto bas = static_cast<std::uint32_t>(baytlar_.size());
+    baytlar_ += bayt;
+    kayit = {kimlik, bas, static_cast<std::uint32_t>(bayt.size()), true};
+    ++saklanan_;
+    kullanilan_ += bayt.size();
+    return true;
+}
+
+void KlasorBellegi::Unut(sistem::DiskAdi ad) {
+    for (std::size_t i = 0; i < kayitlar_.size(); ++i)
+        if (adlar_.Diskteki(i) == ad)
+            Birak(kayitlar_[i]);
+}
+
+void KlasorBellegi::Birak(Kayit& kayit) {
+    if (!std::exchange(kayit.var, false))
+        return;
+    --saklanan_;
+    kullanilan_ -= kayit.uzunluk;
+}
+
+/// Gives back the room of what isn't kept any more.
+void KlasorBellegi::Sikistir() {
+    std::string yeni;
+    yeni.reserve(kullanilan_);
+    for (Kayit& kayit : kayitlar_) {
+        if (!kayit.var)
+            continue;
+        const auto bas = static_cast<std::uint32_t>(yeni.size());
+        yeni.append(baytlar_, kayit.bas, kayit.uzunluk);
+        kayit.bas = bas;
     }
-    return bayt;
+    baytlar_ = std::move(yeni);
+}
+
+std::size_t KlasorBellegi::Bayt() const {
+    return adlar_.Bayt() + kayitlar_.capacity() * sizeof(Kayit) + baytlar_.capacity();
 }
 
 } // namespace velora

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <chrono>
+#include <cstdint>
 #include <filesystem>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,36 +13,56 @@
 
 namespace velora {
 
-/// What was read of one folder, as long as the system surely tells what has changed in it since. A file is
-/// read when it is first asked for, and again behind each change.
+/// The clock of the system, which files get their times from.
+using SistemAni = std::chrono::sys_time<std::chrono::nanoseconds>;
+
+/// What was read of one folder. The names are those of the last listing. The bytes of a file are kept as long
+/// as the system tells the same of it as before they were read (`sistem::Kimlik`); but what had been written
+/// so shortly before that another write might bear the same time is never kept.
 class KlasorBellegi {
   public:
-    /// Begins with another folder, of which nothing is known yet.
-    void Basla(const std::filesystem::path& klasor);
-    /// Forgets all and watches nothing.
-    void Unut();
+    explicit KlasorBellegi(std::filesystem::path klasor) : klasor_(std::move(klasor)) {}
 
-    /// The folder; empty for none.
     const std::filesystem::path& Klasor() const { return klasor_; }
 
-    /// Brings names and contents up to this moment. False: nothing can be known of this folder any more.
-    bool Tazele();
+    /// Takes the names that stand there now, and forgets what is gone.
+    void Listele(sistem::Klasor& acik);
 
     const AdListesi& Adlar() const { return adlar_; }
-    /// The bytes of a file by its place among the names; nothing when it can't be opened or read. They last
-    /// until the next call. `okunan` counts what came from the disk.
-    std::optional<std::string_view> Oku(std::size_t sira, std::size_t enCok, std::string& tampon,
-                                        std::size_t& okunan);
+
+    /// The bytes that are kept of a file, by its place among the names, where the system says that it is as
+    /// it was. They last until the next one is kept.
+    std::optional<std::string_view> Hatirla(const sistem::Klasor& acik, std::size_t sira) const;
+
+    /// Keeps what was read of a file after `an`, which was `kimlik` before it was read. False: it isn't kept.
+    bool Sakla(std::size_t sira, std::string_view bayt, const sistem::Kimlik& kimlik, SistemAni an);
+
+    /// Forgets one, whatever the system says of it.
+    void Unut(sistem::DiskAdi ad);
+
+    /// Whether the bytes of any file are kept.
+    bool Bos() const { return saklanan_ == 0; }
+    /// What it holds in memory.
+    std::size_t Bayt() const;
 
   private:
-    void Listele(const std::vector<Metin>& degisenler);
+    struct Kayit {
+        sistem::Kimlik kimlik = {};
+        std::uint32_t bas = 0; ///< in `baytlar_`
+        std::uint32_t uzunluk = 0;
+        bool var = false;
+    };
+
+    void AdlariDegistir(AdListesi yeni);
+    void Birak(Kayit& kayit);
+    void Sikistir();
 
     std::filesystem::path klasor_;
-    sistem::Gozcu gozcu_;
-    std::unique_ptr<sistem::Klasor> acik_;
     AdListesi adlar_;
-    std::vector<std::optional<std::string>> icerikler_; // by the places of the names; none: not read yet
-    std::size_t bayt_ = 0;                              // in them
+    std::vector<Kayit> kayitlar_; // by the places of the names
+    std::string baytlar_;         // of all that are kept, and of some that aren't any more
+    std::size_t saklanan_ = 0;    // files
+    std::size_t kullanilan_ = 0;  // bytes of them
 };
 
 } // namespace velora

@@ -75,7 +75,25 @@ class AcikDosya {
     bool adsiz_ = false;
 };
 
-/// A folder that is listed, and whose files are then read by name.
+/// The name of an entry as the disk has it.
+using AdHarfi = std::filesystem::path::value_type;
+using DiskAdi = std::basic_string_view<AdHarfi>;
+
+/// Its text; a byte that belongs to no character stays (storage/dosya/Utf8).
+void AdiCoz(DiskAdi ad, Metin& hedef);
+
+/// What differs where a file isn't the one that it was or may hold something else: all is as the system tells
+/// it, times in nanoseconds since 1970.
+struct Kimlik {
+    std::uint64_t disk = 0;
+    std::uint64_t no = 0;   ///< of the file on its disk
+    std::uint64_t boy = 0;  ///< bytes
+    std::int64_t yazma = 0; ///< when it was written to last
+    std::int64_t durum = 0; ///< when that, its rights, its length or its name were changed last
+    bool operator==(const Kimlik&) const = default;
+};
+
+/// A folder that is listed, and whose files are then asked about and read by name. Links are followed.
 class Klasor {
   public:
     /// A folder that can't be opened lists nothing.
@@ -84,48 +102,27 @@ class Klasor {
     Klasor& operator=(const Klasor&) = delete;
     ~Klasor();
 
-    /// The name of the next entry of this kind, in the order of the disk. False after the last.
-    bool Sonraki(Metin& ad, Tur tur);
+    /// The name of the next entry of this kind, in the order of the disk. It lasts until the next call. False
+    /// after the last.
+    bool Sonraki(DiskAdi& ad, Tur tur);
 
     /// Whether the names handed over so far are all that there were up to that place. A folder that isn't
     /// there, or that nobody may list, has none.
     bool Tam() const { return tam_; }
 
-    /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
-    /// again. Nothing when the file can't be opened or read, or is longer than `enCok`.
-    std::optional<std::string_view> Oku(MetinBakis ad, std::size_t enCok, std::string& tampon);
+    /// Nothing where it can't be told. Where a listing tells it, it is that of the listing.
+    std::optional<Kimlik> Sor(const AdHarfi* ad) const;
 
-    /// Whether an entry that was listed may lie elsewhere: a link, to a file or to nothing.
-    bool BaglantiVar() const;
+    /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
+    /// again. Nothing when the file can't be opened or read, or is longer than `enCok`. `kimlik` becomes what
+    /// the file was before it was read.
+    std::optional<std::string_view> Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon,
+                                        Kimlik& kimlik) const;
 
   private:
     struct Ic;
     std::unique_ptr<Ic> ic_;
     bool tam_ = true;
-};
-
-/// Tells what changes in a folder while it is watched, whoever changes it. One that has watched is kept for
-/// the next folder: to make one and to throw it away costs more than a folder's reading.
-class Gozcu {
-  public:
-    Gozcu();
-    Gozcu(const Gozcu&) = delete;
-    Gozcu& operator=(const Gozcu&) = delete;
-    ~Gozcu();
-
-    /// Watches this folder from here on, and no other one.
-    void Izle(const std::filesystem::path& klasor);
-    void Birak();
-
-    /// Hands over the names, as on the disk, of the entries that were made, removed, renamed, written to or
-    /// given other rights since the last call. False when it can't be sure to know of all, or when the path
-    /// leads to another folder by now; then it has stopped watching. A system that doesn't tell of each
-    /// change at once is never sure.
-    bool Degisenler(const std::function<void(MetinBakis ad)>& ver);
-
-  private:
-    struct Ic;
-    std::unique_ptr<Ic> ic_;
 };
 
 /// What the system tells of an entry, links followed.

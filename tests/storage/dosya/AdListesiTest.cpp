@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <random>
 
 #include "storage/dosya/Dosyalar.h"
@@ -13,7 +14,7 @@ namespace {
 std::vector<Metin> Sirali(const std::vector<Metin>& adlar) {
     AdListesi liste;
     for (const Metin& ad : adlar)
-        liste.Ekle(ad);
+        liste.Ekle(std::filesystem::path(ad).native());
     liste.Sirala();
     std::vector<Metin> sonuc;
     for (std::size_t i = 0; i < liste.Sayi(); ++i)
@@ -69,17 +70,37 @@ TEST(AyniAd, Goes_by_letters_without_their_case) {
 }
 
 TEST(AdListesi, Gives_names_in_the_form_of_the_program_and_keeps_how_they_stand_on_the_disk) {
-    const Metin ham = Metin(u"G") + char16_t{0xDCFC} + u"l";
+    const std::vector<sistem::DiskAdi> adlar{"Gu\u0308m", "G\xFCl", "Göl"};
     AdListesi liste;
-    for (const Metin& ad : {Metin(u"Gu\u0308m"), ham, Metin(u"Göl")})
+    for (const sistem::DiskAdi ad : adlar)
         liste.Ekle(ad);
     liste.Sirala();
     ASSERT_EQ(liste.Sayi(), 3U);
     EXPECT_EQ(liste[0], u"Göl");
     EXPECT_EQ(liste[1], u"Gül");
-    EXPECT_EQ(liste.Diskteki(1), ham);
+    EXPECT_EQ(liste.Diskteki(1), adlar[1]);
     EXPECT_EQ(liste[2], u"Güm");
-    EXPECT_EQ(liste.Diskteki(2), u"Gu\u0308m");
+    EXPECT_EQ(liste.Diskteki(2), adlar[0]);
+    EXPECT_EQ(liste.Diskteki(2).data()[liste.Diskteki(2).size()], '\0');
+    for (std::size_t i = 0; i < adlar.size(); ++i)
+        EXPECT_TRUE(liste.Gelen(i, adlar[i]));
+    EXPECT_FALSE(liste.Gelen(1, adlar[2]));
+    EXPECT_FALSE(liste.Gelen(3, adlar[2]));
+}
+
+TEST(AdListesi, Of_equal_names_the_one_that_stands_so_on_the_disk_comes_first) {
+    AdListesi liste;
+    for (const sistem::DiskAdi ad : {"u\u0308", "\xFC", "ü", "Ü"})
+        liste.Ekle(ad);
+    liste.Sirala();
+    EXPECT_EQ(liste[0], u"Ü");
+    EXPECT_EQ(liste.Diskteki(1), sistem::DiskAdi("ü"));
+    EXPECT_EQ(liste.Diskteki(2), sistem::DiskAdi("u\u0308"));
+    EXPECT_EQ(liste.Diskteki(3), sistem::DiskAdi("\xFC"));
+    EXPECT_EQ(liste.Bul(u"ü"), 1U);
+    EXPECT_EQ(liste.Bul(u"Ü"), 0U);
+    EXPECT_EQ(liste.Bul(u"û"), std::nullopt);
+    EXPECT_EQ(liste.Bul(u"z"), std::nullopt);
 }
 
 TEST(AdListesi, Letters_beyond_one_byte_do_not_let_later_letters_decide) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <unistd.h>
 
-#include "destek/GeciciAgac.h"
+#include "storage/DosyaAgaci.h"
 #include "storage/dosya/Sistem.h"
 
 namespace {
@@ -37,6 +37,22 @@ TEST(Kopyaci, A_read_that_gives_less_than_there_is_is_not_the_end_of_a_copy) {
     EXPECT_TRUE(oldu);
     EXPECT_EQ(agac.Bayt(u"hedef/a"), bayt);
     EXPECT_FALSE(agac.Var(u"hedef/yarim"));
+}
+
+TEST(Klasor, A_read_that_gives_less_than_there_is_is_not_the_end_of_a_file) {
+    const test::DosyaAgaci agac;
+    std::string bayt;
+    for (int i = 0; i < 1000; ++i)
+        bayt += std::to_string(i) + "\r\n";
+    agac.Koy(u"yıl/a", bayt);
+    agac.Koy(u"yıl/b", "kısa\r\n");
+    std::vector<std::string> okunan;
+    // Whatever a piece ends with: only the length tells.
+    enCokOkunan = 512;
+    agac.dosyalar.KlasoruOku(agac.TamYol(u"yıl"),
+                             [&](const Dosyalar::OkunanDosya& dosya) { okunan.emplace_back(dosya.bayt); });
+    enCokOkunan = 0;
+    EXPECT_EQ(okunan, (std::vector<std::string>{bayt, "kısa\r\n"}));
 }
 
 } // namespace velora

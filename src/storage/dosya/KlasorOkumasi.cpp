@@ -1,0 +1,60 @@
+#include "storage/dosya/KlasorOkumasi.h"
+
+#include <utility>
+
+#include "storage/dosya/Dosyalar.h"
+#include "storage/dosya/OkumaBellegi.h"
+#include "storage/dosya/Sessiz.h"
+
+namespace velora {
+
+void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
+    // Asked before the first reading: what is written from here on is younger.
+    an_ = dosyalar_->bellek_->Simdi();
+    acik_ = std::make_unique<sistem::Klasor>(klasor);
+    const auto bellek = dosyalar_->bellek_->Al(klasor);
+    bellek->Listele(*acik_);
+    bellek_ = bellek;
+}
+
+KlasorOkumasi::KlasorOkumasi(KlasorOkumasi&& baska) noexcept
+    : dosyalar_(std::exchange(baska.dosyalar_, nullptr)), yol_(std::move(baska.yol_)), an_(baska.an_),
+      acik_(std::move(baska.acik_)), bellek_(std::move(baska.bellek_)), tampon_(std::move(baska.tampon_)) {}
+
+KlasorOkumasi::~KlasorOkumasi() {
+    if (bellek_)
+        Sessiz([&] { dosyalar_->bellek_->Okundu(bellek_); });
+}
+
+std::optional<std::string_view> KlasorOkumasi::Oku(std::size_t sira) {
+    return Sessiz([&]() -> std::optional<std::string_view> {
+        if (dosyalar_->okurken)
+            dosyalar_->okurken();
+        if (dosyalar_->ariza && dosyalar_->ariza(DosyaIsi::Oku, yol_ + kAyrac + Metin((*this)[sira])))
+            return {};
+        return BelleginOkumasi(sira);
+    });
+}
+
+std::optional<std::string_view> KlasorOkumasi::BelleginOkumasi(std::size_t sira) {
+    if (const auto bayt = bellek_->Hatirla(*acik_, sira))
+        return bayt;
+    sistem::Kimlik kimlik;
+    ++dosyalar_->okunan_;
+    const auto bayt = acik_->Oku(bellek_->Adlar().Diskteki(sira).data(), kEnUzunOkuma, tampon_, kimlik);
+    if (bayt)
+        bellek_->Sakla(sira, *bayt, kimlik, an_);
+    return bayt;
+}
+
+std::optional<std::string_view> KlasorOkumasi::Oku(MetinBakis ad) {
+    if (const auto sira = bellek_ ? bellek_->Adlar().Bul(ad) : std::nullopt)
+        return Oku(*sira);
+    auto bayt = dosyalar_->Oku(yol_ + kAyrac + Metin(ad));
+    if (!bayt)
+        return {};
+    tampon_ = std::move(*bayt);
+    return tampon_;
+}
+
+} // namespace velora

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "storage/Metin.h"
+#include "storage/dosya/KlasorBellegi.h"
+
+namespace velora {
+
+class Dosyalar;
+
+/// A folder that is read: the names that stood there when it was opened, and the bytes of each file as they
+/// are when they are asked for. What was read before, whoever did it, and hasn't changed since comes from
+/// memory; who asks sees no difference.
+///
+/// It may stand while events run, and while others read and write the same folder. What is opened by
+/// `Dosyalar` must not outlive it.
+class KlasorOkumasi {
+  public:
+    KlasorOkumasi(KlasorOkumasi&& baska) noexcept;
+    KlasorOkumasi& operator=(KlasorOkumasi&&) = delete;
+    ~KlasorOkumasi();
+
+    /// Names of the plain files, sorted by name without regard to case. None of a folder that isn't there.
+    std::size_t Sayi() const { return bellek_ ? bellek_->Adlar().Sayi() : 0; }
+    /// It lasts until the next name is asked for.
+    MetinBakis operator[](std::size_t sira) const { return bellek_->Adlar()[sira]; }
+
+    /// The whole file; nothing when it can't be opened or read. It lasts until the next one is read.
+    std::optional<std::string_view> Oku(std::size_t sira);
+
+    /// The file that this name leads to in this folder, be it that it is spelled otherwise there. Else as
+    /// above.
+    std::optional<std::string_view> Oku(MetinBakis ad);
+
+  private:
+    friend class Dosyalar;
+    KlasorOkumasi(const Dosyalar& dosyalar, Metin yol) : dosyalar_(&dosyalar), yol_(std::move(yol)) {}
+    void Ac(const std::filesystem::path& klasor);
+
+    std::optional<std::string_view> BelleginOkumasi(std::size_t sira);
+
+    const Dosyalar* dosyalar_; // null: this one was moved away
+    Metin yol_;
+    SistemAni an_{};
+    std::unique_ptr<sistem::Klasor> acik_;
+    std::shared_ptr<KlasorBellegi> bellek_;
+    std::string tampon_;
+};
+
+} // namespace velora
