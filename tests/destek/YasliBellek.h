@@ -7,10 +7,10 @@
 
 namespace velora::test {
 
-/// From here on all that stands on the disk is an hour old to what is kept of folders. What is read then is
-/// believed at once: between two changes of one file there must be a `YeniAn` of the tree.
-inline void BellekYasliGorsun(const Dosyalar& dosyalar) {
-    dosyalar.Bellek().saat = [] { return std::chrono::system_clock::now() + std::chrono::hours(1); };
+/// What is read from here on is believed at once, however young it is: before a change from outside there
+/// must be a `YeniAn` of the tree.
+inline void BellekBeklemesin(const Dosyalar& dosyalar) {
+    dosyalar.Bellek().zamanAdimi = std::chrono::nanoseconds(0);
 }
 
 } // namespace velora::test

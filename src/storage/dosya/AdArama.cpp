@@ -74,8 +74,8 @@ const std::vector<AdArama::Ad>& AdArama::Listesi(const Anahtar& klasor) {
     icerik = {.degisim = {}, .adlar = {}};
     sistem::Klasor acik(klasor.first);
     AdListesi liste;
-    for (sistem::DiskAdi ad; acik.Sonraki(ad, klasor.second);)
-        liste.Ekle(ad);
+    for (sistem::ListeOgesi oge; acik.Sonraki(oge, klasor.second);)
+        liste.Ekle(oge);
     liste.Sirala();
     icerik.adlar.reserve(liste.Sayi());
     for (std::size_t i = 0; i < liste.Sayi(); ++i)

@@ -140,15 +140,16 @@ bool AdSirasi(MetinBakis bir, MetinBakis iki) {
     return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
 }
 
-void AdListesi::Ekle(DiskAdi ad) {
-    gelenler_.push_back({static_cast<std::uint32_t>(harfler_.size()), static_cast<std::uint32_t>(ad.size())});
-    harfler_ += ad;
+void AdListesi::Ekle(const sistem::ListeOgesi& oge) {
+    gelenler_.push_back(
+        {oge.no, static_cast<std::uint32_t>(harfler_.size()), static_cast<std::uint32_t>(oge.ad.size())});
+    harfler_ += oge.ad;
     harfler_ += AdHarfi{};
 }
 
 void AdListesi::BastanEkle(const AdListesi& baska, std::size_t adet) {
     for (std::size_t i = 0; i < adet; ++i)
-        Ekle(baska.Bakis(baska.gelenler_[i]));
+        Ekle({baska.Bakis(baska.gelenler_[i]), baska.gelenler_[i].no});
 }
 
 void AdListesi::Sirala() {

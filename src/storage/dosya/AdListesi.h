@@ -13,8 +13,8 @@ namespace velora {
 /// memory call for each, and a name becomes a text only when somebody asks for it.
 class AdListesi {
   public:
-    /// Takes a name as it stands on the disk.
-    void Ekle(sistem::DiskAdi ad);
+    /// Takes a name as it stands on the disk, and the number of its file.
+    void Ekle(const sistem::ListeOgesi& oge);
 
     /// Puts the names into the order of `AdSirasi`. Of equal ones the one that stands so on the disk comes
     /// first.
@@ -26,9 +26,12 @@ class AdListesi {
     /// As it stands on the disk. A zero follows it.
     sistem::DiskAdi Diskteki(std::size_t i) const { return Bakis(gelenler_[adlar_[i].gelen]); }
 
+    /// The number of its file, 0 for none.
+    std::uint64_t No(std::size_t i) const { return gelenler_[adlar_[i].gelen].no; }
+
     /// Whether this one was added as the `i`th, whatever its place is by now.
-    bool Gelen(std::size_t i, sistem::DiskAdi ad) const {
-        return i < gelenler_.size() && Bakis(gelenler_[i]) == ad;
+    bool Gelen(std::size_t i, const sistem::ListeOgesi& oge) const {
+        return i < gelenler_.size() && gelenler_[i].no == oge.no && Bakis(gelenler_[i]) == oge.ad;
     }
     /// Adds those that were added first to another one, in that order.
     void BastanEkle(const AdListesi& baska, std::size_t adet);
@@ -41,6 +44,7 @@ class AdListesi {
 
   private:
     struct Yer {
+        std::uint64_t no;
         std::uint32_t bas;
         std::uint32_t uzunluk;
     };

@@ -15,6 +15,9 @@ inline constexpr std::uint64_t kEnUzunKayit = 16U << 20U;
 
 inline constexpr std::size_t kOkumaTamponu = 64U << 10U;
 
+/// The blocks and pages that systems and networks read by are multiples of it.
+inline constexpr std::size_t kEnKucukBlok = 512;
+
 /// Reads with `oku(hedef, adet)` into the buffer until the end or up to `enCok` bytes, and returns how many
 /// came. What comes short of what was asked for is taken for the end, so that a short file costs one call,
 /// unless `sonu(dolu)` says that it can't be: then it is asked for more.
@@ -33,6 +36,31 @@ std::optional<std::size_t> Doldur(std::string& tampon, std::size_t enCok, Okur o
             break;
     }
     return dolu;
+}
+
+/// Whether a read that came short so far may have come to the end. A system may break one off before: a disk
+/// that fails in the middle gives what lies before, up to the border of a block, and fails at the next call.
+/// Every text of ours ends with a line.
+inline bool SonuOlabilir(std::string_view okunan) {
+    return okunan.ends_with('\n') && okunan.size() % kEnKucukBlok != 0;
+}
+
+/// Reads a whole file as `Doldur` does. Nothing when it is longer than `enCok`. A short file, and that is
+/// every record, isn't asked for its length: `boyu()` is called only for what one buffer doesn't hold, and
+/// where one read may have been broken off.
+template <class Boy, class Okur>
+std::optional<std::size_t> SinirliDoldur(std::string& tampon, std::size_t enCok, Boy boyu, Okur oku) {
+    bool ilk = true;
+    const auto sinirliOku = [&](char* hedef, std::size_t adet) {
+        const bool uygun = ilk || boyu().value_or(enCok + 1) <= enCok;
+        ilk = false;
+        return uygun ? oku(hedef, adet) : std::nullopt;
+    };
+    const auto okunan = Doldur(tampon, enCok, sinirliOku, [&](std::size_t dolu) {
+        return SonuOlabilir(std::string_view(tampon).substr(0, dolu));
+    });
+    // Full to the limit by a first buffer that was as large: there may be more.
+    return okunan == enCok && boyu().value_or(enCok + 1) > enCok ? std::nullopt : okunan;
 }
 
 /// Reads an open file of that length from its beginning, as `Doldur` does. What comes short of the length

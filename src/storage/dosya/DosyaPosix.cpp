@@ -96,11 +96,12 @@ Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
 
 Klasor::~Klasor() = default;
 
-bool Klasor::Sonraki(DiskAdi& ad, Tur tur) {
+bool Klasor::Sonraki(ListeOgesi& oge, Tur tur) {
     for (errno = 0; const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr; errno = 0) {
         if (!ic_->Bu(tur, *kayit))
             continue;
-        ad = static_cast<const char*>(kayit->d_name);
+        // What a link leads to has another one.
+        oge = {static_cast<const char*>(kayit->d_name), kayit->d_type == DT_REG ? kayit->d_ino : 0};
         return true;
     }
     tam_ = tam_ && errno == 0;
@@ -114,22 +115,28 @@ std::optional<Kimlik> Klasor::Sor(const AdHarfi* ad) const {
     return KimligiAl(bilgi);
 }
 
-std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon,
-                                            Kimlik& kimlik) const {
+std::optional<Kimlik> Klasor::Sor() const {
+    struct stat bilgi {};
+    if (ic_->akis == nullptr || ::fstat(::dirfd(ic_->akis), &bilgi) != 0)
+        return {};
+    return KimligiAl(bilgi);
+}
+
+std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon) const {
     const Tanitici dosya(Sabirla([&] { return ::openat(::dirfd(ic_->akis), ad, kOkumaAcilisi); }));
     const int no = dosya.no;
-    struct stat bilgi {};
-    if (no < 0 || ::fstat(no, &bilgi) != 0)
+    if (no < 0)
         return {};
-    kimlik = KimligiAl(bilgi);
-    if (kimlik.boy > enCok)
-        return {};
-    const auto boy = Doldur(
+    const auto boy = SinirliDoldur(
         tampon, enCok,
+        [no]() -> std::optional<std::uint64_t> {
+            struct stat bilgi {};
+            return ::fstat(no, &bilgi) == 0 ? std::optional(static_cast<std::uint64_t>(bilgi.st_size))
+                                            : std::nullopt;
+        },
         [no](char* hedef, std::size_t adet) {
             return Adet(Sabirla([&] { return ::read(no, hedef, adet); }));
-        },
-        [&kimlik](std::size_t dolu) { return dolu >= kimlik.boy; });
+        });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);

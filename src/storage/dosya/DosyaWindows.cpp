@@ -104,6 +104,13 @@ std::uint64_t Birlestir(DWORD ust, DWORD alt) {
     return (std::uint64_t{ust} << 32U) | alt;
 }
 
+std::optional<std::uint64_t> Boyu(HANDLE dosya) {
+    LARGE_INTEGER boy{};
+    if (::GetFileSizeEx(dosya, &boy) == 0)
+        return {};
+    return static_cast<std::uint64_t>(boy.QuadPart);
+}
+
 LARGE_INTEGER Buyuk(std::uint64_t sayi) {
     LARGE_INTEGER buyuk{};
     buyuk.QuadPart = static_cast<LONGLONG>(sayi);
@@ -129,10 +136,7 @@ Acilis AcikDosya::Ac(const std::filesystem::path& yol, Kip kip) {
 }
 
 std::optional<std::uint64_t> AcikDosya::Boy() const {
-    LARGE_INTEGER boy{};
-    if (::GetFileSizeEx(Tutamac(tutamac_), &boy) == 0)
-        return {};
-    return static_cast<std::uint64_t>(boy.QuadPart);
+    return Boyu(Tutamac(tutamac_));
 }
 
 std::optional<std::size_t> AcikDosya::Oku(std::uint64_t konum, char* hedef, std::size_t adet) {
@@ -255,16 +259,17 @@ Klasor::Klasor(const std::filesystem::path& yol)
 
 Klasor::~Klasor() = default;
 
-bool Klasor::Sonraki(DiskAdi& ad, Tur tur) {
+bool Klasor::Sonraki(ListeOgesi& siradaki, Tur tur) {
     while (ic_->klasor.no != INVALID_HANDLE_VALUE && (ic_->siradaki != nullptr || ic_->Doldur())) {
         const FILE_ID_BOTH_DIR_INFO& oge = *ic_->siradaki;
-        ad = DiskAdi(static_cast<const wchar_t*>(oge.FileName), oge.FileNameLength / sizeof(wchar_t));
+        const DiskAdi ad(static_cast<const wchar_t*>(oge.FileName), oge.FileNameLength / sizeof(wchar_t));
         ic_->Ilerle();
         if (ad == L"." || ad == L".." || !BuTur(tur, oge.FileAttributes))
             continue;
         if ((oge.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
             ic_->kimlikler.emplace(
                 ad, KimligiAl(static_cast<std::uint64_t>(oge.FileId.QuadPart), oge.EndOfFile, oge));
+        siradaki = {ad, 0}; // to be asked about costs nothing here
         return true;
     }
     tam_ = tam_ && (ic_->klasor.no == INVALID_HANDLE_VALUE || ::GetLastError() == ERROR_NO_MORE_FILES);
@@ -278,24 +283,22 @@ std::optional<Kimlik> Klasor::Sor(const AdHarfi* ad) const {
     return dosya.no != INVALID_HANDLE_VALUE ? AcikKimlik(dosya.no) : std::nullopt;
 }
 
-std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon,
-                                            Kimlik& kimlik) const {
+std::optional<Kimlik> Klasor::Sor() const {
+    return AcikKimlik(ic_->klasor.no);
+}
+
+std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon) const {
     const KapananTutamac dosya(sistem::Ac(ic_->yol + ad, Kip::Oku));
     if (dosya.no == INVALID_HANDLE_VALUE)
         return {};
-    const auto acik = AcikKimlik(dosya.no);
-    if (!acik || acik->boy > enCok)
-        return {};
-    kimlik = *acik;
     std::uint64_t konum = 0;
-    const auto boy = Doldur(
-        tampon, enCok,
+    const auto boy = SinirliDoldur(
+        tampon, enCok, [&dosya] { return Boyu(dosya.no); },
         [&](char* hedef, std::size_t adet) {
             const auto gelen = KonumdanOku(dosya.no, konum, hedef, adet);
             konum += gelen.value_or(0);
             return gelen;
-        },
-        [&kimlik](std::size_t dolu) { return dolu >= kimlik.boy; });
+        });
     if (!boy)
         return {};
     return std::string_view(tampon).substr(0, *boy);
@@ -308,11 +311,10 @@ template <class Veri>
 OgeBilgisi Bilgi(const Veri& veri) {
     constexpr DWORD kHaklar =
         FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
-    constexpr std::int64_t kYuzNanosaniye = 100;
-    const std::uint64_t an =
-        Birlestir(veri.ftLastWriteTime.dwHighDateTime, veri.ftLastWriteTime.dwLowDateTime);
+    const FILETIME& an = veri.ftLastWriteTime;
     return {BuTur(Tur::Klasor, veri.dwFileAttributes) ? Tur::Klasor : Tur::Dosya,
-            Birlestir(veri.nFileSizeHigh, veri.nFileSizeLow), static_cast<std::int64_t>(an) * kYuzNanosaniye,
+            Birlestir(veri.nFileSizeHigh, veri.nFileSizeLow),
+            Nanosaniye(Buyuk(Birlestir(an.dwHighDateTime, an.dwLowDateTime))),
             veri.dwFileAttributes & kHaklar};
 }
 

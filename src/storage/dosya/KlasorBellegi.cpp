@@ -11,26 +11,34 @@ namespace {
 // Whatever is longer is read each time.
 constexpr std::size_t kEnUzunSaklanan = std::size_t{1} << 20U;
 
-// The coarsest steps in which a disk tells times.
-constexpr std::chrono::seconds kZamanAdimi{2};
-
 // No year needs it, and places are 32 bits.
 constexpr std::size_t kEnCokSaklanan = std::size_t{64} << 20U;
+
+/// Whether nothing has touched the file since.
+bool Eski(const sistem::Kimlik& kimlik, SistemAni sinir) {
+    return SistemAni(std::chrono::nanoseconds(std::max(kimlik.yazma, kimlik.durum))) <= sinir;
+}
 
 } // namespace
 
 void KlasorBellegi::Listele(sistem::Klasor& acik) {
+    const auto kimlik = acik.Sor();
+    const auto yeri = [](const sistem::Kimlik& k) { return std::pair(k.disk, k.no); };
+    if (!kimlik || yeri(*kimlik) != yeri(kimlik_))
+        for (Kayit& kayit : kayitlar_)
+            Birak(kayit);
+    kimlik_ = kimlik.value_or(sistem::Kimlik());
     AdListesi yeni;
     std::size_t ayni = 0; // so many came as they did the last time, and no other
     bool degisti = false;
-    for (sistem::DiskAdi ad; acik.Sonraki(ad, sistem::Tur::Dosya);) {
-        if (!degisti && adlar_.Gelen(ayni, ad)) {
+    for (sistem::ListeOgesi oge; acik.Sonraki(oge, sistem::Tur::Dosya);) {
+        if (!degisti && adlar_.Gelen(ayni, oge)) {
             ++ayni;
             continue;
         }
         if (!std::exchange(degisti, true))
             yeni.BastanEkle(adlar_, ayni);
-        yeni.Ekle(ad);
+        yeni.Ekle(oge);
     }
     if (!degisti && ayni == adlar_.Sayi())
         return;
@@ -56,19 +64,34 @@ void KlasorBellegi::AdlariDegistir(AdListesi yeni) {
     kayitlar_ = std::move(kayitlar);
 }
 
-std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& acik, std::size_t sira) const {
-    const Kayit& kayit = kayitlar_[sira];
-    if (!kayit.var || acik.Sor(adlar_.Diskteki(sira).data()) != kayit.kimlik)
+bool KlasorBellegi::Taze(Kayit& kayit, const sistem::Kimlik& simdi) const {
+    if (kayit.kimlik)
+        return simdi == *kayit.kimlik;
+    // Nobody asked about it when it was read. It was this file, and it hasn't been touched since before then.
+    if (simdi.disk != kimlik_.disk || simdi.no != kayit.no || simdi.boy != kayit.uzunluk ||
+        !Eski(simdi, kayit.sinir))
+        return false;
+    kayit.kimlik = simdi;
+    return true;
+}
+
+std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& acik, std::size_t sira,
+                                                       std::optional<sistem::Kimlik>& simdi) {
+    Kayit& kayit = kayitlar_[sira];
+    if (!kayit.var && adlar_.No(sira) != 0)
+        return {};
+    simdi = acik.Sor(adlar_.Diskteki(sira).data());
+    if (!kayit.var || !simdi || !Taze(kayit, *simdi))
         return {};
     return std::string_view(baytlar_).substr(kayit.bas, kayit.uzunluk);
 }
 
-bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt, const sistem::Kimlik& kimlik,
-                          SistemAni an) {
+bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt,
+                          const std::optional<sistem::Kimlik>& kimlik, SistemAni sinir) {
     Kayit& kayit = kayitlar_[sira];
     Birak(kayit);
-    const auto sonDegisme = SistemAni(std::chrono::nanoseconds(std::max(kimlik.yazma, kimlik.durum)));
-    if (sonDegisme + kZamanAdimi > an || bayt.size() != kimlik.boy || bayt.size() > kEnUzunSaklanan)
+    const bool guvenilir = kimlik ? kimlik->boy == bayt.size() && Eski(*kimlik, sinir) : adlar_.No(sira) != 0;
+    if (!guvenilir || bayt.size() > kEnUzunSaklanan)
         return false;
     if (baytlar_.size() > 2 * kullanilan_ + kEnUzunSaklanan)
         Sikistir();
@@ -76,7 +99,12 @@ bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt, const sistem:
         return false;
     const auto bas = static_cast<std::uint32_t>(baytlar_.size());
     baytlar_ += bayt;
-    kayit = {kimlik, bas, static_cast<std::uint32_t>(bayt.size()), true};
+    kayit = {.kimlik = kimlik,
+             .no = adlar_.No(sira),
+             .sinir = sinir,
+             .bas = bas,
+             .uzunluk = static_cast<std::uint32_t>(bayt.size()),
+             .var = true};
     ++saklanan_;
     kullanilan_ += bayt.size();
     return true;

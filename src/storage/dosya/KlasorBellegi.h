@@ -17,8 +17,9 @@ namespace velora {
 using SistemAni = std::chrono::sys_time<std::chrono::nanoseconds>;
 
 /// What was read of one folder. The names are those of the last listing. The bytes of a file are kept as long
-/// as the system tells the same of it as before they were read (`sistem::Kimlik`); but what had been written
-/// so shortly before that another write might bear the same time is never kept.
+/// as the system tells the same of it as before they were read (`sistem::Kimlik`). What is read for the first
+/// time isn't asked about: there the system must say at the second reading that nothing has touched the file
+/// since before the first.
 class KlasorBellegi {
   public:
     explicit KlasorBellegi(std::filesystem::path klasor) : klasor_(std::move(klasor)) {}
@@ -30,12 +31,16 @@ class KlasorBellegi {
 
     const AdListesi& Adlar() const { return adlar_; }
 
-    /// The bytes that are kept of a file, by its place among the names, where the system says that it is as
-    /// it was. They last until the next one is kept.
-    std::optional<std::string_view> Hatirla(const sistem::Klasor& acik, std::size_t sira) const;
+    /// The bytes that are kept of a file, by its place among the names, where they are those of the disk.
+    /// They last until the next one is kept. `simdi` becomes what the system says of the file, where it was
+    /// asked.
+    std::optional<std::string_view> Hatirla(const sistem::Klasor& acik, std::size_t sira,
+                                            std::optional<sistem::Kimlik>& simdi);
 
-    /// Keeps what was read of a file after `an`, which was `kimlik` before it was read. False: it isn't kept.
-    bool Sakla(std::size_t sira, std::string_view bayt, const sistem::Kimlik& kimlik, SistemAni an);
+    /// Keeps what was just read of a file, if nothing has touched it since `sinir`. `kimlik` is what
+    /// `Hatirla` was told before that. False: it isn't kept.
+    bool Sakla(std::size_t sira, std::string_view bayt, const std::optional<sistem::Kimlik>& kimlik,
+               SistemAni sinir);
 
     /// Forgets one, whatever the system says of it.
     void Unut(sistem::DiskAdi ad);
@@ -47,17 +52,21 @@ class KlasorBellegi {
 
   private:
     struct Kayit {
-        sistem::Kimlik kimlik = {};
+        std::optional<sistem::Kimlik> kimlik = {}; ///< none: nobody has asked about it yet
+        std::uint64_t no = 0;                      ///< in the listing when it was read
+        SistemAni sinir = {};
         std::uint32_t bas = 0; ///< in `baytlar_`
         std::uint32_t uzunluk = 0;
         bool var = false;
     };
 
     void AdlariDegistir(AdListesi yeni);
+    bool Taze(Kayit& kayit, const sistem::Kimlik& simdi) const;
     void Birak(Kayit& kayit);
     void Sikistir();
 
     std::filesystem::path klasor_;
+    sistem::Kimlik kimlik_; // of the folder
     AdListesi adlar_;
     std::vector<Kayit> kayitlar_; // by the places of the names
     std::string baytlar_;         // of all that are kept, and of some that aren't any more

@@ -10,7 +10,7 @@ namespace velora {
 
 void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
     // Asked before the first reading: what is written from here on is younger.
-    an_ = dosyalar_->bellek_->Simdi();
+    sinir_ = dosyalar_->bellek_->Sinir();
     acik_ = std::make_unique<sistem::Klasor>(klasor);
     const auto bellek = dosyalar_->bellek_->Al(klasor);
     bellek->Listele(*acik_);
@@ -18,7 +18,7 @@ void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
 }
 
 KlasorOkumasi::KlasorOkumasi(KlasorOkumasi&& baska) noexcept
-    : dosyalar_(std::exchange(baska.dosyalar_, nullptr)), yol_(std::move(baska.yol_)), an_(baska.an_),
+    : dosyalar_(std::exchange(baska.dosyalar_, nullptr)), yol_(std::move(baska.yol_)), sinir_(baska.sinir_),
       acik_(std::move(baska.acik_)), bellek_(std::move(baska.bellek_)), tampon_(std::move(baska.tampon_)) {}
 
 KlasorOkumasi::~KlasorOkumasi() {
@@ -37,13 +37,13 @@ std::optional<std::string_view> KlasorOkumasi::Oku(std::size_t sira) {
 }
 
 std::optional<std::string_view> KlasorOkumasi::BelleginOkumasi(std::size_t sira) {
-    if (const auto bayt = bellek_->Hatirla(*acik_, sira))
+    std::optional<sistem::Kimlik> kimlik;
+    if (const auto bayt = bellek_->Hatirla(*acik_, sira, kimlik))
         return bayt;
-    sistem::Kimlik kimlik;
     ++dosyalar_->okunan_;
-    const auto bayt = acik_->Oku(bellek_->Adlar().Diskteki(sira).data(), kEnUzunOkuma, tampon_, kimlik);
+    const auto bayt = acik_->Oku(bellek_->Adlar().Diskteki(sira).data(), kEnUzunOkuma, tampon_);
     if (bayt)
-        bellek_->Sakla(sira, *bayt, kimlik, an_);
+        bellek_->Sakla(sira, *bayt, kimlik, sinir_);
     return bayt;
 }
 

@@ -46,7 +46,7 @@ class KlasorOkumasi {
 
     const Dosyalar* dosyalar_; // null: this one was moved away
     Metin yol_;
-    SistemAni an_{};
+    SistemAni sinir_{};
     std::unique_ptr<sistem::Klasor> acik_;
     std::shared_ptr<KlasorBellegi> bellek_;
     std::string tampon_;

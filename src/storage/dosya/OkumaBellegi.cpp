@@ -34,11 +34,12 @@ void OkumaBellegi::Unut(const std::filesystem::path& dosya) {
             bellek->Unut(dosya.filename().native());
 }
 
-SistemAni OkumaBellegi::Simdi() {
+SistemAni OkumaBellegi::Sinir() {
     const SistemAni simdi = saat ? saat() : SistemAni(std::chrono::system_clock::now());
     if (simdi < sonAn_)
         klasorler_.clear();
-    return sonAn_ = simdi;
+    sonAn_ = simdi;
+    return simdi - zamanAdimi;
 }
 
 std::size_t OkumaBellegi::Bayt() const {

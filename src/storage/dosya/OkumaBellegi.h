@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -27,9 +28,12 @@ class OkumaBellegi {
     /// Forgets one file, which somebody here writes, whatever the system will say of it.
     void Unut(const std::filesystem::path& dosya);
 
-    /// The clock now. Where it was set back all is forgotten: a time that was past may come again.
-    SistemAni Simdi();
+    /// What was touched later than that isn't believed when it is read now: another write might bear the same
+    /// time. Where the clock was set back all is forgotten: a time that was past may come again.
+    SistemAni Sinir();
 
+    /// The coarsest step in which a disk tells times.
+    std::chrono::nanoseconds zamanAdimi = std::chrono::seconds(2);
     /// For tests: another clock.
     std::function<SistemAni()> saat;
     /// For tests: what is held in memory.

@@ -79,6 +79,12 @@ class AcikDosya {
 using AdHarfi = std::filesystem::path::value_type;
 using DiskAdi = std::basic_string_view<AdHarfi>;
 
+/// An entry of a listing.
+struct ListeOgesi {
+    DiskAdi ad;
+    std::uint64_t no = 0; ///< of the file on the disk of its folder; 0: the listing doesn't tell
+};
+
 /// Its text; a byte that belongs to no character stays (storage/dosya/Utf8).
 void AdiCoz(DiskAdi ad, Metin& hedef);
 
@@ -102,22 +108,23 @@ class Klasor {
     Klasor& operator=(const Klasor&) = delete;
     ~Klasor();
 
-    /// The name of the next entry of this kind, in the order of the disk. It lasts until the next call. False
-    /// after the last.
-    bool Sonraki(DiskAdi& ad, Tur tur);
+    /// The next entry of this kind, in the order of the disk. Its name lasts until the next call. False after
+    /// the last.
+    bool Sonraki(ListeOgesi& oge, Tur tur);
 
     /// Whether the names handed over so far are all that there were up to that place. A folder that isn't
     /// there, or that nobody may list, has none.
     bool Tam() const { return tam_; }
 
-    /// Nothing where it can't be told. Where a listing tells it, it is that of the listing.
+    /// What the system tells of a file of this folder; nothing where it doesn't. Where a listing tells all
+    /// that, it is as old as the listing.
     std::optional<Kimlik> Sor(const AdHarfi* ad) const;
+    /// The same of the folder itself.
+    std::optional<Kimlik> Sor() const;
 
     /// The bytes of a file of this folder, in `tampon`, which grows when it must and is there to be used
-    /// again. Nothing when the file can't be opened or read, or is longer than `enCok`. `kimlik` becomes what
-    /// the file was before it was read.
-    std::optional<std::string_view> Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon,
-                                        Kimlik& kimlik) const;
+    /// again. Nothing when the file can't be opened or read, or is longer than `enCok`.
+    std::optional<std::string_view> Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon) const;
 
   private:
     struct Ic;

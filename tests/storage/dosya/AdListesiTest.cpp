@@ -14,7 +14,7 @@ namespace {
 std::vector<Metin> Sirali(const std::vector<Metin>& adlar) {
     AdListesi liste;
     for (const Metin& ad : adlar)
-        liste.Ekle(std::filesystem::path(ad).native());
+        liste.Ekle({std::filesystem::path(ad).native()});
     liste.Sirala();
     std::vector<Metin> sonuc;
     for (std::size_t i = 0; i < liste.Sayi(); ++i)
@@ -73,7 +73,7 @@ TEST(AdListesi, Gives_names_in_the_form_of_the_program_and_keeps_how_they_stand_
     const std::vector<sistem::DiskAdi> adlar{"Gu\u0308m", "G\xFCl", "Göl"};
     AdListesi liste;
     for (const sistem::DiskAdi ad : adlar)
-        liste.Ekle(ad);
+        liste.Ekle({ad});
     liste.Sirala();
     ASSERT_EQ(liste.Sayi(), 3U);
     EXPECT_EQ(liste[0], u"Göl");
@@ -83,15 +83,15 @@ TEST(AdListesi, Gives_names_in_the_form_of_the_program_and_keeps_how_they_stand_
     EXPECT_EQ(liste.Diskteki(2), adlar[0]);
     EXPECT_EQ(liste.Diskteki(2).data()[liste.Diskteki(2).size()], '\0');
     for (std::size_t i = 0; i < adlar.size(); ++i)
-        EXPECT_TRUE(liste.Gelen(i, adlar[i]));
-    EXPECT_FALSE(liste.Gelen(1, adlar[2]));
-    EXPECT_FALSE(liste.Gelen(3, adlar[2]));
+        EXPECT_TRUE(liste.Gelen(i, {adlar[i]}));
+    EXPECT_FALSE(liste.Gelen(1, {adlar[2]}));
+    EXPECT_FALSE(liste.Gelen(3, {adlar[2]}));
 }
 
 TEST(AdListesi, Of_equal_names_the_one_that_stands_so_on_the_disk_comes_first) {
     AdListesi liste;
     for (const sistem::DiskAdi ad : {"u\u0308", "\xFC", "ü", "Ü"})
-        liste.Ekle(ad);
+        liste.Ekle({ad});
     liste.Sirala();
     EXPECT_EQ(liste[0], u"Ü");
     EXPECT_EQ(liste.Diskteki(1), sistem::DiskAdi("ü"));

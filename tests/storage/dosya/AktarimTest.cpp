@@ -50,6 +50,32 @@ bool HerKisaSondur(std::size_t) {
     return true;
 }
 
+/// What `SinirliDoldur` makes of a text that comes in these pieces, and what it cost. Behind the last piece
+/// the file ends, or the disk fails.
+struct ParcaliOkuma {
+    std::vector<std::string> parcalar;
+    bool bozuk = false;
+    int okumalar = 0;
+    int boylar = 0;
+
+    std::optional<std::string> Oku() {
+        std::string tampon;
+        std::size_t sira = 0;
+        const auto boyu = [&]() -> std::optional<std::uint64_t> {
+            ++boylar;
+            return 100;
+        };
+        const auto oku = [&](char* hedef, std::size_t adet) -> std::optional<std::size_t> {
+            ++okumalar;
+            if (sira == parcalar.size())
+                return bozuk ? std::nullopt : std::optional<std::size_t>(0);
+            return parcalar[sira++].copy(hedef, adet);
+        };
+        const auto okunan = SinirliDoldur(tampon, 1U << 20U, boyu, oku);
+        return okunan ? std::optional(tampon.substr(0, *okunan)) : std::nullopt;
+    }
+};
+
 } // namespace
 
 TEST(UzerineYaz, Leaves_exactly_the_new_text) {
@@ -174,6 +200,34 @@ TEST(Doldur, A_read_that_fails_fails_the_whole) {
     std::string tampon;
     const auto bozuk = [](char*, std::size_t) { return std::optional<std::size_t>(); };
     EXPECT_EQ(Doldur(tampon, 10, bozuk, HerKisaSondur), std::nullopt);
+}
+
+TEST(SinirliDoldur, A_record_costs_one_call_and_is_not_asked_for_its_length) {
+    ParcaliOkuma okuma{.parcalar = {kUzun}};
+    EXPECT_EQ(okuma.Oku(), kUzun);
+    EXPECT_EQ(okuma.okumalar, 1);
+    EXPECT_EQ(okuma.boylar, 0);
+    ParcaliOkuma bos{.parcalar = {""}};
+    EXPECT_EQ(bos.Oku(), "");
+    EXPECT_EQ(bos.okumalar, 1);
+}
+
+TEST(SinirliDoldur, A_read_that_is_broken_off_within_a_line_is_not_the_end) {
+    ParcaliOkuma okuma{.parcalar = {"\"bir\",", "\"iki\"", ",3\r\n"}};
+    EXPECT_EQ(okuma.Oku(), "\"bir\",\"iki\",3\r\n");
+    EXPECT_EQ(okuma.okumalar, 3);
+    ParcaliOkuma satirsiz{.parcalar = {"\"elle yazilmis\""}};
+    EXPECT_EQ(satirsiz.Oku(), "\"elle yazilmis\"");
+    EXPECT_EQ(satirsiz.okumalar, 2) << "asked once more";
+}
+
+TEST(SinirliDoldur, A_disk_that_fails_behind_a_block_has_not_given_a_short_file) {
+    const std::string blok = std::string(510, 'x') + "\r\n";
+    ParcaliOkuma bozuk{.parcalar = {blok}, .bozuk = true};
+    EXPECT_EQ(bozuk.Oku(), std::nullopt);
+    ParcaliOkuma saglam{.parcalar = {blok}};
+    EXPECT_EQ(saglam.Oku(), blok);
+    EXPECT_EQ(saglam.okumalar, 2);
 }
 
 } // namespace velora

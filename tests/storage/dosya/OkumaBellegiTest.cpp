@@ -14,7 +14,7 @@
 namespace velora {
 namespace {
 
-using test::BellekYasliGorsun;
+using test::BellekBeklemesin;
 using test::DosyaAgaci;
 
 using Icerik = std::vector<std::pair<Metin, std::string>>;
@@ -33,7 +33,7 @@ struct BellekAgaci : DosyaAgaci {
     explicit BellekAgaci(int adet = 20) {
         for (int i = 10; i < 10 + adet; ++i)
             Koy(u"salon/yıl/" + SayiMetni(i), "içerik " + std::to_string(i));
-        BellekYasliGorsun(dosyalar);
+        BellekBeklemesin(dosyalar);
     }
     Metin Klasor() const { return TamYol(u"salon\\yıl"); }
     /// Reads the folder, which must give what one without a memory gives. How many files came from the disk.
@@ -65,6 +65,7 @@ TEST(OkumaBellegi, What_was_written_less_than_two_seconds_before_is_read_each_ti
                           std::chrono::nanoseconds(bilgi.st_ctim.tv_nsec));
     SistemAni simdi = yazma + std::chrono::milliseconds(1990);
     kok.dosyalar.Bellek().saat = [&] { return simdi; };
+    kok.dosyalar.Bellek().zamanAdimi = OkumaBellegi().zamanAdimi;
     const auto onBes = [&] {
         const std::size_t once = kok.dosyalar.Okunan();
         KlasorOkumasi okuma = kok.dosyalar.KlasorAc(kok.Klasor());
@@ -80,7 +81,7 @@ TEST(OkumaBellegi, What_was_written_less_than_two_seconds_before_is_read_each_ti
 
 TEST(OkumaBellegi, The_same_length_within_the_same_step_of_the_clock_is_never_missed) {
     const BellekAgaci kok(3);
-    kok.dosyalar.Bellek().saat = nullptr;
+    kok.dosyalar.Bellek().zamanAdimi = OkumaBellegi().zamanAdimi;
     for (int i = 100; i < 500; ++i) {
         kok.YerindeYaz(u"11", std::to_string(i));
         ASSERT_EQ(KlasorIcerigi(kok.dosyalar, kok.Klasor()).at(1).second.substr(0, 3), std::to_string(i));
@@ -89,11 +90,16 @@ TEST(OkumaBellegi, The_same_length_within_the_same_step_of_the_clock_is_never_mi
 
 TEST(OkumaBellegi, A_clock_that_was_set_back_has_all_forgotten) {
     const BellekAgaci kok;
+    const auto saat = [&](std::chrono::minutes fark) {
+        kok.dosyalar.Bellek().saat = [fark] { return std::chrono::system_clock::now() + fark; };
+    };
     kok.Oku();
-    kok.dosyalar.Bellek().saat = [] { return std::chrono::system_clock::now() + std::chrono::minutes(59); };
+    saat(std::chrono::hours(1));
+    EXPECT_EQ(kok.Oku(), 0U);
+    saat(std::chrono::minutes(59));
     EXPECT_EQ(kok.Oku(), 20U);
     EXPECT_EQ(kok.Oku(), 0U);
-    kok.dosyalar.Bellek().saat = [] { return std::chrono::system_clock::now() - std::chrono::hours(2); };
+    saat(std::chrono::hours(-2));
     EXPECT_EQ(kok.Oku(), 20U) << "all is of the future now";
     EXPECT_EQ(kok.Oku(), 20U);
 }
@@ -125,6 +131,7 @@ TEST(OkumaBellegi, What_is_written_here_is_read_again_whatever_the_disk_says_of_
 TEST(OkumaBellegi, Files_that_come_go_and_are_put_in_the_place_of_others_are_seen) {
     const BellekAgaci kok;
     kok.Oku();
+    kok.YeniAn();
     kok.Koy(u"salon/yıl/09", "önde");
     kok.Koy(u"salon/yıl/99", "sonda");
     std::filesystem::remove(kok.Yol(u"salon/yıl/12"));
@@ -229,7 +236,7 @@ TEST(OkumaBellegi, A_long_file_is_read_each_time_and_the_ones_beside_it_are_not)
 
 TEST(OkumaBellegi, Holds_no_more_than_its_limit_and_lets_go_of_what_was_longest_not_read) {
     const DosyaAgaci kok;
-    BellekYasliGorsun(kok.dosyalar);
+    BellekBeklemesin(kok.dosyalar);
     constexpr int kKlasor = 10;
     const auto ad = [](int no) { return u"k" + SayiMetni(no); };
     for (int k = 0; k < kKlasor; ++k)
@@ -255,6 +262,7 @@ TEST(OkumaBellegi, Holds_no_more_than_its_limit_and_lets_go_of_what_was_longest_
 TEST(OkumaBellegi, What_is_changed_again_and_again_does_not_fill_it) {
     const BellekAgaci kok(3);
     for (int i = 0; i < 40; ++i) {
+        kok.YeniAn();
         kok.Koy(u"salon/yıl/11", std::string(500'000, static_cast<char>('a' + i % 26)));
         kok.Oku();
     }
