@@ -1,12 +1,12 @@
 // A new reservation saved into a year of 744, as a ratio to the floor, and a thousand payments on the screen.
 #include <benchmark/benchmark.h>
 
-#include "benchmarks/CagriSayaci.h"
 #include "benchmarks/OlcumAgaci.h"
 #include "benchmarks/Zemin.h"
 #include "reservation/FormKayit.h"
 #include "reservation/FormOdemeAl.h"
 #include "table/FormTablo.h"
+#include "tools/CagriSayaci.h"
 
 namespace velora::olcum {
 
@@ -26,13 +26,13 @@ void Doldur(FormKayit& kayit) {
 /// One save more: how many calls of the system it makes.
 void CagrilariYaz(benchmark::State& durum, Program& program, const std::filesystem::path& yil) {
     Doldur(*program.FormKayit.Tut());
-    const auto kayit = CagrilariSay([&] { program.FormKayit->Command1_Click(); });
-    const auto zemin = CagrilariSay([&] { Zemin(yil); });
-    if (!kayit || !zemin)
+    const auto sayilar =
+        CagrilariSay(yil, {[&] { program.FormKayit->Command1_Click(); }, [&] { Zemin(yil); }});
+    if (!sayilar)
         return;
-    durum.counters["cagri"] = kayit->hepsi;
-    durum.counters["esitleme"] = kayit->esitleme;
-    durum.counters["zemin_cagri"] = zemin->hepsi;
+    durum.counters["cagri"] = sayilar->front().hepsi;
+    durum.counters["esitleme"] = sayilar->front().esitleme;
+    durum.counters["zemin_cagri"] = sayilar->back().hepsi;
 }
 
 } // namespace

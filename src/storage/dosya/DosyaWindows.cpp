@@ -188,9 +188,7 @@ namespace {
 
 /// The system counts in steps of 100 ns from the year 1601 on.
 std::int64_t Nanosaniye(const LARGE_INTEGER& zaman) {
-    constexpr std::int64_t kYil1970 = 116'444'736'000'000'000;
-    constexpr std::int64_t kAdim = 100;
-    return (zaman.QuadPart - kYil1970) * kAdim;
+    return (zaman.QuadPart - 116'444'736'000'000'000) * 100;
 }
 
 /// Of what a listing and an open file tell alike.
@@ -229,22 +227,19 @@ struct Klasor::Ic {
     std::wstring yol; ///< with a separator at its end
     KapananTutamac klasor;
     std::vector<std::uint64_t> tampon = std::vector<std::uint64_t>(8192);
-    const FILE_ID_BOTH_DIR_INFO* siradaki = nullptr;    ///< wasn't handed over yet
-    std::unordered_map<std::wstring, Kimlik> kimlikler; ///< but of what leads elsewhere
+    const char* siradaki = nullptr;                          ///< within `tampon`; wasn't handed over yet
+    std::unordered_map<std::wstring, Kimlik> kimlikler = {}; ///< but of what leads elsewhere
 
-    /// The next piece of the listing. False behind the last.
-    bool Doldur() {
-        const bool geldi =
-            ::GetFileInformationByHandleEx(klasor.no, FileIdBothDirectoryInfo, tampon.data(),
-                                           static_cast<DWORD>(tampon.size() * sizeof tampon[0])) != 0;
-        siradaki = geldi ? reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(tampon.data()) : nullptr;
-        return geldi;
-    }
-    void Ilerle() {
-        const auto* bayt = reinterpret_cast<const char*>(siradaki);
-        siradaki = siradaki->NextEntryOffset == 0
-                       ? nullptr
-                       : reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(bayt + siradaki->NextEntryOffset);
+    /// Null behind the last, and where the folder can't be listed.
+    const FILE_ID_BOTH_DIR_INFO* Al() {
+        const auto boy = static_cast<DWORD>(tampon.size() * sizeof tampon[0]);
+        if (siradaki == nullptr &&
+            ::GetFileInformationByHandleEx(klasor.no, FileIdBothDirectoryInfo, tampon.data(), boy) == 0)
+            return nullptr;
+        const char* bas = siradaki != nullptr ? siradaki : reinterpret_cast<const char*>(tampon.data());
+        const auto* oge = reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(bas);
+        siradaki = oge->NextEntryOffset == 0 ? nullptr : bas + oge->NextEntryOffset;
+        return oge;
     }
 };
 
@@ -260,19 +255,19 @@ Klasor::Klasor(const std::filesystem::path& yol)
 Klasor::~Klasor() = default;
 
 bool Klasor::Sonraki(ListeOgesi& siradaki, Tur tur) {
-    while (ic_->klasor.no != INVALID_HANDLE_VALUE && (ic_->siradaki != nullptr || ic_->Doldur())) {
-        const FILE_ID_BOTH_DIR_INFO& oge = *ic_->siradaki;
-        const DiskAdi ad(static_cast<const wchar_t*>(oge.FileName), oge.FileNameLength / sizeof(wchar_t));
-        ic_->Ilerle();
-        if (ad == L"." || ad == L".." || !BuTur(tur, oge.FileAttributes))
+    if (ic_->klasor.no == INVALID_HANDLE_VALUE)
+        return false;
+    while (const FILE_ID_BOTH_DIR_INFO* oge = ic_->Al()) {
+        const DiskAdi ad(static_cast<const wchar_t*>(oge->FileName), oge->FileNameLength / sizeof(wchar_t));
+        if (ad == L"." || ad == L".." || !BuTur(tur, oge->FileAttributes))
             continue;
-        if ((oge.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        if ((oge->FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
             ic_->kimlikler.emplace(
-                ad, KimligiAl(static_cast<std::uint64_t>(oge.FileId.QuadPart), oge.EndOfFile, oge));
+                ad, KimligiAl(static_cast<std::uint64_t>(oge->FileId.QuadPart), oge->EndOfFile, *oge));
         siradaki = {ad, 0}; // to be asked about costs nothing here
         return true;
     }
-    tam_ = tam_ && (ic_->klasor.no == INVALID_HANDLE_VALUE || ::GetLastError() == ERROR_NO_MORE_FILES);
+    tam_ = tam_ && ::GetLastError() == ERROR_NO_MORE_FILES;
     return false;
 }
 
