@@ -2,16 +2,22 @@
 
 #include <filesystem>
 #include <random>
+#include <thread>
 
 #include "screen/Program.h"
+#include "storage/dosya/OkumaBellegi.h"
 #include "tools/OrnekFirma.h"
 
 namespace velora::olcum {
 
-/// A program folder with one hall and one year in which every slot of 12 times 31 days is taken.
+/// A program folder with one hall and one year in which every slot is taken.
 class OlcumAgaci {
   public:
-    OlcumAgaci() {
+    /// Of 12 times 31 days, or of those that the year has.
+    enum class Adlar { Hepsi, Gercek };
+    static constexpr std::size_t kRezervasyon = ornek::kEnCokRezervasyon;
+
+    explicit OlcumAgaci(Adlar adlar = Adlar::Hepsi) {
         std::random_device rastgele;
         do
             kok_ = std::filesystem::temp_directory_path() / ("velora-olcum-" + std::to_string(rastgele()));
@@ -22,7 +28,7 @@ class OlcumAgaci {
         istek.salon = 1;
         istek.yil = 1;
         istek.rezervasyon = ornek::kEnCokRezervasyon;
-        istek.tumAdlar = true;
+        istek.tumAdlar = adlar == Adlar::Hepsi;
         istek.bugun = Bugun();
         salon_ = ornek::FirmaYap(Dosyalar(kok_), istek).salonlar.at(0);
     }
@@ -33,6 +39,9 @@ class OlcumAgaci {
     }
     OlcumAgaci(const OlcumAgaci&) = delete;
     OlcumAgaci& operator=(const OlcumAgaci&) = delete;
+
+    /// Waits until what stands there is believed when it is read.
+    static void Yaslandir() { std::this_thread::sleep_for(OkumaBellegi().zamanAdimi * 11 / 10); }
 
     static constexpr Gun Bugun() {
         return {std::chrono::year{2026}, std::chrono::month{6}, std::chrono::day{15}};

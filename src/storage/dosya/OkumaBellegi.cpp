@@ -37,7 +37,7 @@ void OkumaBellegi::Unut(const std::filesystem::path& dosya) {
 SistemAni OkumaBellegi::Sinir() {
     const SistemAni simdi = saat ? saat() : SistemAni(std::chrono::system_clock::now());
     if (simdi < sonAn_)
-        klasorler_.clear();
+        Bosalt();
     sonAn_ = simdi;
     return simdi - zamanAdimi;
 }

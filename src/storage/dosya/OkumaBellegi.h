@@ -28,6 +28,9 @@ class OkumaBellegi {
     /// Forgets one file, which somebody here writes, whatever the system will say of it.
     void Unut(const std::filesystem::path& dosya);
 
+    /// Forgets all.
+    void Bosalt() { klasorler_.clear(); }
+
     /// What was touched later than that isn't believed when it is read now: another write might bear the same
     /// time. Where the clock was set back all is forgotten: a time that was past may come again.
     SistemAni Sinir();
