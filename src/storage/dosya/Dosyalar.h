@@ -84,6 +84,10 @@ class Dosyalar {
         Eylem& operator=(const Eylem&) = delete;
         ~Eylem();
 
+        /// For the innermost one: it isn't marked at its end. What of it was planned and not made is done by
+        /// the next start, unless a later action has touched the file. Without a journal it never is.
+        void SonrayaKalir() const;
+
       private:
         EylemDefteri* defter_;
     };
