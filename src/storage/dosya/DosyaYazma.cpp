@@ -43,7 +43,7 @@ Dosyalar::Eylem::~Eylem() {
 
 void Dosyalar::Eylem::SonrayaKalir() const {
     if (defter_ != nullptr)
-        defter_->SonrayaKalir();
+        defter_->Olmadi();
 }
 
 Dosyalar::GunlukDisi::GunlukDisi(const Dosyalar& dosyalar) : defter_(dosyalar.defter_.get()) {

@@ -84,8 +84,8 @@ class Dosyalar {
         Eylem& operator=(const Eylem&) = delete;
         ~Eylem();
 
-        /// For the innermost one: it isn't marked at its end. What of it was planned and not made is done by
-        /// the next start, unless a later action has touched the file. Without a journal it never is.
+        /// For the innermost one: what of it was planned and not made is left to the next start, which does
+        /// it unless a later action has touched the file. Without a journal it is never done.
         void SonrayaKalir() const;
 
       private:

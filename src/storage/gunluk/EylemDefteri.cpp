@@ -95,9 +95,7 @@ void EylemDefteri::Esitle(const Eylem& eylem) {
     esitleyici_.Ver({{dosyalar.begin(), dosyalar.end()},
                      {klasorler.begin(), klasorler.end()},
                      kok_,
-                     [gunluk = gunluk_, no = *eylem.no, kalir = eylem.kalir] {
-                         if (kalir)
-                             return;
+                     [gunluk = gunluk_, no = *eylem.no] {
                          gunluk->Bitti(no);
                          gunluk->Kisalt();
                      }});
@@ -199,11 +197,6 @@ void EylemDefteri::KlasorOnce(const std::filesystem::path& yol) {
     const EylemAdimi adim{.tur = EylemAdimi::Tur::Klasor, .yol = Anahtar(yol), .once = {}, .sonra = {}};
     Al(adim);
     Koy({adim});
-}
-
-void EylemDefteri::SonrayaKalir() {
-    if (!yigin_.empty())
-        yigin_.back().kalir = true;
 }
 
 void EylemDefteri::Olmadi() {

@@ -61,10 +61,8 @@ class EylemDefteri {
     /// Before a step is made: puts it down, unless it stands there as planned.
     void Once(const std::filesystem::path& yol, const Degisiklik& degisiklik);
     void KlasorOnce(const std::filesystem::path& yol);
-    /// A step of the innermost action didn't go through.
+    /// A step of the innermost action didn't go through, or is left to the next start.
     void Olmadi();
-    /// The innermost action is seen to the medium at its end, but not marked: the next start looks after it.
-    void SonrayaKalir();
 
     /// Waits until all that is done is marked, a time at most. False when something isn't.
     bool Bekle() const { return esitleyici_.Bekle(); }
@@ -77,7 +75,6 @@ class EylemDefteri {
         Metin ad;
         bool disinda = false;            ///< nothing of it is put down, or nothing more can be
         bool olmadi = false;             ///< a step failed
-        bool kalir = false;              ///< some of it is for the next start
         std::optional<std::uint64_t> no; ///< once it stands in the journal
         std::vector<EylemAdimi> adimlar;
         std::size_t siradaki = 0;                ///< of the planned ones

@@ -37,11 +37,13 @@ class Kurtarma : public testing::Test {
             .value();
     }
     std::vector<EylemKaydi> Yarimlar() const { return Gunluk::Ac(durum, kok.Kok())->YarimKalanlar(); }
-    /// A program starts on the tree and ends.
-    void Basla() const {
-        Dosyalar(kok.Kok()).GunluguAc(durum,
-                                      {[] { return Metin(u"admin"); },
-                                       [] { return std::chrono::local_days(2012y / 6 / 16) + 9h + 5min; }});
+    /// A program starts on the tree, does something and ends.
+    void Basla(const std::function<void(const Dosyalar&)>& is = {}) const {
+        Dosyalar dosyalar(kok.Kok());
+        dosyalar.GunluguAc(durum, {[] { return Metin(u"admin"); },
+                                   [] { return std::chrono::local_days(2012y / 6 / 16) + 9h + 5min; }});
+        if (is)
+            is(dosyalar);
     }
 };
 
@@ -195,6 +197,30 @@ TEST_F(Kurtarma, A_step_stays_that_of_an_action_when_a_later_one_on_its_file_has
     kok.Koy(u"parola", "dolu dolu");
     Basla();
     EXPECT_EQ(kok.Bayt(u"parola"), "dolu dolu") << "both are done";
+}
+
+TEST_F(Kurtarma, What_an_action_leaves_to_the_next_start_is_done_there_once_where_no_later_one_has_been) {
+    const auto yaz = [](const Dosyalar& dosyalar, MetinBakis ad, std::string_view bayt) {
+        dosyalar.Yaz(dosyalar.Kok() + u"\\" + Metin(ad), bayt);
+    };
+    Basla([&](const Dosyalar& dosyalar) {
+        const Dosyalar::Eylem eylem(dosyalar, u"Profil", [&] {
+            yaz(dosyalar, u"yapilan", "yapildi");
+            yaz(dosyalar, u"kalan", "kalan is");
+            yaz(dosyalar, u"degisen", "olmayacak");
+        });
+        yaz(dosyalar, u"yapilan", "yapildi");
+        eylem.SonrayaKalir();
+        EylemleYap(dosyalar, u"Parola", [&] { yaz(dosyalar, u"degisen", "sonradan"); });
+    });
+    EXPECT_FALSE(kok.Var(u"kalan"));
+    Basla();
+    EXPECT_EQ(kok.Bayt(u"yapilan"), "yapildi");
+    EXPECT_EQ(kok.Bayt(u"kalan"), "kalan is");
+    EXPECT_EQ(kok.Bayt(u"degisen"), "sonradan");
+    std::filesystem::remove(kok.Yol(u"kalan"));
+    Basla();
+    EXPECT_FALSE(kok.Var(u"kalan")) << "once is enough";
 }
 
 TEST_F(Kurtarma, A_completed_action_is_done_and_the_journal_keeps_a_line_of_what_was_made_of_it) {
