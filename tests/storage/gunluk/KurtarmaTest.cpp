@@ -199,6 +199,18 @@ TEST_F(Kurtarma, A_step_stays_that_of_an_action_when_a_later_one_on_its_file_has
     EXPECT_EQ(kok.Bayt(u"parola"), "dolu dolu") << "both are done";
 }
 
+TEST_F(Kurtarma, A_later_action_on_a_file_is_completed_over_what_the_one_before_it_leaves) {
+    kok.Koy(u"profil", "yeni profil");
+    kok.Koy(u"salon", "yeni salon");
+    YarimBirak({{.yol = u"\\profil", .once = {}, .sonra = "yeni profil"},
+                {.yol = u"\\parola", .once = {}, .sonra = "bos"}});
+    YarimBirak({{.yol = u"\\parola", .once = {}, .sonra = "dolu dolu"},
+                {.yol = u"\\salon", .once = {}, .sonra = "yeni salon"}});
+    Basla();
+    EXPECT_EQ(kok.Bayt(u"parola"), "dolu dolu");
+    EXPECT_EQ(kok.Bayt(u"profil"), "yeni profil");
+}
+
 TEST_F(Kurtarma, What_an_action_leaves_to_the_next_start_is_done_there_once_where_no_later_one_has_been) {
     const auto yaz = [](const Dosyalar& dosyalar, MetinBakis ad, std::string_view bayt) {
         dosyalar.Yaz(dosyalar.Kok() + u"\\" + Metin(ad), bayt);
