@@ -4,6 +4,7 @@
 #include "screen/Program.h"
 #include "screen/Sorular.h"
 #include "setup/FormSalonTanim.h"
+#include "storage/ListeDosyasi.h"
 #include "table/FormTablo.h"
 
 namespace velora {
@@ -11,6 +12,12 @@ namespace velora {
 namespace {
 
 constexpr int kEnUzunYeniParola = 10;
+
+ListeSatiri AdminSatiri(const Metin& parola) {
+    std::array<Metin, kYetkiSayisi> hepsi;
+    hepsi.fill(u"1");
+    return KullaniciSatiri(Metin(kAdmin), parola, hepsi);
+}
 
 } // namespace
 
@@ -41,15 +48,19 @@ void FormSifreDegistir::Command1_Click() {
     if (!Girildi())
         return;
     Program& p = program_;
-    std::array<Metin, kYetkiSayisi> hepsi;
-    hepsi.fill(u"1");
     const Metin admin(kAdmin);
-    KullanicilariYaz(p, {KullaniciSatiri(admin, Text1.metin, hepsi)});
+    KullanicilariYaz(p, {AdminSatiri(Text1.metin)});
     p.oturum.Goster(admin);
     p.oturum.UserNamem = admin;
     p.FormSifreDegistir.Bosalt();
     p.FormTablo.Goster();
     IlkSalonuSor(p);
+}
+
+void ParolasizAdminYaz(const Program& program) {
+    const Metin yol = program.agac.KokYolu(kKullaniciDosyasi);
+    if (program.dosyalar.SonucluOku(yol).okunus == Okunus::Yok)
+        SatirlariYaz(program.dosyalar, yol, {AdminSatiri(u"").sutun});
 }
 
 void FormSifreDegistir::Command2_Click() {

@@ -32,4 +32,8 @@ struct FormSifreDegistir {
     Program& program_;
 };
 
+/// Makes `User.dll` hold `admin` without a password, where there is no such file: the login then asks for a
+/// new password, whatever is typed (`FormSifre`).
+void ParolasizAdminYaz(const Program& program);
+
 } // namespace velora

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "access/FormSifreDegistir.h"
 #include "access/Splash.h"
 #include "online/FormIpMac.h"
 #include "online/FormSunucu.h"
@@ -142,8 +143,19 @@ bool FormFirma::AlanlarTamam() const {
 
 void FormFirma::Yaz() const {
     const FirmaKaydi kayit = Kayit();
-    const Dosyalar::Eylem eylem(program_.dosyalar, u"Firma bilgileri");
-    SatirlariYaz(program_.dosyalar, FirmaYolu(program_), {{kayit.begin(), kayit.end()}}, koken_);
+    const auto yaz = [&] {
+        SatirlariYaz(program_.dosyalar, FirmaYolu(program_), {{kayit.begin(), kayit.end()}}, koken_);
+    };
+    const Dosyalar::Eylem eylem(program_.dosyalar, u"Firma bilgileri", [&] {
+        yaz();
+        // A firm that has a profile and no users lets nobody in. So whoever gets no further than this in the
+        // first run finds an `admin` at the next start who has to make a password.
+        if (Tag == kIlkKurulum)
+            ParolasizAdminYaz(program_);
+    });
+    yaz();
+    if (Tag == kIlkKurulum)
+        eylem.SonrayaKalir();
 }
 
 void FormFirma::Yolla(const FirmaKaydi& kayit) {

@@ -17,7 +17,7 @@
 namespace velora::dayanim {
 namespace {
 
-constexpr unsigned kEnUzunOmur = 30; ///< seconds; what takes longer hangs
+constexpr unsigned kEnUzunIs = 30; ///< seconds; what takes longer hangs
 
 /// Tells the library, if there is one.
 void Bildir(const char* ad) {
@@ -49,6 +49,7 @@ void Tekrarla(const Tekrar& tekrar, Masa& masa, bool sorarak) {
     for (int sira = 1;; ++sira) {
         if (sorarak && ::read(STDIN_FILENO, &haber, 1) != 1)
             return;
+        ::alarm(kEnUzunIs);
         tekrar.yap(masa, sira);
         if ((sorarak || sira == 1) && ::write(STDOUT_FILENO, &haber, 1) != 1)
             return;
@@ -82,6 +83,6 @@ int Kos(std::span<char*> degerler) {
 } // namespace velora::dayanim
 
 int main(int adet, char** degerler) {
-    ::alarm(velora::dayanim::kEnUzunOmur);
+    ::alarm(velora::dayanim::kEnUzunIs);
     return velora::dayanim::Kos(std::span(degerler, static_cast<std::size_t>(adet)).subspan(1));
 }

@@ -52,5 +52,22 @@ void TatilKaydet(Masa& m);
 void SozlesmeKaydet(Masa& m);
 void FirmaKaydet(Masa& m);
 void SunucuKaydet(Masa& m);
+/// Where backups go; none is made.
+void YedekAyari(Masa& m);
+void ParolaDegistir(Masa& m);
+/// The first of two requests of visitors, which wait at the service, becomes a reservation.
+void IstektenKayit(Masa& m);
+/// The two, as the last poll has left them.
+std::string IstekBaytlari();
+
+// The first run.
+inline constexpr MetinBakis kIlkParola = u"g5";
+/// What a start behind a first run without a password makes of the users.
+inline constexpr std::string_view kParolasizAdmin =
+    "\"admin\",\"\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\",\"1\"\r\n";
+/// The profile, the password and a hall.
+void IlkKurulum(Masa& m);
+/// On the screen of the password, which leads to the table and there to the first hall.
+void IlkParolaVeSalon(test::Kullanici& kullanici);
 
 } // namespace velora::dayanim

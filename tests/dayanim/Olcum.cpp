@@ -17,7 +17,8 @@ std::vector<KayitliCagri> Beklenen::Sayililar() const {
 }
 
 Beklenen TemizKosum(const Saha& saha, const Senaryo& senaryo) {
-    Beklenen beklenen{BaslangicAgaci(senaryo.degisik), {}, {}, senaryo.ayri, senaryo.bosalan};
+    Beklenen beklenen{
+        BaslangicAgaci(senaryo.degisik), {}, {}, senaryo.ayri, senaryo.yokGibi, senaryo.disinda};
     saha.Kur(senaryo);
     KosumSonucu sonuc = Kos(saha, senaryo.ad, {}, true);
     EXPECT_EQ(sonuc.sonuc, "exit 0") << senaryo.ad;
@@ -101,7 +102,9 @@ std::string Kusur(const Beklenen& beklenen, const Agac& kalan, Olcu olcu) {
         const std::string* once = Bul(beklenen.once, yol);
         const std::string* sonra = Bul(beklenen.sonra, yol);
         const std::string* simdi = Bul(kalan, yol);
-        if (simdi != nullptr && simdi->empty() && yol == beklenen.bosalan)
+        if (yol == beklenen.disinda)
+            continue;
+        if (Ayni(simdi, Bul(beklenen.yokGibi, yol)))
             simdi = nullptr;
         if (olcu == Olcu::Satir && !Ayni(once, sonra)) {
             if (const std::string kusur = SatirKusuru(once, sonra, simdi); !kusur.empty())

@@ -14,7 +14,8 @@ struct Beklenen {
     Agac sonra;
     std::vector<KayitliCagri> cagrilar; ///< of a run that nothing disturbs
     bool ayri = false;                  ///< as in `Senaryo`
-    std::string bosalan;                ///< the same
+    Agac yokGibi;                       ///< the same
+    std::string disinda;                ///< the same
 
     /// The numbered calls.
     std::vector<KayitliCagri> Sayililar() const;

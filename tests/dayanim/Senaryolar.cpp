@@ -36,7 +36,7 @@ const std::vector<Senaryo> kSenaryolar{
     {.ad = "odeme-ekle", .yap = [](Masa& m) { KayitDuzenle(m, kIkiOdemeli, [&m] { OdemeAl(m, u"775"); }); }},
     {.ad = "son-odeme-sil",
      .yap = [](Masa& m) { KayitDuzenle(m, kTekOdemeli, [&m] { OdemeSil(m, 0); }); },
-     .bosalan = "Salon A/2012/21.06.2012 - Gece-Odeme"},
+     .yokGibi = {{"Salon A/2012/21.06.2012 - Gece-Odeme", ""}}},
     {.ad = "kesinlestir",
      .yap = [](Masa& m) { KayitDuzenle(m, kOnKayit, [&m] { Kayit(m).Option1.Ata(1); }); }},
     {.ad = "bosa-tasi", .yap = [](Masa& m) { Tasi(m, kIkiOdemeli, kBosGun); }, .hazirla = TasimaAc},
@@ -58,9 +58,7 @@ const std::vector<Senaryo> kSenaryolar{
      .yap = [](Masa& m) { Kasada(m, u"Bahçe", [&m] { GiderEkle(m); }); },
      .degisik = {{"Bahçe/2012/Gider.dat", ""}}},
     {.ad = "gider-sil", .yap = [](Masa& m) { Kasada(m, u"Salon A", [&m] { GiderSil(m); }); }},
-    {.ad = "son-gider-sil",
-     .yap = [](Masa& m) { Kasada(m, u"Bahçe", [&m] { GiderSil(m); }); },
-     .bosalan = "Bahçe/2012/Gider.dat"},
+    {.ad = "son-gider-sil", .yap = [](Masa& m) { Kasada(m, u"Bahçe", [&m] { GiderSil(m); }); }},
     {.ad = "kullanici-ekle", .yap = KullaniciEkle},
     {.ad = "kullanici-sil", .yap = KullaniciSil},
     {.ad = "tatil", .yap = TatilKaydet},
@@ -70,6 +68,17 @@ const std::vector<Senaryo> kSenaryolar{
      .degisik = {{"Sunucu.dat", "\"AA-BB-CC-DD-EE-FF\",0\r\n"}},
      .ayri = true}, // the profile, then the firm's key at the service
     {.ad = "sunucu", .yap = SunucuKaydet},
+    {.ad = "yedek-ayari", .yap = YedekAyari},
+    {.ad = "parola", .yap = ParolaDegistir},
+    {.ad = "istekten-kayit",
+     .yap = IstektenKayit,
+     .degisik = {{"RezTemp.dat", IstekBaytlari()}},
+     .disinda = "RezTemp.dat"},
+    {.ad = "ilk-kurulum",
+     .yap = IlkKurulum,
+     .degisik = {{"Firma.dll", ""}, {"User.dll", ""}, {"Sunucu.dat", ""}, {"Salon.dat", ""}},
+     .ayri = true, // the profile, the key, the password, the hall
+     .yokGibi = {{"User.dll", std::string(kParolasizAdmin)}}},
 };
 
 } // namespace
@@ -77,7 +86,10 @@ const std::vector<Senaryo> kSenaryolar{
 Masa::Masa(const std::filesystem::path& kok, const std::filesystem::path& durum)
     : kullanici(kok, durum, Gun{std::chrono::year{2012}, std::chrono::month{6}, std::chrono::day{15}}) {
     kullanici.ortam.baglanti = false;
-    kullanici.ProgramiAc();
+    if (std::filesystem::exists(kok / "Firma.dll"))
+        kullanici.ProgramiAc();
+    else
+        kullanici.Baslat();
 }
 
 void Masa::EkranBekle(EkranAdi ad, std::function<void()> is) {

@@ -21,7 +21,8 @@ const Agac& TemelAgac();
 /// A person at the desk of that firm, on Friday, 15 June 2012.
 class Masa {
   public:
-    /// `durum`: the folder of the journal, empty for none. The journal is opened as the program does it.
+    /// `durum`: the folder of the journal, empty for none. The journal is opened as the program does it. In a
+    /// tree without a profile the first run stands there instead of the table.
     Masa(const std::filesystem::path& kok, const std::filesystem::path& durum);
 
     Program& Prog() { return kullanici.Prog(); }
@@ -39,7 +40,8 @@ struct Senaryo {
     /// The files, below the root, of which the tree has another text than the firm's; empty text: none.
     Agac degisik = {};
     bool ayri = false;        ///< it is more than one action: each of them is there wholly or not at all
-    std::string bosalan = {}; ///< a list that is emptied before it goes: an empty one is as good as none
+    Agac yokGibi = {};        ///< by file, a text that is as good as none: the list is emptied before it goes
+    std::string disinda = {}; ///< a file of which the journal takes no notice: it is fetched anew
 };
 
 std::span<const Senaryo> Senaryolar();

@@ -2,6 +2,7 @@
 // second start, which mends what the first one left.
 #include <gtest/gtest.h>
 
+#include "access/FormSifre.h"
 #include "access/FormSifreDegistir.h"
 #include "access/Splash.h"
 #include "destek/Eylemler.h"
@@ -100,6 +101,38 @@ TEST_F(IlkKurulum, The_second_start_mends_the_menus_the_third_the_contract_and_b
         EXPECT_EQ(kullanici.Tablo().Salon.Metni(), u"Gül");
         kullanici.ProgramiKapat();
     }
+}
+
+TEST_F(IlkKurulum, One_left_at_the_password_asks_for_it_at_the_next_login_and_then_knows_it) {
+    for (const MetinBakis ad : {u"Menuler.dat", u"Sozlesme.dat"})
+        agac.Koy(ad, "\"Klasik\",\"et\"\r\n");
+    kullanici.Baslat();
+    ProfiliDoldur();
+    VELORA_BAS(Prog().FormFirma, Command1);
+    EXPECT_FALSE(agac.Var(u"User.dll"));
+    kullanici.ortam.baglanti = false;
+    kullanici.Baslat();
+    EXPECT_EQ(Prog().FormSifre->Text1.metin, u"admin");
+    EXPECT_FALSE(kullanici.GirisYap(u"admin", u"ne olursa"));
+    SalonSorulur([this] { Prog().FormSalonTanim.Bosalt(); });
+    ParolaYap(u"g5");
+    kullanici.Baslat();
+    EXPECT_TRUE(kullanici.GirisYap(u"admin", u"g5"));
+}
+
+TEST_F(IlkKurulum, A_firm_whose_profile_has_gone_keeps_its_users_until_there_is_a_new_password) {
+    const std::string biri =
+        "\"can\",\"c9\",\"1\",\"0\",\"1\",\"0\",\"1\",\"1\",\"0\",\"0\",\"1\",\"0\",\"1\"\r\n";
+    for (const MetinBakis ad : {u"Menuler.dat", u"Sozlesme.dat"})
+        agac.Koy(ad, "\"Klasik\",\"et\"\r\n");
+    agac.Koy(u"User.dll", biri);
+    kullanici.Baslat();
+    ProfiliDoldur();
+    VELORA_BAS(Prog().FormFirma, Command1);
+    kullanici.ortam.baglanti = false;
+    kullanici.Baslat();
+    EXPECT_EQ(agac.Bayt(u"User.dll"), biri);
+    EXPECT_TRUE(kullanici.GirisYap(u"can", u"c9"));
 }
 
 TEST_F(IlkKurulum, A_firm_with_reservations_but_no_profile_keeps_all_it_has) {

@@ -1,4 +1,5 @@
 // Clicks and timers that arrive while a scan lets events run.
+#include "maintenance/FormResmiTatil.h"
 #include "table/TabloTest.h"
 
 namespace velora::test {

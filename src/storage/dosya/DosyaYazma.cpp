@@ -42,6 +42,11 @@ Dosyalar::Eylem::~Eylem() {
         Sessiz([&] { defter_->Kapat(); });
 }
 
+void Dosyalar::Eylem::SonrayaKalir() const {
+    if (defter_ != nullptr)
+        defter_->Olmadi();
+}
+
 Dosyalar::GunlukDisi::GunlukDisi(const Dosyalar& dosyalar) : defter_(dosyalar.defter_.get()) {
     if (defter_ != nullptr && !Sessiz([&] { return defter_->DisindaAc(); }))
         defter_ = nullptr;

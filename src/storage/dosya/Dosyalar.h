@@ -85,6 +85,10 @@ class Dosyalar {
         Eylem& operator=(const Eylem&) = delete;
         ~Eylem();
 
+        /// For the innermost one: what of it was planned and not made is left to the next start, which does
+        /// it unless a later action has touched the file. Without a journal it is never done.
+        void SonrayaKalir() const;
+
       private:
         EylemDefteri* defter_;
     };

@@ -61,7 +61,7 @@ class EylemDefteri {
     /// Before a step is made: puts it down, unless it stands there as planned.
     void Once(const std::filesystem::path& yol, const Degisiklik& degisiklik);
     void KlasorOnce(const std::filesystem::path& yol);
-    /// A step of the innermost action didn't go through.
+    /// A step of the innermost action didn't go through, or is left to the next start.
     void Olmadi();
 
     /// Waits until all that is done is marked, a time at most. False when something isn't.

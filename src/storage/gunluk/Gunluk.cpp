@@ -36,8 +36,8 @@ std::filesystem::path Ekli(std::filesystem::path yol, std::string_view ek) {
     return yol;
 }
 
-/// Who has touched a file last.
-struct SonDokunan {
+/// Who has touched a file.
+struct Dokunus {
     std::size_t sira = 0; ///< of the record
     std::uint64_t no = 0;
 };
@@ -65,22 +65,29 @@ class Okuma {
         for (const auto& [no, yarim] : yarimlar_) {
             EylemKaydi kayit = yarim.kayit;
             kayit.adimlar.clear();
-            for (std::size_t i = 0; i < yarim.siralar.size(); ++i) {
-                const SonDokunan& son = dokunulan_.at(yarim.kayit.adimlar[i].yol);
-                if (son.no == no || son.sira < yarim.siralar[i])
+            for (std::size_t i = 0; i < yarim.siralar.size(); ++i)
+                if (!Gecti(yarim.kayit.adimlar[i], {yarim.siralar[i], no}))
                     kayit.adimlar.push_back(yarim.kayit.adimlar[i]);
-            }
             sonuc.push_back(std::move(kayit));
         }
         return sonuc;
     }
 
   private:
+    /// Whether a step is past: its file was touched later by an action that is done, or by one that had begun
+    /// before.
+    bool Gecti(const EylemAdimi& adim, const Dokunus& adiminki) const {
+        return std::ranges::any_of(dokunulan_.at(adim.yol), [&](const Dokunus& biri) {
+            return biri.sira > adiminki.sira && biri.no != adiminki.no &&
+                   (biri.no < adiminki.no || !yarimlar_.contains(biri.no));
+        });
+    }
+
     void Ekle(std::uint64_t no, const std::vector<EylemAdimi>& adimlar) {
         ++sira_;
         const auto yarim = yarimlar_.find(no);
         for (const EylemAdimi& adim : adimlar) {
-            dokunulan_[adim.yol] = {sira_, no};
+            dokunulan_[adim.yol].push_back({sira_, no});
             if (yarim == yarimlar_.end())
                 continue;
             yarim->second.kayit.adimlar.push_back(adim);
@@ -90,7 +97,7 @@ class Okuma {
 
     std::size_t sira_ = 0;
     std::map<std::uint64_t, YarimEylem> yarimlar_;
-    std::map<Metin, SonDokunan> dokunulan_;
+    std::map<Metin, std::vector<Dokunus>> dokunulan_;
 };
 
 std::uint64_t KaydinNosu(const GunlukKaydi& kayit) {

@@ -35,8 +35,8 @@ class Gunluk {
     /// Where the journal of a tree lies.
     static std::filesystem::path Yol(const std::filesystem::path& klasor, const std::filesystem::path& kok);
 
-    /// The actions of earlier runs that aren't done, in their order. A file that a later action has touched
-    /// is that one's: the steps on it are left out.
+    /// The actions of earlier runs that aren't done, in their order. A file that a later action has touched,
+    /// which is done, is that one's: the steps on it are left out.
     const std::vector<EylemKaydi>& YarimKalanlar() const { return yarimlar_; }
 
     /// Puts an action down and waits until it stands on the medium; `kayit.no` is given here. Its number, or

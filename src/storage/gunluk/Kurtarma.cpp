@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
 #include <utility>
 
 #include "storage/dosya/Dosyalar.h"
@@ -83,12 +84,14 @@ bool SonHaleGetir(const std::filesystem::path& yol, const DosyaMetni& sonra) {
     return yazim::Yaz(yol, *sonra) && sistem::DosyaEsitle(yol) && sistem::AdlariEsitle(yol.parent_path());
 }
 
-/// One action, and how far it has come.
+/// One of the actions, and how far it has come.
 class Tamamlama {
   public:
     using Cozucu = std::function<std::optional<std::filesystem::path>(const Metin& yol)>;
 
-    Tamamlama(const EylemKaydi& eylem, const Cozucu& coz) : dosyalar_(eylem), coz_(coz) {
+    Tamamlama(std::span<const EylemKaydi> hepsi, std::size_t sira, const Cozucu& coz)
+        : dosyalar_(hepsi[sira]), oncekiler_(hepsi.first(sira)), sonrakiler_(hepsi.subspan(sira + 1)),
+          coz_(coz) {
         for (const MetinZinciri& zincir : dosyalar_.dosyalar)
             haller_.push_back(Bak(zincir));
     }
@@ -125,10 +128,35 @@ class Tamamlama {
         if (!yol)
             return BulunanHal::Baska;
         const yazim::Okunan okunan = yazim::Oku(*yol);
-        return HalBul(zincir, okunan.okundu, okunan.metin);
+        const BulunanHal hal = HalBul(zincir, okunan.okundu, okunan.metin);
+        return hal == BulunanHal::Yarida || hal == BulunanHal::Baska
+                   ? OtekilereGore(zincir.yol, okunan.metin, hal)
+                   : hal;
+    }
+    /// A text that is none of this action's whole ones may be of another one that isn't done either: one
+    /// behind it has gone on from here, or one before it hasn't come as far.
+    BulunanHal OtekilereGore(const Metin& yol, const DosyaMetni& bulunan, BulunanHal hal) const {
+        const auto birinde = [&](std::span<const EylemKaydi> eylemler, const auto& uyar) {
+            return std::ranges::any_of(eylemler, [&](const EylemKaydi& eylem) {
+                return std::ranges::any_of(eylem.adimlar, [&](const EylemAdimi& adim) {
+                    return adim.tur == EylemAdimi::Tur::Dosya && adim.yol == yol && uyar(adim);
+                });
+            });
+        };
+        if (birinde(sonrakiler_, [&](const EylemAdimi& adim) {
+                return HalBul({yol, adim.onceBilinir, {adim.once, adim.sonra}}, true, bulunan) !=
+                       BulunanHal::Baska;
+            }))
+            return BulunanHal::Sonra;
+        const bool eski = birinde(oncekiler_, [&](const EylemAdimi& adim) {
+            return bulunan == adim.sonra || (adim.onceBilinir && bulunan == adim.once);
+        });
+        return eski ? BulunanHal::Once : hal;
     }
 
     EylemDosyalari dosyalar_;
+    std::span<const EylemKaydi> oncekiler_; // that aren't done, in their order
+    std::span<const EylemKaydi> sonrakiler_;
     const Cozucu& coz_;
     std::vector<BulunanHal> haller_;
 };
@@ -161,13 +189,14 @@ BulunanHal HalBul(const MetinZinciri& zincir, bool okundu, const DosyaMetni& bul
 void YarimlariTamamla(Gunluk& gunluk,
                       const std::function<std::optional<std::filesystem::path>(const Metin& yol)>& coz,
                       const Metin& zaman) {
-    for (const EylemKaydi& eylem : gunluk.YarimKalanlar()) {
-        Tamamlama tamamlama(eylem, coz);
+    const std::vector<EylemKaydi>& yarimlar = gunluk.YarimKalanlar();
+    for (std::size_t i = 0; i < yarimlar.size(); ++i) {
+        Tamamlama tamamlama(yarimlar, i, coz);
         const bool tamam = tamamlama.Yap();
         if (!tamamlama.isler.empty())
-            gunluk.Onarildi({eylem.no, zaman, std::move(tamamlama.isler)});
+            gunluk.Onarildi({yarimlar[i].no, zaman, std::move(tamamlama.isler)});
         if (tamam)
-            gunluk.Bitti(eylem.no);
+            gunluk.Bitti(yarimlar[i].no);
     }
     gunluk.Kisalt();
 }

@@ -37,8 +37,9 @@ enum class BulunanHal {
 BulunanHal HalBul(const MetinZinciri& zincir, bool okundu, const DosyaMetni& bulunan);
 
 /// Makes each unfinished action of the journal be there wholly, or not at all: as soon as a file of it holds
-/// its last text, or what a death leaves, those that hold the text before get theirs. What somebody else has
-/// changed since is left alone. What can't be written now is for the next start.
+/// its last text, or what a death leaves, those that hold the text before get theirs. Where more than one has
+/// touched a file, a text of an earlier one counts as that before, and one of a later one as the last. What
+/// somebody else has changed since is left alone. What can't be written now is for the next start.
 ///
 /// `coz` gives a file's own path for one below the root, or nothing when that leads out of the tree; `zaman`
 /// is the time that the journal keeps with it.

@@ -85,7 +85,7 @@ TEST_F(GunlukDosyasi, A_last_record_that_was_cut_off_or_never_came_is_dropped) {
     EXPECT_EQ(YarimAdlari(), (std::vector<Metin>{u"bir", u"iki"}));
 }
 
-TEST_F(GunlukDosyasi, A_mark_that_never_came_in_front_of_one_that_did_costs_the_two_of_them_alone) {
+TEST_F(GunlukDosyasi, A_mark_that_never_came_costs_those_behind_it_that_did_and_no_action) {
     {
         const auto gunluk = Ac();
         gunluk->Basla(Eylem(u"bir"));
@@ -95,9 +95,12 @@ TEST_F(GunlukDosyasi, A_mark_that_never_came_in_front_of_one_that_did_costs_the_
     const std::string saglam = Bayt();
     const std::string gelmeyen(KayitBaytlari(OnarimKaydi{2, u"2012-06-16 10:00:00", {u"+\\iki"}}).size(),
                                '\0');
-    Koy(saglam + gelmeyen + KayitBaytlari(BittiKaydi{2}));
-    EXPECT_EQ(YarimAdlari(), std::vector<Metin>{u"iki"});
-    EXPECT_EQ(Bayt(), saglam);
+    const std::string isaret = KayitBaytlari(BittiKaydi{2});
+    for (const std::string& gelen : {isaret, isaret + isaret}) {
+        Koy(saglam + gelmeyen + gelen);
+        EXPECT_EQ(YarimAdlari(), std::vector<Metin>{u"iki"});
+        EXPECT_EQ(Bayt(), saglam);
+    }
 }
 
 TEST_F(GunlukDosyasi, A_journal_whose_first_line_never_came_begins_anew) {
