@@ -97,8 +97,6 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
     if (kendisi != nullptr && --derinlik_ == 0 && birakildi_)
         parent()->deleteLater();
     HepsiniTazele();
-    if (!IsSuruyor() && !Durum().ertelenenler.empty())
-        QMetaObject::invokeMethod(qApp, ErtelenenleriCalistir, Qt::QueuedConnection);
 }
 
 /// What comes in a breath waits until no handler works any more, as it would have without one.
@@ -108,7 +106,7 @@ void Baglayici::Ertele(Isleyici is) {
 
 void Baglayici::ErtelenenleriCalistir() {
     if (Nefes::Aliniyor())
-        return; // that handler's end asks again
+        return; // the end of what draws it asks again
     for (const auto& [baglayici, is] : std::exchange(Durum().ertelenenler, {}))
         if (baglayici != nullptr)
             is();
@@ -170,11 +168,22 @@ void Baglayici::HepsiniTazele() {
     Ortak& durum = Durum();
     if (durum.tazeleniyor)
         return;
+    // Outside of a handler it draws a breath of its own: rows by the hundred thousand are sorted here.
+    const bool kendiBasina = !IsSuruyor();
+    if (kendiBasina)
+        Nefes::Basla();
     durum.tazeleniyor = true;
-    const std::vector<Baglayici*> canlilar = durum.canlilar;
-    for (Baglayici* baglayici : canlilar)
-        Koru([baglayici] { baglayici->Tazele(); });
+    // In a breath a window may go that was dropped before.
+    const std::vector<QPointer<Baglayici>> canlilar(durum.canlilar.begin(), durum.canlilar.end());
+    for (const QPointer<Baglayici>& baglayici : canlilar)
+        if (baglayici != nullptr && !baglayici->birakildi_)
+            Koru([&baglayici] { baglayici->Tazele(); });
     durum.tazeleniyor = false;
+    if (!kendiBasina)
+        return;
+    Nefes::Bitir();
+    if (!durum.ertelenenler.empty())
+        QMetaObject::invokeMethod(qApp, ErtelenenleriCalistir, Qt::QueuedConnection);
 }
 
 bool Baglayici::IsSuruyor() {
