@@ -168,7 +168,6 @@ void Baglayici::HepsiniTazele() {
     Ortak& durum = Durum();
     if (durum.tazeleniyor)
         return;
-    // Outside of a handler it draws a breath of its own: rows by the hundred thousand are sorted here.
     const bool kendiBasina = !IsSuruyor();
     if (kendiBasina)
         Nefes::Basla();
@@ -297,7 +296,7 @@ constexpr int kEnGenisSecim = 26; // letters that a drop-down makes room for: na
 /// As wide as its entries want, up to a limit. A longer one is told by its tip, here and in the open list.
 void SecimleriKoy(QComboBox& kutu, SecimModeli& secimler, const AcilirListe& model) {
     secimler.Koy(model.ogeler);
-    AyniBoyluSay(kutu.view(), model.ogeler.size());
+    BoyaUy(kutu, model.ogeler.size());
     const int harf = kutu.fontMetrics().horizontalAdvance(u'X');
     int en = kutu.fontMetrics().horizontalAdvance(QMetin(model.bosYazi));
     for (const Metin& oge : model.ogeler) {

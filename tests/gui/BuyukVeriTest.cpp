@@ -268,6 +268,7 @@ class BuyukVeriTest : public QObject {
         baglayici.Bagla(kutu, *secim);
         const auto ayniBoylu = [&] { return qobject_cast<QListView*>(kutu.view())->uniformItemSizes(); };
         QVERIFY(!ayniBoylu());
+        QCOMPARE(kutu.view()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
         const QSignalSpy eklenen(kutu.model(), &QAbstractItemModel::rowsInserted);
         for (int i = 0; i < 1500; ++i)
             secim->ogeler.push_back(u"Salon " + MetinYap(QString::number(i)));
@@ -278,6 +279,7 @@ class BuyukVeriTest : public QObject {
         QCOMPARE(kutu.currentText(), QStringLiteral("Salon 699"));
         QCOMPARE(kutu.itemData(3, Qt::ToolTipRole).toString(), QIpucu(u"Salon 2"));
         QVERIFY(ayniBoylu());
+        QCOMPARE(kutu.view()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     }
 
     void a_handler_that_reads_long_paints_and_lets_nothing_come_between() {
