@@ -125,3 +125,4 @@ class AgBeklemeTest : public QObject {
 
 VELORA_GUI_TEST(AgBeklemeTest)
 #include "AgBeklemeTest.moc"
+#include "qt/table/TabloGorunumu.h"

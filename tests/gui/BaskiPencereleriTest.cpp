@@ -276,3 +276,4 @@ class BaskiPencereleriTest : public QObject {
 
 VELORA_GUI_TEST(BaskiPencereleriTest)
 #include "BaskiPencereleriTest.moc"
+#include "qt/table/TabloGorunumu.h"

@@ -8,6 +8,7 @@
 #include "storage/KodSayfasi.h"
 #include "storage/ListeDosyasi.h"
 #include "storage/RezervasyonDosyalari.h"
+#include "storage/dosya/YazmaAkisi.h"
 
 // What was read, what wasn't there and what couldn't be read, and what each of them lets be written.
 namespace velora::test {

@@ -5,6 +5,7 @@
 
 #include "storage/DosyaAgaci.h"
 #include "storage/RezervasyonDosyalari.h"
+#include "storage/VeriAgaci.h"
 #include "storage/gunluk/EylemDefteri.h"
 
 // What the door to the disk puts into the journal, and when.

@@ -2,6 +2,8 @@
 // tests/xls.
 #include "storage/xls/Xls.h"
 
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
 #include "storage/xls/BilesikDosya.h"
