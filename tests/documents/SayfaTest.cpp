@@ -70,6 +70,12 @@ TEST(SatirlaraBol, Stops_behind_the_first_line_too_many_and_measures_nothing_bey
     }
 }
 
+TEST(SatirlaraBol, Stops_behind_the_first_line_too_many_also_where_the_others_are_empty) {
+    EXPECT_EQ(SatirlaraBol(u"a\n\nb\n\n\n\nc", 5, kMilimetrelik, EsitEnli, 2), (Satirlar{u"a", u"", u"b"}));
+    EXPECT_EQ(SatirlaraBol(u"a\n\nb\n\n\n\nc", 5, kMilimetrelik, EsitEnli, 3),
+              (Satirlar{u"a", u"", u"b", u""}));
+}
+
 TEST(SayfaAkisi, A_size_that_is_too_large_is_known_by_its_first_lines) {
     Metin metin;
     for (int i = 0; i < 2000; ++i)
