@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "gui/GuiFirma.h"
@@ -144,6 +145,16 @@ class NefesTest : public QObject {
         QVERIFY(NefesAlir([] { Nefes::Al(); }));
         QCOMPARE(pencere.gelen, 0);
         QTRY_COMPARE(pencere.gelen, 1);
+    }
+
+    void no_timer_is_due_in_a_breath() {
+        int tik = 0;
+        QTimer saat;
+        connect(&saat, &QTimer::timeout, &saat, [&tik] { ++tik; });
+        saat.start(1);
+        QVERIFY(NefesAlir([] { Nefes::Al(); }));
+        QCOMPARE(tik, 0);
+        QTRY_VERIFY(tik > 0);
     }
 
     void a_refresh_outside_of_a_handler_draws_breath_and_what_comes_in_it_runs_behind_it() {

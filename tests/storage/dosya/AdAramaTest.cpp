@@ -155,6 +155,7 @@ TEST(AdArama, Halls_that_get_their_folders_one_after_the_other_dont_have_all_hal
     for (int i = 0; i < 260; ++i)
         ASSERT_EQ(kok.Yap(u"Salon " + SayiMetni(i) + u"\\2026"), 1U) << i;
     EXPECT_EQ(kok.Yap(u"Son"), 0U);
+    EXPECT_FALSE(kok.dosyalar.KlasorYap(kok.TamYol(u"SALON 3"))) << "it is there";
 }
 
 TEST(AdArama, What_another_program_changes_among_many_names_is_seen_at_once) {
