@@ -1,4 +1,5 @@
-// A refresh of a window whose list has 30,000 rows, beside that of one whose list has a single one.
+// A refresh of a window whose list has 30,000 rows, beside that of one whose list has a single one; and the
+// opening of a list of 300,000 rows, beside the making of its rows.
 #include <benchmark/benchmark.h>
 
 #include <QTreeWidget>
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int kSatirSayisi = 30'000;
 constexpr int kTazelemeSayisi = 1'000;
+constexpr int kCokSatir = 300'000;
 
 /// A window with a list of so many rows, one of them in the middle marked.
 struct ListePenceresi {
@@ -50,5 +52,30 @@ void UzunListeninTazelenmesi(benchmark::State& durum) {
     durum.counters["oran"] = Ortanca(uzun) / Ortanca(tek);
 }
 BENCHMARK(UzunListeninTazelenmesi)->Unit(benchmark::kMillisecond)->Iterations(9);
+
+void CokSatirinAcilmasi(benchmark::State& durum) {
+    std::vector<double> zemin;
+    std::vector<double> acilma;
+    for (auto _ : durum) {
+        const auto model = std::make_shared<ListeGorunumu>();
+        model->basliklar = {u"Tarih", u"Tutar", u"Açıklama"};
+        model->sayiSutunlari = {1};
+        zemin.push_back(Saniye([&model] {
+            for (int i = 0; i < kCokSatir; ++i)
+                model->satirlar.push_back(
+                    {{u"01.01.2026", u"50000", u"Ali Veli, üçüncü taksit, elden"}, {}, 0});
+        }));
+        acilma.push_back(Saniye([&model] {
+            QTreeWidget liste;
+            Baglayici baglayici(model, &liste);
+            baglayici.Bagla(liste, *model);
+            liste.resize(800, 600);
+            benchmark::DoNotOptimize(liste.grab());
+        }));
+    }
+    durum.counters["acilma_ms"] = Ortanca(acilma) * 1e3;
+    durum.counters["oran"] = Ortanca(acilma) / Ortanca(zemin);
+}
+BENCHMARK(CokSatirinAcilmasi)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 } // namespace velora::olcum

@@ -65,6 +65,11 @@ void FormSifre::TabloyuAc() {
         p.oturum.Kapat(kKullanicilarYolu);
     p.oturum.Goster(Text1.metin);
     p.oturum.UserNamem = Text1.metin;
+    // Loaded while this window still stands: of very many halls that takes long, and the screen would be
+    // bare.
+    p.FormTablo.Tut();
+    if (!p.FormSifre.Yuklu())
+        return; // it was closed meanwhile, and the program ends
     p.FormSifre.Bosalt();
     p.FormTablo.Goster();
 }

@@ -97,8 +97,6 @@ void Baglayici::Calistir(const Isleyici& isleyici) {
     if (kendisi != nullptr && --derinlik_ == 0 && birakildi_)
         parent()->deleteLater();
     HepsiniTazele();
-    if (!IsSuruyor() && !Durum().ertelenenler.empty())
-        QMetaObject::invokeMethod(qApp, ErtelenenleriCalistir, Qt::QueuedConnection);
 }
 
 /// What comes in a breath waits until no handler works any more, as it would have without one.
@@ -108,7 +106,7 @@ void Baglayici::Ertele(Isleyici is) {
 
 void Baglayici::ErtelenenleriCalistir() {
     if (Nefes::Aliniyor())
-        return; // that handler's end asks again
+        return; // the end of what draws it asks again
     for (const auto& [baglayici, is] : std::exchange(Durum().ertelenenler, {}))
         if (baglayici != nullptr)
             is();
@@ -170,11 +168,21 @@ void Baglayici::HepsiniTazele() {
     Ortak& durum = Durum();
     if (durum.tazeleniyor)
         return;
+    const bool kendiBasina = !IsSuruyor();
+    if (kendiBasina)
+        Nefes::Basla();
     durum.tazeleniyor = true;
-    const std::vector<Baglayici*> canlilar = durum.canlilar;
-    for (Baglayici* baglayici : canlilar)
-        Koru([baglayici] { baglayici->Tazele(); });
+    // In a breath a window may go that was dropped before.
+    const std::vector<QPointer<Baglayici>> canlilar(durum.canlilar.begin(), durum.canlilar.end());
+    for (const QPointer<Baglayici>& baglayici : canlilar)
+        if (baglayici != nullptr && !baglayici->birakildi_)
+            Koru([&baglayici] { baglayici->Tazele(); });
     durum.tazeleniyor = false;
+    if (!kendiBasina)
+        return;
+    Nefes::Bitir();
+    if (!durum.ertelenenler.empty())
+        QMetaObject::invokeMethod(qApp, ErtelenenleriCalistir, Qt::QueuedConnection);
 }
 
 bool Baglayici::IsSuruyor() {
@@ -288,7 +296,7 @@ constexpr int kEnGenisSecim = 26; // letters that a drop-down makes room for: na
 /// As wide as its entries want, up to a limit. A longer one is told by its tip, here and in the open list.
 void SecimleriKoy(QComboBox& kutu, SecimModeli& secimler, const AcilirListe& model) {
     secimler.Koy(model.ogeler);
-    AyniBoyluSay(kutu.view(), model.ogeler.size());
+    BoyaUy(kutu, model.ogeler.size());
     const int harf = kutu.fontMetrics().horizontalAdvance(u'X');
     int en = kutu.fontMetrics().horizontalAdvance(QMetin(model.bosYazi));
     for (const Metin& oge : model.ogeler) {

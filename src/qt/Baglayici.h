@@ -103,7 +103,8 @@ class Baglayici : public QObject {
     /// Deletes a window as soon as none of its handlers runs any more.
     static void Sil(QWidget& pencere);
 
-    /// All widgets of all windows take what their models hold.
+    /// All widgets of all windows take what their models hold. One that takes long draws breath: where no
+    /// handler runs that does, by itself.
     static void HepsiniTazele();
 
     /// True while a handler runs and doesn't wait for the user. What is costly to show, and would only flash,

@@ -6,6 +6,7 @@
 
 #include "qt/Ceviri.h"
 #include "qt/Dil.h"
+#include "qt/Nefes.h"
 #include "storage/Metin.h"
 #include "storage/Sayi.h"
 #include "storage/Tarih.h"
@@ -39,6 +40,19 @@ SiraAnahtari AnahtarYap(const Metin& goz, bool sayi) {
     return anahtar;
 }
 
+/// Draws breath behind every so many steps: one of them is far shorter than the asking.
+class SeyrekNefes {
+  public:
+    void Al() {
+        constexpr unsigned kArada = 1024;
+        if (++adim_ % kArada == 0)
+            Nefes::Al();
+    }
+
+  private:
+    unsigned adim_ = 0;
+};
+
 } // namespace
 
 std::vector<int> GorunenSira(const ListeGorunumu& liste, int sutun, Qt::SortOrder yon) {
@@ -50,9 +64,13 @@ std::vector<int> GorunenSira(const ListeGorunumu& liste, int sutun, Qt::SortOrde
     const auto yer = static_cast<std::size_t>(sutun);
     std::vector<SiraAnahtari> anahtarlar;
     anahtarlar.reserve(sira.size());
-    for (const ListeSatiri& satir : liste.satirlar)
+    SeyrekNefes nefes;
+    for (const ListeSatiri& satir : liste.satirlar) {
+        nefes.Al();
         anahtarlar.push_back(AnahtarYap(yer < satir.sutun.size() ? satir.sutun[yer] : Metin(), sayi));
+    }
     std::ranges::stable_sort(sira, [&](int bir, int iki) {
+        nefes.Al();
         const SiraAnahtari& a = anahtarlar[static_cast<std::size_t>(bir)];
         const SiraAnahtari& b = anahtarlar[static_cast<std::size_t>(iki)];
         return yon == Qt::AscendingOrder ? a < b : b < a;

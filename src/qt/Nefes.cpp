@@ -1,5 +1,6 @@
 #include "qt/Nefes.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -41,6 +42,8 @@ void Nefes::Al() {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                         QEventLoop::ExcludeSocketNotifiers | QEventLoop::X11ExcludeTimers);
     }
+    // The input that was kept out would wait for the next event that comes.
+    QCoreApplication::eventDispatcher()->wakeUp();
     durum.sonuncu.start();
 }
 

@@ -21,6 +21,7 @@
 #include "qt/Saat.h"
 #include "qt/SayfaCizimi.h"
 #include "qt/Yazici.h"
+#include "storage/dosya/Dosyalar.h"
 
 namespace velora {
 

@@ -1,5 +1,6 @@
 #include "qt/SecimModeli.h"
 
+#include <QComboBox>
 #include <QListView>
 
 #include "qt/Ceviri.h"
@@ -29,6 +30,13 @@ void AyniBoyluSay(QAbstractItemView* liste, std::size_t ogeSayisi) {
     constexpr std::size_t kOlculebilen = 1000;
     if (auto* duz = qobject_cast<QListView*>(liste))
         duz->setUniformItemSizes(ogeSayisi > kOlculebilen);
+}
+
+void BoyaUy(QComboBox& kutu, std::size_t ogeSayisi) {
+    constexpr std::size_t kCubuksuz = 100; // are soon gone through
+    AyniBoyluSay(kutu.view(), ogeSayisi);
+    kutu.view()->setVerticalScrollBarPolicy(ogeSayisi > kCubuksuz ? Qt::ScrollBarAsNeeded
+                                                                  : Qt::ScrollBarAlwaysOff);
 }
 
 } // namespace velora

@@ -8,6 +8,7 @@
 #include "storage/Metin.h"
 
 class QAbstractItemView;
+class QComboBox;
 
 namespace velora {
 
@@ -27,5 +28,8 @@ class SecimModeli : public QAbstractListModel {
 
 /// A list of very many entries takes all of them to be as high as the first: the view would measure each.
 void AyniBoyluSay(QAbstractItemView* liste, std::size_t ogeSayisi);
+
+/// The same for a drop-down. Its open list, which has no scroll bar of itself, gets one for many entries.
+void BoyaUy(QComboBox& kutu, std::size_t ogeSayisi);
 
 } // namespace velora

@@ -58,6 +58,34 @@ TEST_F(FormSifreTest, Right_password_shows_the_table_of_that_user_which_was_not_
     EXPECT_TRUE(Gorunur(Komut::BakiyeRaporss));
 }
 
+TEST_F(FormSifreTest, The_login_stands_until_the_table_is_loaded) {
+    Sifre();
+    std::vector<bool> duruyor; // at each folder that the table makes while it is loaded
+    program.dosyalar.ariza = [&](DosyaIsi is, const Metin&) {
+        if (is == DosyaIsi::KlasorYap)
+            duruyor.push_back(program.FormSifre.Yuklu());
+        return false;
+    };
+    Gir(u"can", u"c9");
+    program.dosyalar.ariza = nullptr;
+    EXPECT_EQ(duruyor, (std::vector<bool>{true, true}));
+    EXPECT_FALSE(program.FormSifre.Yuklu());
+}
+
+TEST_F(FormSifreTest, A_login_that_is_closed_while_the_table_is_loaded_ends_the_program_and_shows_none) {
+    Sifre();
+    bool kapandi = false;
+    ortam.olayda = [&](int) {
+        if (!std::exchange(kapandi, true))
+            program.FormSifre->Command2_Click();
+    };
+    Gir(u"can", u"c9");
+    ortam.olayda = {};
+    EXPECT_TRUE(kapandi);
+    EXPECT_TRUE(ortam.bitti);
+    EXPECT_TRUE(ortam.acilanlar.empty());
+}
+
 TEST_F(FormSifreTest, Name_of_the_user_leads_every_tag_of_the_first_scan) {
     for (const MetinBakis gun : {u"20.06.2012 - Gece", u"02.03.2012 - Gündüz"})
         KayitKoy(agac, u"Salon A/2012/" + Metin(gun), {}, false);

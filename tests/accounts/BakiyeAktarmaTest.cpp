@@ -117,6 +117,25 @@ TEST_F(BakiyeAktarma, The_old_file_is_deleted_before_the_new_one_is_written) {
     });
 }
 
+TEST_F(BakiyeAktarma, A_breath_is_drawn_while_the_file_is_made) {
+    RezervasyonKoy(Metin(kGun));
+    YiliListele([&] {
+        int nefes = 0;
+        std::vector<int> once; // before the old file is deleted, before the new one is written
+        Prog().ortam.olaylar.nefes = [&] { ++nefes; };
+        Prog().dosyalar.ariza = [&](DosyaIsi, const Metin& yol) {
+            if (yol.ends_with(kRapor))
+                once.push_back(nefes);
+            return false;
+        };
+        AktaraBas();
+        Prog().dosyalar.ariza = nullptr;
+        Prog().ortam.olaylar.nefes = [] {};
+        ASSERT_EQ(once.size(), 2U);
+        EXPECT_GT(once[1], once[0]);
+    });
+}
+
 TEST_F(BakiyeAktarma, The_old_file_is_gone_even_when_the_writing_then_fails_on_purpose) {
     agac.Koy(kRapor, "old");
     RezervasyonKoy(Metin(kGun));

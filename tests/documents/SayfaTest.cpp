@@ -51,6 +51,48 @@ TEST(SatirlaraBol, Keeps_its_line_ends_of_any_kind_and_the_blanks_before_a_line)
     EXPECT_EQ(Bol(u"a\r\n", 9), (Satirlar{u"a"}));
 }
 
+TEST(SatirlaraBol, Stops_behind_the_first_line_too_many_and_measures_nothing_beyond_it) {
+    Metin paragraf;
+    Metin satirlar;
+    for (int i = 0; i < 5000; ++i) {
+        paragraf += u"söz" + SayiMetni(i) + u" ";
+        satirlar += u"söz" + SayiMetni(i) + u"\n";
+    }
+    for (const Metin& metin : {paragraf, satirlar}) {
+        int olculen = 0;
+        const YaziOlcer say = [&olculen](MetinBakis parca, const SayfaYazisi& yazi) {
+            ++olculen;
+            return EsitEnli(parca, yazi);
+        };
+        EXPECT_EQ(SatirlaraBol(metin, 5, kMilimetrelik, say, 3),
+                  (Satirlar{u"söz0", u"söz1", u"söz2", u"söz3"}));
+        EXPECT_LE(olculen, 4 * 10) << "each line is looked for by halves";
+    }
+}
+
+TEST(SatirlaraBol, Stops_behind_the_first_line_too_many_also_where_the_others_are_empty) {
+    EXPECT_EQ(SatirlaraBol(u"a\n\nb\n\n\n\nc", 5, kMilimetrelik, EsitEnli, 2), (Satirlar{u"a", u"", u"b"}));
+    EXPECT_EQ(SatirlaraBol(u"a\n\nb\n\n\n\nc", 5, kMilimetrelik, EsitEnli, 3),
+              (Satirlar{u"a", u"", u"b", u""}));
+}
+
+TEST(SayfaAkisi, A_size_that_is_too_large_is_known_by_its_first_lines) {
+    Metin metin;
+    for (int i = 0; i < 2000; ++i)
+        metin += u"söz ";
+    const auto olculen = [&metin](double enKucuk) {
+        int sayi = 0;
+        const SayfaAkisi akis([&sayi](MetinBakis parca, const SayfaYazisi& yazi) {
+            ++sayi;
+            return EsitEnli(parca, yazi);
+        });
+        akis.Parca(u"a", metin, {0, 0, 50, SatirBoyu({12, false})}, {{12, false}, Hiza::Sol, enKucuk});
+        return sayi;
+    };
+    // Nine sizes, the last of them whole.
+    EXPECT_LT(olculen(8), olculen(12) * 2);
+}
+
 TEST(SayfaAkisi, A_text_gets_smaller_until_it_fits_and_then_its_place_grows) {
     const SayfaAkisi akis(EsitEnli);
     const AlanBicimi bicim{{12, true}, Hiza::Sag, 8};

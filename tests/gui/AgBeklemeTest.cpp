@@ -12,6 +12,7 @@
 #include "online/FormFirma.h"
 #include "platform/Ag.h"
 #include "platform/Sunucu.h"
+#include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
 
 using namespace velora;

@@ -14,6 +14,7 @@
 #include "gui/PdfOkuma.h"
 #include "qt/Baglayici.h"
 #include "qt/documents/SayfaGorunumu.h"
+#include "qt/table/TabloGorunumu.h"
 #include "qt/table/TabloPenceresi.h"
 #include "reservation/FormKayit.h"
 #include "reservation/KayitYukle.h"

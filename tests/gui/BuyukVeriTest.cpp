@@ -245,6 +245,21 @@ class BuyukVeriTest : public QObject {
         QCOMPARE(liste.topLevelItemCount(), 2);
     }
 
+    void the_panel_of_very_many_warnings_measures_fewer_cells_than_it_has_rows() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac();
+        auto& liste = firma.Bul<QTreeWidget>("Liste");
+        auto* olcum = new OlcumSayan(&liste);
+        liste.setItemDelegate(olcum);
+        const ListeSatiri satir = firma.Model().Liste.satirlar[0];
+        firma.Model().Liste.satirlar = std::vector<ListeSatiri>(40'000, satir);
+        Baglayici::HepsiniTazele();
+        QCoreApplication::processEvents();
+        QCOMPARE(liste.topLevelItemCount(), 40'000);
+        QVERIFY2(olcum->sayi > 0 && olcum->sayi < 40'000, qPrintable(QString::number(olcum->sayi)));
+    }
+
     void a_drop_down_takes_its_entries_at_once_and_measures_no_long_list() {
         const auto secim = std::make_shared<AcilirListe>();
         QComboBox kutu;
@@ -253,6 +268,7 @@ class BuyukVeriTest : public QObject {
         baglayici.Bagla(kutu, *secim);
         const auto ayniBoylu = [&] { return qobject_cast<QListView*>(kutu.view())->uniformItemSizes(); };
         QVERIFY(!ayniBoylu());
+        QCOMPARE(kutu.view()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
         const QSignalSpy eklenen(kutu.model(), &QAbstractItemModel::rowsInserted);
         for (int i = 0; i < 1500; ++i)
             secim->ogeler.push_back(u"Salon " + MetinYap(QString::number(i)));
@@ -263,6 +279,7 @@ class BuyukVeriTest : public QObject {
         QCOMPARE(kutu.currentText(), QStringLiteral("Salon 699"));
         QCOMPARE(kutu.itemData(3, Qt::ToolTipRole).toString(), QIpucu(u"Salon 2"));
         QVERIFY(ayniBoylu());
+        QCOMPARE(kutu.view()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     }
 
     void a_handler_that_reads_long_paints_and_lets_nothing_come_between() {

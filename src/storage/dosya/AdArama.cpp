@@ -17,6 +17,9 @@ constexpr std::chrono::milliseconds kDegisimAdimi{100};
 // The listings kept: more folders than a search walks through at once.
 constexpr std::size_t kEnCokKlasor = 256;
 
+// The names of a folder that is simply listed again: to watch one isn't worth less.
+constexpr std::size_t kEnCokListelenen = 250;
+
 /// When the folder was last changed. Nothing when that can't be told, or is so near that another change
 /// might bear the same time.
 std::optional<std::filesystem::file_time_type> GuvenilirDegisim(const std::filesystem::path& klasor) {
@@ -25,6 +28,12 @@ std::optional<std::filesystem::file_time_type> GuvenilirDegisim(const std::files
     if (hata || std::filesystem::file_time_type::clock::now() - zaman < kDegisimAdimi)
         return {};
     return zaman;
+}
+
+Metin DisktekininAnahtari(sistem::DiskAdi ad) {
+    Metin metin;
+    sistem::AdiCoz(ad, metin);
+    return AdAnahtari(metin);
 }
 
 } // namespace
@@ -53,38 +62,69 @@ std::filesystem::path AdArama::Coz(const std::filesystem::path& kok,
 }
 
 std::optional<std::filesystem::path> AdArama::Bul(const Anahtar& klasor, const std::filesystem::path& ad) {
-    const Metin aranan = AdAnahtari(YolMetni(ad));
-    const auto& adlar = Listesi(klasor);
-    const auto yer = std::lower_bound(adlar.begin(), adlar.end(), aranan,
-                                      [](const Ad& a, const Metin& anahtar) { return a.anahtar < anahtar; });
-    if (yer == adlar.end() || yer->anahtar != aranan)
+    const auto [ilk, son] = Listesi(klasor).equal_range(AdAnahtari(YolMetni(ad)));
+    if (ilk == son)
         return {};
-    return yer->diskteki;
+    AdListesi uyanlar;
+    for (auto uyan = ilk; uyan != son; ++uyan)
+        uyanlar.Ekle({uyan->second});
+    uyanlar.Sirala();
+    return std::filesystem::path(uyanlar.Diskteki(0));
 }
 
-const std::vector<AdArama::Ad>& AdArama::Listesi(const Anahtar& klasor) {
-    if (icerikler_.size() >= kEnCokKlasor && !icerikler_.contains(klasor))
-        icerikler_.clear();
+/// Takes over what has changed in the folder that is watched. False: it must be listed.
+bool AdArama::IzlenenTaze(const Anahtar& klasor) {
+    if (izlenen_ != klasor)
+        return false;
+    Icerik& icerik = icerikler_[klasor];
+    bool baglanti = false;
+    const bool taze = gozcu_.Degisenler([&](sistem::DiskAdi ad) {
+        icerik.degisim.reset();
+        const Metin anahtar = DisktekininAnahtari(ad);
+        const auto [ilk, son] = icerik.adlar.equal_range(anahtar);
+        const auto eski = std::find_if(ilk, son, [ad](const auto& biri) { return biri.second == ad; });
+        if (eski != son)
+            icerik.adlar.erase(eski);
+        const std::filesystem::path yol = klasor.first / ad;
+        std::error_code hata;
+        baglanti = baglanti || std::filesystem::is_symlink(yol, hata);
+        if (sistem::Var(yol, klasor.second))
+            icerik.adlar.emplace(anahtar, ad);
+    });
+    // What a link leads to lies elsewhere.
+    if (!taze || baglanti)
+        izlenen_.reset();
+    return izlenen_.has_value();
+}
+
+void AdArama::YerAc() {
+    if (icerikler_.size() >= kEnCokKlasor)
+        std::erase_if(icerikler_, [this](const auto& icerik) { return icerik.first != izlenen_; });
+}
+
+const AdArama::Adlar& AdArama::Listesi(const Anahtar& klasor) {
+    if (IzlenenTaze(klasor))
+        return icerikler_[klasor].adlar;
+    if (!icerikler_.contains(klasor))
+        YerAc();
     // Asked before the listing: what changes during it is seen the next time.
     const auto degisim = GuvenilirDegisim(klasor.first);
     Icerik& icerik = icerikler_[klasor];
     if (degisim && icerik.degisim == degisim)
         return icerik.adlar;
+    const bool izle = icerik.adlar.size() > kEnCokListelenen;
+    if (izle)
+        gozcu_.Izle(klasor.first); // before the listing, too
     ++listelenen_;
     icerik = {.degisim = {}, .adlar = {}};
     sistem::Klasor acik(klasor.first);
-    AdListesi liste;
     for (sistem::ListeOgesi oge; acik.Sonraki(oge, klasor.second);)
-        liste.Ekle(oge);
-    liste.Sirala();
-    icerik.adlar.reserve(liste.Sayi());
-    for (std::size_t i = 0; i < liste.Sayi(); ++i)
-        icerik.adlar.push_back({AdAnahtari(liste[i]), std::filesystem::path(liste.Diskteki(i))});
-    std::stable_sort(icerik.adlar.begin(), icerik.adlar.end(),
-                     [](const Ad& bir, const Ad& iki) { return bir.anahtar < iki.anahtar; });
+        icerik.adlar.emplace(DisktekininAnahtari(oge.ad), oge.ad);
     tam_ = tam_ && acik.Tam();
     if (acik.Tam())
         icerik.degisim = degisim;
+    if (izle)
+        izlenen_ = acik.Tam() && !acik.BaglantiVar() ? std::optional(klasor) : std::nullopt;
     return icerik.adlar;
 }
 

@@ -4,10 +4,12 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "storage/Metin.h"
+#include "storage/dosya/Gozcu.h"
 #include "storage/dosya/Sistem.h"
 
 namespace velora {
@@ -18,7 +20,9 @@ namespace velora {
 /// for one that `AdAnahtari` takes for the same; of several the first in the order of listings. Where none
 /// fits, the name stands as it is: that is the file or folder to be made.
 ///
-/// Listings are kept as long as their folder tells that nothing in it has changed.
+/// Listings are kept as long as their folder tells that nothing in it has changed. One of very many names, as
+/// when each of its halls gets its folder, is watched from its second listing on where the system can do
+/// that: then only what has changed is asked about.
 class AdArama {
   public:
     /// The last name stands for a file or a folder, those before it for folders. What is of another kind
@@ -34,21 +38,22 @@ class AdArama {
     std::size_t Listelenen() const { return listelenen_; }
 
   private:
-    struct Ad {
-        Metin anahtar;
-        std::filesystem::path diskteki;
-    };
+    using Adlar = std::unordered_multimap<Metin, std::filesystem::path::string_type>; // by `AdAnahtari`
     struct Icerik {
         std::optional<std::filesystem::file_time_type> degisim; ///< none: must be listed again
-        std::vector<Ad> adlar;                                  ///< by key
+        Adlar adlar;
     };
 
     using Anahtar = std::pair<std::filesystem::path, sistem::Tur>;
 
     std::optional<std::filesystem::path> Bul(const Anahtar& klasor, const std::filesystem::path& ad);
-    const std::vector<Ad>& Listesi(const Anahtar& klasor);
+    const Adlar& Listesi(const Anahtar& klasor);
+    bool IzlenenTaze(const Anahtar& klasor);
+    void YerAc();
 
     std::map<Anahtar, Icerik> icerikler_;
+    sistem::Gozcu gozcu_;
+    std::optional<Anahtar> izlenen_; // what it watches
     std::size_t listelenen_ = 0;
     bool tam_ = true;
 };

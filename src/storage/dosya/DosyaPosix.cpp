@@ -98,10 +98,12 @@ Klasor::~Klasor() = default;
 
 bool Klasor::Sonraki(ListeOgesi& oge, Tur tur) {
     for (errno = 0; const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr; errno = 0) {
+        const bool baglanti = kayit->d_type == DT_LNK || kayit->d_type == DT_UNKNOWN;
+        baglanti_ = baglanti_ || baglanti;
         if (!ic_->Bu(tur, *kayit))
             continue;
         // What a link leads to has another one.
-        oge = {static_cast<const char*>(kayit->d_name), kayit->d_type == DT_REG ? kayit->d_ino : 0};
+        oge = {static_cast<const char*>(kayit->d_name), baglanti ? 0 : kayit->d_ino};
         return true;
     }
     tam_ = tam_ && errno == 0;

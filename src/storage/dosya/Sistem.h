@@ -116,6 +116,9 @@ class Klasor {
     /// there, or that nobody may list, has none.
     bool Tam() const { return tam_; }
 
+    /// Whether an entry that was listed, be it of another kind, may lie elsewhere: a link.
+    bool BaglantiVar() const { return baglanti_; }
+
     /// What the system tells of a file of this folder; nothing where it doesn't. Where a listing tells all
     /// that, it is as old as the listing.
     std::optional<Kimlik> Sor(const AdHarfi* ad) const;
@@ -130,6 +133,7 @@ class Klasor {
     struct Ic;
     std::unique_ptr<Ic> ic_;
     bool tam_ = true;
+    bool baglanti_ = false;
 };
 
 /// What the system tells of an entry, links followed.

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "storage/DosyaAgaci.h"
+#include "storage/dosya/Gozcu.h"
 
 // Trees that were carried over from a system that tells no case apart, or that has other bytes for its names.
 namespace velora {
@@ -25,6 +26,34 @@ void Eskit(const std::filesystem::path& klasor) {
     std::filesystem::last_write_time(klasor,
                                      std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
 }
+
+/// Whether the system surely tells of each change in this folder. Not all file systems do.
+bool Izlenir(const std::filesystem::path& klasor) {
+    sistem::Gozcu gozcu;
+    gozcu.Izle(klasor);
+    return gozcu.Degisenler([](sistem::DiskAdi) {});
+}
+
+/// A root of more halls than are simply listed again, which has been looked through twice.
+struct CokSalon : DosyaAgaci {
+    CokSalon() {
+        for (int i = 0; i < 260; ++i)
+            KlasorKoy(u"Salon " + SayiMetni(i));
+        for (int i = 0; i < 2; ++i)
+            EXPECT_FALSE(dosyalar.VarMi(TamYol(u"Yok\\x")));
+    }
+    /// How many folders were listed to make one that isn't there.
+    std::size_t Yap(MetinBakis ad) const {
+        const std::size_t once = dosyalar.AramadaListelenen();
+        EXPECT_TRUE(dosyalar.KlasorYap(TamYol(ad)));
+        return dosyalar.AramadaListelenen() - once;
+    }
+};
+
+/// Where changes aren't told of, a folder of many names is listed each time.
+#define IZLENMEZSE_ATLA()                                                                                    \
+    if (!Izlenir(test::GeciciAgac().Kok()))                                                                  \
+    GTEST_SKIP() << "changes are not told of on this file system"
 
 } // namespace
 
@@ -123,6 +152,46 @@ TEST(AdArama, A_name_that_comes_after_the_listing_is_found) {
     // Twice within one tick of the file system's clock: a listing so near to a change isn't kept.
     std::filesystem::rename(kok.Yol(u"Gül/2026/GELEN"), kok.Yol(u"Gül/2026/gelen"));
     EXPECT_EQ(kok.dosyalar.Oku(yol), "2");
+}
+
+TEST(AdArama, Halls_that_get_their_folders_one_after_the_other_dont_have_all_halls_listed_for_each) {
+    IZLENMEZSE_ATLA();
+    const CokSalon kok;
+    for (int i = 0; i < 40; ++i)
+        ASSERT_EQ(kok.Yap(u"Yeni " + SayiMetni(i)), 0U) << i;
+    // More folders of their own than are kept.
+    for (int i = 0; i < 260; ++i)
+        ASSERT_EQ(kok.Yap(u"Salon " + SayiMetni(i) + u"\\2026"), 1U) << i;
+    EXPECT_EQ(kok.Yap(u"Son"), 0U);
+    EXPECT_FALSE(kok.dosyalar.KlasorYap(kok.TamYol(u"SALON 3"))) << "it is there";
+}
+
+TEST(AdArama, What_another_program_changes_among_many_names_is_seen_at_once) {
+    const CokSalon kok;
+    const Dosyalar& d = kok.dosyalar;
+    kok.Koy(u"GÜL/x", "1");
+    EXPECT_EQ(d.Oku(kok.TamYol(u"Gül\\x")), "1");
+    std::filesystem::rename(kok.Yol(u"GÜL"), kok.Yol(u"gül"));
+    EXPECT_EQ(d.Oku(kok.TamYol(u"Gül\\x")), "1");
+    std::filesystem::rename(kok.Yol(u"gül"), kok.Yol(u"Gonca"));
+    EXPECT_EQ(d.Oku(kok.TamYol(u"Gül\\x")), std::nullopt);
+    EXPECT_EQ(d.Oku(kok.TamYol(u"GonCA\\x")), "1");
+    // Of several the first in the order of listings, whichever came first.
+    kok.Koy(u"gonca/x", "2");
+    kok.Koy(u"GOnca/x", "3");
+    EXPECT_EQ(d.Oku(kok.TamYol(u"GonCA\\x")), "3");
+    std::filesystem::remove_all(kok.Yol(u"GOnca"));
+    kok.Koy(u"GOnca", "a file is no hall");
+    EXPECT_EQ(d.Oku(kok.TamYol(u"GonCA\\x")), "1");
+}
+
+TEST(AdArama, A_folder_with_a_link_among_its_many_names_is_listed_each_time) {
+    const CokSalon kok;
+    std::filesystem::create_directory_symlink(kok.Yol(u"Hedef"), kok.Yol(u"BAĞ"));
+    const Metin yol = kok.TamYol(u"Bağ\\x");
+    EXPECT_FALSE(kok.dosyalar.VarMi(yol)); // it leads nowhere
+    kok.Koy(u"Hedef/x", "1");
+    EXPECT_EQ(kok.dosyalar.Oku(yol), "1");
 }
 
 TEST(AdArama, Two_paths_to_one_folder_are_one_place) {

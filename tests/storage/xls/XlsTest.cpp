@@ -202,6 +202,15 @@ TEST(Xls, A_second_sheet_comes_with_the_65536th_row_and_tells_its_own_size) {
     EXPECT_EQ(Sayi(boyutlar[1].bayt, 10, 2), 1U) << "columns";
 }
 
+TEST(Xls, Between_two_sheets_there_is_time_for_a_breath) {
+    const std::vector<Metin> metinler(65'536, u"a");
+    int arada = 0;
+    XlsYaz(TekSutun({u"tek"}), [&arada] { ++arada; });
+    EXPECT_EQ(arada, 1);
+    XlsYaz(TekSutun(metinler), [&arada] { ++arada; });
+    EXPECT_EQ(arada, 3);
+}
+
 TEST(Xls, No_cell_is_a_formula_and_a_text_that_comes_again_is_kept_once) {
     const std::vector<Metin> metinler{u"=1+1", u"@x", u"=1+1", u"=1+1"};
     const auto kayitlar = Kayitlari(TekSutun(metinler));
