@@ -25,10 +25,6 @@ enum Tip { Tumu, OnRezervasyonlar, KesinRezervasyonlar };
 
 constexpr std::size_t kGunAdiUzunlugu = 19; // of the longer one, with "Gündüz"
 
-bool OnMu(const DetayDegerler& detay) {
-    return detay.No(DetayNo::OnRezervasyon) == u"1";
-}
-
 /// By the exact text: "DÜĞÜN" is another kind.
 std::size_t TurSirasi(MetinBakis nitelik) {
     const auto yer = std::find(kBakiyeTurleri.begin(), kBakiyeTurleri.end() - 1, nitelik);
@@ -135,8 +131,8 @@ bool FormBakiye::Tara(Toplamlar& toplamlar) {
     const Metin salon = Combo2.Metni();
     const Metin yil = program_.FormTablo->Sene.Metni();
     // Outside the loop: a file that is too short leaves the values of the one before it.
-    AnaDegerler ana;
-    DetayDegerler detay;
+    AnaSecimi ana;
+    DetaySecimi detay;
     KlasorOkumasi okuma = program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(salon, yil));
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
         if (!GunDosyasiDeseni(okuma[i]) || EslikDosyasi(okuma[i]))
@@ -160,8 +156,12 @@ bool FormBakiye::Tara(Toplamlar& toplamlar) {
     return true;
 }
 
+bool FormBakiye::OnMu(const DetaySecimi& detay) {
+    return detay.No(DetayNo::OnRezervasyon) == u"1";
+}
+
 /// A record in neither state stands in the whole list alone.
-bool FormBakiye::Istenen(const DetayDegerler& detay) const {
+bool FormBakiye::Istenen(const DetaySecimi& detay) const {
     if (Combo1.secili == OnRezervasyonlar)
         return OnMu(detay);
     if (Combo1.secili == KesinRezervasyonlar)
@@ -169,8 +169,7 @@ bool FormBakiye::Istenen(const DetayDegerler& detay) const {
     return true;
 }
 
-void FormBakiye::SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana,
-                           const DetayDegerler& detay) {
+void FormBakiye::SatirEkle(MetinBakis ad, const Metin& yol, const AnaSecimi& ana, const DetaySecimi& detay) {
     Liste.satirlar.push_back(
         {.sutun = {Metin(Parca(ad, 1, kGunAdiUzunlugu)), ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::ToplamUcret),
                    ana.No(AnaNo::AlinanOdeme), ana.No(AnaNo::KalanOdeme), Metin(OnMu(detay) ? kOn : kKesin),

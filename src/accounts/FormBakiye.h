@@ -72,8 +72,13 @@ struct FormBakiye {
     bool Tara(Toplamlar& toplamlar);
     /// The listing without its box, which is for who asked for it. False when it had to stop.
     bool YenidenListele();
-    bool Istenen(const DetayDegerler& detay) const;
-    void SatirEkle(MetinBakis ad, const Metin& yol, const AnaDegerler& ana, const DetayDegerler& detay);
+    using AnaSecimi =
+        SecilenDegerler<AnaNo::AdiSoyadi, AnaNo::Niteligi, AnaNo::ToplamUcret, AnaNo::AlinanOdeme,
+                        AnaNo::KalanOdeme, AnaNo::OnAciklama, AnaNo::DavetliSayisi>;
+    using DetaySecimi = SecilenDegerler<DetayNo::KesinRezervasyon, DetayNo::OnRezervasyon>;
+    static bool OnMu(const DetaySecimi& detay);
+    bool Istenen(const DetaySecimi& detay) const;
+    void SatirEkle(MetinBakis ad, const Metin& yol, const AnaSecimi& ana, const DetaySecimi& detay);
     void ToplamlariGoster(const Toplamlar& toplamlar);
     void Say();
 

@@ -101,20 +101,24 @@ void FormArama::Ara() {
         return std::ranges::count_if(olcutler, [&](const HazirOlcut& o) { return o.Uyar(degerler); });
     };
     auto uyan = uyanSayisi();
-    for (const Metin& sene : tablo->Sene.ogeler)
-        for (std::size_t i = 0; i < okumalar.size(); ++i) {
-            const Metin& salon = tablo->Salon.ogeler[i];
-            const KlasorOkumasi adlar = program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(salon, sene));
-            for (std::size_t j = 0; j < adlar.Sayi(); ++j) {
-                const MetinBakis ad = adlar[j];
-                if (okumalar[i].Oku(ad, degerler))
-                    uyan = uyanSayisi();
-                for (auto kez = uyan; kez > 0; --kez)
-                    Liste.satirlar.push_back(
-                        {{Metin(ad), salon, degerler[0], degerler[1], degerler[2], degerler[3]},
-                         program_.agac.GunYolu(salon, yil, ad)});
-            }
+    Metin ad; // kept for its memory
+    const auto gez = [&](std::size_t i, const KlasorOkumasi& adlar) {
+        const Metin& salon = tablo->Salon.ogeler[i];
+        for (std::size_t j = 0; j < adlar.Sayi(); ++j) {
+            ad = adlar[j];
+            if (okumalar[i].Oku(ad, degerler))
+                uyan = uyanSayisi();
+            for (auto kez = uyan; kez > 0; --kez)
+                Liste.satirlar.push_back({{ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]},
+                                          program_.agac.GunYolu(salon, yil, ad)});
         }
+    };
+    for (const Metin& sene : tablo->Sene.ogeler)
+        for (std::size_t i = 0; i < okumalar.size(); ++i)
+            if (sene == yil)
+                gez(i, okumalar[i].Adlar());
+            else
+                gez(i, program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(tablo->Salon.ogeler[i], sene)));
 }
 
 /// The criteria that take part. The signs of a pattern keep their meaning in what is looked for.

@@ -34,7 +34,9 @@ bool FormOzelHatirlatma::Listele() {
     const Metin bugun = TarihMetni(program_.Bugun());
     Liste.Temizle();
     Liste.secimDugmeleri.Ac(false);
-    AnaDegerler ana; // outside the loop: what can't be read shows the record before it
+    SecilenDegerler<AnaNo::AdiSoyadi, AnaNo::Niteligi, AnaNo::Telefon, AnaNo::Cep, AnaNo::HatirlatmaTarihi,
+                    AnaNo::BuTarihteHatirlat>
+        ana; // outside the loop: what can't be read shows the record before it
     KlasorOkumasi okuma = program_.dosyalar.KlasorAc(klasor);
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
         if (!AnaDosyaAdi(okuma[i]))

@@ -25,10 +25,6 @@ constexpr std::array<UyariTuru, 2> kTurler{
     {{u"Kesin", DetayNo::KesinRezervasyon, &UyariSuresi::kesin, true, 0, false},
      {u"Ön", DetayNo::OnRezervasyon, &UyariSuresi::on, false, kOnUyariRengi, true}}};
 
-/// The rows show no value behind these.
-constexpr std::size_t kAnaYeter = AnaNo::YaklasincaHatirlat;
-constexpr std::size_t kDetayYeter = DetayNo::OnRezervasyon;
-
 /// The day of a name that begins with a day number.
 std::optional<Gun> AnahtarGunu(MetinBakis ad) {
     const MetinBakis tarih = Parca(ad, 1, kTarihUzunlugu);
@@ -36,7 +32,7 @@ std::optional<Gun> AnahtarGunu(MetinBakis ad) {
     return yazili ? TarihCoz(tarih) : TarihCoz(AnahtarTarihi(ad));
 }
 
-ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const AnaDegerler& ana,
+ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const UyariAna& ana,
                      const UyariTuru& tur) {
     return {{ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
              ana.No(AnaNo::Cep), Metin(tur.ad)},
@@ -51,9 +47,10 @@ void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
     klasorler_.push_back(klasor);
     KlasorOkumasi okuma = dosyalar_.KlasorAc(klasor);
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
-        if (!GunDosyasiDeseni(okuma[i]) || !Yakin(okuma[i]))
+        const MetinBakis bakilan = okuma[i];
+        if (!GunDosyasiDeseni(bakilan) || !Yakin(bakilan))
             continue;
-        const Metin ad(okuma[i]);
+        const Metin ad(bakilan);
         Oku(okuma, i);
         SatirlariEkle(ad, salon);
     }
@@ -67,8 +64,8 @@ bool UyariTaramasi::Yakin(MetinBakis ad) {
 }
 
 void UyariTaramasi::Oku(KlasorOkumasi& okuma, std::size_t sira) {
-    Yurut(ana_, kAnaYeter, okuma, sira, [](KlasorOkumasi& o, std::size_t i) { return o.Oku(i); });
-    Yurut(detay_, kDetayYeter, okuma, sira,
+    Yurut(ana_, okuma, sira, [](KlasorOkumasi& o, std::size_t i) { return o.Oku(i); });
+    Yurut(detay_, okuma, sira,
           [](KlasorOkumasi& o, std::size_t i) { return o.Oku(Metin(o[i]) + Metin(kDetayEki)); });
     ilk_ = {klasorler_.size() - 1, sira + 1};
 }
@@ -76,14 +73,14 @@ void UyariTaramasi::Oku(KlasorOkumasi& okuma, std::size_t sira) {
 /// Brings the values from where they stood before the name `ilk_` to behind this one. Files fill from the
 /// first value on, so the latest of them come first and the ones before only add what is missing.
 template <class Degerler, class Dosya>
-void UyariTaramasi::Yurut(Degerler& hal, std::size_t yeter, KlasorOkumasi& okuma, std::size_t sira,
-                          const Dosya& dosya) const {
+void UyariTaramasi::Yurut(Degerler& hal, KlasorOkumasi& okuma, std::size_t sira, const Dosya& dosya) const {
     std::size_t dolu = 0;
+    const std::size_t yeter = hal.deger.size();
     const auto klasorde = [&](KlasorOkumasi& o, std::size_t son, std::size_t ilk) {
         for (std::size_t i = son; i > ilk && dolu < yeter; --i) {
             const auto bayt = GunDosyasiDeseni(o[i - 1]) ? dosya(o, i - 1) : std::nullopt;
             Degerler okunan;
-            const auto adet = bayt ? static_cast<std::size_t>(DegerleriAl(*bayt, okunan)) : 0;
+            const std::size_t adet = bayt ? DegerleriAl(*bayt, okunan) : 0;
             for (; dolu < adet; ++dolu)
                 hal.deger[dolu] = std::move(okunan.deger[dolu]);
         }

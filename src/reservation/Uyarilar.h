@@ -17,6 +17,11 @@ struct UyariSuresi {
     double on = 0;
 };
 
+/// The values that a warning shows or goes by.
+using UyariAna = SecilenDegerler<AnaNo::AdiSoyadi, AnaNo::GelinDamat, AnaNo::Telefon, AnaNo::Cep,
+                                 AnaNo::YaklasincaHatirlat>;
+using UyariDetay = SecilenDegerler<DetayNo::KesinRezervasyon, DetayNo::OnRezervasyon>;
+
 /// Looks through year folders for reservations that are near.
 ///
 /// The plain way reads each name of each folder as a main record and its companion as details; what a file
@@ -46,16 +51,15 @@ class UyariTaramasi {
     bool Yakin(MetinBakis ad);
     void Oku(KlasorOkumasi& okuma, std::size_t sira);
     template <class Degerler, class Dosya>
-    void Yurut(Degerler& hal, std::size_t yeter, KlasorOkumasi& okuma, std::size_t sira,
-               const Dosya& dosya) const;
+    void Yurut(Degerler& hal, KlasorOkumasi& okuma, std::size_t sira, const Dosya& dosya) const;
     void SatirlariEkle(const Metin& ad, const Metin& salon);
 
     const Dosyalar& dosyalar_;
     Gun bugun_;
     UyariSuresi sure_;
     std::vector<Metin> klasorler_;
-    AnaDegerler ana_;
-    DetayDegerler detay_;
+    UyariAna ana_;
+    UyariDetay detay_;
     Yer ilk_{0, 0}; // the values stand as before this name
     int kalan_ = 0; // a name without a date keeps the days of the name before it
     std::vector<ListeSatiri> satirlar_;

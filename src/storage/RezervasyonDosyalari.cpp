@@ -54,6 +54,20 @@ int DegerleriAl(std::string_view bayt, DetayDegerler& hedef) {
     return SiraylaAl(bayt, hedef);
 }
 
+std::size_t DegerleriAl(std::string_view bayt, std::span<const int> numaralar, std::span<Metin> hedef) {
+    DegerOkuyucu okuyucu(bayt);
+    int okunan = 0;
+    std::size_t adet = 0;
+    for (const int no : numaralar) {
+        okunan += okuyucu.Atla(no - 1 - okunan);
+        if (okunan < no - 1 || !okuyucu.Oku(hedef[adet]))
+            break;
+        ++okunan;
+        ++adet;
+    }
+    return adet;
+}
+
 std::optional<int> AnaOku(const Dosyalar& dosyalar, const Metin& yol, AnaDegerler& hedef, Koken* koken) {
     return DegerlerOku(dosyalar, yol, hedef, koken);
 }

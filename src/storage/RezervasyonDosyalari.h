@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "storage/Koken.h"
@@ -76,6 +78,20 @@ struct DetayDegerler {
     const Metin& No(int no) const { return deger[static_cast<std::size_t>(no - 1)]; }
 };
 
+/// Some of the values of a record, by their numbers in the file, ascending: who reads thousands of files
+/// makes texts of what he wants alone. Its life is the life of the values, as above.
+template <int... Numaralar>
+struct SecilenDegerler {
+    static constexpr std::array<int, sizeof...(Numaralar)> kNumaralar{Numaralar...};
+    static_assert(std::is_sorted(kNumaralar.begin(), kNumaralar.end()));
+    std::array<Metin, sizeof...(Numaralar)> deger;
+
+    const Metin& No(int no) const {
+        return deger[static_cast<std::size_t>(std::find(kNumaralar.begin(), kNumaralar.end(), no) -
+                                              kNumaralar.begin())];
+    }
+};
+
 struct Odeme {
     Metin tarih; ///< dd.mm.yyyy
     Metin tutar; ///< a plain number in text form
@@ -86,6 +102,14 @@ struct Odeme {
 /// filled.
 int DegerleriAl(std::string_view bayt, AnaDegerler& hedef);
 int DegerleriAl(std::string_view bayt, DetayDegerler& hedef);
+
+/// The same of the values with these numbers alone, ascending: `hedef` has one place for each of them. How
+/// many of them it filled.
+std::size_t DegerleriAl(std::string_view bayt, std::span<const int> numaralar, std::span<Metin> hedef);
+template <int... Numaralar>
+std::size_t DegerleriAl(std::string_view bayt, SecilenDegerler<Numaralar...>& hedef) {
+    return DegerleriAl(bayt, hedef.kNumaralar, hedef.deger);
+}
 
 /// Each does that with a file. Nothing when the file can't be opened or read. Who writes back what was read
 /// gives each file a `koken` of its own.

@@ -197,8 +197,14 @@ std::optional<std::size_t> AdListesi::Bul(MetinBakis ad) const {
     const auto yer = std::partition_point(adlar_.begin(), adlar_.end(), [&](const Ad& baska) {
         return AdSirasi((*this)[static_cast<std::size_t>(&baska - adlar_.data())], ad);
     });
-    const auto sira = static_cast<std::size_t>(yer - adlar_.begin());
-    return sira < adlar_.size() && (*this)[sira] == ad ? std::optional(sira) : std::nullopt;
+    auto sira = static_cast<std::size_t>(yer - adlar_.begin());
+    const auto ayni = [&](std::size_t i) { return i < adlar_.size() && AyniAd((*this)[i], ad); };
+    if (sira < adlar_.size() && (*this)[sira] == ad)
+        return sira;
+    // Names that differ only in case stand side by side.
+    while (sira > 0 && ayni(sira - 1))
+        --sira;
+    return ayni(sira) ? std::optional(sira) : std::nullopt;
 }
 
 std::size_t AdListesi::Bayt() const {

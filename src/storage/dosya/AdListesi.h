@@ -36,7 +36,7 @@ class AdListesi {
     /// Adds those that were added first to another one, in that order.
     void BastanEkle(const AdListesi& baska, std::size_t adet);
 
-    /// The place of a name that stands so on the disk, or comes out as this text and nothing before it does.
+    /// The place of this name; else of the first that differs from it only in case.
     std::optional<std::size_t> Bul(MetinBakis ad) const;
 
     /// What it holds in memory.

@@ -48,7 +48,7 @@ std::optional<std::string_view> KlasorOkumasi::BelleginOkumasi(std::size_t sira)
 }
 
 std::optional<std::string_view> KlasorOkumasi::Oku(MetinBakis ad) {
-    if (const auto sira = bellek_ ? bellek_->Adlar().Bul(ad) : std::nullopt)
+    if (const auto sira = Bul(ad))
         return Oku(*sira);
     auto bayt = dosyalar_->Oku(yol_ + kAyrac + Metin(ad));
     if (!bayt)

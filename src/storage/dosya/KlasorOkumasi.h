@@ -30,6 +30,11 @@ class KlasorOkumasi {
     /// It lasts until the next name is asked for.
     MetinBakis operator[](std::size_t sira) const { return bellek_->Adlar()[sira]; }
 
+    /// The place of a name; else of the first that differs from it only in case.
+    std::optional<std::size_t> Bul(MetinBakis ad) const {
+        return bellek_ ? bellek_->Adlar().Bul(ad) : std::nullopt;
+    }
+
     /// The whole file; nothing when it can't be opened or read. It lasts until the next one is read.
     std::optional<std::string_view> Oku(std::size_t sira);
 

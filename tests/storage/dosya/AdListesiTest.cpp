@@ -99,6 +99,11 @@ TEST(AdListesi, Of_equal_names_the_one_that_stands_so_on_the_disk_comes_first) {
     EXPECT_EQ(liste.Diskteki(3), sistem::DiskAdi("\xFC"));
     EXPECT_EQ(liste.Bul(u"ü"), 1U);
     EXPECT_EQ(liste.Bul(u"Ü"), 0U);
+    liste.Ekle({"Işık"});
+    liste.Ekle({"iş"});
+    liste.Ekle({"İŞ"});
+    liste.Sirala();
+    EXPECT_EQ(liste[*liste.Bul(u"IŞ")], u"iş") << "in another case";
     EXPECT_EQ(liste.Bul(u"û"), std::nullopt);
     EXPECT_EQ(liste.Bul(u"z"), std::nullopt);
 }
