@@ -22,6 +22,8 @@ void Kullanici::YeniProgram() {
     gecen_.clear();
     program_.reset(); // two of them can't have one journal
     program_ = std::make_unique<Program>(ortam.Ver(), kok_);
+    if (hazirla)
+        hazirla(*program_);
 }
 
 void Kullanici::ProgramiAc() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -64,6 +65,8 @@ class Kullanici {
     Program& Prog() { return *program_; }
 
     SahteOrtam ortam;
+    /// Runs on each new program, before any of its screens is loaded.
+    std::function<void(Program&)> hazirla;
 
   private:
     void YeniProgram();

@@ -79,6 +79,8 @@ bool AdArama::IzlenenTaze(const Anahtar& klasor) {
     Icerik& icerik = icerikler_[klasor];
     bool baglanti = false;
     const bool taze = gozcu_.Degisenler([&](sistem::DiskAdi ad) {
+        if (ad.empty())
+            return; // who may list it isn't asked for a name that was listed
         icerik.degisim.reset();
         const Metin anahtar = DisktekininAnahtari(ad);
         const auto [ilk, son] = icerik.adlar.equal_range(anahtar);

@@ -20,9 +20,9 @@ class Gozcu {
     void Izle(const std::filesystem::path& klasor);
 
     /// Hands over the names of the entries that were made, removed, renamed, written to or given other rights
-    /// since the last call. False when it can't be sure to know of all, or when the path leads to another
-    /// folder by now; then it has stopped watching. A system that doesn't tell of each change at once is
-    /// never sure.
+    /// since the last call, and an empty one for the folder itself. False when it can't be sure to know of
+    /// all, or when the path leads to another folder by now; then it has stopped watching. A system that
+    /// doesn't tell of each change at once is never sure.
     bool Degisenler(const std::function<void(DiskAdi ad)>& ver);
 
   private:

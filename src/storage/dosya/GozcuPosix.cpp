@@ -14,8 +14,8 @@ namespace velora::sistem {
 namespace {
 
 // All that changes what a listing or a reading gives.
-constexpr std::uint32_t kGozlenen = IN_MODIFY | IN_ATTRIB | IN_CREATE | IN_DELETE | IN_MOVED_FROM |
-                                    IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+constexpr std::uint32_t kGozlenen = IN_MODIFY | IN_CLOSE_WRITE | IN_ATTRIB | IN_CREATE | IN_DELETE |
+                                    IN_MOVED_FROM | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 constexpr std::uint32_t kKaybeden = IN_Q_OVERFLOW | IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT | IN_IGNORED;
 
 /// File systems of this machine alone, which tell of every change: ext2 to 4, XFS, Btrfs, F2FS, tmpfs and the
@@ -50,8 +50,7 @@ struct Gozcu::Ic {
             return false;
         if (olay.wd != izlenen)
             return true; // of a folder that was watched before
-        if (olay.len > 0)
-            ver(olayAdi);
+        ver(olay.len > 0 ? DiskAdi(olayAdi) : DiskAdi());
         return (olay.mask & kKaybeden) == 0;
     }
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace velora {
@@ -20,6 +21,33 @@ bool Eski(const sistem::Kimlik& kimlik, SistemAni sinir) {
 }
 
 } // namespace
+
+std::unique_ptr<sistem::Gozcu> KlasorBellegi::Izlet(std::unique_ptr<sistem::Gozcu> gozcu) {
+    for (Kayit& kayit : kayitlar_)
+        kayit.sorulsun = true;
+    return std::exchange(gozcu_, std::move(gozcu));
+}
+
+void KlasorBellegi::Tazele(const std::function<sistem::Klasor&()>& ac) {
+    if (gozcu_ == nullptr || !Degismedi())
+        Listele(ac());
+}
+
+/// Whether it is sure that the folder is as it was when it was listed last. Files that may have changed are
+/// asked about when they are wanted.
+bool KlasorBellegi::Degismedi() {
+    std::unordered_set<std::basic_string<sistem::AdHarfi>> degisenler;
+    const bool emin = gozcu_->Degisenler([&](sistem::DiskAdi ad) { degisenler.emplace(ad); });
+    if (emin && degisenler.empty())
+        return true;
+    for (std::size_t i = 0; i < kayitlar_.size(); ++i)
+        if (!emin || degisenler.contains({}) ||
+            degisenler.contains(std::basic_string<sistem::AdHarfi>(adlar_.Diskteki(i))))
+            kayitlar_[i].sorulsun = true;
+    if (!emin)
+        gozcu_->Izle(klasor_); // before the listing: no change gets lost
+    return false;
+}
 
 void KlasorBellegi::Listele(sistem::Klasor& acik) {
     const auto kimlik = acik.Sor();
@@ -75,6 +103,13 @@ bool KlasorBellegi::Taze(Kayit& kayit, const sistem::Kimlik& simdi) const {
     return true;
 }
 
+std::optional<std::string_view> KlasorBellegi::Bilinen(std::size_t sira) const {
+    const Kayit& kayit = kayitlar_[sira];
+    if (!kayit.var || kayit.sorulsun)
+        return {};
+    return std::string_view(baytlar_).substr(kayit.bas, kayit.uzunluk);
+}
+
 std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& acik, std::size_t sira,
                                                        std::optional<sistem::Kimlik>& simdi) {
     Kayit& kayit = kayitlar_[sira];
@@ -83,6 +118,8 @@ std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& aci
     simdi = acik.Sor(adlar_.Diskteki(sira).data());
     if (!kayit.var || !simdi || !Taze(kayit, *simdi))
         return {};
+    // Where a link leads to nobody watches.
+    kayit.sorulsun = gozcu_ == nullptr || adlar_.No(sira) == 0;
     return std::string_view(baytlar_).substr(kayit.bas, kayit.uzunluk);
 }
 

@@ -3,12 +3,15 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "storage/dosya/AdListesi.h"
+#include "storage/dosya/Gozcu.h"
 #include "storage/dosya/Sistem.h"
 
 namespace velora {
@@ -26,12 +29,23 @@ class KlasorBellegi {
 
     const std::filesystem::path& Klasor() const { return klasor_; }
 
-    /// Takes the names that stand there now, and forgets what is gone.
-    void Listele(sistem::Klasor& acik);
+    /// From here on what changes in the folder is told by one who watches it, as far as he can be sure: what
+    /// hasn't changed is then neither listed nor asked about. Null: nobody watches. Gives the one before
+    /// back.
+    std::unique_ptr<sistem::Gozcu> Izlet(std::unique_ptr<sistem::Gozcu> gozcu);
+    bool Izleniyor() const { return gozcu_ != nullptr; }
+
+    /// Takes the names that stand there now, and forgets what is gone. `ac` opens the folder, where it must
+    /// be listed.
+    void Tazele(const std::function<sistem::Klasor&()>& ac);
 
     const AdListesi& Adlar() const { return adlar_; }
 
-    /// The bytes that are kept of a file, by its place among the names, where they are those of the disk.
+    /// The bytes that are kept of a file, by its place among the names, where it is known that they are those
+    /// of the disk. They last until the next one is kept.
+    std::optional<std::string_view> Bilinen(std::size_t sira) const;
+
+    /// The same where the system has to be asked.
     /// They last until the next one is kept. `simdi` becomes what the system says of the file, where it was
     /// asked.
     std::optional<std::string_view> Hatirla(const sistem::Klasor& acik, std::size_t sira,
@@ -58,14 +72,18 @@ class KlasorBellegi {
         std::uint32_t bas = 0; ///< in `baytlar_`
         std::uint32_t uzunluk = 0;
         bool var = false;
+        bool sorulsun = true; ///< nobody watches, or he has told of a change since
     };
 
+    bool Degismedi();
+    void Listele(sistem::Klasor& acik);
     void AdlariDegistir(AdListesi yeni);
     bool Taze(Kayit& kayit, const sistem::Kimlik& simdi) const;
     void Birak(Kayit& kayit);
     void Sikistir();
 
     std::filesystem::path klasor_;
+    std::unique_ptr<sistem::Gozcu> gozcu_;
     sistem::Kimlik kimlik_; // of the folder
     AdListesi adlar_;
     std::vector<Kayit> kayitlar_; // by the places of the names

@@ -11,10 +11,18 @@ namespace velora {
 void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
     // Asked before the first reading: what is written from here on is younger.
     sinir_ = dosyalar_->bellek_->Sinir();
-    acik_ = std::make_unique<sistem::Klasor>(klasor);
     const auto bellek = dosyalar_->bellek_->Al(klasor);
-    bellek->Listele(*acik_);
+    bellek->Tazele([&]() -> sistem::Klasor& {
+        acik_ = std::make_unique<sistem::Klasor>(klasor);
+        return *acik_;
+    });
     bellek_ = bellek;
+}
+
+sistem::Klasor& KlasorOkumasi::Acik() {
+    if (acik_ == nullptr)
+        acik_ = std::make_unique<sistem::Klasor>(bellek_->Klasor());
+    return *acik_;
 }
 
 KlasorOkumasi::KlasorOkumasi(KlasorOkumasi&& baska) noexcept
@@ -37,11 +45,13 @@ std::optional<std::string_view> KlasorOkumasi::Oku(std::size_t sira) {
 }
 
 std::optional<std::string_view> KlasorOkumasi::BelleginOkumasi(std::size_t sira) {
+    if (const auto bayt = bellek_->Bilinen(sira))
+        return bayt;
     std::optional<sistem::Kimlik> kimlik;
-    if (const auto bayt = bellek_->Hatirla(*acik_, sira, kimlik))
+    if (const auto bayt = bellek_->Hatirla(Acik(), sira, kimlik))
         return bayt;
     ++dosyalar_->okunan_;
-    const auto bayt = acik_->Oku(bellek_->Adlar().Diskteki(sira).data(), kEnUzunOkuma, tampon_);
+    const auto bayt = Acik().Oku(bellek_->Adlar().Diskteki(sira).data(), kEnUzunOkuma, tampon_);
     if (bayt)
         bellek_->Sakla(sira, *bayt, kimlik, sinir_);
     return bayt;

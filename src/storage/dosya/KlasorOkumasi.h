@@ -47,6 +47,7 @@ class KlasorOkumasi {
     KlasorOkumasi(const Dosyalar& dosyalar, Metin yol) : dosyalar_(&dosyalar), yol_(std::move(yol)) {}
     void Ac(const std::filesystem::path& klasor);
 
+    sistem::Klasor& Acik();
     std::optional<std::string_view> BelleginOkumasi(std::size_t sira);
 
     const Dosyalar* dosyalar_; // null: this one was moved away

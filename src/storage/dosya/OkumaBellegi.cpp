@@ -9,12 +9,24 @@ std::shared_ptr<KlasorBellegi> OkumaBellegi::Al(const std::filesystem::path& kla
     const auto yer = std::ranges::find(klasorler_, klasor, [](const auto& b) { return b->Klasor(); });
     if (yer != klasorler_.end() && yer->use_count() == 1) {
         std::rotate(yer, yer + 1, klasorler_.end());
+        if (!klasorler_.back()->Izleniyor())
+            klasorler_.back()->Izlet(GozcuBul());
         return klasorler_.back();
     }
     auto yeni = std::make_shared<KlasorBellegi>(klasor);
     if (yer == klasorler_.end())
         klasorler_.push_back(yeni);
     return yeni;
+}
+
+/// A new one, or that of the folder which was longest not read: to make one and to throw it away costs more
+/// than a folder's reading.
+std::unique_ptr<sistem::Gozcu> OkumaBellegi::GozcuBul() {
+    const auto izlenir = [](const auto& bellek) { return bellek->Izleniyor(); };
+    if (static_cast<std::size_t>(std::ranges::count_if(klasorler_, izlenir)) < enCokIzlenen)
+        return std::make_unique<sistem::Gozcu>();
+    const auto ilk = std::ranges::find_if(klasorler_, izlenir);
+    return ilk != klasorler_.end() ? (*ilk)->Izlet(nullptr) : nullptr;
 }
 
 void OkumaBellegi::Okundu(const std::shared_ptr<KlasorBellegi>& bellek) {

@@ -35,6 +35,8 @@ class OkumaBellegi {
     /// time. Where the clock was set back all is forgotten: a time that was past may come again.
     SistemAni Sinir();
 
+    /// So many of the folders that were read last are watched, from their second reading on.
+    std::size_t enCokIzlenen = 8;
     /// The coarsest step in which a disk tells times.
     std::chrono::nanoseconds zamanAdimi = std::chrono::seconds(2);
     /// For tests: another clock.
@@ -43,6 +45,8 @@ class OkumaBellegi {
     std::size_t Bayt() const;
 
   private:
+    std::unique_ptr<sistem::Gozcu> GozcuBul();
+
     std::vector<std::shared_ptr<KlasorBellegi>> klasorler_; // the one that was read last stands last
     SistemAni sonAn_{};
 };

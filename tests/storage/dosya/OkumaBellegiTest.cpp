@@ -34,7 +34,10 @@ struct BellekAgaci : DosyaAgaci {
         for (int i = 10; i < 10 + adet; ++i)
             Koy(u"salon/yıl/" + SayiMetni(i), "içerik " + std::to_string(i));
         BellekBeklemesin(dosyalar);
+        dosyalar.Bellek().enCokIzlenen = izlenen;
     }
+    static inline std::size_t izlenen = 0;
+
     Metin Klasor() const { return TamYol(u"salon\\yıl"); }
     /// Reads the folder, which must give what one without a memory gives. How many files came from the disk.
     std::size_t Oku() const {
@@ -50,14 +53,22 @@ struct BellekAgaci : DosyaAgaci {
 
 } // namespace
 
-TEST(OkumaBellegi, A_second_reading_takes_nothing_from_the_disk) {
+/// Where the system is asked about each file, and where folders are watched.
+class Bellek : public ::testing::TestWithParam<std::size_t> {
+  protected:
+    void SetUp() override { BellekAgaci::izlenen = GetParam(); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Asked_and_watched, Bellek, ::testing::Values(0U, 8U));
+
+TEST_P(Bellek, A_second_reading_takes_nothing_from_the_disk) {
     const BellekAgaci kok;
     EXPECT_EQ(kok.Oku(), 20U);
     EXPECT_EQ(kok.Oku(), 0U);
     EXPECT_EQ(kok.Oku(), 0U);
 }
 
-TEST(OkumaBellegi, What_was_written_less_than_two_seconds_before_is_read_each_time_and_then_no_more) {
+TEST_P(Bellek, What_was_written_less_than_two_seconds_before_is_read_each_time_and_then_no_more) {
     const BellekAgaci kok;
     struct stat bilgi {};
     ASSERT_EQ(::stat(kok.Yol(u"salon/yıl/15").c_str(), &bilgi), 0);
@@ -79,7 +90,7 @@ TEST(OkumaBellegi, What_was_written_less_than_two_seconds_before_is_read_each_ti
     EXPECT_EQ(onBes(), 0U);
 }
 
-TEST(OkumaBellegi, The_same_length_within_the_same_step_of_the_clock_is_never_missed) {
+TEST_P(Bellek, The_same_length_within_the_same_step_of_the_clock_is_never_missed) {
     const BellekAgaci kok(3);
     kok.dosyalar.Bellek().zamanAdimi = OkumaBellegi().zamanAdimi;
     for (int i = 100; i < 500; ++i) {
@@ -88,7 +99,7 @@ TEST(OkumaBellegi, The_same_length_within_the_same_step_of_the_clock_is_never_mi
     }
 }
 
-TEST(OkumaBellegi, A_clock_that_was_set_back_has_all_forgotten) {
+TEST_P(Bellek, A_clock_that_was_set_back_has_all_forgotten) {
     const BellekAgaci kok;
     const auto saat = [&](std::chrono::minutes fark) {
         kok.dosyalar.Bellek().saat = [fark] { return std::chrono::system_clock::now() + fark; };
@@ -104,7 +115,7 @@ TEST(OkumaBellegi, A_clock_that_was_set_back_has_all_forgotten) {
     EXPECT_EQ(kok.Oku(), 20U);
 }
 
-TEST(OkumaBellegi, A_file_written_over_in_its_place_to_the_same_length_is_read_again_and_no_other) {
+TEST_P(Bellek, A_file_written_over_in_its_place_to_the_same_length_is_read_again_and_no_other) {
     const BellekAgaci kok;
     kok.Oku();
     const auto zaman = std::filesystem::last_write_time(kok.Yol(u"salon/yıl/15"));
@@ -115,7 +126,7 @@ TEST(OkumaBellegi, A_file_written_over_in_its_place_to_the_same_length_is_read_a
     EXPECT_EQ(kok.Oku(), 0U);
 }
 
-TEST(OkumaBellegi, What_is_written_here_is_read_again_whatever_the_disk_says_of_it) {
+TEST_P(Bellek, What_is_written_here_is_read_again_whatever_the_disk_says_of_it) {
     const BellekAgaci kok;
     kok.Oku();
     EXPECT_TRUE(kok.dosyalar.Yaz(kok.TamYol(u"salon\\yıl\\16"), "İÇERİK 16"));
@@ -128,7 +139,7 @@ TEST(OkumaBellegi, What_is_written_here_is_read_again_whatever_the_disk_says_of_
     EXPECT_EQ(kok.Oku(), 1U);
 }
 
-TEST(OkumaBellegi, Files_that_come_go_and_are_put_in_the_place_of_others_are_seen) {
+TEST_P(Bellek, Files_that_come_go_and_are_put_in_the_place_of_others_are_seen) {
     const BellekAgaci kok;
     kok.Oku();
     kok.YeniAn();
@@ -146,7 +157,7 @@ TEST(OkumaBellegi, Files_that_come_go_and_are_put_in_the_place_of_others_are_see
     EXPECT_EQ(kok.Oku(), 0U);
 }
 
-TEST(OkumaBellegi, Another_folder_in_its_place_or_in_the_place_of_the_one_above_is_another) {
+TEST_P(Bellek, Another_folder_in_its_place_or_in_the_place_of_the_one_above_is_another) {
     const BellekAgaci kok;
     kok.Oku();
     std::filesystem::rename(kok.Yol(u"salon/yıl"), kok.Yol(u"salon/eski"));
@@ -160,7 +171,7 @@ TEST(OkumaBellegi, Another_folder_in_its_place_or_in_the_place_of_the_one_above_
     EXPECT_EQ(kok.Oku(), 0U);
 }
 
-TEST(OkumaBellegi, What_a_link_leads_to_is_asked_about_where_it_lies) {
+TEST_P(Bellek, What_a_link_leads_to_is_asked_about_where_it_lies) {
     const BellekAgaci kok;
     kok.Koy(u"uzak", "uzaktaki");
     kok.Koy(u"yakin", "yakindak");
@@ -175,7 +186,7 @@ TEST(OkumaBellegi, What_a_link_leads_to_is_asked_about_where_it_lies) {
     EXPECT_EQ(kok.Oku(), 1U);
 }
 
-TEST(OkumaBellegi, A_file_whose_rights_were_taken_away_can_not_be_read_any_more_and_can_when_they_are_back) {
+TEST_P(Bellek, A_file_whose_rights_were_taken_away_can_not_be_read_any_more_and_can_when_they_are_back) {
     if (::geteuid() == 0)
         GTEST_SKIP() << "root may read everything";
     const BellekAgaci kok;
@@ -193,7 +204,7 @@ TEST(OkumaBellegi, A_file_whose_rights_were_taken_away_can_not_be_read_any_more_
     kok.Oku();
 }
 
-TEST(OkumaBellegi, Only_what_is_asked_for_is_read_and_the_rest_when_it_is_asked_for) {
+TEST_P(Bellek, Only_what_is_asked_for_is_read_and_the_rest_when_it_is_asked_for) {
     const BellekAgaci kok;
     const std::size_t once = kok.dosyalar.Okunan();
     kok.dosyalar.KlasoruOku(
@@ -203,7 +214,7 @@ TEST(OkumaBellegi, Only_what_is_asked_for_is_read_and_the_rest_when_it_is_asked_
     EXPECT_EQ(kok.Oku(), 10U);
 }
 
-TEST(OkumaBellegi, What_can_not_be_read_is_tried_again_and_a_bad_disk_stays_bad) {
+TEST_P(Bellek, What_can_not_be_read_is_tried_again_and_a_bad_disk_stays_bad) {
     BellekAgaci kok;
     kok.Oku();
     kok.dosyalar.ariza = [](DosyaIsi is, const Metin& yol) {
@@ -214,7 +225,7 @@ TEST(OkumaBellegi, What_can_not_be_read_is_tried_again_and_a_bad_disk_stays_bad)
     EXPECT_EQ(kok.Oku(), 0U);
 }
 
-TEST(OkumaBellegi, May_be_read_from_inside_a_reading_and_changed_there) {
+TEST_P(Bellek, May_be_read_from_inside_a_reading_and_changed_there) {
     const BellekAgaci kok(3);
     std::string gorulen;
     kok.dosyalar.KlasoruOku(kok.Klasor(), [&](const Dosyalar::OkunanDosya& dosya) {
@@ -226,7 +237,7 @@ TEST(OkumaBellegi, May_be_read_from_inside_a_reading_and_changed_there) {
     EXPECT_EQ(kok.Oku(), 1U);
 }
 
-TEST(OkumaBellegi, A_long_file_is_read_each_time_and_the_ones_beside_it_are_not) {
+TEST_P(Bellek, A_long_file_is_read_each_time_and_the_ones_beside_it_are_not) {
     const BellekAgaci kok(3);
     kok.Koy(u"salon/yıl/50", std::string((std::size_t{1} << 20U) + 1, 'u'));
     kok.Koy(u"salon/yıl/51", std::string(std::size_t{1} << 20U, 'k'));
@@ -234,7 +245,7 @@ TEST(OkumaBellegi, A_long_file_is_read_each_time_and_the_ones_beside_it_are_not)
     EXPECT_EQ(kok.Oku(), 1U);
 }
 
-TEST(OkumaBellegi, Holds_no_more_than_its_limit_and_lets_go_of_what_was_longest_not_read) {
+TEST_P(Bellek, Holds_no_more_than_its_limit_and_lets_go_of_what_was_longest_not_read) {
     const DosyaAgaci kok;
     BellekBeklemesin(kok.dosyalar);
     constexpr int kKlasor = 10;
@@ -259,7 +270,7 @@ TEST(OkumaBellegi, Holds_no_more_than_its_limit_and_lets_go_of_what_was_longest_
     EXPECT_EQ(oku(1), 8U);
 }
 
-TEST(OkumaBellegi, What_is_changed_again_and_again_does_not_fill_it) {
+TEST_P(Bellek, What_is_changed_again_and_again_does_not_fill_it) {
     const BellekAgaci kok(3);
     for (int i = 0; i < 40; ++i) {
         kok.YeniAn();
@@ -270,7 +281,7 @@ TEST(OkumaBellegi, What_is_changed_again_and_again_does_not_fill_it) {
     EXPECT_EQ(kok.Oku(), 0U);
 }
 
-TEST(OkumaBellegi, A_folder_that_is_only_listed_is_not_kept) {
+TEST_P(Bellek, A_folder_that_is_only_listed_is_not_kept) {
     const BellekAgaci kok;
     kok.dosyalar.Listele(kok.Klasor());
     EXPECT_EQ(kok.dosyalar.Bellek().Bayt(), 0U);
@@ -296,9 +307,37 @@ TEST(KlasorOkumasi, Finds_a_name_as_a_path_does_also_where_it_is_spelled_otherwi
     }
 }
 
-class OkumaBellegiKarsilastirma : public ::testing::TestWithParam<unsigned> {};
+TEST(IzlenenBellek, So_many_changes_that_the_system_loses_count_have_all_asked_about_again) {
+    BellekAgaci::izlenen = 8;
+    const BellekAgaci kok;
+    for (int i = 0; i < 3; ++i)
+        kok.Oku();
+    kok.YeniAn();
+    for (int i = 0; i < 12'000; ++i)
+        for (const MetinBakis ad : {u"11", u"12"}) // equal changes in a row would count as one
+            kok.YerindeYaz(ad, std::to_string(i));
+    EXPECT_EQ(kok.Oku(), 2U);
+    EXPECT_EQ(kok.Oku(), 0U);
+}
 
-TEST_P(OkumaBellegiKarsilastirma, Hands_over_what_a_fresh_reading_does_whatever_happens_in_the_folder) {
+TEST(IzlenenBellek, More_folders_than_are_watched_are_all_read_right) {
+    const DosyaAgaci kok;
+    kok.dosyalar.Bellek().enCokIzlenen = 3;
+    BellekBeklemesin(kok.dosyalar);
+    for (int kez = 0; kez < 4; ++kez)
+        for (int i = 0; i < 7; ++i) {
+            const Metin ad = u"k" + SayiMetni(i % 5);
+            kok.YeniAn();
+            kok.Koy(ad + u"/a", std::to_string(10 + 10 * kez + i));
+            EXPECT_EQ(KlasorIcerigi(kok.dosyalar, kok.TamYol(ad)),
+                      (Icerik{{u"a", std::to_string(10 + 10 * kez + i)}}));
+        }
+}
+
+class BellekKarsilastirma : public ::testing::TestWithParam<unsigned> {};
+
+TEST_P(BellekKarsilastirma, Hands_over_what_a_fresh_reading_does_whatever_happens_in_the_folder) {
+    BellekAgaci::izlenen = GetParam() % 2 * 8;
     const BellekAgaci kok(12);
     std::mt19937 rastgele(GetParam());
     const auto sec = [&](unsigned adet) {
@@ -334,6 +373,6 @@ TEST_P(OkumaBellegiKarsilastirma, Hands_over_what_a_fresh_reading_does_whatever_
     EXPECT_LT(okunan, 120U) << "most of it was kept";
 }
 
-INSTANTIATE_TEST_SUITE_P(RandomTrees, OkumaBellegiKarsilastirma, ::testing::Range(1U, 21U));
+INSTANTIATE_TEST_SUITE_P(RandomTrees, BellekKarsilastirma, ::testing::Range(1U, 21U));
 
 } // namespace velora
