@@ -13,6 +13,7 @@ namespace velora::olcum {
 namespace {
 
 constexpr int kOdemeSayisi = 1000;
+constexpr double kEnCokOran = 1.5;
 
 void Doldur(FormKayit& kayit) {
     kayit.Tarih = u"15.06.2026 - Gece";
@@ -71,11 +72,11 @@ void KaydetmeninZemineOrani(benchmark::State& durum) {
     durum.counters["zemin_ms"] = Ortanca(zemin) * 1000;
     durum.counters["kaydetme_ms"] = Ortanca(hepsi) * 1000;
     durum.counters["bekleme_ms"] = Ortanca(bekleme) * 1000;
-    durum.counters["oran"] = Ortanca(hepsi) / Ortanca(zemin);
+    OranYaz(durum, Ortanca(hepsi) / Ortanca(zemin), kEnCokOran);
     durum.counters["oran_kayit"] = Ortanca(kayit) / Ortanca(zemin);
 }
 // A panel of warnings that stands open is listed anew, and the table painted once more. It costs no reading:
-// 2.3 is the most with it too.
+// 1.5 is the most with it too.
 BENCHMARK(KaydetmeninZemineOrani)
     ->ArgName("panel")
     ->Arg(0)

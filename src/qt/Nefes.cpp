@@ -5,6 +5,9 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QPointer>
+#include <utility>
+#include <vector>
 
 #include "qt/OlayKilidi.h"
 #include "screen/Bayrak.h"
@@ -13,18 +16,34 @@ namespace velora {
 
 namespace {
 
-constexpr int kSabir = 300;   // milliseconds without events, before the first
+constexpr int kSabir = 200;   // milliseconds without events, before the first
 constexpr int kSonraki = 100; // and between two of them
+constexpr int kUzun = 1000;   // from then on it is shown how the work goes on
+
+struct Izleyen {
+    QPointer<QObject> alici;
+    std::function<void(int)> goster;
+};
 
 struct NefesDurumu {
     QElapsedTimer sonuncu; // since events came through
+    QElapsedTimer is;      // since they last did so in their own time
+    int adim = 0;          // breaths since the work counts as long
     bool mesgul = false;   // the pointer says so
     bool aliniyor = false;
+    std::vector<Izleyen> izleyenler;
 };
 
 NefesDurumu& Soluk() {
     static NefesDurumu durum;
     return durum;
+}
+
+void Goster(NefesDurumu& durum, int adim) {
+    durum.adim = adim;
+    std::erase_if(durum.izleyenler, [](const Izleyen& biri) { return biri.alici == nullptr; });
+    for (const Izleyen& izleyen : durum.izleyenler)
+        izleyen.goster(adim);
 }
 
 } // namespace
@@ -37,6 +56,8 @@ void Nefes::Al() {
     if (!durum.mesgul)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     durum.mesgul = true;
+    if (durum.is.hasExpired(kUzun))
+        Goster(durum, durum.adim + 1);
     {
         const Bayrak aliniyor(durum.aliniyor);
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
@@ -53,6 +74,7 @@ bool Nefes::Aliniyor() {
 
 void Nefes::Basla() {
     Soluk().sonuncu.start();
+    Soluk().is.start();
 }
 
 void Nefes::Bitir() {
@@ -61,7 +83,13 @@ void Nefes::Bitir() {
     if (!durum.mesgul)
         return;
     durum.mesgul = false;
+    if (durum.adim > 0)
+        Goster(durum, 0);
     QGuiApplication::restoreOverrideCursor();
+}
+
+void Nefes::Izle(QObject& alici, std::function<void(int adim)> goster) {
+    Soluk().izleyenler.push_back({&alici, std::move(goster)});
 }
 
 } // namespace velora

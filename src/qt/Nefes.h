@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+
+class QObject;
+
 namespace velora {
 
 /// The breath of a handler that takes long: windows are painted, the system hears that the program lives, and
@@ -15,6 +19,10 @@ class Nefes {
     static void Basla();
     /// The program waits for the user again.
     static void Bitir();
+
+    /// Shows who lives as long as `alici` how far work has come that takes longer than a second: with 1, 2, 3
+    /// ... at each breath from then on, with 0 at its end.
+    static void Izle(QObject& alici, std::function<void(int adim)> goster);
 };
 
 } // namespace velora

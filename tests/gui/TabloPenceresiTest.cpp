@@ -307,18 +307,42 @@ class TabloPenceresiTest : public QObject {
     }
 
     void the_panels_of_the_status_bar_follow_the_login_and_the_clock() {
+        using namespace std::chrono_literals;
         GuiFirma firma;
+        firma.simdi += 58s; // of a minute
         firma.Ac();
         auto& kullanici = firma.Bul<QLabel>("StatusBar1");
         QCOMPARE(kullanici.text(), QString());
         const int en = firma.Pencere().minimumSizeHint().width();
         firma.Model().StatusBar1 = u"Velora - Aktif Kullanıcı : " + Metin(300, u'ş');
-        using namespace std::chrono_literals;
         firma.simdi += 14h;
-        QTRY_COMPARE_WITH_TIMEOUT(firma.Bul<QLabel>("Tarih").text(), QStringLiteral("22.05.2026"), 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(firma.Bul<QLabel>("Tarih").text(), QStringLiteral("22.05.2026"), 5000);
         QCOMPARE(firma.Bul<QLabel>("Saat").text(), QStringLiteral("00:30"));
         QVERIFY(kullanici.text().startsWith(QStringLiteral("Velora - Aktif Kullanıcı : şşş")));
         QCOMPARE(firma.Pencere().minimumSizeHint().width(), en); // a long name makes no window wider
+    }
+
+    void nothing_wakes_an_idle_table_up_before_the_clock_shows_another_minute() {
+        using namespace std::chrono_literals;
+        GuiFirma firma;
+        firma.simdi += 5s;
+        firma.Ac();
+        QCOMPARE(firma.Model().GunTimer.aralik, 0);
+        const auto saatler = firma.Pencere().findChildren<QTimer*>();
+        QVERIFY(!saatler.isEmpty());
+        for (const QTimer* saat : saatler)
+            if (saat->isActive())
+                QVERIFY2(saat->remainingTime() > 45'000, qPrintable(saat->objectName()));
+        QVERIFY(firma.Bul<QTimer>("Dakika").remainingTime() <= 55'000);
+    }
+
+    void a_clock_that_went_on_while_the_machine_slept_is_right_when_the_program_is_looked_at_again() {
+        using namespace std::chrono_literals;
+        GuiFirma firma;
+        firma.Ac();
+        firma.simdi += 7h;
+        emit qApp->applicationStateChanged(Qt::ApplicationActive);
+        QCOMPARE(firma.Bul<QLabel>("Saat").text(), QStringLiteral("17:30"));
     }
 
     void a_program_folder_without_any_file_opens_an_empty_table() {

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
@@ -17,6 +18,7 @@
 #include "qt/PencereYeri.h"
 #include "qt/table/IsaretDugmesi.h"
 #include "qt/table/KomutMenuleri.h"
+#include "qt/table/MesgulCubugu.h"
 #include "qt/table/RenkAciklamasi.h"
 #include "qt/table/TabloGorunumu.h"
 #include "qt/table/UyariPaneli.h"
@@ -30,7 +32,7 @@ namespace {
 
 constexpr int kSalonEni = 220;
 constexpr int kSeneEni = 96;
-constexpr int kSaatAraligi = 1'000;
+constexpr std::chrono::seconds kDakika{60};
 constexpr QSize kIlkBoy(1280, 720);
 constexpr QSize kEnKucukBoy(1000, 560); // where the screen has room for it
 
@@ -155,17 +157,24 @@ void TabloPenceresi::DurumSeridiKur(FormTablo& tablo) {
     // A long name takes no room from the table.
     kullanici->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(kullanici, 1);
+    statusBar()->addPermanentWidget(new MesgulCubugu);
     statusBar()->addPermanentWidget(panelYap("Tarih", tablo.StatusBar1Saati[0]));
     statusBar()->addPermanentWidget(panelYap("Saat", tablo.StatusBar1Saati[1]));
     BosYeriIzle(*statusBar());
-    auto* saat = new QTimer(this);
-    connect(saat, &QTimer::timeout, this, [this] { Koru([this] { SaatiGoster(); }); });
-    saat->start(kSaatAraligi);
+    saat_ = new QTimer(this);
+    saat_->setObjectName(QStringLiteral("Dakika"));
+    saat_->setSingleShot(true);
+    const auto goster = [this] { Koru([this] { SaatiGoster(); }); };
+    connect(saat_, &QTimer::timeout, this, goster);
+    // The machine may have slept, which its timers don't notice.
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, goster);
     SaatiGoster();
 }
 
 void TabloPenceresi::SaatiGoster() {
     const auto tablo = program_.FormTablo.Tut();
+    // It shows minutes: nothing is woken up in between.
+    saat_->start(kDakika - program_.ortam.zaman.simdi().time_since_epoch() % kDakika);
     const auto once = tablo->StatusBar1Saati;
     tablo->SaatiYaz();
     // A minute is over. The panels follow whatever is refreshed meanwhile anyway.

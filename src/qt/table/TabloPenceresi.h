@@ -4,6 +4,7 @@
 
 class QComboBox;
 class QHBoxLayout;
+class QTimer;
 
 namespace velora {
 
@@ -34,6 +35,7 @@ class TabloPenceresi : public QMainWindow {
     Program& program_;
     Baglayici* baglayici_;
     TabloGorunumu* gorunum_ = nullptr;
+    QTimer* saat_ = nullptr; // due when the next minute begins
 };
 
 } // namespace velora
