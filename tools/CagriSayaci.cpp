@@ -11,7 +11,6 @@
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
-#include <sys/uio.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
@@ -28,7 +27,15 @@ using Argumanlar = decltype(__ptrace_syscall_info{}.entry.args);
 /// The copy, seen from outside.
 class Izleyici {
   public:
-    Izleyici(pid_t no, std::string agac) : no_(no), agac_(std::move(agac)) {}
+    Izleyici(pid_t no, std::string agac)
+        : no_(no), bellek_(open(("/proc/" + std::to_string(no) + "/mem").c_str(), O_RDONLY | O_CLOEXEC)),
+          agac_(std::move(agac)) {}
+    Izleyici(const Izleyici&) = delete;
+    Izleyici& operator=(const Izleyici&) = delete;
+    ~Izleyici() {
+        if (bellek_ >= 0)
+            close(bellek_);
+    }
 
     /// Runs it to its end. False: it didn't come there.
     bool Izle() {
@@ -106,9 +113,7 @@ class Izleyici {
         while (metin.find('\0') == std::string::npos && metin.size() < 4096) {
             // Not over the border of a page: the next one may not be there.
             const std::size_t boy = std::min<std::size_t>(parca.size(), 4096 - (yer + metin.size()) % 4096);
-            const iovec hedef{parca.data(), boy};
-            const iovec kaynak{reinterpret_cast<void*>(yer + metin.size()), boy};
-            const ssize_t gelen = process_vm_readv(no_, &hedef, 1, &kaynak, 1, 0);
+            const ssize_t gelen = pread(bellek_, parca.data(), boy, static_cast<off_t>(yer + metin.size()));
             if (gelen <= 0)
                 break;
             metin.append(parca.data(), static_cast<std::size_t>(gelen));
@@ -117,6 +122,7 @@ class Izleyici {
     }
 
     pid_t no_;
+    int bellek_; // its memory, as a file
     std::string agac_;
     Cagrilar simdiki_;
     std::optional<Tur> acilan_; // by the call that is under way
