@@ -332,7 +332,7 @@ class TabloPenceresiTest : public QObject {
         QVERIFY(!saatler.isEmpty());
         for (const QTimer* saat : saatler)
             if (saat->isActive())
-                QVERIFY2(saat->remainingTime() > 45'000, qPrintable(saat->objectName()));
+                QVERIFY2(saat->remainingTime() > 30'000, qPrintable(saat->objectName()));
         QVERIFY(firma.Bul<QTimer>("Dakika").remainingTime() <= 55'000);
     }
 

@@ -164,6 +164,7 @@ void TabloPenceresi::DurumSeridiKur(FormTablo& tablo) {
     saat_ = new QTimer(this);
     saat_->setObjectName(QStringLiteral("Dakika"));
     saat_->setSingleShot(true);
+    saat_->setTimerType(Qt::PreciseTimer); // another one may be seconds late in so long a time
     const auto goster = [this] { Koru([this] { SaatiGoster(); }); };
     connect(saat_, &QTimer::timeout, this, goster);
     // The machine may have slept, which its timers don't notice.
