@@ -3,6 +3,8 @@
 #include <chrono>
 #include <ostream>
 #include <thread>
+#include <tuple>
+#include <vector>
 
 #include "accounts/FormBakiye.h"
 #include "reservation/FormArama.h"
@@ -92,6 +94,34 @@ class CagriTablosu : public KayitTest {
 
     static constexpr MetinBakis kYakin = u"17.06.2012 - Gece";
 
+    /// What an action may ask where each file must be asked about, and where the folders are watched.
+    struct IkiHal {
+        Sayilar sorarak;
+        Sayilar izleyerek;
+    };
+
+    /// The folders are 42, for 21 years of two halls; the files 62 and 20. What was read comes from memory,
+    /// for one question each.
+    std::vector<Satir> GununIsleri(Sayilar IkiHal::*hal) {
+        const std::vector<std::tuple<const char*, std::function<void()>, IkiHal>> isler{
+            {"start", [this] { Prog(); }, {{47, 66, 63, 250}, {44, 66, 63, 128}}},
+            {"scan again", [this] { kullanici.Tablo().Command1(); }, {{1, 0, 0, 63}, {0, 0, 0, 2}}},
+            {"report", [this] { Raporla(); }, {{1, 0, 0, 41}, {0, 0, 0, 2}}},
+            {"report again", [this] { Raporla(); }, {{1, 0, 0, 41}, {0, 0, 0, 2}}},
+            {"search", [this] { Ara(); }, {{44, 20, 20, 106}, {41, 20, 20, 43}}},
+            {"search again", [this] { Ara(); }, {{44, 0, 0, 126}, {41, 0, 0, 64}}},
+            {"warnings", [this] { kullanici.Tablo().UyariGoster(); }, {{43, 0, 0, 107}, {40, 0, 0, 46}}},
+            {"another hall", [this] { kullanici.SalonSec(u"Salon B"); }, {{1, 0, 0, 21}, {0, 0, 0, 2}}},
+            {"and back", [this] { kullanici.SalonSec(u"Salon A"); }, {{1, 0, 0, 63}, {0, 0, 0, 2}}},
+            {"another year", [this] { kullanici.YilSec(u"2013"); }, {{1, 0, 0, 5}, {1, 0, 0, 2}}},
+            {"and back", [this] { kullanici.YilSec(u"2012"); }, {{1, 0, 0, 64}, {0, 0, 0, 3}}},
+        };
+        std::vector<Satir> satirlar;
+        for (const auto& is : isler)
+            satirlar.push_back({std::get<0>(is), std::get<1>(is), std::get<2>(is).*hal});
+        return satirlar;
+    }
+
     void Dene(const std::vector<Satir>& satirlar) {
         std::vector<std::function<void()>> isler;
         for (const Satir& satir : satirlar)
@@ -116,42 +146,16 @@ class CagriTablosu : public KayitTest {
     }
 };
 
-// The folders are 42, for 21 years of two halls; the files 62 and 20. What was read comes from memory, for
-// one question each.
 TEST_F(CagriTablosu,
        Where_nobody_can_watch_a_folder_each_action_asks_no_more_of_the_disk_than_is_written_here) {
     kullanici.hazirla = [](Program& p) { p.dosyalar.Bellek().enCokIzlenen = 0; };
-    Dene({
-        {"start", [this] { Prog(); }, {47, 66, 63, 250}},
-        {"scan again", [this] { kullanici.Tablo().Command1(); }, {1, 0, 0, 63}},
-        {"report", [this] { Raporla(); }, {1, 0, 0, 41}},
-        {"report again", [this] { Raporla(); }, {1, 0, 0, 41}},
-        {"search", [this] { Ara(); }, {44, 20, 20, 106}},
-        {"search again", [this] { Ara(); }, {44, 0, 0, 126}},
-        {"warnings", [this] { kullanici.Tablo().UyariGoster(); }, {43, 0, 0, 107}},
-        {"another hall", [this] { kullanici.SalonSec(u"Salon B"); }, {1, 0, 0, 21}},
-        {"and back", [this] { kullanici.SalonSec(u"Salon A"); }, {1, 0, 0, 63}},
-        {"another year", [this] { kullanici.YilSec(u"2013"); }, {1, 0, 0, 5}},
-        {"and back", [this] { kullanici.YilSec(u"2012"); }, {1, 0, 0, 64}},
-    });
+    Dene(GununIsleri(&IkiHal::sorarak));
 }
 
 TEST_F(CagriTablosu, A_watched_folder_in_which_nothing_has_changed_is_neither_listed_nor_asked_about) {
     if (!Izlenir())
         GTEST_SKIP() << "changes are not told of on this file system";
-    Dene({
-        {"start", [this] { Prog(); }, {44, 66, 63, 128}},
-        {"scan again", [this] { kullanici.Tablo().Command1(); }, {0, 0, 0, 2}},
-        {"report", [this] { Raporla(); }, {0, 0, 0, 2}},
-        {"report again", [this] { Raporla(); }, {0, 0, 0, 2}},
-        {"search", [this] { Ara(); }, {41, 20, 20, 43}},
-        {"search again", [this] { Ara(); }, {41, 0, 0, 64}},
-        {"warnings", [this] { kullanici.Tablo().UyariGoster(); }, {40, 0, 0, 46}},
-        {"another hall", [this] { kullanici.SalonSec(u"Salon B"); }, {0, 0, 0, 2}},
-        {"and back", [this] { kullanici.SalonSec(u"Salon A"); }, {0, 0, 0, 2}},
-        {"another year", [this] { kullanici.YilSec(u"2013"); }, {1, 0, 0, 2}},
-        {"and back", [this] { kullanici.YilSec(u"2012"); }, {0, 0, 0, 3}},
-    });
+    Dene(GununIsleri(&IkiHal::izleyerek));
 }
 
 // What was written a moment ago is read again by each reader, for its time could still come twice.
