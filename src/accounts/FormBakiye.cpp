@@ -128,12 +128,11 @@ bool FormBakiye::YenidenListele() {
 
 /// False when it had to stop.
 bool FormBakiye::Tara(Toplamlar& toplamlar) {
-    const Metin salon = Combo2.Metni();
-    const Metin yil = program_.FormTablo->Sene.Metni();
+    const Metin klasor = program_.agac.YilKlasoru(Combo2.Metni(), program_.FormTablo->Sene.Metni());
     // Outside the loop: a file that is too short leaves the values of the one before it.
     AnaSecimi ana;
     DetaySecimi detay;
-    KlasorOkumasi okuma = program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(salon, yil));
+    KlasorOkumasi okuma = program_.dosyalar.KlasorAc(klasor);
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
         if (!GunDosyasiDeseni(okuma[i]) || EslikDosyasi(okuma[i]))
             continue;
@@ -147,11 +146,14 @@ bool FormBakiye::Tara(Toplamlar& toplamlar) {
             return false;
         if (!Istenen(detay))
             continue;
-        SatirEkle(ad, program_.agac.GunYolu(salon, yil, ad), ana, detay);
-        toplamlar[TurSirasi(ana.No(AnaNo::Niteligi))] += TutarDegeri(ana.No(AnaNo::ToplamUcret));
+        SatirEkle(ad, VeriAgaci::GunYolu(klasor, ad), ana, detay);
         std::size_t sira = kBakiyeTurleri.size();
-        for (const int no : {AnaNo::ToplamUcret, AnaNo::AlinanOdeme, AnaNo::KalanOdeme})
-            toplamlar[sira++] += TutarDegeri(ana.No(no));
+        for (const int no : {AnaNo::ToplamUcret, AnaNo::AlinanOdeme, AnaNo::KalanOdeme}) {
+            const double tutar = TutarDegeri(ana.No(no));
+            toplamlar[sira++] += tutar;
+            if (no == AnaNo::ToplamUcret)
+                toplamlar[TurSirasi(ana.No(AnaNo::Niteligi))] += tutar;
+        }
     }
     return true;
 }
@@ -171,10 +173,10 @@ bool FormBakiye::Istenen(const DetaySecimi& detay) const {
 
 void FormBakiye::SatirEkle(MetinBakis ad, const Metin& yol, const AnaSecimi& ana, const DetaySecimi& detay) {
     Liste.satirlar.push_back(
-        {.sutun = {Metin(Parca(ad, 1, kGunAdiUzunlugu)), ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::ToplamUcret),
-                   ana.No(AnaNo::AlinanOdeme), ana.No(AnaNo::KalanOdeme), Metin(OnMu(detay) ? kOn : kKesin),
-                   Combo2.Metni(), ana.No(AnaNo::Niteligi), ana.No(AnaNo::DavetliSayisi),
-                   ana.No(AnaNo::OnAciklama)},
+        {.sutun = Sutunlar(Parca(ad, 1, kGunAdiUzunlugu), ana.No(AnaNo::AdiSoyadi),
+                           ana.No(AnaNo::ToplamUcret), ana.No(AnaNo::AlinanOdeme), ana.No(AnaNo::KalanOdeme),
+                           OnMu(detay) ? kOn : kKesin, Combo2.Metni(), ana.No(AnaNo::Niteligi),
+                           ana.No(AnaNo::DavetliSayisi), ana.No(AnaNo::OnAciklama)),
          .tag = yol});
 }
 

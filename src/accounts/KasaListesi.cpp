@@ -15,7 +15,7 @@ void KasaDerleme::Ekle(std::string_view bayt, MetinBakis islem) {
     KasaOku(bayt, kayit_, [&](const KasaKaydi& kayit) {
         if (*kayit.gun >= ilk_ && *kayit.gun <= son_)
             liste_.satirlar.push_back(
-                {.sutun = {kayit.tarih, kayit.tutar, Metin(islem), kayit.aciklama}, .tag = {}});
+                {.sutun = Sutunlar(kayit.tarih, kayit.tutar, islem, kayit.aciklama), .tag = {}});
     });
 }
 

@@ -104,13 +104,15 @@ void FormArama::Ara() {
     Metin ad; // kept for its memory
     const auto gez = [&](std::size_t i, const KlasorOkumasi& adlar) {
         const Metin& salon = tablo->Salon.ogeler[i];
+        const Metin klasor = program_.agac.YilKlasoru(salon, yil);
         for (std::size_t j = 0; j < adlar.Sayi(); ++j) {
             ad = adlar[j];
             if (okumalar[i].Oku(ad, degerler))
                 uyan = uyanSayisi();
             for (auto kez = uyan; kez > 0; --kez)
-                Liste.satirlar.push_back({{ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]},
-                                          program_.agac.GunYolu(salon, yil, ad)});
+                Liste.satirlar.push_back(
+                    {Sutunlar(ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]),
+                     VeriAgaci::GunYolu(klasor, ad)});
         }
     };
     for (const Metin& sene : tablo->Sene.ogeler)

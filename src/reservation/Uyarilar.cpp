@@ -25,20 +25,17 @@ constexpr std::array<UyariTuru, 2> kTurler{
     {{u"Kesin", DetayNo::KesinRezervasyon, &UyariSuresi::kesin, true, 0, false},
      {u"Ön", DetayNo::OnRezervasyon, &UyariSuresi::on, false, kOnUyariRengi, true}}};
 
-/// The day of a name that begins with a day number.
-std::optional<Gun> AnahtarGunu(MetinBakis ad) {
-    const MetinBakis tarih = Parca(ad, 1, kTarihUzunlugu);
+/// The day that the first letters of a name stand for.
+std::optional<Gun> AnahtarGunu(MetinBakis tarih) {
     const bool yazili = tarih.size() == kTarihUzunlugu && tarih[5] == u'.';
-    return yazili ? TarihCoz(tarih) : TarihCoz(AnahtarTarihi(ad));
+    return yazili ? TarihCoz(tarih) : TarihCoz(AnahtarTarihi(tarih));
 }
 
 ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const UyariAna& ana,
                      const UyariTuru& tur) {
-    return {{ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
-             ana.No(AnaNo::Cep), Metin(tur.ad)},
-            yol,
-            tur.renk,
-            tur.kalin};
+    return {Sutunlar(ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
+                     ana.No(AnaNo::Cep), tur.ad),
+            yol, tur.renk, tur.kalin};
 }
 
 } // namespace
@@ -58,8 +55,12 @@ void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
 
 /// Whether the name is one of a reservation whose day is near.
 bool UyariTaramasi::Yakin(MetinBakis ad) {
-    if (const auto gun = AnahtarGunu(ad))
-        kalan_ = static_cast<int>((std::chrono::sys_days(*gun) - std::chrono::sys_days(bugun_)).count());
+    // The names of a day stand one behind the other.
+    if (const MetinBakis tarih = Parca(ad, 1, kTarihUzunlugu); tarih != tarih_) {
+        tarih_ = tarih;
+        if (const auto gun = AnahtarGunu(tarih))
+            kalan_ = static_cast<int>((std::chrono::sys_days(*gun) - std::chrono::sys_days(bugun_)).count());
+    }
     return kalan_ > 0 && kalan_ <= std::max(sure_.kesin, sure_.on) && !EslikDosyasi(ad);
 }
 

@@ -61,6 +61,7 @@ class UyariTaramasi {
     UyariAna ana_;
     UyariDetay detay_;
     Yer ilk_{0, 0}; // the values stand as before this name
+    Metin tarih_;   // the first letters of the name that was looked at last
     int kalan_ = 0; // a name without a date keeps the days of the name before it
     std::vector<ListeSatiri> satirlar_;
 };

@@ -205,6 +205,15 @@ struct ListeSatiri {
     bool kalin = false; ///< in bold: what only its colour would tell
 };
 
+/// The column texts of a row. A braced list would copy each of them once more.
+template <class... Metinler>
+std::vector<Metin> Sutunlar(Metinler&&... metinler) {
+    std::vector<Metin> sutunlar;
+    sutunlar.reserve(sizeof...(metinler));
+    (sutunlar.emplace_back(std::forward<Metinler>(metinler)), ...);
+    return sutunlar;
+}
+
 /// The rows of a list. They count their changes: a window shows thousands of them and asks many times a
 /// second whether it still shows the right ones.
 class SatirListesi {

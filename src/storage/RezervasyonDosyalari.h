@@ -87,8 +87,11 @@ struct SecilenDegerler {
     std::array<Metin, sizeof...(Numaralar)> deger;
 
     const Metin& No(int no) const {
-        return deger[static_cast<std::size_t>(std::find(kNumaralar.begin(), kNumaralar.end(), no) -
-                                              kNumaralar.begin())];
+        // Of a number that stands in the program no searching is left.
+        std::size_t yer = 0;
+        while (kNumaralar[yer] != no)
+            ++yer;
+        return deger[yer];
     }
 };
 

@@ -53,15 +53,16 @@ constexpr std::array<Desen, 6> kDesenler{
 /// The number that stands before the first `bitis`, or all of the rest when there is none to be; it and the
 /// sign behind it go from `kalan`.
 std::optional<int> SayiAl(MetinBakis& kalan, std::size_t enAz, std::size_t enCok, bool sonuncu) {
-    const std::size_t uzunluk = std::min(kalan.find(u'.'), kalan.size());
-    if (uzunluk < enAz || uzunluk > enCok || (uzunluk == kalan.size()) != sonuncu)
-        return {};
     int sayi = 0;
-    for (const char16_t harf : kalan.substr(0, uzunluk)) {
-        if (harf < u'0' || harf > u'9')
+    std::size_t uzunluk = 0;
+    for (; uzunluk < kalan.size() && kalan[uzunluk] != u'.'; ++uzunluk) {
+        const char16_t harf = kalan[uzunluk];
+        if (harf < u'0' || harf > u'9' || uzunluk == enCok)
             return {};
         sayi = sayi * 10 + (harf - u'0');
     }
+    if (uzunluk < enAz || (uzunluk == kalan.size()) != sonuncu)
+        return {};
     kalan.remove_prefix(sonuncu ? uzunluk : uzunluk + 1);
     return sayi;
 }

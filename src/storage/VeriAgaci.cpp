@@ -6,7 +6,10 @@ namespace velora {
 namespace {
 
 /// A name that holds the separator stays one name: as "/" no system takes it, so that such a path is refused.
-Metin Ekle(Metin yol, MetinBakis ad) {
+Metin Ekle(MetinBakis klasor, MetinBakis ad) {
+    Metin yol;
+    yol.reserve(klasor.size() + 1 + ad.size());
+    yol += klasor;
     yol += kAyrac;
     const auto bas = static_cast<std::ptrdiff_t>(yol.size());
     yol += ad;
@@ -69,7 +72,11 @@ Metin VeriAgaci::YilKlasoru(MetinBakis salon, MetinBakis yil) const {
 }
 
 Metin VeriAgaci::GunYolu(MetinBakis salon, MetinBakis yil, MetinBakis gunAnahtari) const {
-    return Ekle(YilKlasoru(salon, yil), gunAnahtari);
+    return GunYolu(YilKlasoru(salon, yil), gunAnahtari);
+}
+
+Metin VeriAgaci::GunYolu(MetinBakis yilKlasoru, MetinBakis gunAnahtari) {
+    return Ekle(yilKlasoru, gunAnahtari);
 }
 
 bool VeriAgaci::RezervasyonVarMi(const Metin& yol) const {

@@ -76,6 +76,8 @@ class VeriAgaci {
     Metin YilKlasoru(MetinBakis salon, MetinBakis yil) const;
     /// The companions are this path with `kDetayEki` or `kOdemeEki` behind it.
     Metin GunYolu(MetinBakis salon, MetinBakis yil, MetinBakis gunAnahtari) const;
+    /// The same for who has the path of the year folder.
+    static Metin GunYolu(MetinBakis yilKlasoru, MetinBakis gunAnahtari);
 
     /// True when the main file of exactly this path is there: the day and slot is taken.
     bool RezervasyonVarMi(const Metin& yol) const;

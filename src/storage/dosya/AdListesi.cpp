@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 #include "storage/Harf.h"
 #include "storage/dosya/AdBicimi.h"
@@ -13,7 +14,7 @@ namespace {
 using sistem::AdHarfi;
 using sistem::DiskAdi;
 
-constexpr std::size_t kAnahtarBoyu = 8;
+constexpr std::size_t kAnahtarBoyu = 24; // the name of a day's companion fits in
 constexpr char16_t kTasan = 0xFF;
 
 constexpr std::array<char16_t, kTasan> kSira = [] {
@@ -27,6 +28,26 @@ char16_t Sira(char16_t harf) {
     return harf < kSira.size() ? kSira[harf] : SiraHarfi(harf);
 }
 
+constexpr unsigned kIlkUzun = 0x80;
+static_assert(std::all_of(kSira.begin(), kSira.begin() + kIlkUzun, [](char16_t s) { return s < kIlkUzun; }));
+
+template <class Birim>
+unsigned Kod(Birim harf) {
+    return static_cast<std::make_unsigned_t<Birim>>(harf);
+}
+
+/// Takes the letters of seven bits from the front of a name, and says how many there were: of nearly all
+/// names these are nearly all.
+template <class Bakis>
+std::size_t KisalariAl(Bakis& kalan, std::span<std::uint8_t> siralar) {
+    const std::size_t enCok = std::min(kalan.size(), siralar.size());
+    std::size_t adet = 0;
+    for (; adet < enCok && Kod(kalan[adet]) < kIlkUzun; ++adet)
+        siralar[adet] = static_cast<std::uint8_t>(kSira[Kod(kalan[adet])]);
+    kalan.remove_prefix(adet);
+    return adet;
+}
+
 /// The letters of a name on the disk, one after the other: of one in which each stands for itself, be it in
 /// bytes of UTF-8, of which none takes more than two, or in letters of 16 bits.
 class Harfler {
@@ -34,6 +55,7 @@ class Harfler {
     explicit Harfler(DiskAdi ad) : kalan_(ad) {}
 
     bool Bitti() const { return kalan_.empty(); }
+    std::size_t Kisalar(std::span<std::uint8_t> siralar) { return KisalariAl(kalan_, siralar); }
     char16_t Al() {
         constexpr unsigned kDevamBiti = 6;
         constexpr unsigned kDevam = (1U << kDevamBiti) - 1;
@@ -57,9 +79,6 @@ class Harfler {
     }
 
   private:
-    static constexpr unsigned kIlkUzun = 0x80;
-
-    static unsigned Kod(AdHarfi harf) { return static_cast<std::make_unsigned_t<AdHarfi>>(harf); }
     /// How many units the letter takes. 0: it may be a mark that belongs to the one before it, or none at
     /// all, and is left to the slow way.
     static std::size_t Uzunluk(DiskAdi ad, std::size_t yer) {
@@ -83,6 +102,7 @@ class MetinHarfleri {
   public:
     explicit MetinHarfleri(MetinBakis metin) : kalan_(metin) {}
     bool Bitti() const { return kalan_.empty(); }
+    std::size_t Kisalar(std::span<std::uint8_t> siralar) { return KisalariAl(kalan_, siralar); }
     char16_t Al() {
         const char16_t harf = kalan_.front();
         kalan_.remove_prefix(1);
@@ -92,20 +112,6 @@ class MetinHarfleri {
   private:
     MetinBakis kalan_;
 };
-
-/// Eight letters. Those beyond one byte share the highest value, and what stands behind the first of them may
-/// not count any more: `tasti`. Such names come out equal and are compared in full.
-template <class Okuyan>
-std::uint64_t Anahtar(Okuyan& harfler, bool& tasti) {
-    std::uint64_t anahtar = 0;
-    for (std::size_t yer = 0; yer < kAnahtarBoyu; ++yer) {
-        const bool var = !tasti && !harfler.Bitti();
-        const char16_t harf = var ? std::min(Sira(harfler.Al()), kTasan) : u'\0';
-        tasti = tasti || harf == kTasan;
-        anahtar = anahtar << 8U | harf;
-    }
-    return anahtar;
-}
 
 Metin Metni(DiskAdi ad) {
     Metin metin;
@@ -140,6 +146,26 @@ bool AdSirasi(MetinBakis bir, MetinBakis iki) {
     return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
 }
 
+/// Letters beyond one byte share the highest value, and what stands behind the first of them may not count
+/// any more. Such names come out equal and are compared in full.
+template <class Okuyan>
+AdListesi::Anahtar AdListesi::AnahtarYap(Okuyan harfler) {
+    std::array<std::uint8_t, kAnahtarBoyu> siralar{};
+    for (std::size_t i = harfler.Kisalar(siralar); i < siralar.size() && !harfler.Bitti(); ++i) {
+        const char16_t harf = Sira(harfler.Al());
+        siralar[i] = static_cast<std::uint8_t>(std::min(harf, kTasan));
+        if (harf >= kTasan)
+            break;
+    }
+    const auto sekizi = [&](std::size_t bas) {
+        std::uint64_t sayi = 0;
+        for (std::size_t i = bas; i < bas + kAnahtarBoyu / 3; ++i)
+            sayi = sayi << 8U | siralar[i];
+        return sayi;
+    };
+    return {sekizi(0), sekizi(kAnahtarBoyu / 3), sekizi(kAnahtarBoyu / 3 * 2)};
+}
+
 void AdListesi::Ekle(const sistem::ListeOgesi& oge) {
     gelenler_.push_back(
         {oge.no, static_cast<std::uint32_t>(harfler_.size()), static_cast<std::uint32_t>(oge.ad.size())});
@@ -153,28 +179,24 @@ void AdListesi::BastanEkle(const AdListesi& baska, std::size_t adet) {
 }
 
 void AdListesi::Sirala() {
+    okunanSira_ = kYok;
     adlar_.clear();
     adlar_.reserve(gelenler_.size());
     for (std::uint32_t i = 0; i < gelenler_.size(); ++i) {
         const DiskAdi ad = Bakis(gelenler_[i]);
-        const auto ekle = [&](auto harfler, bool sade) {
-            bool tasti = false;
-            const std::uint64_t bas = Anahtar(harfler, tasti);
-            adlar_.push_back({bas, Anahtar(harfler, tasti), i, sade});
-        };
         if (Harfler::Sade(ad))
-            ekle(Harfler(ad), true);
+            adlar_.push_back({AnahtarYap(Harfler(ad)), i, true});
         else
-            ekle(MetinHarfleri(okunan_ = Metni(ad)), false);
+            adlar_.push_back({AnahtarYap(MetinHarfleri(okunan_ = Metni(ad))), i, false});
     }
-    std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) { return Once(bir, iki); });
+    std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) {
+        const auto sira = bir.anahtar <=> iki.anahtar;
+        return sira == 0 ? Once(bir, iki) : sira < 0;
+    });
 }
 
+/// Of two whose keys are equal.
 bool AdListesi::Once(const Ad& bir, const Ad& iki) const {
-    if (bir.anahtar != iki.anahtar)
-        return bir.anahtar < iki.anahtar;
-    if (bir.devami != iki.devami)
-        return bir.devami < iki.devami;
     const DiskAdi birinci = Bakis(bir);
     const DiskAdi ikinci = Bakis(iki);
     if (const int sira = bir.sade && iki.sade ? Karsilastir(Harfler(birinci), Harfler(ikinci)) : 0; sira != 0)
@@ -187,15 +209,25 @@ bool AdListesi::Once(const Ad& bir, const Ad& iki) const {
 }
 
 MetinBakis AdListesi::operator[](std::size_t i) const {
+    if (okunanSira_ == i)
+        return okunan_;
+    okunanSira_ = kYok;
     sistem::AdiCoz(Diskteki(i), okunan_);
     if (!adlar_[i].sade)
         AdDuzelt(okunan_);
+    okunanSira_ = i;
     return okunan_;
 }
 
 std::optional<std::size_t> AdListesi::Bul(MetinBakis ad) const {
+    // Who goes through the names asks for the companion of the one that he is at: it stands right behind it.
+    if (const std::size_t sonraki = okunanSira_ + 1;
+        sonraki < adlar_.size() && adlar_[sonraki].sade && (*this)[sonraki] == ad)
+        return sonraki;
+    const Anahtar anahtar = AnahtarYap(MetinHarfleri(ad));
     const auto yer = std::partition_point(adlar_.begin(), adlar_.end(), [&](const Ad& baska) {
-        return AdSirasi((*this)[static_cast<std::size_t>(&baska - adlar_.data())], ad);
+        const auto sira = baska.anahtar <=> anahtar;
+        return sira == 0 ? AdSirasi((*this)[static_cast<std::size_t>(&baska - adlar_.data())], ad) : sira < 0;
     });
     auto sira = static_cast<std::size_t>(yer - adlar_.begin());
     const auto ayni = [&](std::size_t i) { return i < adlar_.size() && AyniAd((*this)[i], ad); };

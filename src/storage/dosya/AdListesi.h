@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -43,14 +44,21 @@ class AdListesi {
     std::size_t Bayt() const;
 
   private:
+    /// Eight letters each.
+    struct Anahtar {
+        std::uint64_t bas;
+        std::uint64_t orta;
+        std::uint64_t son;
+        auto operator<=>(const Anahtar&) const = default;
+    };
+    static constexpr std::size_t kYok = static_cast<std::size_t>(-1);
     struct Yer {
         std::uint64_t no;
         std::uint32_t bas;
         std::uint32_t uzunluk;
     };
     struct Ad {
-        std::uint64_t anahtar; ///< the first letters without their case; orders as the names do
-        std::uint64_t devami;
+        Anahtar anahtar;     ///< the first letters without their case; orders as the names do
         std::uint32_t gelen; ///< its place in the order of coming
         bool sade;           ///< each letter stands for itself: nothing is changed for the program's form
     };
@@ -59,12 +67,15 @@ class AdListesi {
         return sistem::DiskAdi(harfler_).substr(yer.bas, yer.uzunluk);
     }
     sistem::DiskAdi Bakis(const Ad& ad) const { return Bakis(gelenler_[ad.gelen]); }
+    template <class Okuyan>
+    static Anahtar AnahtarYap(Okuyan harfler);
     bool Once(const Ad& bir, const Ad& iki) const;
 
     std::basic_string<sistem::AdHarfi> harfler_; // with a zero behind each
     std::vector<Yer> gelenler_;
     std::vector<Ad> adlar_;
     mutable Metin okunan_;
+    mutable std::size_t okunanSira_ = kYok; ///< the name that `okunan_` is
 };
 
 } // namespace velora

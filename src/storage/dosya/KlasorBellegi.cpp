@@ -12,8 +12,11 @@ namespace {
 // Whatever is longer is read each time.
 constexpr std::size_t kEnUzunSaklanan = std::size_t{1} << 20U;
 
-// No year needs it, and places are 32 bits.
-constexpr std::size_t kEnCokSaklanan = std::size_t{64} << 20U;
+// Of one folder, also while it is being read. No year needs it.
+constexpr std::size_t kEnCokTutulan = std::size_t{64} << 20U;
+
+constexpr std::size_t kEnKucukParca = std::size_t{4} << 10U;
+constexpr std::size_t kEnBuyukParca = std::size_t{256} << 10U;
 
 /// Whether nothing has touched the file since.
 bool Eski(const sistem::Kimlik& kimlik, SistemAni sinir) {
@@ -40,10 +43,11 @@ bool KlasorBellegi::Degismedi() {
     const bool emin = gozcu_->Degisenler([&](sistem::DiskAdi ad) { degisenler.emplace(ad); });
     if (emin && degisenler.empty())
         return true;
-    for (std::size_t i = 0; i < kayitlar_.size(); ++i)
-        if (!emin || degisenler.contains({}) ||
-            degisenler.contains(std::basic_string<sistem::AdHarfi>(adlar_.Diskteki(i))))
-            kayitlar_[i].sorulsun = true;
+    for (std::size_t i = 0; i < kayitNo_.size(); ++i)
+        if (kayitNo_[i] != kYok &&
+            (!emin || degisenler.contains({}) ||
+             degisenler.contains(std::basic_string<sistem::AdHarfi>(adlar_.Diskteki(i)))))
+            kayitlar_[kayitNo_[i]].sorulsun = true;
     if (!emin)
         gozcu_->Izle(klasor_); // before the listing: no change gets lost
     return false;
@@ -77,18 +81,27 @@ void KlasorBellegi::Listele(sistem::Klasor& acik) {
 }
 
 void KlasorBellegi::AdlariDegistir(AdListesi yeni) {
-    std::vector<Kayit> kayitlar(yeni.Sayi());
+    std::vector<std::uint32_t> kayitNo(yeni.Sayi(), kYok);
+    std::vector<Kayit> kayitlar;
     if (saklanan_ > 0) {
         std::unordered_map<sistem::DiskAdi, std::size_t> yerler;
         for (std::size_t i = 0; i < yeni.Sayi(); ++i)
             yerler.emplace(yeni.Diskteki(i), i);
-        for (std::size_t i = 0; i < kayitlar_.size(); ++i)
-            if (const auto yer = yerler.find(adlar_.Diskteki(i)); yer != yerler.end())
-                kayitlar[yer->second] = kayitlar_[i];
-            else
-                Birak(kayitlar_[i]);
+        for (std::size_t i = 0; i < kayitNo_.size(); ++i) {
+            if (kayitNo_[i] == kYok)
+                continue;
+            Kayit& kayit = kayitlar_[kayitNo_[i]];
+            const auto yer = yerler.find(adlar_.Diskteki(i));
+            if (yer == yerler.end()) {
+                Birak(kayit);
+            } else if (kayit.var) {
+                kayitNo[yer->second] = static_cast<std::uint32_t>(kayitlar.size());
+                kayitlar.push_back(kayit);
+            }
+        }
     }
     adlar_ = std::move(yeni);
+    kayitNo_ = std::move(kayitNo);
     kayitlar_ = std::move(kayitlar);
 }
 
@@ -96,86 +109,100 @@ bool KlasorBellegi::Taze(Kayit& kayit, const sistem::Kimlik& simdi) const {
     if (kayit.kimlik)
         return simdi == *kayit.kimlik;
     // Nobody asked about it when it was read. It was this file, and it hasn't been touched since before then.
-    if (simdi.disk != kimlik_.disk || simdi.no != kayit.no || simdi.boy != kayit.uzunluk ||
+    if (simdi.disk != kimlik_.disk || simdi.no != kayit.no || simdi.boy != kayit.bayt.size() ||
         !Eski(simdi, kayit.sinir))
         return false;
     kayit.kimlik = simdi;
     return true;
 }
 
-std::optional<std::string_view> KlasorBellegi::Bilinen(std::size_t sira) const {
-    const Kayit& kayit = kayitlar_[sira];
-    if (!kayit.var || kayit.sorulsun)
+std::optional<std::string_view> KlasorBellegi::Bilinen(std::size_t sira) {
+    const Kayit* kayit = Bul(sira);
+    if (kayit == nullptr || kayit->sorulsun)
         return {};
-    return std::string_view(baytlar_).substr(kayit.bas, kayit.uzunluk);
+    return kayit->bayt;
 }
 
 std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& acik, std::size_t sira,
                                                        std::optional<sistem::Kimlik>& simdi) {
-    Kayit& kayit = kayitlar_[sira];
-    if (!kayit.var && adlar_.No(sira) != 0)
+    Kayit* kayit = Bul(sira);
+    if (kayit == nullptr && adlar_.No(sira) != 0)
         return {};
     simdi = acik.Sor(adlar_.Diskteki(sira).data());
-    if (!kayit.var || !simdi || !Taze(kayit, *simdi))
+    if (kayit == nullptr || !simdi || !Taze(*kayit, *simdi))
         return {};
     // Where a link leads to nobody watches.
-    kayit.sorulsun = gozcu_ == nullptr || adlar_.No(sira) == 0;
-    return std::string_view(baytlar_).substr(kayit.bas, kayit.uzunluk);
+    kayit->sorulsun = gozcu_ == nullptr || adlar_.No(sira) == 0;
+    return kayit->bayt;
 }
 
 bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt,
                           const std::optional<sistem::Kimlik>& kimlik, SistemAni sinir) {
-    Kayit& kayit = kayitlar_[sira];
-    Birak(kayit);
+    if (Kayit* eski = Bul(sira))
+        Birak(*eski);
     const bool guvenilir = kimlik ? kimlik->boy == bayt.size() && Eski(*kimlik, sinir) : adlar_.No(sira) != 0;
     if (!guvenilir || bayt.size() > kEnUzunSaklanan)
         return false;
-    if (baytlar_.size() > 2 * kullanilan_ + kEnUzunSaklanan)
+    if (tutulan_ > 2 * kullanilan_ + kEnUzunSaklanan)
         Sikistir();
-    if (baytlar_.size() + bayt.size() > kEnCokSaklanan)
+    if (tutulan_ + bayt.size() > kEnCokTutulan)
         return false;
-    const auto bas = static_cast<std::uint32_t>(baytlar_.size());
-    baytlar_ += bayt;
-    kayit = {.kimlik = kimlik,
-             .no = adlar_.No(sira),
-             .sinir = sinir,
-             .bas = bas,
-             .uzunluk = static_cast<std::uint32_t>(bayt.size()),
-             .var = true};
+    if (kayitNo_[sira] == kYok) {
+        kayitlar_.emplace_back();
+        kayitNo_[sira] = static_cast<std::uint32_t>(kayitlar_.size() - 1);
+    }
+    kayitlar_[kayitNo_[sira]] = {
+        .kimlik = kimlik, .no = adlar_.No(sira), .sinir = sinir, .bayt = Yerlestir(bayt), .var = true};
     ++saklanan_;
     kullanilan_ += bayt.size();
     return true;
 }
 
 void KlasorBellegi::Unut(sistem::DiskAdi ad) {
-    for (std::size_t i = 0; i < kayitlar_.size(); ++i)
-        if (adlar_.Diskteki(i) == ad)
-            Birak(kayitlar_[i]);
+    for (std::size_t i = 0; i < kayitNo_.size(); ++i)
+        if (Kayit* kayit = adlar_.Diskteki(i) == ad ? Bul(i) : nullptr)
+            Birak(*kayit);
+}
+
+/// What is kept of a file. Null: nothing.
+KlasorBellegi::Kayit* KlasorBellegi::Bul(std::size_t sira) {
+    const std::uint32_t no = kayitNo_[sira];
+    return no == kYok || !kayitlar_[no].var ? nullptr : &kayitlar_[no];
 }
 
 void KlasorBellegi::Birak(Kayit& kayit) {
     if (!std::exchange(kayit.var, false))
         return;
     --saklanan_;
-    kullanilan_ -= kayit.uzunluk;
+    kullanilan_ -= kayit.bayt.size();
+}
+
+/// Copies the bytes to where they stay. The pieces grow with what there is: a folder of which a few files are
+/// wanted takes little, and none is ever moved for more room.
+std::string_view KlasorBellegi::Yerlestir(std::string_view bayt) {
+    if (parcalar_.empty() || parcalar_.back().capacity() - parcalar_.back().size() < bayt.size()) {
+        std::vector<char> parca;
+        parca.reserve(std::max(bayt.size(), std::clamp(tutulan_, kEnKucukParca, kEnBuyukParca)));
+        tutulan_ += parca.capacity();
+        parcalar_.push_back(std::move(parca));
+    }
+    std::vector<char>& parca = parcalar_.back();
+    const std::size_t bas = parca.size();
+    parca.insert(parca.end(), bayt.begin(), bayt.end());
+    return {parca.data() + bas, bayt.size()};
 }
 
 /// Gives back the room of what isn't kept any more.
 void KlasorBellegi::Sikistir() {
-    std::string yeni;
-    yeni.reserve(kullanilan_);
-    for (Kayit& kayit : kayitlar_) {
-        if (!kayit.var)
-            continue;
-        const auto bas = static_cast<std::uint32_t>(yeni.size());
-        yeni.append(baytlar_, kayit.bas, kayit.uzunluk);
-        kayit.bas = bas;
-    }
-    baytlar_ = std::move(yeni);
+    const std::vector<std::vector<char>> eski = std::exchange(parcalar_, {});
+    tutulan_ = 0;
+    for (Kayit& kayit : kayitlar_)
+        kayit.bayt = kayit.var ? Yerlestir(kayit.bayt) : std::string_view();
 }
 
 std::size_t KlasorBellegi::Bayt() const {
-    return adlar_.Bayt() + kayitlar_.capacity() * sizeof(Kayit) + baytlar_.capacity();
+    return adlar_.Bayt() + kayitNo_.capacity() * sizeof(kYok) + kayitlar_.capacity() * sizeof(Kayit) +
+           tutulan_;
 }
 
 } // namespace velora

@@ -43,7 +43,7 @@ class KlasorBellegi {
 
     /// The bytes that are kept of a file, by its place among the names, where it is known that they are those
     /// of the disk. They last until the next one is kept.
-    std::optional<std::string_view> Bilinen(std::size_t sira) const;
+    std::optional<std::string_view> Bilinen(std::size_t sira);
 
     /// The same where the system has to be asked.
     /// They last until the next one is kept. `simdi` becomes what the system says of the file, where it was
@@ -69,8 +69,7 @@ class KlasorBellegi {
         std::optional<sistem::Kimlik> kimlik = {}; ///< none: nobody has asked about it yet
         std::uint64_t no = 0;                      ///< in the listing when it was read
         SistemAni sinir = {};
-        std::uint32_t bas = 0; ///< in `baytlar_`
-        std::uint32_t uzunluk = 0;
+        std::string_view bayt = {}; ///< in `parcalar_`
         bool var = false;
         bool sorulsun = true; ///< nobody watches, or he has told of a change since
     };
@@ -79,17 +78,22 @@ class KlasorBellegi {
     void Listele(sistem::Klasor& acik);
     void AdlariDegistir(AdListesi yeni);
     bool Taze(Kayit& kayit, const sistem::Kimlik& simdi) const;
+    Kayit* Bul(std::size_t sira);
     void Birak(Kayit& kayit);
+    std::string_view Yerlestir(std::string_view bayt);
     void Sikistir();
 
     std::filesystem::path klasor_;
     std::unique_ptr<sistem::Gozcu> gozcu_;
     sistem::Kimlik kimlik_; // of the folder
     AdListesi adlar_;
-    std::vector<Kayit> kayitlar_; // by the places of the names
-    std::string baytlar_;         // of all that are kept, and of some that aren't any more
-    std::size_t saklanan_ = 0;    // files
-    std::size_t kullanilan_ = 0;  // bytes of them
+    static constexpr std::uint32_t kYok = UINT32_MAX;
+    std::vector<std::uint32_t> kayitNo_;      // by the places of the names: in `kayitlar_`, or `kYok`
+    std::vector<Kayit> kayitlar_;             // of those that were read
+    std::vector<std::vector<char>> parcalar_; // bytes of all that are kept, and of some that aren't any more
+    std::size_t tutulan_ = 0;                 // bytes that the pieces take
+    std::size_t saklanan_ = 0;                // files
+    std::size_t kullanilan_ = 0;              // bytes of them
 };
 
 } // namespace velora

@@ -35,7 +35,8 @@ class OkumaBellegi {
     /// time. Where the clock was set back all is forgotten: a time that was past may come again.
     SistemAni Sinir();
 
-    /// So many of the folders that were read last are watched, from their second reading on.
+    /// So many of the folders that were read last are watched, from their second reading on: it slows down
+    /// the reading of what isn't known yet.
     std::size_t enCokIzlenen = 8;
     /// The coarsest step in which a disk tells times.
     std::chrono::nanoseconds zamanAdimi = std::chrono::seconds(2);

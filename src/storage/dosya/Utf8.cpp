@@ -10,6 +10,7 @@ constexpr char32_t kYedekIlk = 0xD800;
 constexpr char32_t kYedekSon = 0xDFFF;
 constexpr char32_t kBaytTabani = 0xDC00;
 constexpr char32_t kUstDuzlem = 0x10000;
+constexpr unsigned kIlkCokBaytli = 0x80;
 
 /// How a character of this many bytes begins, and the smallest number that may be written so.
 struct Uzunluk {
@@ -42,14 +43,6 @@ std::size_t Coz(std::string_view bayt, char32_t& kod) {
     return 0;
 }
 
-void Ekle(char32_t kod, Metin& hedef) {
-    if (kod >= kUstDuzlem) {
-        hedef += static_cast<char16_t>(kYedekIlk + ((kod - kUstDuzlem) >> 10U));
-        kod = kBaytTabani + ((kod - kUstDuzlem) & 0x3FFU);
-    }
-    hedef += static_cast<char16_t>(kod);
-}
-
 /// The character that begins at `yer`; a surrogate pair is one, and `yer` then moves to its second half.
 char32_t KodAl(MetinBakis metin, std::size_t& yer) {
     const char32_t kod = metin[yer];
@@ -72,21 +65,35 @@ void Yaz(char32_t kod, std::string& hedef) {
 } // namespace
 
 void Utf8Coz(std::string_view bayt, Metin& hedef) {
-    const auto ascii = std::find_if(bayt.begin(), bayt.end(), [](char c) { return Bayt(c) >= 0x80; });
-    hedef.assign(bayt.begin(), ascii);
-    bayt.remove_prefix(hedef.size());
+    hedef.resize(bayt.size()); // no character takes fewer bytes than letters
+    // Names are many and mostly short letters: a plain loop, so that the machine does several at once.
+    unsigned hepsi = 0;
+    for (std::size_t i = 0; i < bayt.size(); ++i) {
+        hedef[i] = Bayt(bayt[i]);
+        hepsi |= Bayt(bayt[i]);
+    }
+    if (hepsi < kIlkCokBaytli)
+        return;
+    std::size_t dolu = 0;
     while (!bayt.empty()) {
         char32_t kod = Bayt(bayt[0]);
-        const std::size_t uzunluk = kod < 0x80 ? 1 : Coz(bayt, kod);
-        Ekle(uzunluk == 0 ? kBaytTabani + Bayt(bayt[0]) : kod, hedef);
+        const std::size_t uzunluk = kod < kIlkCokBaytli ? 1 : Coz(bayt, kod);
+        if (uzunluk == 0)
+            kod = kBaytTabani + Bayt(bayt[0]);
+        if (kod >= kUstDuzlem) {
+            hedef[dolu++] = static_cast<char16_t>(kYedekIlk + ((kod - kUstDuzlem) >> 10U));
+            kod = kBaytTabani + ((kod - kUstDuzlem) & 0x3FFU);
+        }
+        hedef[dolu++] = static_cast<char16_t>(kod);
         bayt.remove_prefix(std::max<std::size_t>(uzunluk, 1));
     }
+    hedef.resize(dolu);
 }
 
 bool Utf8Ekle(MetinBakis metin, std::string& hedef) {
     for (std::size_t i = 0; i < metin.size(); ++i) {
         const char32_t kod = KodAl(metin, i);
-        if (kod < 0x80)
+        if (kod < kIlkCokBaytli)
             hedef += static_cast<char>(kod);
         else if (kod < kYedekIlk || kod > kYedekSon)
             Yaz(kod, hedef);
