@@ -42,7 +42,6 @@ class CagriTablosu : public KayitTest {
   protected:
     static constexpr int kBirinci = 62; ///< files of the first hall's year
     static constexpr int kIkinci = 20;
-    static constexpr int kYil = 12; ///< years of the list
 
     CagriTablosu() {
         agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");

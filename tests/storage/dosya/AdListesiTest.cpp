@@ -108,6 +108,31 @@ TEST(AdListesi, Of_equal_names_the_one_that_stands_so_on_the_disk_comes_first) {
     EXPECT_EQ(liste.Bul(u"z"), std::nullopt);
 }
 
+TEST(AdListesi, Finds_the_same_name_whichever_was_looked_at_before) {
+    AdListesi liste;
+    for (const char* ad : {"15.06.2026 - Gece", "15.06.2026 - GeceDetay", "15.06.2026 - Gecedetay",
+                           "15.06.2026 - Gündüz", "15.06.2026 - Gu\xCC\x88ndu\xCC\x88z",
+                           "16.06.2026 - GeceOdeme", "16.06.2026 - gece", "a", "A", "Ğ", "\xD0\x91"})
+        liste.Ekle({ad});
+    liste.Sirala();
+    std::vector<Metin> adlar{u"yok", u""};
+    for (std::size_t i = 0; i < liste.Sayi(); ++i)
+        adlar.emplace_back(liste[i]);
+    for (const Metin& ad : adlar) {
+        const auto yer = [&]() -> std::optional<std::size_t> {
+            for (std::size_t i = 0; i < liste.Sayi(); ++i)
+                if (liste[i] == ad)
+                    return i;
+            return {};
+        }();
+        for (std::size_t once = 0; once < liste.Sayi(); ++once) {
+            const Metin bakilan(liste[once]);
+            EXPECT_EQ(liste.Bul(ad), yer) << once;
+            EXPECT_EQ(liste[once], bakilan);
+        }
+    }
+}
+
 TEST(AdListesi, Letters_beyond_one_byte_do_not_let_later_letters_decide) {
     const std::vector<Metin> adlar{u"Şa", u"Ğz"};
     EXPECT_EQ(Sirali(adlar), (std::vector<Metin>{u"Ğz", u"Şa"}));

@@ -237,6 +237,19 @@ TEST_P(Bellek, May_be_read_from_inside_a_reading_and_changed_there) {
     EXPECT_EQ(kok.Oku(), 1U);
 }
 
+TEST_P(Bellek, Files_of_all_lengths_come_back_each_as_it_is) {
+    const BellekAgaci kok;
+    std::size_t boy = 0;
+    for (int i = 100; i < 400; ++i, boy = boy * 7 % 9001 + 13)
+        kok.Koy(u"salon/yıl/" + SayiMetni(i),
+                std::string(boy, static_cast<char>('a' + i % 26)) + std::to_string(i));
+    EXPECT_EQ(kok.Oku(), 320U);
+    EXPECT_EQ(kok.Oku(), 0U);
+    kok.YerindeYaz(u"250", "değişti");
+    EXPECT_EQ(kok.Oku(), 1U);
+    EXPECT_EQ(kok.Oku(), 0U);
+}
+
 TEST_P(Bellek, A_long_file_is_read_each_time_and_the_ones_beside_it_are_not) {
     const BellekAgaci kok(3);
     kok.Koy(u"salon/yıl/50", std::string((std::size_t{1} << 20U) + 1, 'u'));
