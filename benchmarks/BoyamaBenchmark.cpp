@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "benchmarks/OlcumAgaci.h"
+#include "benchmarks/SurecBenchmark.h"
 #include "qt/table/TabloCizici.h"
 #include "setup/FormAyarlar.h"
 #include "table/FormTablo.h"
@@ -63,6 +64,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication uygulama(argc, argv);
+    velora::olcum::SurecOlarakCalis({argv, static_cast<std::size_t>(argc)});
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }

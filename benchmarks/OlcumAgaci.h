@@ -10,26 +10,26 @@
 
 namespace velora::olcum {
 
-/// A program folder with one hall and one year in which every slot is taken.
+/// A program folder, with one hall and one year in which every slot is taken where no other is asked for.
 class OlcumAgaci {
   public:
     /// Of 12 times 31 days, or of those that the year has.
     enum class Adlar { Hepsi, Gercek };
     static constexpr std::size_t kRezervasyon = ornek::kEnCokRezervasyon;
 
-    explicit OlcumAgaci(Adlar adlar = Adlar::Hepsi) {
+    explicit OlcumAgaci(Adlar adlar = Adlar::Hepsi)
+        : OlcumAgaci({.salon = 1,
+                      .yil = 1,
+                      .rezervasyon = kRezervasyon,
+                      .bugun = Bugun(),
+                      .tumAdlar = adlar == Adlar::Hepsi}) {}
+    explicit OlcumAgaci(const ornek::Istek& istek) {
         std::random_device rastgele;
         do
             kok_ = std::filesystem::temp_directory_path() / ("velora-olcum-" + std::to_string(rastgele()));
         while (!std::filesystem::create_directory(kok_));
         durum_ = kok_;
         durum_ += "-durum";
-        ornek::Istek istek;
-        istek.salon = 1;
-        istek.yil = 1;
-        istek.rezervasyon = ornek::kEnCokRezervasyon;
-        istek.tumAdlar = adlar == Adlar::Hepsi;
-        istek.bugun = Bugun();
         salon_ = ornek::FirmaYap(Dosyalar(kok_), istek).salonlar.at(0);
     }
     ~OlcumAgaci() {
@@ -49,6 +49,7 @@ class OlcumAgaci {
     const std::filesystem::path& Kok() const { return kok_; }
     /// Where a program on it may keep its journal.
     const std::filesystem::path& DurumKlasoru() const { return durum_; }
+    /// This year of the first hall.
     std::filesystem::path YilYolu() const { return kok_ / salon_ / "2026"; }
 
   private:

@@ -157,9 +157,10 @@ std::vector<Metin> SalonAdlari(unsigned adet) {
 std::vector<int> Yillar(const Istek& istek) {
     const int buYil = static_cast<int>(istek.bugun.year());
     const int adet = static_cast<int>(istek.yil);
-    const int son = adet > 1 ? buYil + 1 : buYil;
+    constexpr int kEnCokOnce = 10;
+    const int ilk = std::max(buYil - kEnCokOnce, buYil + (adet > 1 ? 2 : 1) - adet);
     std::vector<int> yillar;
-    for (int yil = son - adet + 1; yil <= son; ++yil)
+    for (int yil = ilk; yil < ilk + adet; ++yil)
         yillar.push_back(yil);
     return yillar;
 }

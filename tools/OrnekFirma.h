@@ -12,7 +12,7 @@ namespace velora::ornek {
 /// What a sample firm is to be like. The same values give the same bytes.
 struct Istek {
     unsigned salon = 2;         ///< halls
-    unsigned yil = 2;           ///< years: this one, the next, then backwards from this one
+    unsigned yil = 2;           ///< years: this one, the next, the ten before, then on behind the next
     unsigned rezervasyon = 120; ///< for each hall and year; no more than a year has slots
     std::uint32_t tohum = 1;    ///< of the random numbers
     Gun bugun{};                ///< the day around which the reservations lie; must be a real day
@@ -20,8 +20,8 @@ struct Istek {
 };
 
 inline constexpr unsigned kEnCokSalon = 100;
-/// This year, the next and the ten before: all can be chosen on the table.
-inline constexpr unsigned kEnCokYil = 12;
+/// This year with the ten before and the ten behind it: all can be chosen on the table.
+inline constexpr unsigned kEnCokYil = 21;
 /// Slots of a year in which every month has 31 days.
 inline constexpr unsigned kEnCokRezervasyon = 744;
 

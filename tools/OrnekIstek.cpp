@@ -76,7 +76,7 @@ std::string_view Kullanim() {
     return "usage: OrnekVeri FOLDER [options]\n"
            "Makes a sample firm in FOLDER, which must not hold one yet.\n"
            "  --salon N          halls, 1 to 100 (2)\n"
-           "  --yil N            years, 1 to 12: this one, the next, then backwards (2)\n"
+           "  --yil N            years, 1 to 21: this one, the next, the ten before, then on (2)\n"
            "  --rezervasyon N    reservations for each hall and year, 0 to 744 (120)\n"
            "  --tohum N          seed: the same seed and day give the same firm (1)\n"
            "  --bugun dd.mm.yyyy the day that counts as today (the real one)\n"

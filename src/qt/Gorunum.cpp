@@ -24,16 +24,6 @@ namespace velora {
 
 namespace {
 
-constexpr std::array kSimgeBoylari{16, 22, 24, 32, 48, 64, 96, 128, 256};
-
-/// A picture in all sizes: each is drawn, none is stretched.
-QIcon HerBoyda(const auto& ciz) {
-    QIcon simge;
-    for (const int boy : kSimgeBoylari)
-        simge.addPixmap(ciz(boy));
-    return simge;
-}
-
 struct KutuSimgesi {
     QStyle::StandardPixmap tur;
     const char* ad;
@@ -154,7 +144,7 @@ class Bicim : public QProxyStyle {
                        const QWidget* widget) const override {
         for (const KutuSimgesi& simge : kKutuSimgeleri)
             if (simge.tur == tur)
-                return HerBoyda([&](int boy) {
+                return HerBoydaSimge([&simge](int boy) {
                     return SimgeCiz(QString::fromLatin1(simge.ad), QColor(simge.renk), boy);
                 });
         return QProxyStyle::standardIcon(tur, secenek, widget);
@@ -214,7 +204,8 @@ void GorunumuKur() {
     for (const QPalette::ColorRole rol : kSolgunlar)
         palet.setColor(QPalette::Disabled, rol, QColor(kSolgun));
     QApplication::setPalette(palet);
-    QApplication::setWindowIcon(HerBoyda([](int boy) { return ResimCiz(QStringLiteral("velora"), boy); }));
+    QApplication::setWindowIcon(
+        HerBoydaSimge([](int boy) { return ResimCiz(QStringLiteral("velora"), boy); }));
 }
 
 double Karsitlik(const QColor& bir, const QColor& iki) {
@@ -238,7 +229,7 @@ void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk) {
 }
 
 void SimgeVer(QAction& girdi, const QString& ad, const QColor& renk) {
-    girdi.setIcon(HerBoyda([&](int boy) { return SimgeCiz(ad, renk, boy); }));
+    girdi.setIcon(HerBoydaSimge([ad, renk](int boy) { return SimgeCiz(ad, renk, boy); }));
 }
 
 } // namespace velora

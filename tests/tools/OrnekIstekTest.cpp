@@ -48,7 +48,7 @@ TEST(OrnekIstek, Refuses_what_it_does_not_understand) {
         {"yer", "--salon", "-1"},
         {"yer", "--salon", "3x"},
         {"yer", "--salon", ""},
-        {"yer", "--yil", "13"},
+        {"yer", "--yil", "22"},
         {"yer", "--rezervasyon", "745"},
         {"yer", "--tohum", "4294967296"},
         {"yer", "--bugun", "31.02.2026"},
