@@ -3,6 +3,7 @@
 #include "reservation/Uyarilar.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "storage/RezervasyonDosyalari.h"
 #include "storage/Tarih.h"
@@ -43,6 +44,8 @@ ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, cons
 void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
     klasorler_.push_back(klasor);
     KlasorOkumasi okuma = dosyalar_.KlasorAc(klasor);
+    if (!Onemli(okuma))
+        return;
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
         const MetinBakis bakilan = okuma[i];
         if (!GunDosyasiDeseni(bakilan) || !Yakin(bakilan))
@@ -53,15 +56,41 @@ void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
     }
 }
 
+int UyariTaramasi::KalanGun(const Gun& gun) const {
+    return static_cast<int>((std::chrono::sys_days(gun) - std::chrono::sys_days(bugun_)).count());
+}
+
+bool UyariTaramasi::KalanYakin(int kalan) const {
+    return kalan > 0 && kalan <= std::max(sure_.kesin, sure_.on);
+}
+
+/// Whether a name of the folder may give a row, or change what another one gives. Of most folders none does.
+bool UyariTaramasi::Onemli(const KlasorOkumasi& okuma) {
+    bool gunluVar = false;
+    const bool onemli = okuma.BiriUyar(kTarihUzunlugu, [&](MetinBakis bas) {
+        if (!GunDosyasiDeseni(bas))
+            return false;
+        const auto gun = AnahtarGunu(bas);
+        gunluVar = gunluVar || gun;
+        return !gun || KalanYakin(KalanGun(*gun));
+    });
+    // A name without a date that follows in another folder keeps a day that is not near.
+    if (!onemli && gunluVar) {
+        kalan_ = 0;
+        tarih_.clear();
+    }
+    return onemli;
+}
+
 /// Whether the name is one of a reservation whose day is near.
 bool UyariTaramasi::Yakin(MetinBakis ad) {
     // The names of a day stand one behind the other.
     if (const MetinBakis tarih = Parca(ad, 1, kTarihUzunlugu); tarih != tarih_) {
         tarih_ = tarih;
         if (const auto gun = AnahtarGunu(tarih))
-            kalan_ = static_cast<int>((std::chrono::sys_days(*gun) - std::chrono::sys_days(bugun_)).count());
+            kalan_ = KalanGun(*gun);
     }
-    return kalan_ > 0 && kalan_ <= std::max(sure_.kesin, sure_.on) && !EslikDosyasi(ad);
+    return KalanYakin(kalan_) && !EslikDosyasi(ad);
 }
 
 void UyariTaramasi::Oku(KlasorOkumasi& okuma, std::size_t sira) {

@@ -48,6 +48,9 @@ class UyariTaramasi {
         std::size_t sira;
     };
 
+    int KalanGun(const Gun& gun) const;
+    bool KalanYakin(int kalan) const;
+    bool Onemli(const KlasorOkumasi& okuma);
     bool Yakin(MetinBakis ad);
     void Oku(KlasorOkumasi& okuma, std::size_t sira);
     template <class Degerler, class Dosya>

@@ -179,6 +179,8 @@ void AdListesi::BastanEkle(const AdListesi& baska, std::size_t adet) {
 }
 
 void AdListesi::Sirala() {
+    if (adlar_.size() == gelenler_.size())
+        return;
     okunanSira_ = kYok;
     adlar_.clear();
     adlar_.reserve(gelenler_.size());

@@ -18,7 +18,7 @@ class AdListesi {
     void Ekle(const sistem::ListeOgesi& oge);
 
     /// Puts the names into the order of `AdSirasi`. Of equal ones the one that stands so on the disk comes
-    /// first.
+    /// first. Whatever asks for a name by its place, or for its place, comes behind it.
     void Sirala();
 
     std::size_t Sayi() const { return gelenler_.size(); }
@@ -34,6 +34,8 @@ class AdListesi {
     bool Gelen(std::size_t i, const sistem::ListeOgesi& oge) const {
         return i < gelenler_.size() && gelenler_[i].no == oge.no && Bakis(gelenler_[i]) == oge.ad;
     }
+    /// How the one that was added as the `i`th stands on the disk.
+    sistem::DiskAdi GelenAd(std::size_t i) const { return Bakis(gelenler_[i]); }
     /// Adds those that were added first to another one, in that order.
     void BastanEkle(const AdListesi& baska, std::size_t adet);
 

@@ -76,7 +76,6 @@ void KlasorBellegi::Listele(sistem::Klasor& acik) {
         return;
     if (!degisti)
         yeni.BastanEkle(adlar_, ayni);
-    yeni.Sirala();
     AdlariDegistir(std::move(yeni));
 }
 
@@ -84,6 +83,7 @@ void KlasorBellegi::AdlariDegistir(AdListesi yeni) {
     std::vector<std::uint32_t> kayitNo(yeni.Sayi(), kYok);
     std::vector<Kayit> kayitlar;
     if (saklanan_ > 0) {
+        yeni.Sirala();
         std::unordered_map<sistem::DiskAdi, std::size_t> yerler;
         for (std::size_t i = 0; i < yeni.Sayi(); ++i)
             yerler.emplace(yeni.Diskteki(i), i);
@@ -159,6 +159,8 @@ bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt,
 }
 
 void KlasorBellegi::Unut(sistem::DiskAdi ad) {
+    if (Bos())
+        return;
     for (std::size_t i = 0; i < kayitNo_.size(); ++i)
         if (Kayit* kayit = adlar_.Diskteki(i) == ad ? Bul(i) : nullptr)
             Birak(*kayit);

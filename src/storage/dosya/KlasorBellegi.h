@@ -39,7 +39,12 @@ class KlasorBellegi {
     /// be listed.
     void Tazele(const std::function<sistem::Klasor&()>& ac);
 
-    const AdListesi& Adlar() const { return adlar_; }
+    const AdListesi& Adlar() {
+        adlar_.Sirala();
+        return adlar_;
+    }
+    /// The same as they came: of a folder in which nobody is interested they are never put into order.
+    const AdListesi& GelenAdlar() const { return adlar_; }
 
     /// The bytes that are kept of a file, by its place among the names, where it is known that they are those
     /// of the disk. They last until the next one is kept.

@@ -1,5 +1,7 @@
 #include "storage/dosya/KlasorOkumasi.h"
 
+#include <algorithm>
+#include <type_traits>
 #include <utility>
 
 #include "storage/dosya/Dosyalar.h"
@@ -32,6 +34,21 @@ KlasorOkumasi::KlasorOkumasi(KlasorOkumasi&& baska) noexcept
 KlasorOkumasi::~KlasorOkumasi() {
     if (bellek_)
         Sessiz([&] { dosyalar_->bellek_->Okundu(bellek_); });
+}
+
+bool KlasorOkumasi::BiriUyar(std::size_t boy, const std::function<bool(MetinBakis bas)>& uyar) const {
+    constexpr unsigned kYediBit = 0x80;
+    Metin bas;
+    for (std::size_t i = 0; bellek_ && i < bellek_->GelenAdlar().Sayi(); ++i) {
+        const sistem::DiskAdi ad = bellek_->GelenAdlar().GelenAd(i).substr(0, boy);
+        const auto kisa = [](sistem::AdHarfi harf) {
+            return static_cast<std::make_unsigned_t<sistem::AdHarfi>>(harf) < kYediBit;
+        };
+        bas.assign(ad.begin(), ad.end());
+        if (!std::ranges::all_of(ad, kisa) || uyar(bas))
+            return true;
+    }
+    return false;
 }
 
 std::optional<std::string_view> KlasorOkumasi::Oku(std::size_t sira) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,6 +30,11 @@ class KlasorOkumasi {
     std::size_t Sayi() const { return bellek_ ? bellek_->Adlar().Sayi() : 0; }
     /// It lasts until the next name is asked for.
     MetinBakis operator[](std::size_t sira) const { return bellek_->Adlar()[sira]; }
+
+    /// Whether any of them is one by its first letters, `boy` or all that it has, which `uyar` is told. They
+    /// come in no order, and none is made a text of: it is for who looks through many folders for little. One
+    /// that has other letters than of seven bits there counts as one, for it can't be told so.
+    bool BiriUyar(std::size_t boy, const std::function<bool(MetinBakis bas)>& uyar) const;
 
     /// The place of a name; else of the first that differs from it only in case.
     std::optional<std::size_t> Bul(MetinBakis ad) const {
