@@ -13,19 +13,24 @@ namespace velora::olcum {
 
 inline constexpr int kSabir = 10'000; // milliseconds
 
-/// Notices the windows that have been painted.
+/// Notices what has been painted: the last window, or, of one widget, whether it was.
 class BoyaGozcusu : public QObject {
   public:
-    BoyaGozcusu() { qApp->installEventFilter(this); }
+    explicit BoyaGozcusu(const QWidget* parca = nullptr) : parca_(parca) { qApp->installEventFilter(this); }
     bool eventFilter(QObject* nesne, QEvent* olay) override {
-        if (olay->type() == QEvent::Paint && nesne->isWidgetType())
-            boyanan_ = static_cast<QWidget*>(nesne)->window();
+        if (olay->type() != QEvent::Paint || !nesne->isWidgetType())
+            return false;
+        pencere_ = static_cast<QWidget*>(nesne)->window();
+        boyandi_ = boyandi_ || nesne == parca_;
         return false;
     }
-    bool Boyandi(const QWidget* pencere) const { return pencere != nullptr && boyanan_ == pencere; }
+    bool Boyandi(const QWidget* pencere) const { return pencere != nullptr && pencere_ == pencere; }
+    bool Boyandi() const { return boyandi_; }
 
   private:
-    const QWidget* boyanan_ = nullptr;
+    const QWidget* parca_;
+    const QWidget* pencere_ = nullptr;
+    bool boyandi_ = false;
 };
 
 /// Runs what shows that window, which may paint it by and by, and lets events run until it has the keyboard

@@ -1,5 +1,5 @@
-// The whole start as a process of its own, from its birth to the painted table, against a process that paints
-// a bare window of the toolkit. What the start screen waits for on purpose is left out.
+// The start in a process of its own: from the login to the painted table, against a process that paints a
+// bare window of the toolkit, from its birth on.
 #include "benchmarks/SurecBenchmark.h"
 
 #include <benchmark/benchmark.h>
@@ -12,7 +12,7 @@
 
 #include <cstdio>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include "access/FormSifre.h"
 #include "access/Splash.h"
@@ -42,9 +42,9 @@ long EnCokBellek() {
     return 0;
 }
 
-/// Ends the process here: what it would tidy up is no part of a start.
-[[noreturn]] void Bitir(bool oldu) {
-    std::printf("%ld", EnCokBellek());
+/// Tells what was measured and ends the process here: what it would tidy up is no part of a start.
+[[noreturn]] void Bitir(bool oldu, double saniye = 0) {
+    std::printf("%ld %f", EnCokBellek(), saniye);
     std::fflush(stdout);
     std::_Exit(oldu ? EXIT_SUCCESS : EXIT_FAILURE);
 }
@@ -83,11 +83,16 @@ long EnCokBellek() {
     if (!HazirOlmali(disDunya, EkranAdi::FormSifre, girise))
         Bitir(false);
     program.FormSifre->Text2.metin = ornek::kYoneticiParolasi;
-    Bitir(HazirOlmali(disDunya, EkranAdi::FormTablo, [&] { program.FormSifre->Command1_Click(); }));
+    bool oldu = false;
+    const double sure = Saniye([&] {
+        oldu = HazirOlmali(disDunya, EkranAdi::FormTablo, [&] { program.FormSifre->Command1_Click(); });
+    });
+    Bitir(oldu, sure);
 }
 
 struct Olcu {
-    double sure = 0;   ///< seconds
+    double surec = 0;  ///< seconds from its birth to its end
+    double tablo = 0;  ///< seconds from the login to the table
     double bellek = 0; ///< megabytes at most
     bool oldu = false;
 };
@@ -95,14 +100,18 @@ struct Olcu {
 Olcu Calistir(const QStringList& nasil) {
     QProcess surec;
     Olcu olcu;
-    olcu.sure = Saniye([&] {
+    olcu.surec = Saniye([&] {
         surec.start(QCoreApplication::applicationFilePath(), nasil);
         olcu.oldu = surec.waitForFinished(3 * kSabir);
     });
     olcu.oldu = olcu.oldu && surec.exitStatus() == QProcess::NormalExit && surec.exitCode() == EXIT_SUCCESS;
-    olcu.bellek = surec.readAllStandardOutput().toDouble() / 1024;
+    std::istringstream sayilar(surec.readAllStandardOutput().toStdString());
+    sayilar >> olcu.bellek >> olcu.tablo;
+    olcu.bellek /= 1024;
     return olcu;
 }
+
+constexpr double kEnCokBellek = 64;
 
 struct Firma {
     const char* ad;
@@ -132,7 +141,8 @@ void SurecinBaslamasi(benchmark::State& durum) {
                            .rezervasyon = firma.rezervasyon,
                            .bugun = OlcumAgaci::Bugun()});
     std::vector<double> zemin;
-    std::vector<double> sure;
+    std::vector<double> surec;
+    std::vector<double> tablo;
     std::vector<double> bellek;
     OlcumAgaci::Yaslandir();
     for (auto _ : durum) {
@@ -141,15 +151,17 @@ void SurecinBaslamasi(benchmark::State& durum) {
                                        QString::fromStdString(agac.DurumKlasoru())});
         if (!bos.oldu || !program.oldu)
             durum.SkipWithError("no window");
-        zemin.push_back(bos.sure);
-        sure.push_back(program.sure);
+        zemin.push_back(bos.surec);
+        surec.push_back(program.surec);
+        tablo.push_back(program.tablo);
         bellek.push_back(program.bellek);
     }
     durum.SetLabel(firma.ad);
     durum.counters["pencere_ms"] = Ortanca(zemin) * 1000;
-    durum.counters["sure_ms"] = Ortanca(sure) * 1000;
-    durum.counters["bellek_MiB"] = Ortanca(bellek);
-    OranYaz(durum, Ortanca(sure) / Ortanca(zemin), firma.enCok);
+    durum.counters["surec_ms"] = Ortanca(surec) * 1000;
+    durum.counters["tablo_ms"] = Ortanca(tablo) * 1000;
+    OlcuYaz(durum, "bellek_MiB", Ortanca(bellek), kEnCokBellek);
+    OranYaz(durum, Ortanca(tablo) / Ortanca(zemin), firma.enCok);
 }
 BENCHMARK(SurecinBaslamasi)->DenseRange(0, 1)->Unit(benchmark::kMillisecond)->Iterations(15);
 

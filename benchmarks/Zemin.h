@@ -29,10 +29,13 @@ inline double Ortanca(std::vector<double> sureler) {
     return sureler[sureler.size() / 2];
 }
 
-/// What a benchmark has come to, and the most that it may.
+/// What a benchmark has come to, and the most that it may: `scripts/speed` tells what is over it.
+inline void OlcuYaz(benchmark::State& durum, const std::string& ad, double olculen, double enCok) {
+    durum.counters[ad] = olculen;
+    durum.counters["en_cok_" + ad] = enCok;
+}
 inline void OranYaz(benchmark::State& durum, double oran, double enCok) {
-    durum.counters["oran"] = oran;
-    durum.counters["en_cok"] = enCok;
+    OlcuYaz(durum, "oran", oran, enCok);
 }
 
 /// The floor: one listing of the folder plus open, read and close of each of its files that is wanted once,

@@ -1,6 +1,10 @@
 #include "qt/table/UyariPaneli.h"
 
 #include <algorithm>
+#include <functional>
+#include <map>
+#include <utility>
+#include <vector>
 
 #include <QDragEnterEvent>
 #include <QHBoxLayout>
@@ -52,7 +56,7 @@ UyariPaneli::UyariPaneli(FormTablo& tablo, Baglayici& baglayici, QWidget* ust) :
     Adlandir(*liste_, QStringLiteral("Liste"), QMetin(tablo.UyariBaslik.baslik));
     baglayici.Bagla(
         *liste_, tablo.Liste, [&tablo] { tablo.Liste_Click(); }, [&tablo] { tablo.Liste_DblClick(); });
-    liste_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    liste_->header()->setSectionResizeMode(QHeaderView::Fixed);
     sutun->addWidget(liste_, 1);
     detaylar_ = DugmeYap(*this, baglayici, "Command8", tablo.Command8, [&tablo] { tablo.Command8_Click(); });
     kapat_ = DugmeYap(*this, baglayici, "Command2", tablo.Command2, [&tablo] { tablo.Command2_Click(); });
@@ -130,14 +134,52 @@ int UyariPaneli::SutunlarinEni(const ListeGorunumu& model) {
 }
 
 int UyariPaneli::SutunlariOlc() const {
-    const QAbstractItemView& liste = *liste_;
     const QMargins kenar = layout()->contentsMargins();
     int en = kenar.left() + kenar.right() + 2 * (frameWidth() + liste_->frameWidth()) +
              liste_->verticalScrollBar()->sizeHint().width();
-    for (int sutun = 0; sutun < liste_->columnCount(); ++sutun)
-        en += std::max(liste.sizeHintForColumn(sutun), liste_->header()->sectionSizeHint(sutun));
+    for (int sutun = 0; sutun < liste_->columnCount(); ++sutun) {
+        liste_->header()->resizeSection(sutun, SutunOlc(sutun));
+        en += liste_->header()->sectionSize(sutun);
+    }
     // The last column takes what is left, but the toolkit never makes it narrower than this.
     return en + liste_->header()->defaultSectionSize();
+}
+
+/// What a column needs. The toolkit would measure each of hundreds of texts, and several times: here the few
+/// that seem to be the widest are.
+int UyariPaneli::SutunOlc(int sutun) const {
+    constexpr std::size_t kOlculen = 16;
+    constexpr double kKalinPayi = 1.2;
+    const QFontMetricsF olcu(liste_->font());
+    std::map<QChar, double> enler;
+    const auto tahmin = [&](const QModelIndex& goz) {
+        double en = 0;
+        for (const QChar harf : goz.data().toString()) {
+            const auto [yer, yeni] = enler.try_emplace(harf);
+            if (yeni)
+                yer->second = olcu.horizontalAdvance(harf);
+            en += yer->second;
+        }
+        return goz.data(Qt::FontRole).value<QFont>().bold() ? en * kKalinPayi : en;
+    };
+    std::vector<std::pair<double, QModelIndex>> gozler;
+    for (int satir = 0; satir < liste_->topLevelItemCount(); ++satir) {
+        const QModelIndex goz = liste_->model()->index(satir, sutun);
+        gozler.emplace_back(tahmin(goz), goz);
+    }
+    const auto olculen = gozler.begin() + static_cast<std::ptrdiff_t>(std::min(kOlculen, gozler.size()));
+    std::ranges::partial_sort(gozler, olculen, std::greater{}, [](const auto& goz) { return goz.first; });
+    int en = liste_->header()->sectionSizeHint(sutun);
+    const QAbstractItemView& liste = *liste_;
+    for (auto goz = gozler.begin(); goz != olculen; ++goz)
+        en = std::max(en, liste.sizeHintForIndex(goz->second).width());
+    return en;
+}
+
+void UyariPaneli::changeEvent(QEvent* olay) {
+    QFrame::changeEvent(olay);
+    if (olay->type() == QEvent::FontChange || olay->type() == QEvent::StyleChange)
+        olculen_.reset();
 }
 
 void UyariPaneli::Gizle() {

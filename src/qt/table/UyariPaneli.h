@@ -27,6 +27,8 @@ class UyariPaneli : public QFrame {
     void dragEnterEvent(QDragEnterEvent* olay) override;
     void dragMoveEvent(QDragMoveEvent* olay) override;
     void dropEvent(QDropEvent* olay) override;
+    /// With other letters the columns are measured anew.
+    void changeEvent(QEvent* olay) override;
 
   private:
     void Tazele(const FormTablo& tablo);
@@ -34,6 +36,7 @@ class UyariPaneli : public QFrame {
     /// The width in which all columns of the list are seen.
     int SutunlarinEni(const ListeGorunumu& model);
     int SutunlariOlc() const;
+    int SutunOlc(int sutun) const;
 
     QTreeWidget* liste_;
     QPushButton* detaylar_;

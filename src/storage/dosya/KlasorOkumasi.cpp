@@ -44,7 +44,8 @@ bool KlasorOkumasi::BiriUyar(std::size_t boy, const std::function<bool(MetinBaki
         const auto kisa = [](sistem::AdHarfi harf) {
             return static_cast<std::make_unsigned_t<sistem::AdHarfi>>(harf) < kYediBit;
         };
-        bas.assign(ad.begin(), ad.end());
+        bas.resize(ad.size());
+        std::ranges::copy(ad, bas.begin());
         if (!std::ranges::all_of(ad, kisa) || uyar(bas))
             return true;
     }
