@@ -16,6 +16,8 @@ namespace velora::olcum {
 
 namespace {
 
+constexpr int kGorunmeSuresi = 100; // milliseconds
+
 /// The program in windows, its table shown over a whole screen.
 struct Pencereler {
     explicit Pencereler(const OlcumAgaci& agac) : program(Dis(agac), agac.Kok()) {
@@ -52,7 +54,8 @@ struct Pencereler {
         kesin_ = !kesin_;
         kayit->Option1.deger = kesin_ ? 1 : 0;
         kayit->Option2.deger = kesin_ ? 0 : 1;
-        QTimer::singleShot(0, qApp, [&] {
+        // Whoever presses it has long seen the window.
+        QTimer::singleShot(kGorunmeSuresi, qApp, [&] {
             QCoreApplication::processEvents();
             auto* dugme =
                 disDunya.Pencere(EkranAdi::FormKayit)->findChild<QPushButton*>(QStringLiteral("Command1"));
