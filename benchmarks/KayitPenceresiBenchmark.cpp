@@ -23,7 +23,8 @@ struct Pencereler {
     explicit Pencereler(const OlcumAgaci& agac) : program(Dis(agac), agac.Kok()) {
         EkranlariTanit(disDunya, program);
         program.GunluguAc();
-        const bool acildi = HazirOlmali(disDunya, EkranAdi::FormTablo, [this] { program.FormTablo.Goster(); });
+        const bool acildi =
+            HazirOlmali(disDunya, EkranAdi::FormTablo, [this] { program.FormTablo.Goster(); });
         QWidget* pencere = disDunya.Pencere(EkranAdi::FormTablo);
         pencere->resize(1920, 1080);
         QCoreApplication::processEvents();

@@ -5,12 +5,16 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
+#include <map>
+#include <memory>
 #include <utility>
 
 #include <QAction>
 #include <QApplication>
 #include <QFrame>
 #include <QIcon>
+#include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
 #include <QPalette>
@@ -23,6 +27,50 @@
 namespace velora {
 
 namespace {
+
+/// A picture that is drawn in the device pixels in which it is seen, when it is seen: none is stretched, and
+/// what is never shown costs nothing.
+class CizilenSimge : public QIconEngine {
+  public:
+    explicit CizilenSimge(std::function<QPixmap(int boy)> ciz) : ciz_(std::move(ciz)) {}
+
+    QIconEngine* clone() const override { return std::make_unique<CizilenSimge>(*this).release(); }
+
+    void paint(QPainter* boyaci, const QRect& yer, QIcon::Mode hal, QIcon::State durum) override {
+        const double olcek = boyaci->device()->devicePixelRatioF();
+        QPixmap resim = pixmap((QSizeF(yer.size()) * olcek).toSize(), hal, durum);
+        resim.setDevicePixelRatio(olcek);
+        boyaci->drawPixmap(yer.topLeft(), resim);
+    }
+
+    QPixmap pixmap(const QSize& boy, QIcon::Mode hal, QIcon::State /*durum*/) override {
+        const int kenar = std::min(boy.width(), boy.height());
+        if (kenar <= 0)
+            return {};
+        const auto [yer, yeni] = resimler_.try_emplace({kenar, hal});
+        if (yeni)
+            yer->second = Cizdir(kenar, hal);
+        return yer->second;
+    }
+
+  private:
+    QPixmap Cizdir(int kenar, QIcon::Mode hal) const {
+        QPixmap resim = ciz_(kenar);
+        if (hal == QIcon::Normal)
+            return resim;
+        QStyleOption secenek;
+        secenek.palette = QApplication::palette();
+        return QApplication::style()->generatedIconPixmap(hal, resim, &secenek);
+    }
+
+    std::function<QPixmap(int boy)> ciz_;
+    std::map<std::pair<int, QIcon::Mode>, QPixmap> resimler_;
+};
+
+QIcon HerBoyda(std::function<QPixmap(int boy)> ciz) {
+    // The icon takes the engine.
+    return QIcon(std::make_unique<CizilenSimge>(std::move(ciz)).release());
+}
 
 struct KutuSimgesi {
     QStyle::StandardPixmap tur;
@@ -144,7 +192,7 @@ class Bicim : public QProxyStyle {
                        const QWidget* widget) const override {
         for (const KutuSimgesi& simge : kKutuSimgeleri)
             if (simge.tur == tur)
-                return HerBoydaSimge([&simge](int boy) {
+                return HerBoyda([&simge](int boy) {
                     return SimgeCiz(QString::fromLatin1(simge.ad), QColor(simge.renk), boy);
                 });
         return QProxyStyle::standardIcon(tur, secenek, widget);
@@ -204,8 +252,7 @@ void GorunumuKur() {
     for (const QPalette::ColorRole rol : kSolgunlar)
         palet.setColor(QPalette::Disabled, rol, QColor(kSolgun));
     QApplication::setPalette(palet);
-    QApplication::setWindowIcon(
-        HerBoydaSimge([](int boy) { return ResimCiz(QStringLiteral("velora"), boy); }));
+    QApplication::setWindowIcon(HerBoyda([](int boy) { return ResimCiz(QStringLiteral("velora"), boy); }));
 }
 
 double Karsitlik(const QColor& bir, const QColor& iki) {
@@ -229,7 +276,7 @@ void RenkVer(QWidget& parca, QPalette::ColorRole rol, const QColor& renk) {
 }
 
 void SimgeVer(QAction& girdi, const QString& ad, const QColor& renk) {
-    girdi.setIcon(HerBoydaSimge([ad, renk](int boy) { return SimgeCiz(ad, renk, boy); }));
+    girdi.setIcon(HerBoyda([ad, renk](int boy) { return SimgeCiz(ad, renk, boy); }));
 }
 
 } // namespace velora

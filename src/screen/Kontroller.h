@@ -203,6 +203,8 @@ struct ListeSatiri {
     Metin tag;
     RenkDegeri yazi = 0;
     bool kalin = false; ///< in bold: what only its colour would tell
+
+    bool operator==(const ListeSatiri&) const = default;
 };
 
 /// The column texts of a row. A braced list would copy each of them once more.

@@ -1,3 +1,4 @@
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -67,6 +68,44 @@ class UyariPaneliTest : public QObject {
         QTRY_VERIFY(!liste.horizontalScrollBar()->isVisible());
         firma.Pencere().resize(1000, 600);
         QTRY_VERIFY(firma.Tablo().rect().contains(firma.Bul<QWidget>("Picture1").geometry()));
+    }
+
+    void each_column_is_as_wide_as_its_widest_text_also_when_other_rows_are_listed() {
+        GuiFirma firma;
+        firma.Rezervasyon(kSalonA, u"23.05.2026 - Gece", false);
+        firma.Ac({1800, 900});
+        auto& liste = firma.Bul<QTreeWidget>("Liste");
+        const QAbstractItemView& gorunum = liste;
+        const auto satirlar = [](int adet, int genis, MetinBakis ad, bool kalin) {
+            std::vector<ListeSatiri> yeni;
+            for (int i = 0; i < adet; ++i)
+                yeni.push_back({{u"23.05.2026 - Gece", u"Salon", i == genis ? Metin(ad) : Metin(u"iiii"),
+                                 u"çift", u"0212", u"0532", u"Kesin"},
+                                u"yol",
+                                0,
+                                i == genis && kalin});
+            return yeni;
+        };
+        const auto sigiyor = [&] {
+            Baglayici::HepsiniTazele();
+            for (int sutun = 0; sutun < liste.columnCount() - 1; ++sutun) {
+                int en = liste.header()->sectionSizeHint(sutun);
+                for (int satir = 0; satir < liste.topLevelItemCount(); ++satir)
+                    en = std::max(en, gorunum.sizeHintForIndex(liste.model()->index(satir, sutun)).width());
+                if (liste.columnWidth(sutun) != en)
+                    return false;
+            }
+            return true;
+        };
+        firma.Model().Liste.satirlar = satirlar(60, 43, u"Abdurrahman Yıldırımoğlu", false);
+        QVERIFY(sigiyor());
+        const int genis = liste.columnWidth(2);
+        firma.Model().Liste.satirlar = satirlar(60, 43, u"Abdurrahman Yıldırımoğlu", false);
+        QVERIFY2(sigiyor() && liste.columnWidth(2) == genis, "the same again");
+        firma.Model().Liste.satirlar = satirlar(60, 43, u"Abdurrahman Yıldırımoğlu", true);
+        QVERIFY2(sigiyor() && liste.columnWidth(2) > genis, "in bold");
+        firma.Model().Liste.satirlar = satirlar(3, 1, u"Can", false);
+        QVERIFY2(sigiyor() && liste.columnWidth(2) < genis, "narrower ones");
     }
 
     void a_pre_reservation_is_bold_and_a_firm_one_is_not() {

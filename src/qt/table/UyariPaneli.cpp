@@ -127,9 +127,15 @@ void UyariPaneli::Tazele(const FormTablo& tablo) {
 
 /// Measured once for the rows that stand: a refresh comes several times a second.
 int UyariPaneli::SutunlarinEni(const ListeGorunumu& model) {
-    if (olculen_ != model.satirlar.Degisme())
+    const auto& satirlar = model.satirlar;
+    if (olculen_ == satirlar.Degisme())
+        return sutunlarinEni_;
+    // After a save they are listed anew, and nearly always they are the same.
+    if (!olculen_ || !std::ranges::equal(satirlar, olculenSatirlar_)) {
         sutunlarinEni_ = SutunlariOlc();
-    olculen_ = model.satirlar.Degisme();
+        olculenSatirlar_.assign(satirlar.begin(), satirlar.end());
+    }
+    olculen_ = satirlar.Degisme();
     return sutunlarinEni_;
 }
 

@@ -192,8 +192,7 @@ void AdListesi::Sirala() {
             adlar_.push_back({AnahtarYap(MetinHarfleri(okunan_ = Metni(ad))), i, false});
     }
     std::sort(adlar_.begin(), adlar_.end(), [this](const Ad& bir, const Ad& iki) {
-        const auto sira = bir.anahtar <=> iki.anahtar;
-        return sira == 0 ? Once(bir, iki) : sira < 0;
+        return bir.anahtar == iki.anahtar ? Once(bir, iki) : bir.anahtar < iki.anahtar;
     });
 }
 
@@ -228,8 +227,9 @@ std::optional<std::size_t> AdListesi::Bul(MetinBakis ad) const {
         return sonraki;
     const Anahtar anahtar = AnahtarYap(MetinHarfleri(ad));
     const auto yer = std::partition_point(adlar_.begin(), adlar_.end(), [&](const Ad& baska) {
-        const auto sira = baska.anahtar <=> anahtar;
-        return sira == 0 ? AdSirasi((*this)[static_cast<std::size_t>(&baska - adlar_.data())], ad) : sira < 0;
+        if (baska.anahtar != anahtar)
+            return baska.anahtar < anahtar;
+        return AdSirasi((*this)[static_cast<std::size_t>(&baska - adlar_.data())], ad);
     });
     auto sira = static_cast<std::size_t>(yer - adlar_.begin());
     const auto ayni = [&](std::size_t i) { return i < adlar_.size() && AyniAd((*this)[i], ad); };

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "storage/Metin.h"
@@ -51,7 +51,10 @@ class AdListesi {
         std::uint64_t bas;
         std::uint64_t orta;
         std::uint64_t son;
-        auto operator<=>(const Anahtar&) const = default;
+        bool operator==(const Anahtar&) const = default;
+        bool operator<(const Anahtar& iki) const {
+            return std::tie(bas, orta, son) < std::tie(iki.bas, iki.orta, iki.son);
+        }
     };
     static constexpr std::size_t kYok = static_cast<std::size_t>(-1);
     struct Yer {
