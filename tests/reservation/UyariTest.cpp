@@ -291,12 +291,13 @@ TEST_F(UyariTest, A_name_without_a_date_counts_the_days_of_the_name_before_it_on
 }
 
 TEST_F(UyariTest, A_name_without_a_date_counts_the_days_of_a_folder_before_it_in_which_nothing_is_near) {
-    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n");
+    agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n\"Salon C\"\r\n");
     RezervasyonKoy(u"17.06.2012 - Gece");
     KayitKoy(agac, u"Salon A/2013/17.06.2013 - Gece");
-    KayitKoy(agac, u"Salon B/2012/10.kopya");
     KayitKoy(agac, u"Salon B/2012/17.06.2012 - Gece");
     KayitKoy(agac, u"Salon B/2012/18.kopya");
+    KayitKoy(agac, u"Salon B/2013/17.06.2013 - Gece");
+    KayitKoy(agac, u"Salon C/2012/10.kopya");
     Prog();
     UyarilarOlmali({u"17.06.2012 - Gece Kesin", u"17.06.2012 - Gece Kesin", u"18.kopya Kesin"});
     EXPECT_EQ(Tablo().Liste.satirlar[1].sutun[1], u"Salon B") << "a day that was near before is near again";
