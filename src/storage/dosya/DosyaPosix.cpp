@@ -96,8 +96,12 @@ Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
 
 Klasor::~Klasor() = default;
 
+bool Klasor::Acildi() const {
+    return ic_->akis != nullptr;
+}
+
 bool Klasor::Sonraki(ListeOgesi& oge, Tur tur) {
-    for (errno = 0; const dirent* kayit = ic_->akis != nullptr ? ::readdir(ic_->akis) : nullptr; errno = 0) {
+    for (errno = 0; const dirent* kayit = Acildi() ? ::readdir(ic_->akis) : nullptr; errno = 0) {
         const bool baglanti = kayit->d_type == DT_LNK || kayit->d_type == DT_UNKNOWN;
         baglanti_ = baglanti_ || baglanti;
         if (!ic_->Bu(tur, *kayit))
@@ -112,19 +116,21 @@ bool Klasor::Sonraki(ListeOgesi& oge, Tur tur) {
 
 std::optional<Kimlik> Klasor::Sor(const AdHarfi* ad) const {
     struct stat bilgi {};
-    if (ic_->akis == nullptr || ::fstatat(::dirfd(ic_->akis), ad, &bilgi, 0) != 0)
+    if (!Acildi() || ::fstatat(::dirfd(ic_->akis), ad, &bilgi, 0) != 0)
         return {};
     return KimligiAl(bilgi);
 }
 
 std::optional<Kimlik> Klasor::Sor() const {
     struct stat bilgi {};
-    if (ic_->akis == nullptr || ::fstat(::dirfd(ic_->akis), &bilgi) != 0)
+    if (!Acildi() || ::fstat(::dirfd(ic_->akis), &bilgi) != 0)
         return {};
     return KimligiAl(bilgi);
 }
 
 std::optional<std::string_view> Klasor::Oku(const AdHarfi* ad, std::size_t enCok, std::string& tampon) const {
+    if (!Acildi())
+        return {};
     const Tanitici dosya(Sabirla([&] { return ::openat(::dirfd(ic_->akis), ad, kOkumaAcilisi); }));
     const int no = dosya.no;
     if (no < 0)

@@ -254,8 +254,12 @@ Klasor::Klasor(const std::filesystem::path& yol)
 
 Klasor::~Klasor() = default;
 
+bool Klasor::Acildi() const {
+    return ic_->klasor.no != INVALID_HANDLE_VALUE;
+}
+
 bool Klasor::Sonraki(ListeOgesi& siradaki, Tur tur) {
-    if (ic_->klasor.no == INVALID_HANDLE_VALUE)
+    if (!Acildi())
         return false;
     while (const FILE_ID_BOTH_DIR_INFO* oge = ic_->Al()) {
         const DiskAdi ad(static_cast<const wchar_t*>(oge->FileName), oge->FileNameLength / sizeof(wchar_t));

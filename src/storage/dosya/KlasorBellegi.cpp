@@ -32,8 +32,12 @@ std::unique_ptr<sistem::Gozcu> KlasorBellegi::Izlet(std::unique_ptr<sistem::Gozc
 }
 
 void KlasorBellegi::Tazele(const std::function<sistem::Klasor&()>& ac) {
-    if (gozcu_ == nullptr || !Degismedi())
-        Listele(ac());
+    const bool bilinir = gozcu_ != nullptr && Degismedi();
+    if (bilinir && tam_)
+        return;
+    sistem::Klasor& acik = ac();
+    Listele(acik);
+    tam_ = acik.Tam();
 }
 
 /// Whether it is sure that the folder is as it was when it was listed last. Files that may have changed are

@@ -92,6 +92,7 @@ class KlasorBellegi {
     std::unique_ptr<sistem::Gozcu> gozcu_;
     sistem::Kimlik kimlik_; // of the folder
     AdListesi adlar_;
+    bool tam_ = true; // the last listing came to its end
     static constexpr std::uint32_t kYok = UINT32_MAX;
     std::vector<std::uint32_t> kayitNo_;      // by the places of the names: in `kayitlar_`, or `kYok`
     std::vector<Kayit> kayitlar_;             // of those that were read

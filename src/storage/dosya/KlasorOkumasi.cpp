@@ -22,7 +22,8 @@ void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
 }
 
 sistem::Klasor& KlasorOkumasi::Acik() {
-    if (acik_ == nullptr)
+    // Known names don't need the folder; it is opened for the first file, and tried again when that failed.
+    if (acik_ == nullptr || !acik_->Acildi())
         acik_ = std::make_unique<sistem::Klasor>(bellek_->Klasor());
     return *acik_;
 }
@@ -63,13 +64,14 @@ std::optional<std::string_view> KlasorOkumasi::Oku(std::size_t sira) {
 }
 
 std::optional<std::string_view> KlasorOkumasi::BelleginOkumasi(std::size_t sira) {
+    const AdListesi& adlar = bellek_->Adlar(); // in their order, whether or not one was asked for before
     if (const auto bayt = bellek_->Bilinen(sira))
         return bayt;
     std::optional<sistem::Kimlik> kimlik;
     if (const auto bayt = bellek_->Hatirla(Acik(), sira, kimlik))
         return bayt;
     ++dosyalar_->okunan_;
-    const auto bayt = Acik().Oku(bellek_->Adlar().Diskteki(sira).data(), kEnUzunOkuma, tampon_);
+    const auto bayt = Acik().Oku(adlar.Diskteki(sira).data(), kEnUzunOkuma, tampon_);
     if (bayt)
         bellek_->Sakla(sira, *bayt, kimlik, sinir_);
     return bayt;

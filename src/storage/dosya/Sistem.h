@@ -102,11 +102,12 @@ struct Kimlik {
 /// A folder that is listed, and whose files are then asked about and read by name. Links are followed.
 class Klasor {
   public:
-    /// A folder that can't be opened lists nothing.
+    /// A folder that can't be opened lists nothing, and no file of it can be asked about or read.
     explicit Klasor(const std::filesystem::path& yol);
     Klasor(const Klasor&) = delete;
     Klasor& operator=(const Klasor&) = delete;
     ~Klasor();
+    bool Acildi() const;
 
     /// The next entry of this kind, in the order of the disk. Its name lasts until the next call. False after
     /// the last.

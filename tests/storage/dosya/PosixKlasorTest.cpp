@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "destek/YasliBellek.h"
 #include "storage/DosyaAgaci.h"
 #include "storage/dosya/OkumaBellegi.h"
 
@@ -19,6 +20,7 @@ namespace {
 // What the listing of a folder fails with; 0: it works.
 int acmaHatasi = 0;
 int okumaHatasi = 0;
+int hatasizOge = 0; // so many entries come before that
 
 template <class Cagri>
 Cagri* Asil(const char* ad) {
@@ -39,7 +41,7 @@ extern "C" DIR* opendir(const char* yol) {
 
 extern "C" dirent* readdir(DIR* akis) {
     static const auto asil = Asil<dirent*(DIR*)>("readdir");
-    if (okumaHatasi == 0)
+    if (okumaHatasi == 0 || hatasizOge-- > 0)
         return asil(akis);
     errno = okumaHatasi;
     return nullptr;
@@ -75,6 +77,18 @@ class DosyaKalmadi {
   private:
     rlimit eski_{};
 };
+
+/// A folder with twenty files, of which all but the last have been read, and which is watched.
+void IzlenenKlasorKoy(const DosyaAgaci& kok) {
+    test::BellekBeklemesin(kok.dosyalar);
+    for (int i = 10; i < 30; ++i)
+        kok.Koy(u"k/" + SayiMetni(i), std::to_string(i));
+    for (int kez = 0; kez < 3; ++kez) {
+        KlasorOkumasi okuma = kok.dosyalar.KlasorAc(kok.TamYol(u"k"));
+        for (std::size_t i = 0; i < 19; ++i)
+            EXPECT_TRUE(okuma.Oku(i));
+    }
+}
 
 Okunus Durumu(const DosyaAgaci& kok, MetinBakis ad) {
     return kok.dosyalar.SonucluOku(kok.TamYol(ad)).okunus;
@@ -191,6 +205,30 @@ TEST(PosixKlasor, A_listing_that_failed_is_neither_believed_nor_kept) {
     }
     EXPECT_EQ(kok.dosyalar.Oku(kok.TamYol(u"Salon.dat")), "x");
     EXPECT_EQ(Durumu(kok, u"Menuler.dat"), Okunus::Yok);
+}
+
+TEST(PosixKlasor, A_listing_that_broke_off_is_not_the_folder_for_who_watches_it) {
+    const DosyaAgaci kok;
+    IzlenenKlasorKoy(kok);
+    kok.Koy(u"k/30", "yeni");
+    okumaHatasi = EIO;
+    hatasizOge = 12;
+    EXPECT_LT(kok.dosyalar.Listele(kok.TamYol(u"k")).size(), 20U);
+    EXPECT_LT(hatasizOge, 0) << "it broke off";
+    okumaHatasi = 0;
+    EXPECT_EQ(kok.dosyalar.Listele(kok.TamYol(u"k")).size(), 21U) << "though nothing has changed since";
+}
+
+TEST(PosixKlasor, A_folder_known_by_its_names_that_cannot_be_opened_gives_its_files_once_it_can) {
+    const DosyaAgaci kok;
+    IzlenenKlasorKoy(kok);
+    acmaHatasi = EMFILE;
+    KlasorOkumasi okuma = kok.dosyalar.KlasorAc(kok.TamYol(u"k"));
+    ASSERT_EQ(okuma.Sayi(), 20U) << "nobody had to open it";
+    EXPECT_EQ(okuma.Oku(18), "28");
+    EXPECT_FALSE(okuma.Oku(19));
+    acmaHatasi = 0;
+    EXPECT_EQ(okuma.Oku(19), "29");
 }
 
 TEST(PosixKlasor, Where_nobody_may_list_a_name_has_no_other_spelling) {
