@@ -1,4 +1,6 @@
 // The panel of warnings: what is near, over the table.
+#include <algorithm>
+
 #include "reservation/KayitYukle.h"
 #include "reservation/Uyarilar.h"
 #include "screen/Program.h"
@@ -20,7 +22,10 @@ void FormTablo::UyariGoster() {
     for (const Metin& salon : Salon.ogeler)
         for (const Metin& yil : Sene.ogeler)
             tarama.KlasorEkle(salon, program_.agac.YilKlasoru(salon, yil));
-    Liste.satirlar = tarama.Satirlar();
+    // After a save they are nearly always the same: the list that stands is then neither made nor painted
+    // anew.
+    if (!std::ranges::equal(Liste.satirlar, tarama.Satirlar()))
+        Liste.satirlar = tarama.Satirlar();
     Liste.secili = -1;
     Liste.secimDugmeleri.Ac(false); // no row of the new list has been clicked yet
     if (!Liste.satirlar.empty())

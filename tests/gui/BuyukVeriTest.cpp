@@ -238,6 +238,9 @@ class BuyukVeriTest : public QObject {
         olcum->sayi = 0;
         Baglayici::HepsiniTazele();
         QCOMPARE(olcum->sayi, 0);
+        firma.Model().UyariGoster();
+        Baglayici::HepsiniTazele();
+        QVERIFY2(olcum->sayi == 0, "the same rows");
         firma.Rezervasyon(kSalonB, u"24.05.2026 - Gece", false);
         firma.Model().UyariGoster();
         Baglayici::HepsiniTazele();

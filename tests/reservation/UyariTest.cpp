@@ -53,6 +53,23 @@ TEST_F(UyariTest, No_row_of_a_new_list_has_been_clicked_so_its_button_waits) {
     EXPECT_EQ(Tablo().Liste.secili, -1);
 }
 
+TEST_F(UyariTest, The_same_rows_again_leave_the_list_as_it_stands_and_any_other_letter_makes_it_anew) {
+    RezervasyonKoy(u"16.06.2012 - Gece");
+    RezervasyonKoy(u"17.06.2012 - Gece");
+    Prog();
+    auto onceki = Tablo().Liste.satirlar.Degisme();
+    const auto degisti = [&] {
+        Tablo().UyariGoster();
+        const auto simdiki = Tablo().Liste.satirlar.Degisme();
+        return std::exchange(onceki, simdiki) != simdiki;
+    };
+    EXPECT_FALSE(degisti());
+    RezervasyonKoy(u"17.06.2012 - Gece", {.ad = u"Başka Biri"});
+    EXPECT_TRUE(degisti());
+    EXPECT_EQ(Tablo().Liste.satirlar[1].sutun[2], u"Başka Biri");
+    EXPECT_FALSE(degisti());
+}
+
 TEST_F(UyariTest, A_row_tells_day_hall_customer_couple_telephones_and_kind) {
     agac.KoyMetin(u"Salon A/2012/16.06.2012 - Gece",
                   u"\"Ali\",\"Bolu\",\"Elif / Can\",\"Düğün\",\"0212\",\"0532\",\"\",\"\",\"\",\"\",\"\","

@@ -130,11 +130,7 @@ int UyariPaneli::SutunlarinEni(const ListeGorunumu& model) {
     const auto& satirlar = model.satirlar;
     if (olculen_ == satirlar.Degisme())
         return sutunlarinEni_;
-    // After a save they are listed anew, and nearly always they are the same.
-    if (!olculen_ || !std::ranges::equal(satirlar, olculenSatirlar_)) {
-        sutunlarinEni_ = SutunlariOlc();
-        olculenSatirlar_.assign(satirlar.begin(), satirlar.end());
-    }
+    sutunlarinEni_ = SutunlariOlc();
     olculen_ = satirlar.Degisme();
     return sutunlarinEni_;
 }

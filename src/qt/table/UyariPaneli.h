@@ -43,7 +43,6 @@ class UyariPaneli : public QFrame {
     QPushButton* detaylar_;
     QPushButton* kapat_;
     std::optional<std::uint64_t> olculen_; // the rows that `sutunlarinEni_` is of
-    std::vector<ListeSatiri> olculenSatirlar_;
     int sutunlarinEni_ = 0;
 };
 
