@@ -133,16 +133,17 @@ bool FormBakiye::Tara(Toplamlar& toplamlar) {
     AnaSecimi ana;
     DetaySecimi detay;
     KlasorOkumasi okuma = program_.dosyalar.KlasorAc(klasor);
+    Metin ad; // kept for its memory
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
-        if (!GunDosyasiDeseni(okuma[i]) || EslikDosyasi(okuma[i]))
+        if (EslikDosyasi(okuma, i) || !GunDosyasiDeseni(okuma[i]))
             continue;
-        const Metin ad(okuma[i]);
+        ad = okuma[i];
         const auto gun = TarihCoz(Parca(ad, 1, kTarihUzunlugu));
         if (!gun)
             return false;
         if (*gun < DTPicker1.deger || *gun > DTPicker2.deger)
             continue;
-        if (!Al(okuma.Oku(i), ana) || !Al(okuma.Oku(ad + Metin(kDetayEki)), detay))
+        if (!Al(okuma.Oku(i), ana) || !Al(okuma.EsiniOku(i, kDetayEki), detay))
             return false;
         if (!Istenen(detay))
             continue;
@@ -171,13 +172,13 @@ bool FormBakiye::Istenen(const DetaySecimi& detay) const {
     return true;
 }
 
-void FormBakiye::SatirEkle(MetinBakis ad, const Metin& yol, const AnaSecimi& ana, const DetaySecimi& detay) {
+void FormBakiye::SatirEkle(MetinBakis ad, Metin yol, const AnaSecimi& ana, const DetaySecimi& detay) {
     Liste.satirlar.push_back(
         {.sutun = Sutunlar(Parca(ad, 1, kGunAdiUzunlugu), ana.No(AnaNo::AdiSoyadi),
                            ana.No(AnaNo::ToplamUcret), ana.No(AnaNo::AlinanOdeme), ana.No(AnaNo::KalanOdeme),
                            OnMu(detay) ? kOn : kKesin, Combo2.Metni(), ana.No(AnaNo::Niteligi),
                            ana.No(AnaNo::DavetliSayisi), ana.No(AnaNo::OnAciklama)),
-         .tag = yol});
+         .tag = std::move(yol)});
 }
 
 void FormBakiye::ToplamlariGoster(const Toplamlar& toplamlar) {

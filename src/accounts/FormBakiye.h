@@ -78,7 +78,7 @@ struct FormBakiye {
     using DetaySecimi = SecilenDegerler<DetayNo::KesinRezervasyon, DetayNo::OnRezervasyon>;
     static bool OnMu(const DetaySecimi& detay);
     bool Istenen(const DetaySecimi& detay) const;
-    void SatirEkle(MetinBakis ad, const Metin& yol, const AnaSecimi& ana, const DetaySecimi& detay);
+    void SatirEkle(MetinBakis ad, Metin yol, const AnaSecimi& ana, const DetaySecimi& detay);
     void ToplamlariGoster(const Toplamlar& toplamlar);
     void Say();
 

@@ -47,6 +47,8 @@ void UyariTaramasi::KlasorEkle(const Metin& salon, const Metin& klasor) {
     if (!Onemli(okuma))
         return;
     for (std::size_t i = 0; i < okuma.Sayi(); ++i) {
+        if (!KalanYakin(kalan_) && okuma.BasiAyni(i, kTarihUzunlugu))
+            continue; // not near, as the one before it
         const MetinBakis bakilan = okuma[i];
         if (!GunDosyasiDeseni(bakilan) || !Yakin(bakilan))
             continue;
@@ -95,8 +97,7 @@ bool UyariTaramasi::Yakin(MetinBakis ad) {
 
 void UyariTaramasi::Oku(KlasorOkumasi& okuma, std::size_t sira) {
     Yurut(ana_, okuma, sira, [](KlasorOkumasi& o, std::size_t i) { return o.Oku(i); });
-    Yurut(detay_, okuma, sira,
-          [](KlasorOkumasi& o, std::size_t i) { return o.Oku(Metin(o[i]) + Metin(kDetayEki)); });
+    Yurut(detay_, okuma, sira, [](KlasorOkumasi& o, std::size_t i) { return o.EsiniOku(i, kDetayEki); });
     ilk_ = {klasorler_.size() - 1, sira + 1};
 }
 

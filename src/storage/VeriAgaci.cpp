@@ -5,6 +5,8 @@
 namespace velora {
 namespace {
 
+constexpr std::array<MetinBakis, 2> kEslikSonlari{u"Detay", u"Odeme"};
+
 /// A name that holds the separator stays one name: as "/" no system takes it, so that such a path is refused.
 Metin Ekle(MetinBakis klasor, MetinBakis ad) {
     Metin yol;
@@ -52,7 +54,12 @@ GunduzGece AnahtarDilimi(MetinBakis ad) {
 }
 
 bool EslikDosyasi(MetinBakis ad) {
-    return ad.ends_with(u"Detay") || ad.ends_with(u"Odeme");
+    return std::ranges::any_of(kEslikSonlari, [&](MetinBakis son) { return ad.ends_with(son); });
+}
+
+bool EslikDosyasi(const KlasorOkumasi& okuma, std::size_t sira) {
+    return std::ranges::any_of(kEslikSonlari, [&](MetinBakis son) { return okuma.Biter(sira, son); }) ||
+           EslikDosyasi(okuma[sira]);
 }
 
 bool GunDosyasiDeseni(MetinBakis ad) {

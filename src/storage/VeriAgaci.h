@@ -38,6 +38,8 @@ GunduzGece AnahtarDilimi(MetinBakis ad);
 
 /// True for names that end in "Detay" or "Odeme": never a main record.
 bool EslikDosyasi(MetinBakis ad);
+/// The same of a name in a folder. One that ends so needn't become a text.
+bool EslikDosyasi(const KlasorOkumasi& okuma, std::size_t sira);
 
 /// The pattern "0?.*;1?.*;2?.*;3?.*": a digit from 0 to 3, one further character, a dot, anything.
 bool GunDosyasiDeseni(MetinBakis ad);

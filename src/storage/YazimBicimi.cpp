@@ -43,7 +43,7 @@ const char* TirnakBul(const char* yer, const char* son) {
 }
 
 /// From behind the opening quote: the value, and `yer` behind its separator.
-std::string_view TirnakliAl(const char*& yer, const char* son) {
+inline std::string_view TirnakliAl(const char*& yer, const char* son) {
     const char* const bas = yer;
     const char* const bitis = TirnakBul(yer, son);
     yer = bitis == son ? son : bitis + 1;
@@ -64,9 +64,27 @@ std::string_view CiplakAl(const char*& yer, const char* son) {
     return {bas, static_cast<std::size_t>(bitis - bas)};
 }
 
+/// Steps past one value that is a bare digit or nothing within quotes, on a line of its own, from the LF
+/// before it to the CR behind it: so are most of those that are passed over. False, and no step, for others.
+inline bool KisaSatirGec(const char*& yer, const char* son) {
+    constexpr std::ptrdiff_t kEnUzun = 4;
+    if (son - yer < kEnUzun || yer[0] != '\n')
+        return false;
+    const bool rakam = '0' <= yer[1] && yer[1] <= '9';
+    const std::ptrdiff_t bitis = rakam ? 2 : 3;
+    if (yer[bitis] != '\r' || (!rakam && (yer[1] != '"' || yer[2] != '"')))
+        return false;
+    yer += bitis + 1;
+    return true;
+}
+
 /// One value from within [yer, son). False at the end.
 inline bool Al(const char*& yer, const char* son, std::string_view& deger) {
-    yer = BasiGec(yer, son);
+    // Nearly each value begins right behind the separator of the one before, or behind the LF of its CR LF.
+    if (yer != son && *yer == '\n')
+        ++yer;
+    if (yer == son || *yer != '"')
+        yer = BasiGec(yer, son);
     if (yer == son)
         return false;
     deger = *yer == '"' ? TirnakliAl(++yer, son) : CiplakAl(yer, son);
@@ -96,7 +114,7 @@ int DegerOkuyucu::Atla(int adet) {
     const char* yer = yer_;
     std::string_view deger;
     int atlanan = 0;
-    while (atlanan < adet && Al(yer, son_, deger))
+    while (atlanan < adet && (KisaSatirGec(yer, son_) || Al(yer, son_, deger)))
         ++atlanan;
     yer_ = yer;
     return atlanan;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <vector>
 
 namespace velora {
@@ -164,6 +166,35 @@ TEST(DegerOkuyucu, Passing_over_values_tells_how_many_there_were) {
     EXPECT_EQ(deger, "3");
     EXPECT_EQ(okuyucu.Atla(5), 0);
     EXPECT_EQ(okuyucu.Atla(-1), 0);
+}
+
+TEST(DegerOkuyucu, Passing_over_values_ends_where_reading_them_does) {
+    std::mt19937 rastgele(56);
+    const std::vector<std::string_view> parcalar{"\r\n",  "\r\n", "\n", "\r",    "\"\"", "\"\"",
+                                                 "\"a\"", "\"",   "0",  "1",     "a",    "12",
+                                                 ",",     " ",    "\t", "\"1\" "};
+    std::uniform_int_distribution<std::size_t> parca(0, parcalar.size() - 1);
+    int enCok = 0;
+    for (int tur = 0; tur < 5000; ++tur) {
+        std::string bayt;
+        for (int i = 0; i < 12; ++i)
+            bayt += parcalar[parca(rastgele)];
+        DegerOkuyucu okuyan(bayt);
+        std::string_view deger;
+        for (int adet = 0;; ++adet) {
+            DegerOkuyucu gecen(bayt);
+            ASSERT_EQ(gecen.Atla(adet), adet);
+            std::string_view siradaki;
+            const bool var = gecen.Oku(siradaki);
+            ASSERT_EQ(okuyan.Oku(deger), var) << bayt;
+            enCok = std::max(enCok, adet);
+            if (!var)
+                break;
+            ASSERT_EQ(static_cast<const void*>(siradaki.data()), deger.data()) << bayt;
+            ASSERT_EQ(siradaki, deger) << bayt;
+        }
+    }
+    EXPECT_GT(enCok, 8);
 }
 
 TEST(DegerYazici, Two_texts_and_two_checks_yield_one_line) {

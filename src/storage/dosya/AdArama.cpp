@@ -51,7 +51,8 @@ std::filesystem::path AdArama::Coz(const std::filesystem::path& kok,
     for (std::size_t i = 0; i < adlar.size(); ++i) {
         const sistem::Tur buTur = i + 1 < adlar.size() ? sistem::Tur::Klasor : tur;
         std::filesystem::path ad = adlar[i];
-        if (var && !sistem::Var(yol / ad, buTur)) {
+        const bool sorulan = i + 1 == adlar.size() && yol / ad == tam; // and it isn't there
+        if (var && (sorulan || !sistem::Var(yol / ad, buTur))) {
             const auto bulunan = Bul({yol, buTur}, ad);
             var = bulunan.has_value();
             ad = bulunan.value_or(ad);

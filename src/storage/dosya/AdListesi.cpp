@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
+#include <bit>
+#include <cstring>
 
 #include "storage/Harf.h"
 #include "storage/dosya/AdBicimi.h"
@@ -14,11 +15,8 @@ namespace {
 using sistem::AdHarfi;
 using sistem::DiskAdi;
 
-constexpr std::size_t kAnahtarBoyu = 24; // the name of a day's companion fits in
-constexpr char16_t kTasan = 0xFF;
-
-constexpr std::array<char16_t, kTasan> kSira = [] {
-    std::array<char16_t, kTasan> sira{};
+constexpr std::array<char16_t, 0xFF> kSira = [] {
+    std::array<char16_t, 0xFF> sira{};
     for (std::size_t i = 0; i < sira.size(); ++i)
         sira[i] = SikSiraHarfi(static_cast<char16_t>(i));
     return sira;
@@ -29,23 +27,47 @@ char16_t Sira(char16_t harf) {
 }
 
 constexpr unsigned kIlkUzun = 0x80;
-static_assert(std::all_of(kSira.begin(), kSira.begin() + kIlkUzun, [](char16_t s) { return s < kIlkUzun; }));
 
 template <class Birim>
 unsigned Kod(Birim harf) {
     return static_cast<std::make_unsigned_t<Birim>>(harf);
 }
 
-/// Takes the letters of seven bits from the front of a name, and says how many there were: of nearly all
-/// names these are nearly all.
-template <class Bakis>
-std::size_t KisalariAl(Bakis& kalan, std::span<std::uint8_t> siralar) {
-    const std::size_t enCok = std::min(kalan.size(), siralar.size());
-    std::size_t adet = 0;
-    for (; adet < enCok && Kod(kalan[adet]) < kIlkUzun; ++adet)
-        siralar[adet] = static_cast<std::uint8_t>(kSira[Kod(kalan[adet])]);
-    kalan.remove_prefix(adet);
-    return adet;
+constexpr std::size_t kSekizli = sizeof(std::uint64_t);
+
+constexpr std::uint64_t Hepsinde(std::uint64_t bayt) {
+    return bayt * 0x0101010101010101U;
+}
+constexpr std::uint64_t kHepsi = ~std::uint64_t{0};
+constexpr std::uint64_t kUstBitler = Hepsinde(kIlkUzun);
+
+/// Eight bytes as one number, the first of them the highest.
+std::uint64_t SekizAl(const void* baytlar) {
+    std::uint64_t sayi = 0;
+    std::memcpy(&sayi, baytlar, sizeof sayi);
+    if constexpr (std::endian::native == std::endian::little) {
+        sayi = (sayi & 0x00FF00FF00FF00FFU) << 8U | (sayi >> 8U & 0x00FF00FF00FF00FFU);
+        sayi = (sayi & 0x0000FFFF0000FFFFU) << 16U | (sayi >> 16U & 0x0000FFFF0000FFFFU);
+        sayi = sayi << 32U | sayi >> 32U;
+    }
+    return sayi;
+}
+
+/// All bits of so many bytes, from the highest on.
+constexpr std::uint64_t IlkBaytlar(std::ptrdiff_t adet) {
+    const auto bos = static_cast<unsigned>(kSekizli - std::clamp<std::ptrdiff_t>(adet, 0, kSekizli));
+    return bos == kSekizli ? 0 : kHepsi << 8U * bos;
+}
+
+/// The highest bit of each byte that is this one.
+constexpr std::uint64_t Esitler(std::uint64_t baytlar, std::uint64_t aranan) {
+    const std::uint64_t fark = baytlar ^ Hepsinde(aranan);
+    return ~(((fark & ~kUstBitler) + ~kUstBitler) | fark) & kUstBitler;
+}
+
+/// Of each byte of seven bits that is at least this, the highest bit.
+constexpr std::uint64_t EnAz(std::uint64_t baytlar, std::uint64_t sinir) {
+    return baytlar + Hepsinde(kIlkUzun - sinir);
 }
 
 /// The letters of a name on the disk, one after the other: of one in which each stands for itself, be it in
@@ -55,7 +77,6 @@ class Harfler {
     explicit Harfler(DiskAdi ad) : kalan_(ad) {}
 
     bool Bitti() const { return kalan_.empty(); }
-    std::size_t Kisalar(std::span<std::uint8_t> siralar) { return KisalariAl(kalan_, siralar); }
     char16_t Al() {
         constexpr unsigned kDevamBiti = 6;
         constexpr unsigned kDevam = (1U << kDevamBiti) - 1;
@@ -102,7 +123,6 @@ class MetinHarfleri {
   public:
     explicit MetinHarfleri(MetinBakis metin) : kalan_(metin) {}
     bool Bitti() const { return kalan_.empty(); }
-    std::size_t Kisalar(std::span<std::uint8_t> siralar) { return KisalariAl(kalan_, siralar); }
     char16_t Al() {
         const char16_t harf = kalan_.front();
         kalan_.remove_prefix(1);
@@ -118,6 +138,13 @@ Metin Metni(DiskAdi ad) {
     sistem::AdiCoz(ad, metin);
     AdDuzelt(metin);
     return metin;
+}
+
+/// Whether a name ends with these letters of seven bits.
+bool KisaBiter(DiskAdi ad, MetinBakis son) {
+    return ad.size() >= son.size() &&
+           std::equal(son.begin(), son.end(), ad.end() - static_cast<std::ptrdiff_t>(son.size()),
+                      [](char16_t harf, AdHarfi disk) { return harf == Kod(disk); });
 }
 
 /// Less, equal or more than 0 as `AdSirasi` has it, but that names which differ only in case are equal.
@@ -146,24 +173,67 @@ bool AdSirasi(MetinBakis bir, MetinBakis iki) {
     return bir.size() != iki.size() ? bir.size() < iki.size() : bir < iki;
 }
 
-/// Letters beyond one byte share the highest value, and what stands behind the first of them may not count
-/// any more. Such names come out equal and are compared in full.
+/// The letters as UTF-8 has them, each unit of 16 bits for itself: such bytes order as the letters do. What
+/// goes beyond the key doesn't count: names that come out equal are compared in full.
 template <class Okuyan>
 AdListesi::Anahtar AdListesi::AnahtarYap(Okuyan harfler) {
-    std::array<std::uint8_t, kAnahtarBoyu> siralar{};
-    for (std::size_t i = harfler.Kisalar(siralar); i < siralar.size() && !harfler.Bitti(); ++i) {
-        const char16_t harf = Sira(harfler.Al());
-        siralar[i] = static_cast<std::uint8_t>(std::min(harf, kTasan));
-        if (harf >= kTasan)
-            break;
-    }
-    const auto sekizi = [&](std::size_t bas) {
-        std::uint64_t sayi = 0;
-        for (std::size_t i = bas; i < bas + kAnahtarBoyu / 3; ++i)
-            sayi = sayi << 8U | siralar[i];
-        return sayi;
+    constexpr unsigned kIkiBayt = 0xC0;
+    constexpr unsigned kUcBayt = 0xE0;
+    constexpr unsigned kIlkUcBaytli = 0x800;
+    constexpr unsigned kDevamBiti = 6;
+    std::array<std::uint8_t, 3 * kSekizli> baytlar{};
+    std::size_t dolu = 0;
+    const auto koy = [&](unsigned bayt) {
+        if (dolu < baytlar.size())
+            baytlar[dolu++] = static_cast<std::uint8_t>(bayt);
     };
-    return {sekizi(0), sekizi(kAnahtarBoyu / 3), sekizi(kAnahtarBoyu / 3 * 2)};
+    const auto devamKoy = [&](unsigned bitler) { koy(kIlkUzun | (bitler & ((1U << kDevamBiti) - 1))); };
+    while (dolu < baytlar.size() && !harfler.Bitti()) {
+        const unsigned harf = Sira(harfler.Al());
+        if (harf < kIlkUzun) {
+            koy(harf);
+        } else if (harf < kIlkUcBaytli) {
+            koy(kIkiBayt | harf >> kDevamBiti);
+            devamKoy(harf);
+        } else {
+            koy(kUcBayt | harf >> 2 * kDevamBiti);
+            devamKoy(harf >> kDevamBiti);
+            devamKoy(harf);
+        }
+    }
+    return {SekizAl(baytlar.data()), SekizAl(baytlar.data() + kSekizli),
+            SekizAl(baytlar.data() + 2 * kSekizli)};
+}
+
+/// The same key of a name as this program makes them: letters of seven bits and those up to ÿ that UTF-8
+/// begins with C3. Nothing for others, for longer ones, and for one behind which there is too little to read
+/// it by eights. No byte asks for a branch: thousands of names in no order would have it guessed wrong.
+std::optional<AdListesi::Anahtar> AdListesi::HizliAnahtar(const Yer& ad) const {
+    constexpr std::size_t kParca = 4;
+    if (sizeof(AdHarfi) > 1 || ad.uzunluk > kParca * kSekizli || harfler_.size() - ad.bas < kParca * kSekizli)
+        return {};
+    std::array<std::uint64_t, kParca> parcalar{};
+    std::uint64_t ilkler = 0; // of the part before
+    std::uint64_t yabanci = 0;
+    for (std::size_t i = 0; i < kParca; ++i) {
+        // Of each byte only the highest bit tells, here as in all masks.
+        const std::uint64_t baytlari =
+            SekizAl(harfler_.data() + ad.bas + i * kSekizli) &
+            IlkBaytlar(static_cast<std::ptrdiff_t>(ad.uzunluk) - static_cast<std::ptrdiff_t>(i * kSekizli));
+        const std::uint64_t ilk = Esitler(baytlari, 0xC3);
+        const std::uint64_t devam = ilk >> 8U | ilkler << 56U;
+        ilkler = ilk;
+        yabanci |= (baytlari ^ (ilk | devam)) & kUstBitler;
+        yabanci |= devam & (ilk | baytlari << 1U | Esitler(baytlari, 0xBF));
+        const std::uint64_t kisa = baytlari & ~kUstBitler;
+        const std::uint64_t kucuk = EnAz(kisa, 'a') & ~EnAz(kisa, 'z' + 1) & ~baytlari;
+        const std::uint64_t ikinci = devam & EnAz(kisa, 0x20) & ~Esitler(baytlari, 0xB7);
+        // What a small letter is more than its capital.
+        parcalar[i] = baytlari - (((kucuk | ikinci) & kUstBitler) >> 2U);
+    }
+    if (yabanci != 0 || ilkler != 0)
+        return {};
+    return Anahtar{parcalar[0], parcalar[1], parcalar[2]};
 }
 
 void AdListesi::Ekle(const sistem::ListeOgesi& oge) {
@@ -186,7 +256,9 @@ void AdListesi::Sirala() {
     adlar_.reserve(gelenler_.size());
     for (std::uint32_t i = 0; i < gelenler_.size(); ++i) {
         const DiskAdi ad = Bakis(gelenler_[i]);
-        if (Harfler::Sade(ad))
+        if (const auto anahtar = HizliAnahtar(gelenler_[i]))
+            adlar_.push_back({*anahtar, i, true});
+        else if (Harfler::Sade(ad))
             adlar_.push_back({AnahtarYap(Harfler(ad)), i, true});
         else
             adlar_.push_back({AnahtarYap(MetinHarfleri(okunan_ = Metni(ad))), i, false});
@@ -218,6 +290,26 @@ MetinBakis AdListesi::operator[](std::size_t i) const {
         AdDuzelt(okunan_);
     okunanSira_ = i;
     return okunan_;
+}
+
+bool AdListesi::Biter(std::size_t i, MetinBakis son) const {
+    return KisaBiter(Diskteki(i), son);
+}
+
+bool AdListesi::EsiArkada(std::size_t i, MetinBakis ek) const {
+    if (i + 1 >= adlar_.size() || !adlar_[i].sade || !adlar_[i + 1].sade)
+        return false;
+    const DiskAdi ad = Diskteki(i);
+    const DiskAdi sonraki = Diskteki(i + 1);
+    return sonraki.size() == ad.size() + ek.size() && KisaBiter(sonraki, ek) && sonraki.starts_with(ad);
+}
+
+bool AdListesi::BasiAyni(std::size_t i, std::size_t boy) const {
+    if (i == 0)
+        return false;
+    const DiskAdi bas = Diskteki(i).substr(0, boy);
+    return bas.size() == boy && Diskteki(i - 1).starts_with(bas) &&
+           std::ranges::all_of(bas, [](AdHarfi harf) { return Kod(harf) < kIlkUzun; });
 }
 
 std::optional<std::size_t> AdListesi::Bul(MetinBakis ad) const {

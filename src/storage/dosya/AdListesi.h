@@ -30,6 +30,17 @@ class AdListesi {
     /// The number of its file, 0 for none.
     std::uint64_t No(std::size_t i) const { return gelenler_[adlar_[i].gelen].no; }
 
+    /// Whether the `i`th ends with these letters of seven bits. That costs no text.
+    bool Biter(std::size_t i, MetinBakis son) const;
+
+    /// Whether the one behind the `i`th is surely called as that one and with these letters of seven bits
+    /// behind it. Neither becomes a text.
+    bool EsiArkada(std::size_t i, MetinBakis ek) const;
+
+    /// Whether the `i`th has the same first letters as the one before it, all of them of seven bits. That
+    /// costs none either: it spares who goes by these letters alone the names of a day behind the first.
+    bool BasiAyni(std::size_t i, std::size_t boy) const;
+
     /// Whether this one was added as the `i`th, whatever its place is by now.
     bool Gelen(std::size_t i, const sistem::ListeOgesi& oge) const {
         return i < gelenler_.size() && gelenler_[i].no == oge.no && Bakis(gelenler_[i]) == oge.ad;
@@ -46,7 +57,7 @@ class AdListesi {
     std::size_t Bayt() const;
 
   private:
-    /// Eight letters each.
+    /// Eight bytes each: the name of a day's companion fits in as far as it differs from the others.
     struct Anahtar {
         std::uint64_t bas;
         std::uint64_t orta;
@@ -74,6 +85,7 @@ class AdListesi {
     sistem::DiskAdi Bakis(const Ad& ad) const { return Bakis(gelenler_[ad.gelen]); }
     template <class Okuyan>
     static Anahtar AnahtarYap(Okuyan harfler);
+    std::optional<Anahtar> HizliAnahtar(const Yer& ad) const;
     bool Once(const Ad& bir, const Ad& iki) const;
 
     std::basic_string<sistem::AdHarfi> harfler_; // with a zero behind each

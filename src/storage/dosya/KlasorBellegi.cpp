@@ -86,6 +86,7 @@ void KlasorBellegi::Listele(sistem::Klasor& acik) {
 void KlasorBellegi::AdlariDegistir(AdListesi yeni) {
     std::vector<std::uint32_t> kayitNo(yeni.Sayi(), kYok);
     std::vector<Kayit> kayitlar;
+    std::vector<sistem::Kimlik> kimlikler;
     if (saklanan_ > 0) {
         yeni.Sirala();
         std::unordered_map<sistem::DiskAdi, std::size_t> yerler;
@@ -96,27 +97,41 @@ void KlasorBellegi::AdlariDegistir(AdListesi yeni) {
                 continue;
             Kayit& kayit = kayitlar_[kayitNo_[i]];
             const auto yer = yerler.find(adlar_.Diskteki(i));
-            if (yer == yerler.end()) {
-                Birak(kayit);
+            if (yer == yerler.end() || yeni.No(yer->second) != adlar_.No(i)) {
+                Birak(kayit); // gone, or another file has its name
             } else if (kayit.var) {
                 kayitNo[yer->second] = static_cast<std::uint32_t>(kayitlar.size());
                 kayitlar.push_back(kayit);
+                if (kayit.kimlikli) {
+                    kimlikler.resize(kayitlar.size());
+                    kimlikler.back() = Kimligi(kayit);
+                }
             }
         }
     }
     adlar_ = std::move(yeni);
     kayitNo_ = std::move(kayitNo);
     kayitlar_ = std::move(kayitlar);
+    kimlikler_ = std::move(kimlikler);
 }
 
-bool KlasorBellegi::Taze(Kayit& kayit, const sistem::Kimlik& simdi) const {
-    if (kayit.kimlik)
-        return simdi == *kayit.kimlik;
+/// The place for what the system tells of a file that was read.
+sistem::Kimlik& KlasorBellegi::Kimligi(const Kayit& kayit) {
+    const auto no = static_cast<std::size_t>(&kayit - kayitlar_.data());
+    if (no >= kimlikler_.size())
+        kimlikler_.resize(kayitlar_.size());
+    return kimlikler_[no];
+}
+
+bool KlasorBellegi::Taze(std::size_t sira, Kayit& kayit, const sistem::Kimlik& simdi) {
+    if (kayit.kimlikli)
+        return simdi == Kimligi(kayit);
     // Nobody asked about it when it was read. It was this file, and it hasn't been touched since before then.
-    if (simdi.disk != kimlik_.disk || simdi.no != kayit.no || simdi.boy != kayit.bayt.size() ||
+    if (simdi.disk != kimlik_.disk || simdi.no != adlar_.No(sira) || simdi.boy != kayit.boy ||
         !Eski(simdi, kayit.sinir))
         return false;
-    kayit.kimlik = simdi;
+    kayit.kimlikli = true;
+    Kimligi(kayit) = simdi;
     return true;
 }
 
@@ -124,7 +139,7 @@ std::optional<std::string_view> KlasorBellegi::Bilinen(std::size_t sira) {
     const Kayit* kayit = Bul(sira);
     if (kayit == nullptr || kayit->sorulsun)
         return {};
-    return kayit->bayt;
+    return kayit->Bayt();
 }
 
 std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& acik, std::size_t sira,
@@ -133,11 +148,11 @@ std::optional<std::string_view> KlasorBellegi::Hatirla(const sistem::Klasor& aci
     if (kayit == nullptr && adlar_.No(sira) != 0)
         return {};
     simdi = acik.Sor(adlar_.Diskteki(sira).data());
-    if (kayit == nullptr || !simdi || !Taze(*kayit, *simdi))
+    if (kayit == nullptr || !simdi || !Taze(sira, *kayit, *simdi))
         return {};
     // Where a link leads to nobody watches.
     kayit->sorulsun = gozcu_ == nullptr || adlar_.No(sira) == 0;
-    return kayit->bayt;
+    return kayit->Bayt();
 }
 
 bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt,
@@ -155,8 +170,14 @@ bool KlasorBellegi::Sakla(std::size_t sira, std::string_view bayt,
         kayitlar_.emplace_back();
         kayitNo_[sira] = static_cast<std::uint32_t>(kayitlar_.size() - 1);
     }
-    kayitlar_[kayitNo_[sira]] = {
-        .kimlik = kimlik, .no = adlar_.No(sira), .sinir = sinir, .bayt = Yerlestir(bayt), .var = true};
+    Kayit& kayit = kayitlar_[kayitNo_[sira]];
+    kayit = {.sinir = sinir,
+             .bas = Yerlestir(bayt),
+             .boy = static_cast<std::uint32_t>(bayt.size()),
+             .var = true,
+             .kimlikli = kimlik.has_value()};
+    if (kimlik)
+        Kimligi(kayit) = *kimlik;
     ++saklanan_;
     kullanilan_ += bayt.size();
     return true;
@@ -180,12 +201,12 @@ void KlasorBellegi::Birak(Kayit& kayit) {
     if (!std::exchange(kayit.var, false))
         return;
     --saklanan_;
-    kullanilan_ -= kayit.bayt.size();
+    kullanilan_ -= kayit.boy;
 }
 
 /// Copies the bytes to where they stay. The pieces grow with what there is: a folder of which a few files are
 /// wanted takes little, and none is ever moved for more room.
-std::string_view KlasorBellegi::Yerlestir(std::string_view bayt) {
+const char* KlasorBellegi::Yerlestir(std::string_view bayt) {
     if (parcalar_.empty() || parcalar_.back().capacity() - parcalar_.back().size() < bayt.size()) {
         std::vector<char> parca;
         parca.reserve(std::max(bayt.size(), std::clamp(tutulan_, kEnKucukParca, kEnBuyukParca)));
@@ -195,7 +216,7 @@ std::string_view KlasorBellegi::Yerlestir(std::string_view bayt) {
     std::vector<char>& parca = parcalar_.back();
     const std::size_t bas = parca.size();
     parca.insert(parca.end(), bayt.begin(), bayt.end());
-    return {parca.data() + bas, bayt.size()};
+    return parca.data() + bas;
 }
 
 /// Gives back the room of what isn't kept any more.
@@ -203,12 +224,12 @@ void KlasorBellegi::Sikistir() {
     const std::vector<std::vector<char>> eski = std::exchange(parcalar_, {});
     tutulan_ = 0;
     for (Kayit& kayit : kayitlar_)
-        kayit.bayt = kayit.var ? Yerlestir(kayit.bayt) : std::string_view();
+        kayit.bas = kayit.var ? Yerlestir(kayit.Bayt()) : nullptr;
 }
 
 std::size_t KlasorBellegi::Bayt() const {
     return adlar_.Bayt() + kayitNo_.capacity() * sizeof(kYok) + kayitlar_.capacity() * sizeof(Kayit) +
-           tutulan_;
+           kimlikler_.capacity() * sizeof(sistem::Kimlik) + tutulan_;
 }
 
 } // namespace velora

@@ -70,22 +70,27 @@ class KlasorBellegi {
     std::size_t Bayt() const;
 
   private:
+    /// A first reading makes thousands of them: small, they leave the system more of the processor's nearest
+    /// memory for its own.
     struct Kayit {
-        std::optional<sistem::Kimlik> kimlik = {}; ///< none: nobody has asked about it yet
-        std::uint64_t no = 0;                      ///< in the listing when it was read
         SistemAni sinir = {};
-        std::string_view bayt = {}; ///< in `parcalar_`
+        const char* bas = nullptr; ///< in `parcalar_`
+        std::uint32_t boy = 0;     ///< bytes
         bool var = false;
-        bool sorulsun = true; ///< nobody watches, or he has told of a change since
+        bool kimlikli = false; ///< it was asked about: `kimlikler_` has what the system told
+        bool sorulsun = true;  ///< nobody watches, or he has told of a change since
+
+        std::string_view Bayt() const { return {bas, boy}; }
     };
 
     bool Degismedi();
     void Listele(sistem::Klasor& acik);
     void AdlariDegistir(AdListesi yeni);
-    bool Taze(Kayit& kayit, const sistem::Kimlik& simdi) const;
+    bool Taze(std::size_t sira, Kayit& kayit, const sistem::Kimlik& simdi);
+    sistem::Kimlik& Kimligi(const Kayit& kayit);
     Kayit* Bul(std::size_t sira);
     void Birak(Kayit& kayit);
-    std::string_view Yerlestir(std::string_view bayt);
+    const char* Yerlestir(std::string_view bayt);
     void Sikistir();
 
     std::filesystem::path klasor_;
@@ -96,6 +101,7 @@ class KlasorBellegi {
     static constexpr std::uint32_t kYok = UINT32_MAX;
     std::vector<std::uint32_t> kayitNo_;      // by the places of the names: in `kayitlar_`, or `kYok`
     std::vector<Kayit> kayitlar_;             // of those that were read
+    std::vector<sistem::Kimlik> kimlikler_;   // by the places of those, as far as one of them was asked about
     std::vector<std::vector<char>> parcalar_; // bytes of all that are kept, and of some that aren't any more
     std::size_t tutulan_ = 0;                 // bytes that the pieces take
     std::size_t saklanan_ = 0;                // files

@@ -87,4 +87,10 @@ std::optional<std::string_view> KlasorOkumasi::Oku(MetinBakis ad) {
     return tampon_;
 }
 
+std::optional<std::string_view> KlasorOkumasi::EsiniOku(std::size_t sira, MetinBakis ek) {
+    if (bellek_->Adlar().EsiArkada(sira, ek))
+        return Oku(sira + 1);
+    return Oku(Metin((*this)[sira]) + Metin(ek));
+}
+
 } // namespace velora

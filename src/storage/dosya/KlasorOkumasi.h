@@ -31,6 +31,10 @@ class KlasorOkumasi {
     /// It lasts until the next name is asked for.
     MetinBakis operator[](std::size_t sira) const { return bellek_->Adlar()[sira]; }
 
+    /// As in `AdListesi`.
+    bool Biter(std::size_t sira, MetinBakis son) const { return bellek_->Adlar().Biter(sira, son); }
+    bool BasiAyni(std::size_t sira, std::size_t boy) const { return bellek_->Adlar().BasiAyni(sira, boy); }
+
     /// Whether any of them is one by its first letters, `boy` or all that it has, which `uyar` is told. They
     /// come in no order, and none is made a text of: it is for who looks through many folders for little. One
     /// that has other letters than of seven bits there counts as one, for it can't be told so.
@@ -47,6 +51,9 @@ class KlasorOkumasi {
     /// The file that this name leads to in this folder, be it that it is spelled otherwise there. Else as
     /// above.
     std::optional<std::string_view> Oku(MetinBakis ad);
+
+    /// The same of the name at that place with letters of seven bits behind it.
+    std::optional<std::string_view> EsiniOku(std::size_t sira, MetinBakis ek);
 
   private:
     friend class Dosyalar;

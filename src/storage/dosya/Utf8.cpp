@@ -74,7 +74,10 @@ void Utf8Coz(std::string_view bayt, Metin& hedef) {
     }
     if (hepsi < kIlkCokBaytli)
         return;
-    std::size_t dolu = 0;
+    std::size_t dolu = 0; // the short letters at the beginning stand where they belong
+    while (Bayt(bayt[dolu]) < kIlkCokBaytli)
+        ++dolu;
+    bayt.remove_prefix(dolu);
     while (!bayt.empty()) {
         char32_t kod = Bayt(bayt[0]);
         const std::size_t uzunluk = kod < kIlkCokBaytli ? 1 : Coz(bayt, kod);

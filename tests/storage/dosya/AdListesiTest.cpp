@@ -61,6 +61,80 @@ TEST(AdListesi, Puts_names_into_the_same_order_as_AdSirasi) {
     }
 }
 
+TEST(AdListesi, Puts_names_as_the_program_makes_them_into_the_same_order_wherever_they_differ) {
+    std::mt19937 rastgele(57);
+    const std::vector<Metin> parcalar{u"17.06.2012", u"02.11.2013", u" - Gündüz", u" - GÜNDÜZ", u" - Gece",
+                                      u"-Detay",     u"-Odeme",     u"ü",         u"Ü",         u"÷",
+                                      u"þ",          u"ß",          u"ÿ",         u"à",         u"Ş",
+                                      u"`{@[z",      u"AZaz",       u"\u2013",    u"x"};
+    std::uniform_int_distribution<std::size_t> parca(0, parcalar.size() - 1);
+    std::uniform_int_distribution<int> uzunluk(1, 6);
+    for (int tur = 0; tur < 300; ++tur) {
+        std::vector<Metin> adlar(60);
+        for (Metin& ad : adlar) {
+            ad = tur % 2 == 0 ? Metin() : Metin(u"17.06.2012 - Gündüz");
+            for (int i = uzunluk(rastgele); i > 0; --i)
+                ad += parcalar[parca(rastgele)];
+        }
+        std::vector<Metin> beklenen = adlar;
+        std::sort(beklenen.begin(), beklenen.end(), AdSirasi);
+        ASSERT_EQ(Sirali(adlar), beklenen);
+    }
+}
+
+TEST(AdListesi, Puts_names_of_any_bytes_into_the_order_of_what_they_read_as) {
+    std::mt19937 rastgele(58);
+    const std::string_view baytlar = "aAz.-\xC3\xC3\xC3\xBC\x9C\xB7\xBF\x80\xC4\xB1\xCC\x88\xE2\xFF";
+    std::uniform_int_distribution<std::size_t> bayt(0, baytlar.size() - 1);
+    std::uniform_int_distribution<int> uzunluk(1, 34);
+    for (int tur = 0; tur < 300; ++tur) {
+        std::vector<std::string> adlar(40);
+        AdListesi liste;
+        for (std::string& ad : adlar) {
+            for (int i = uzunluk(rastgele); i > 0; --i)
+                ad += i % 3 == 0 ? "ü" : std::string(1, baytlar[bayt(rastgele)]);
+            liste.Ekle({ad});
+        }
+        liste.Sirala();
+        std::vector<std::string> diskte;
+        for (std::size_t i = 0; i < liste.Sayi(); ++i) {
+            diskte.emplace_back(liste.Diskteki(i));
+            const Metin ad(liste[i]);
+            ASSERT_TRUE(i + 1 == liste.Sayi() || !AdSirasi(liste[i + 1], ad)) << diskte.back();
+            ASSERT_EQ(liste[*liste.Bul(ad)], ad);
+        }
+        std::sort(adlar.begin(), adlar.end());
+        std::sort(diskte.begin(), diskte.end());
+        ASSERT_EQ(diskte, adlar);
+    }
+}
+
+TEST(AdListesi, Tells_of_a_name_without_a_text_how_it_begins_and_ends) {
+    AdListesi liste;
+    for (const char* ad : {"1ü.a", "1ü.b", "17.06.2012 - Gece", "17.06.2012 - Gece-Detay",
+                           "17.06.2012 - Gece-Odeme", "18.06.2012 - Gece", "18.06.2012 - Gece-DETAY",
+                           "19.06.2012 - Gu\xCC\x88n", "19.06.2012 - Gün-Detay", "kısa", "kısa-Detay"})
+        liste.Ekle({ad});
+    liste.Sirala();
+    const auto yeri = [&](MetinBakis ad) { return *liste.Bul(ad); };
+    EXPECT_FALSE(liste.BasiAyni(0, 1)) << "nothing stands before it";
+    EXPECT_TRUE(liste.BasiAyni(yeri(u"17.06.2012 - Gece-Detay"), 10));
+    EXPECT_TRUE(liste.BasiAyni(yeri(u"18.06.2012 - Gece-DETAY"), 17));
+    EXPECT_FALSE(liste.BasiAyni(yeri(u"18.06.2012 - Gece-DETAY"), 30)) << "so many it hasn't";
+    EXPECT_FALSE(liste.BasiAyni(yeri(u"18.06.2012 - Gece"), 10));
+    EXPECT_FALSE(liste.BasiAyni(yeri(u"1ü.b"), 3)) << "bytes are no letters there";
+    EXPECT_TRUE(liste.Biter(yeri(u"17.06.2012 - Gece-Detay"), u"Detay"));
+    EXPECT_FALSE(liste.Biter(yeri(u"18.06.2012 - Gece-DETAY"), u"Detay"));
+    EXPECT_FALSE(liste.Biter(yeri(u"1ü.a"), u"11ü.a"));
+    EXPECT_TRUE(liste.EsiArkada(yeri(u"17.06.2012 - Gece"), u"-Detay"));
+    EXPECT_TRUE(liste.EsiArkada(yeri(u"kısa"), u"-Detay"));
+    EXPECT_FALSE(liste.EsiArkada(yeri(u"17.06.2012 - Gece"), u"-Odeme"));
+    EXPECT_FALSE(liste.EsiArkada(yeri(u"17.06.2012 - Gece-Detay"), u"-Detay"));
+    EXPECT_FALSE(liste.EsiArkada(yeri(u"18.06.2012 - Gece"), u"-Detay"));
+    EXPECT_FALSE(liste.EsiArkada(yeri(u"19.06.2012 - Gün"), u"-Detay")) << "not by its bytes";
+    EXPECT_FALSE(liste.EsiArkada(yeri(u"kısa-Detay"), u"-Detay")) << "nothing stands behind it";
+}
+
 TEST(AyniAd, Goes_by_letters_without_their_case) {
     EXPECT_TRUE(AyniAd(u"05.01.2012 - GÜNDÜZ", u"05.01.2012 - Gündüz"));
     EXPECT_FALSE(AyniAd(u"Işık", u"IŞIK")) << "ı is a letter of its own";

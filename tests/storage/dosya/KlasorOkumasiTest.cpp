@@ -48,4 +48,22 @@ TEST(KlasorOkumasi, Finds_a_name_as_a_path_does_also_where_it_is_spelled_otherwi
     }
 }
 
+TEST(KlasorOkumasi, Reads_the_companion_of_a_name_however_both_are_spelled) {
+    const DosyaAgaci kok;
+    for (const MetinBakis ad : {u"1 - Gece", u"1 - Gece-Detay", u"2 - Gece", u"2 - GeceX", u"2 - Gece-DETAY",
+                                u"3 - Gündüz", u"4 - Gece", u"4 - Gece-Detay", u"4 - Gece-Odeme"})
+        kok.KoyMetin(u"k/" + Metin(ad), ad);
+    kok.Koy(u"k/3 - Gu\u0308ndu\u0308z-Detay", "marks apart");
+    KlasorOkumasi okuma = kok.dosyalar.KlasorAc(kok.TamYol(u"k"));
+    const auto esi = [&](MetinBakis ad, MetinBakis ek) {
+        const auto bayt = okuma.EsiniOku(*okuma.Bul(ad), ek);
+        return bayt ? std::string(*bayt) : "-";
+    };
+    EXPECT_EQ(esi(u"1 - Gece", u"-Detay"), "1 - Gece-Detay");
+    EXPECT_EQ(esi(u"1 - Gece", u"-Odeme"), "-");
+    EXPECT_EQ(esi(u"2 - Gece", u"-Detay"), "2 - Gece-DETAY");
+    EXPECT_EQ(esi(u"3 - Gündüz", u"-Detay"), "marks apart");
+    EXPECT_EQ(esi(u"4 - Gece", u"-Odeme"), "4 - Gece-Odeme") << "behind another one";
+}
+
 } // namespace velora
