@@ -91,14 +91,11 @@ struct Klasor::Ic {
 
 Klasor::Klasor(const std::filesystem::path& yol) : ic_(std::make_unique<Ic>()) {
     ic_->akis = ::opendir(yol.c_str());
-    tam_ = ic_->akis != nullptr || errno == ENOENT || errno == ENOTDIR || errno == EACCES;
+    acildi_ = ic_->akis != nullptr;
+    tam_ = acildi_ || errno == ENOENT || errno == ENOTDIR || errno == EACCES;
 }
 
 Klasor::~Klasor() = default;
-
-bool Klasor::Acildi() const {
-    return ic_->akis != nullptr;
-}
 
 bool Klasor::Sonraki(ListeOgesi& oge, Tur tur) {
     for (errno = 0; const dirent* kayit = Acildi() ? ::readdir(ic_->akis) : nullptr; errno = 0) {

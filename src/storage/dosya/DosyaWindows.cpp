@@ -247,16 +247,13 @@ Klasor::Klasor(const std::filesystem::path& yol)
     : ic_(new Ic{UzunYol(yol),
                  KapananTutamac(::CreateFileW(UzunYol(yol).c_str(), FILE_LIST_DIRECTORY, kHerkesle, nullptr,
                                               OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr))}) {
-    tam_ = ic_->klasor.no != INVALID_HANDLE_VALUE || YokHatasi() || ::GetLastError() == ERROR_ACCESS_DENIED;
+    acildi_ = ic_->klasor.no != INVALID_HANDLE_VALUE;
+    tam_ = acildi_ || YokHatasi() || ::GetLastError() == ERROR_ACCESS_DENIED;
     if (ic_->yol.back() != L'\\')
         ic_->yol += L'\\';
 }
 
 Klasor::~Klasor() = default;
-
-bool Klasor::Acildi() const {
-    return ic_->klasor.no != INVALID_HANDLE_VALUE;
-}
 
 bool Klasor::Sonraki(ListeOgesi& siradaki, Tur tur) {
     if (!Acildi())
@@ -278,8 +275,7 @@ bool Klasor::Sonraki(ListeOgesi& siradaki, Tur tur) {
 std::optional<Kimlik> Klasor::Sor(const AdHarfi* ad) const {
     if (const auto yer = ic_->kimlikler.find(ad); yer != ic_->kimlikler.end())
         return yer->second;
-    const KapananTutamac dosya(sistem::Ac(ic_->yol + ad, Kip::Oku));
-    return dosya.no != INVALID_HANDLE_VALUE ? AcikKimlik(dosya.no) : std::nullopt;
+    return AcikKimlik(KapananTutamac(sistem::Ac(ic_->yol + ad, Kip::Oku)).no);
 }
 
 std::optional<Kimlik> Klasor::Sor() const {

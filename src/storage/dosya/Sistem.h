@@ -102,12 +102,12 @@ struct Kimlik {
 /// A folder that is listed, and whose files are then asked about and read by name. Links are followed.
 class Klasor {
   public:
-    /// A folder that can't be opened lists nothing, and no file of it can be asked about or read.
+    /// A folder that can't be opened lists nothing, and of its files none need be asked about or read.
     explicit Klasor(const std::filesystem::path& yol);
     Klasor(const Klasor&) = delete;
     Klasor& operator=(const Klasor&) = delete;
     ~Klasor();
-    bool Acildi() const;
+    bool Acildi() const { return acildi_; }
 
     /// The next entry of this kind, in the order of the disk. Its name lasts until the next call. False after
     /// the last.
@@ -133,6 +133,7 @@ class Klasor {
   private:
     struct Ic;
     std::unique_ptr<Ic> ic_;
+    bool acildi_ = false;
     bool tam_ = true;
     bool baglanti_ = false;
 };
