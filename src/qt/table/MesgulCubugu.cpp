@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPalette>
 
+#include "qt/Gorunum.h"
 #include "qt/Nefes.h"
 #include "qt/Yerlesimler.h"
 
