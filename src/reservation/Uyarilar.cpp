@@ -32,6 +32,25 @@ std::optional<Gun> AnahtarGunu(MetinBakis tarih) {
     return yazili ? TarihCoz(tarih) : TarihCoz(AnahtarTarihi(tarih));
 }
 
+/// The year of a day that is surely one, whatever the month: told without a calendar. None for the few
+/// others.
+std::optional<int> AcikYil(MetinBakis tarih) {
+    constexpr MetinBakis kDesen = u"00.00.0000";
+    constexpr int kHerAyinSonu = 28;
+    constexpr int kSonAy = 12;
+    const auto uyar = [](char16_t harf, char16_t desen) {
+        return desen == u'0' ? u'0' <= harf && harf <= u'9' : harf == desen;
+    };
+    if (!std::ranges::equal(tarih, kDesen, uyar))
+        return {};
+    const auto iki = [&](std::size_t yer) { return (tarih[yer] - u'0') * 10 + (tarih[yer + 1] - u'0'); };
+    const int gun = iki(0);
+    const int ay = iki(3);
+    const int yil = iki(6) * 100 + iki(8);
+    const bool acik = 1 <= gun && gun <= kHerAyinSonu && 1 <= ay && ay <= kSonAy && yil > 0;
+    return acik ? std::optional(yil) : std::nullopt;
+}
+
 ListeSatiri SatirYap(const Metin& ad, const Metin& salon, const Metin& yol, const UyariAna& ana,
                      const UyariTuru& tur) {
     return {Sutunlar(ad, salon, ana.No(AnaNo::AdiSoyadi), ana.No(AnaNo::GelinDamat), ana.No(AnaNo::Telefon),
@@ -66,12 +85,26 @@ bool UyariTaramasi::KalanYakin(int kalan) const {
     return kalan > 0 && kalan <= std::max(sure_.kesin, sure_.on);
 }
 
+/// The year of the last day that is near.
+int UyariTaramasi::SonYil() const {
+    constexpr double kEnUzun = 3'660'000; // beyond the last year that a name can tell
+    const auto gun = static_cast<int>(std::clamp(std::max(sure_.kesin, sure_.on), 0.0, kEnUzun));
+    return static_cast<int>(Gun(std::chrono::sys_days(bugun_) + std::chrono::days(gun)).year());
+}
+
 /// Whether a name of the folder may give a row, or change what another one gives. Of most folders none does.
 bool UyariTaramasi::Onemli(const KlasorOkumasi& okuma) {
     bool gunluVar = false;
+    const auto ilkYil = static_cast<int>(bugun_.year());
+    const int sonYil = SonYil();
     const bool onemli = okuma.BiriUyar(kTarihUzunlugu, [&](MetinBakis bas) {
         if (!GunDosyasiDeseni(bas))
             return false;
+        // The folders of other years hold most of all names.
+        if (const auto yil = AcikYil(bas); yil && (*yil < ilkYil || *yil > sonYil)) {
+            gunluVar = true;
+            return false;
+        }
         const auto gun = AnahtarGunu(bas);
         gunluVar = gunluVar || gun;
         return !gun || KalanYakin(KalanGun(*gun));

@@ -50,6 +50,7 @@ class UyariTaramasi {
 
     int KalanGun(const Gun& gun) const;
     bool KalanYakin(int kalan) const;
+    int SonYil() const;
     bool Onemli(const KlasorOkumasi& okuma);
     bool Yakin(MetinBakis ad);
     void Oku(KlasorOkumasi& okuma, std::size_t sira);

@@ -307,6 +307,16 @@ TEST_F(UyariTest, A_name_without_a_date_counts_the_days_of_the_name_before_it_on
     EXPECT_EQ(Tablo().Liste.satirlar[2].sutun[1], u"Salon B") << "also across halls";
 }
 
+TEST_F(UyariTest, A_day_that_no_month_of_another_year_has_counts_as_the_one_before_it_on_purpose) {
+    RezervasyonKoy(u"17.06.2012 - Gece");
+    KayitKoy(agac, u"Salon A/2013/30.02.2011 - Gece");
+    Prog();
+    UyarilarOlmali({u"17.06.2012 - Gece Kesin", u"30.02.2011 - Gece Kesin"});
+    RezervasyonKoy(u"28.02.2011 - Gece");
+    Tablo().UyariGoster();
+    UyarilarOlmali({u"17.06.2012 - Gece Kesin"});
+}
+
 TEST_F(UyariTest, A_name_without_a_date_counts_the_days_of_a_folder_before_it_in_which_nothing_is_near) {
     agac.KoyMetin(u"Salon.dat", u"\"Salon A\"\r\n\"Salon B\"\r\n\"Salon C\"\r\n");
     RezervasyonKoy(u"17.06.2012 - Gece");

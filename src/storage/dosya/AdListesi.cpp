@@ -307,8 +307,9 @@ bool AdListesi::EsiArkada(std::size_t i, MetinBakis ek) const {
 bool AdListesi::BasiAyni(std::size_t i, std::size_t boy) const {
     if (i == 0)
         return false;
+    // A name that has no more letters stands before all that go on from it.
     const DiskAdi bas = Diskteki(i).substr(0, boy);
-    return bas.size() == boy && Diskteki(i - 1).starts_with(bas) &&
+    return Diskteki(i - 1).starts_with(bas) &&
            std::ranges::all_of(bas, [](AdHarfi harf) { return Kod(harf) < kIlkUzun; });
 }
 

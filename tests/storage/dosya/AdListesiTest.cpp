@@ -111,9 +111,10 @@ TEST(AdListesi, Puts_names_of_any_bytes_into_the_order_of_what_they_read_as) {
 
 TEST(AdListesi, Tells_of_a_name_without_a_text_how_it_begins_and_ends) {
     AdListesi liste;
-    for (const char* ad : {"1ü.a", "1ü.b", "17.06.2012 - Gece", "17.06.2012 - Gece-Detay",
-                           "17.06.2012 - Gece-Odeme", "18.06.2012 - Gece", "18.06.2012 - Gece-DETAY",
-                           "19.06.2012 - Gu\xCC\x88n", "19.06.2012 - Gün-Detay", "kısa", "kısa-Detay"})
+    for (const char* ad :
+         {"1ü.a", "1ü.b", "17.06.2012 - Gece", "17.06.2012 - Gece-Detay", "17.06.2012 - Gece-Odeme",
+          "18.06.2012 - Gece", "18.06.2012 - Gece-DETAY", "19.06.2012 - Gu\xCC\x88n",
+          "19.06.2012 - Gün-Detay", "20.06.2012 - Gece", "20.06.2012 - GeceX-Detay", "kısa", "kısa-Detay"})
         liste.Ekle({ad});
     liste.Sirala();
     const auto yeri = [&](MetinBakis ad) { return *liste.Bul(ad); };
@@ -132,6 +133,7 @@ TEST(AdListesi, Tells_of_a_name_without_a_text_how_it_begins_and_ends) {
     EXPECT_FALSE(liste.EsiArkada(yeri(u"17.06.2012 - Gece-Detay"), u"-Detay"));
     EXPECT_FALSE(liste.EsiArkada(yeri(u"18.06.2012 - Gece"), u"-Detay"));
     EXPECT_FALSE(liste.EsiArkada(yeri(u"19.06.2012 - Gün"), u"-Detay")) << "not by its bytes";
+    EXPECT_FALSE(liste.EsiArkada(yeri(u"20.06.2012 - Gece"), u"-Detay")) << "of another name";
     EXPECT_FALSE(liste.EsiArkada(yeri(u"kısa-Detay"), u"-Detay")) << "nothing stands behind it";
 }
 
