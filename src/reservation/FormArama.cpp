@@ -115,12 +115,18 @@ void FormArama::Ara() {
                      VeriAgaci::GunYolu(klasor, ad)});
         }
     };
+    std::vector<Metin> klasorler; // of all halls of a year, then of the next
     for (const Metin& sene : tablo->Sene.ogeler)
         for (std::size_t i = 0; i < okumalar.size(); ++i)
-            if (sene == yil)
-                gez(i, okumalar[i].Adlar());
-            else
-                gez(i, program_.dosyalar.KlasorAc(program_.agac.YilKlasoru(tablo->Salon.ogeler[i], sene)));
+            klasorler.push_back(program_.agac.YilKlasoru(tablo->Salon.ogeler[i], sene));
+    const Dosyalar::Onden onden(program_.dosyalar, klasorler);
+    for (std::size_t i = 0; i < klasorler.size(); ++i) {
+        const std::size_t salon = i % okumalar.size();
+        if (tablo->Sene.ogeler[i / okumalar.size()] == yil)
+            gez(salon, okumalar[salon].Adlar());
+        else
+            gez(salon, program_.dosyalar.KlasorAc(klasorler[i]));
+    }
 }
 
 /// The criteria that take part. The signs of a pattern keep their meaning in what is looked for.

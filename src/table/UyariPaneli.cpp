@@ -18,10 +18,14 @@ void FormTablo::UyariGoster() {
         const auto ayarlar = program_.FormAyarlar.Tut();
         return UyariSuresi{SayisalDeger(ayarlar->UyariGun.metin), SayisalDeger(ayarlar->UyariGun2.metin)};
     };
-    UyariTaramasi tarama(program_.dosyalar, program_.Bugun(), sure());
+    std::vector<Metin> klasorler; // of all years of a hall, then of the next
     for (const Metin& salon : Salon.ogeler)
         for (const Metin& yil : Sene.ogeler)
-            tarama.KlasorEkle(salon, program_.agac.YilKlasoru(salon, yil));
+            klasorler.push_back(program_.agac.YilKlasoru(salon, yil));
+    const Dosyalar::Onden onden(program_.dosyalar, klasorler);
+    UyariTaramasi tarama(program_.dosyalar, program_.Bugun(), sure());
+    for (std::size_t i = 0; i < klasorler.size(); ++i)
+        tarama.KlasorEkle(Salon.ogeler[i / Sene.ogeler.size()], klasorler[i]);
     // After a save they are nearly always the same: the list that stands is then neither made nor painted
     // anew.
     if (!std::ranges::equal(Liste.satirlar, tarama.Satirlar()))

@@ -4,6 +4,17 @@
 
 namespace velora::test {
 
+std::vector<Metin> RastgeleAgac::SalonlariKoy(bool cok) const {
+    std::vector<Metin> salonlar;
+    Metin liste;
+    for (char16_t harf = u'A'; harf <= (cok ? u'H' : u'B'); ++harf) {
+        salonlar.push_back(u"Salon " + Metin(1, harf));
+        liste += u"\"" + salonlar.back() + u"\"\r\n";
+    }
+    agac_.KoyMetin(u"Salon.dat", liste);
+    return salonlar;
+}
+
 unsigned RastgeleAgac::Sec(std::size_t adet) {
     return std::uniform_int_distribution<unsigned>(0, static_cast<unsigned>(adet) - 1)(rastgele_);
 }

@@ -28,6 +28,9 @@ class RastgeleAgac {
 
     void Yap(const Tarif& tarif);
 
+    /// Puts the list of halls: two, or so many that their folders are listed ahead of who reads them.
+    std::vector<Metin> SalonlariKoy(bool cok) const;
+
     /// One of so many, from 0.
     unsigned Sec(std::size_t adet);
 

@@ -3,6 +3,7 @@
 
 #include "storage/dosya/Dosyalar.h"
 #include "storage/dosya/OkumaBellegi.h"
+#include "storage/dosya/OndenListe.h"
 #include "storage/dosya/Sessiz.h"
 #include "storage/dosya/Sistem.h"
 #include "storage/dosya/Yazim.h"
@@ -76,6 +77,8 @@ bool Dosyalar::Adim(DosyaIsi is, const Metin& yol, const Degisiklik& degisiklik,
         const bool oldu = p && yap(*p);
         if (p)
             bellek_->Unut(*p);
+        if (onden_)
+            onden_->Birak();
         if (!oldu && defter_)
             defter_->Olmadi();
         return oldu;

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "storage/dosya/OkumaBellegi.h"
+#include "storage/dosya/OndenListe.h"
 #include "storage/dosya/Sessiz.h"
 #include "storage/dosya/Sistem.h"
 #include "storage/dosya/Yazim.h"
@@ -57,7 +58,8 @@ std::optional<std::filesystem::path> Dosyalar::SistemYolu(const Metin& yol) cons
     return Bul(yol, sistem::Tur::Dosya);
 }
 
-std::optional<std::filesystem::path> Dosyalar::Bul(const Metin& yol, sistem::Tur tur) const {
+/// The names of a path, below the root. Nothing for a path that is refused.
+std::optional<std::vector<std::filesystem::path>> Dosyalar::Adlar(const Metin& yol) const {
     if (!yol.starts_with(kok_))
         return {};
     std::vector<std::filesystem::path> adlar;
@@ -75,7 +77,14 @@ std::optional<std::filesystem::path> Dosyalar::Bul(const Metin& yol, sistem::Tur
             return {};
         adlar.push_back(std::move(*parca));
     }
-    return arama_.Coz(kokYolu_, adlar, tur);
+    return adlar;
+}
+
+std::optional<std::filesystem::path> Dosyalar::Bul(const Metin& yol, sistem::Tur tur) const {
+    const auto adlar = Adlar(yol);
+    if (!adlar)
+        return {};
+    return arama_.Coz(kokYolu_, *adlar, tur);
 }
 
 bool Dosyalar::AyniKlasor(const Metin& bir, const Metin& iki) const {
@@ -132,6 +141,29 @@ KlasorOkumasi Dosyalar::KlasorAc(const Metin& klasor) const {
             okuma.Ac(*p);
     });
     return okuma;
+}
+
+Dosyalar::Onden::Onden(const Dosyalar& dosyalar, const std::vector<Metin>& klasorler) {
+    if (klasorler.size() < kEnAz || dosyalar.onden_)
+        return;
+    Sessiz([&] {
+        std::vector<std::filesystem::path> yollar;
+        for (const Metin& klasor : klasorler) {
+            // As it is called here. One that the disk calls otherwise is listed when it is opened.
+            std::filesystem::path yol = dosyalar.kokYolu_;
+            for (const auto& ad : dosyalar.Adlar(klasor).value_or(std::vector<std::filesystem::path>()))
+                yol /= ad;
+            if (yol != dosyalar.kokYolu_ && !dosyalar.bellek_->Var(yol))
+                yollar.push_back(std::move(yol));
+        }
+        dosyalar.onden_ = std::make_unique<OndenListe>(std::move(yollar));
+        dosyalar_ = &dosyalar;
+    });
+}
+
+Dosyalar::Onden::~Onden() {
+    if (dosyalar_ != nullptr)
+        dosyalar_->onden_.reset();
 }
 
 void Dosyalar::KlasoruOku(const Metin& klasor, const std::function<void(const OkunanDosya&)>& ver,

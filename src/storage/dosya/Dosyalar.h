@@ -21,6 +21,7 @@ inline constexpr char16_t kAyrac = u'\\';
 
 class EylemDefteri;
 class OkumaBellegi;
+class OndenListe;
 class YazmaAkisi;
 struct Degisiklik;
 struct EylemSahibi;
@@ -105,6 +106,22 @@ class Dosyalar {
         EylemDefteri* defter_;
     };
 
+    /// As long as the first one stands, these folders are listed a little ahead of who opens them with
+    /// `KlasorAc`, all or some of them, in this order: for who looks through many (storage/dosya/OndenListe).
+    class Onden {
+      public:
+        /// Fewer aren't worth a thread.
+        static constexpr std::size_t kEnAz = 128;
+
+        Onden(const Dosyalar& dosyalar, const std::vector<Metin>& klasorler);
+        Onden(const Onden&) = delete;
+        Onden& operator=(const Onden&) = delete;
+        ~Onden();
+
+      private:
+        const Dosyalar* dosyalar_ = nullptr; // null: nothing is listed ahead for this one
+    };
+
     /// For tests and measurements: waits until all that was written stands on the medium and is marked in
     /// the journal, a time at most.
     bool GunluguBekle() const;
@@ -186,6 +203,8 @@ class Dosyalar {
     std::size_t Okunan() const { return okunan_; }
     /// For tests: what is kept of folders.
     OkumaBellegi& Bellek() const { return *bellek_; }
+    /// For tests: what is listed ahead. Null: nothing.
+    const OndenListe* Ondekiler() const { return onden_.get(); }
 
     /// For tests: how many folders were listed to find a name that isn't there to the letter.
     std::size_t AramadaListelenen() const { return arama_.Listelenen(); }
@@ -201,6 +220,7 @@ class Dosyalar {
 
   private:
     friend class KlasorOkumasi;
+    std::optional<std::vector<std::filesystem::path>> Adlar(const Metin& yol) const;
     std::optional<std::filesystem::path> Bul(const Metin& yol, sistem::Tur tur) const;
     std::optional<std::filesystem::path> Cevir(DosyaIsi is, const Metin& yol) const;
     template <class Yap>
@@ -212,6 +232,7 @@ class Dosyalar {
     mutable AdArama arama_;                // remembers listings
     mutable std::size_t okunan_ = 0;
     std::unique_ptr<OkumaBellegi> bellek_; // of the folders that were read
+    mutable std::unique_ptr<OndenListe> onden_;
 };
 
 /// An action whose steps are known beforehand and follow each other at once: plans them, then makes them.

@@ -57,13 +57,24 @@ bool KlasorBellegi::Degismedi() {
     return false;
 }
 
-void KlasorBellegi::Listele(sistem::Klasor& acik) {
-    const auto kimlik = acik.Sor();
+std::unique_ptr<sistem::Klasor> KlasorBellegi::Al(ListelenenKlasor liste) {
+    YeriniAl(liste.kimlik);
+    AdlariDegistir(std::move(liste.adlar));
+    tam_ = liste.acik->Tam();
+    return std::move(liste.acik);
+}
+
+/// What is kept of files is kept of those in this folder: another one that stands in its place has others.
+void KlasorBellegi::YeriniAl(const std::optional<sistem::Kimlik>& kimlik) {
     const auto yeri = [](const sistem::Kimlik& k) { return std::pair(k.disk, k.no); };
     if (!kimlik || yeri(*kimlik) != yeri(kimlik_))
         for (Kayit& kayit : kayitlar_)
             Birak(kayit);
     kimlik_ = kimlik.value_or(sistem::Kimlik());
+}
+
+void KlasorBellegi::Listele(sistem::Klasor& acik) {
+    YeriniAl(acik.Sor());
     AdListesi yeni;
     std::size_t ayni = 0; // so many came as they did the last time, and no other
     bool degisti = false;

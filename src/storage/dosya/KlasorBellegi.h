@@ -12,6 +12,7 @@
 
 #include "storage/dosya/AdListesi.h"
 #include "storage/dosya/Gozcu.h"
+#include "storage/dosya/OndenListe.h"
 #include "storage/dosya/Sistem.h"
 
 namespace velora {
@@ -38,6 +39,9 @@ class KlasorBellegi {
     /// Takes the names that stand there now, and forgets what is gone. `ac` opens the folder, where it must
     /// be listed.
     void Tazele(const std::function<sistem::Klasor&()>& ac);
+
+    /// The same of a folder that nobody watches, where somebody has just listed it. Gives it back open.
+    std::unique_ptr<sistem::Klasor> Al(ListelenenKlasor liste);
 
     const AdListesi& Adlar() {
         adlar_.Sirala();
@@ -85,6 +89,7 @@ class KlasorBellegi {
 
     bool Degismedi();
     void Listele(sistem::Klasor& acik);
+    void YeriniAl(const std::optional<sistem::Kimlik>& kimlik);
     void AdlariDegistir(AdListesi yeni);
     bool Taze(std::size_t sira, Kayit& kayit, const sistem::Kimlik& simdi);
     sistem::Kimlik& Kimligi(const Kayit& kayit);

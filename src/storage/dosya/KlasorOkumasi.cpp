@@ -6,6 +6,7 @@
 
 #include "storage/dosya/Dosyalar.h"
 #include "storage/dosya/OkumaBellegi.h"
+#include "storage/dosya/OndenListe.h"
 #include "storage/dosya/Sessiz.h"
 
 namespace velora {
@@ -14,6 +15,13 @@ void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
     // Asked before the first reading: what is written from here on is younger.
     sinir_ = dosyalar_->bellek_->Sinir();
     const auto bellek = dosyalar_->bellek_->Al(klasor);
+    auto listelenen = dosyalar_->onden_ ? dosyalar_->onden_->Al(klasor) : std::nullopt;
+    // Who watches a folder must have begun before its listing.
+    if (listelenen && !bellek->Izleniyor()) {
+        acik_ = bellek->Al(std::move(*listelenen));
+        bellek_ = bellek;
+        return;
+    }
     bellek->Tazele([&]() -> sistem::Klasor& {
         acik_ = std::make_unique<sistem::Klasor>(klasor);
         return *acik_;

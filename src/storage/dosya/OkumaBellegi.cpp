@@ -29,6 +29,10 @@ std::unique_ptr<sistem::Gozcu> OkumaBellegi::GozcuBul() {
     return ilk != klasorler_.end() ? (*ilk)->Izlet(nullptr) : nullptr;
 }
 
+bool OkumaBellegi::Var(const std::filesystem::path& klasor) const {
+    return std::ranges::any_of(klasorler_, [&](const auto& bellek) { return bellek->Klasor() == klasor; });
+}
+
 void OkumaBellegi::Okundu(const std::shared_ptr<KlasorBellegi>& bellek) {
     if (bellek->Bos())
         std::erase(klasorler_, bellek);

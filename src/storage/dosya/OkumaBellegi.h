@@ -22,6 +22,9 @@ class OkumaBellegi {
     /// goes with him.
     std::shared_ptr<KlasorBellegi> Al(const std::filesystem::path& klasor);
 
+    /// Whether anything is kept of it.
+    bool Var(const std::filesystem::path& klasor) const;
+
     /// To be called when a folder was read. One of which nothing is worth keeping goes.
     void Okundu(const std::shared_ptr<KlasorBellegi>& bellek);
 

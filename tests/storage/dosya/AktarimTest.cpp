@@ -42,7 +42,7 @@ struct BozukDosya {
     }
 };
 
-const std::string kEski = "\"eski\",\"kayit\",1\r\n";
+const std::string kEskiKayit = "\"eski\",\"kayit\",1\r\n";
 const std::string kKisa = "\"y\"\r\n";
 const std::string kUzun = "\"yeni ve daha uzun\",\"kayit\",0\r\n";
 
@@ -79,8 +79,8 @@ struct ParcaliOkuma {
 } // namespace
 
 TEST(UzerineYaz, Leaves_exactly_the_new_text) {
-    for (const std::string& eski : {std::string(), kEski, kUzun})
-        for (const std::string& yeni : {std::string(), kKisa, kEski, kUzun}) {
+    for (const std::string& eski : {std::string(), kEskiKayit, kUzun})
+        for (const std::string& yeni : {std::string(), kKisa, kEskiKayit, kUzun}) {
             BozukDosya dosya{.icerik = eski};
             EXPECT_TRUE(UzerineYaz(dosya, yeni));
             EXPECT_EQ(dosya.icerik, yeni);
@@ -95,44 +95,44 @@ TEST(UzerineYaz, At_every_moment_the_file_holds_the_old_text_or_the_new_one_with
 }
 
 TEST(UzerineYaz, A_longer_text_goes_down_in_one_single_write) {
-    BozukDosya dosya{.icerik = kEski};
+    BozukDosya dosya{.icerik = kEskiKayit};
     ASSERT_TRUE(UzerineYaz(dosya, kUzun));
     EXPECT_EQ(dosya.anlar, (std::vector<std::string>{kUzun}));
 }
 
 TEST(UzerineYaz, A_disk_without_room_leaves_the_old_text_untouched) {
-    BozukDosya dosya{.icerik = kEski, .yerVar = false};
+    BozukDosya dosya{.icerik = kEskiKayit, .yerVar = false};
     EXPECT_FALSE(UzerineYaz(dosya, kUzun));
-    EXPECT_EQ(dosya.icerik, kEski);
+    EXPECT_EQ(dosya.icerik, kEskiKayit);
     EXPECT_TRUE(dosya.anlar.empty());
 }
 
 TEST(UzerineYaz, A_full_disk_does_not_stand_in_the_way_of_a_shorter_text) {
-    BozukDosya dosya{.icerik = kEski, .enUzun = kEski.size(), .yerVar = false};
+    BozukDosya dosya{.icerik = kEskiKayit, .enUzun = kEskiKayit.size(), .yerVar = false};
     EXPECT_TRUE(UzerineYaz(dosya, kKisa));
     EXPECT_EQ(dosya.icerik, kKisa);
 }
 
 TEST(UzerineYaz, A_write_that_comes_back_short_is_finished) {
     for (const std::size_t parca : {1U, 3U, 7U}) {
-        BozukDosya dosya{.icerik = kEski, .enCokYazma = parca};
+        BozukDosya dosya{.icerik = kEskiKayit, .enCokYazma = parca};
         EXPECT_TRUE(UzerineYaz(dosya, kUzun));
         EXPECT_EQ(dosya.icerik, kUzun);
     }
 }
 
 TEST(UzerineYaz, A_device_that_stops_growing_in_the_middle_gets_the_old_text_back) {
-    for (std::size_t sinir = kEski.size(); sinir < kUzun.size(); ++sinir) {
-        BozukDosya dosya{.icerik = kEski, .enUzun = sinir};
+    for (std::size_t sinir = kEskiKayit.size(); sinir < kUzun.size(); ++sinir) {
+        BozukDosya dosya{.icerik = kEskiKayit, .enUzun = sinir};
         EXPECT_FALSE(UzerineYaz(dosya, kUzun));
-        EXPECT_EQ(dosya.icerik, kEski) << sinir;
+        EXPECT_EQ(dosya.icerik, kEskiKayit) << sinir;
     }
 }
 
 TEST(UzerineYaz, An_old_text_that_was_read_piece_by_piece_comes_back_whole) {
-    BozukDosya dosya{.icerik = kEski, .enCokOkuma = 4, .enUzun = kEski.size() + 1};
+    BozukDosya dosya{.icerik = kEskiKayit, .enCokOkuma = 4, .enUzun = kEskiKayit.size() + 1};
     EXPECT_FALSE(UzerineYaz(dosya, kUzun));
-    EXPECT_EQ(dosya.icerik, kEski);
+    EXPECT_EQ(dosya.icerik, kEskiKayit);
 }
 
 TEST(UzerineYaz, A_cut_that_fails_brings_the_old_text_back) {
@@ -142,21 +142,21 @@ TEST(UzerineYaz, A_cut_that_fails_brings_the_old_text_back) {
 }
 
 TEST(UzerineYaz, A_device_that_dies_for_good_ends_the_call) {
-    BozukDosya dosya{.icerik = kEski, .toplamYazma = 4};
+    BozukDosya dosya{.icerik = kEskiKayit, .toplamYazma = 4};
     EXPECT_FALSE(UzerineYaz(dosya, kUzun));
-    EXPECT_EQ(dosya.icerik.size(), kEski.size());
+    EXPECT_EQ(dosya.icerik.size(), kEskiKayit.size());
 }
 
 TEST(SonunaYaz, Puts_the_bytes_behind_the_last_one) {
-    BozukDosya dosya{.icerik = kEski, .enCokYazma = 5};
+    BozukDosya dosya{.icerik = kEskiKayit, .enCokYazma = 5};
     EXPECT_TRUE(SonunaYaz(dosya, kUzun));
-    EXPECT_EQ(dosya.icerik, kEski + kUzun);
+    EXPECT_EQ(dosya.icerik, kEskiKayit + kUzun);
 }
 
 TEST(SonunaYaz, A_device_that_fails_in_the_middle_leaves_the_old_length) {
-    BozukDosya dosya{.icerik = kEski, .toplamYazma = 10};
+    BozukDosya dosya{.icerik = kEskiKayit, .toplamYazma = 10};
     EXPECT_FALSE(SonunaYaz(dosya, kUzun));
-    EXPECT_EQ(dosya.icerik, kEski);
+    EXPECT_EQ(dosya.icerik, kEskiKayit);
 }
 
 TEST(Doldur, A_short_file_costs_one_call) {
@@ -164,11 +164,11 @@ TEST(Doldur, A_short_file_costs_one_call) {
     std::string tampon;
     const auto oku = [&](char* hedef, std::size_t adet) -> std::optional<std::size_t> {
         ++cagri;
-        return kEski.copy(hedef, adet);
+        return kEskiKayit.copy(hedef, adet);
     };
-    EXPECT_EQ(Doldur(tampon, 1U << 20U, oku, HerKisaSondur), kEski.size());
+    EXPECT_EQ(Doldur(tampon, 1U << 20U, oku, HerKisaSondur), kEskiKayit.size());
     EXPECT_EQ(cagri, 1);
-    EXPECT_EQ(tampon.substr(0, kEski.size()), kEski);
+    EXPECT_EQ(tampon.substr(0, kEskiKayit.size()), kEskiKayit);
 }
 
 TEST(Doldur, A_read_that_comes_short_of_a_known_length_is_not_the_end) {
