@@ -29,6 +29,9 @@ class AramaOkumasi {
     /// Names that are asked for in the order of the listing are found at once.
     bool Oku(MetinBakis ad, AramaDegerleri& hedef);
 
+    /// The same of the name at this place of its own listing.
+    bool Oku(std::size_t sira, AramaDegerleri& hedef);
+
   private:
     KlasorOkumasi okuma_;
     std::size_t siradaki_ = 0; // behind the one that was found last

@@ -36,8 +36,9 @@ struct FormArama::HazirOlcut {
     Metin esit;        ///< in lower case
     std::optional<HazirDesen> icerir;
 
-    bool Uyar(const AramaDegerleri& degerler) const {
-        const Metin kucuk = Kucult(degerler[deger]);
+    /// `kucuk` is there for its memory.
+    bool Uyar(const AramaDegerleri& degerler, Metin& kucuk) const {
+        Kucult(degerler[deger], kucuk);
         return icerir ? icerir->Uyar(kucuk) : kucuk == esit;
     }
 };
@@ -96,23 +97,23 @@ void FormArama::Ara() {
     // Outside the loops: what can't be opened is tested with the values of the file before it.
     AramaDegerleri degerler;
     const std::vector<HazirOlcut> olcutler = Olcutler();
+    Metin kucuk;
     // Each criterion that matches, for itself.
     const auto uyanSayisi = [&] {
-        return std::ranges::count_if(olcutler, [&](const HazirOlcut& o) { return o.Uyar(degerler); });
+        return std::ranges::count_if(olcutler, [&](const HazirOlcut& o) { return o.Uyar(degerler, kucuk); });
     };
     auto uyan = uyanSayisi();
-    Metin ad; // kept for its memory
     const auto gez = [&](std::size_t i, const KlasorOkumasi& adlar) {
         const Metin& salon = tablo->Salon.ogeler[i];
         const Metin klasor = program_.agac.YilKlasoru(salon, yil);
+        const bool kendi = &adlar == &okumalar[i].Adlar(); // names become texts only for their rows
         for (std::size_t j = 0; j < adlar.Sayi(); ++j) {
-            ad = adlar[j];
-            if (okumalar[i].Oku(ad, degerler))
+            if (kendi ? okumalar[i].Oku(j, degerler) : okumalar[i].Oku(adlar[j], degerler))
                 uyan = uyanSayisi();
             for (auto kez = uyan; kez > 0; --kez)
                 Liste.satirlar.push_back(
-                    {Sutunlar(ad, salon, degerler[0], degerler[1], degerler[2], degerler[3]),
-                     VeriAgaci::GunYolu(klasor, ad)});
+                    {Sutunlar(adlar[j], salon, degerler[0], degerler[1], degerler[2], degerler[3]),
+                     VeriAgaci::GunYolu(klasor, adlar[j])});
         }
     };
     std::vector<Metin> klasorler; // of all halls of a year, then of the next

@@ -4,7 +4,7 @@
 
 namespace velora {
 
-HazirDesen::HazirDesen(MetinBakis desen) : ogeler_(Coz(desen)) {
+HazirDesen::HazirDesen(MetinBakis desen) : ogeler_(Coz(desen)), parca_(Parcasi(desen)) {
     ++Sayac();
 }
 
@@ -68,7 +68,17 @@ std::optional<HazirDesen::Ogeler> HazirDesen::Coz(MetinBakis desen) {
     return ogeler;
 }
 
+/// What stands between two `*` when it stands for itself, as nearly always.
+std::optional<Metin> HazirDesen::Parcasi(MetinBakis desen) {
+    if (desen.size() < 2 || !desen.starts_with(u'*') || !desen.ends_with(u'*'))
+        return {};
+    const MetinBakis parca = desen.substr(1, desen.size() - 2);
+    return parca.find_first_of(u"*?#[") == MetinBakis::npos ? std::optional(Metin(parca)) : std::nullopt;
+}
+
 bool HazirDesen::Uyar(MetinBakis metin) const {
+    if (parca_)
+        return metin.find(*parca_) != MetinBakis::npos;
     if (!ogeler_)
         return false;
     auto oge = ogeler_->begin();

@@ -44,9 +44,11 @@ class HazirDesen {
     static Oge TekHarf(char16_t harf);
     static bool ListeEkle(MetinBakis liste, Ogeler& ogeler);
     static std::optional<Ogeler> Coz(MetinBakis desen);
+    static std::optional<Metin> Parcasi(MetinBakis desen);
     static std::size_t& Sayac();
 
     std::optional<Ogeler> ogeler_; // none: malformed
+    std::optional<Metin> parca_;   // all that it asks is that this stands somewhere in the text
 };
 
 } // namespace velora

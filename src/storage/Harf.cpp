@@ -65,6 +65,11 @@ Metin Kucult(MetinBakis metin) {
     return HerHarf(metin, KucukHarf);
 }
 
+void Kucult(MetinBakis metin, Metin& hedef) {
+    hedef.resize(metin.size());
+    std::ranges::transform(metin, hedef.begin(), KucukHarf);
+}
+
 Metin Buyut(MetinBakis metin) {
     return HerHarf(metin, BuyukHarf);
 }

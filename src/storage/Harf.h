@@ -13,6 +13,9 @@ char16_t BuyukHarf(char16_t harf);
 Metin Kucult(MetinBakis metin);
 Metin Buyut(MetinBakis metin);
 
+/// The lower case of a text that is one of thousands: in `hedef`, whose memory is used again.
+void Kucult(MetinBakis metin, Metin& hedef);
+
 /// What texts are put in the order of a Turkish dictionary by, without regard to case: digits and signs
 /// before letters, "Çınar" before "Demir", "ılık" before "iri".
 Metin SozlukSirasi(MetinBakis metin);

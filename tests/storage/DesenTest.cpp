@@ -46,6 +46,22 @@ TEST(Desen, A_star_stands_for_any_run_and_for_none) {
           {u"a\r\nb", u"a*b", true}});
 }
 
+TEST(Desen, Between_two_stars_the_signs_keep_their_meaning_and_the_rest_stands_for_itself) {
+    Dene({{u"no 7 a", u"*#*", true},
+          {u"no x #", u"*#*", false},
+          {u"", u"*?*", false},
+          {u"z", u"*?*", true},
+          {u"x[ab]", u"*[ab]*", true},
+          {u"xa", u"*[ab]*", true},
+          {u"xc", u"*[ab]*", false},
+          {u"acb", u"*a*b*", true},
+          {u"bca", u"*a*b*", false},
+          {u"x]!-", u"*]!-*", true},
+          {u"x", u"*]*", false},
+          {u"a", u"*", true},
+          {u"[", u"*[*", false}});
+}
+
 TEST(Desen, A_question_mark_is_one_character_and_a_hash_one_digit) {
     Dene({{u"ali", u"?l?", true},
           {u"al", u"al?", false},

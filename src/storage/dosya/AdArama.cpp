@@ -41,20 +41,20 @@ Metin DisktekininAnahtari(sistem::DiskAdi ad) {
 std::filesystem::path AdArama::Coz(const std::filesystem::path& kok,
                                    const std::vector<std::filesystem::path>& adlar, sistem::Tur tur) {
     tam_ = true;
+    bulundu_ = true;
     std::filesystem::path tam = kok;
     for (const auto& ad : adlar)
         tam /= ad;
     if (sistem::Var(tam, tur))
         return tam;
-    std::filesystem::path yol = kok;
-    bool var = true; // what `yol` has come to is there
+    std::filesystem::path yol = kok; // as long as it is `bulundu_`, it is there
     for (std::size_t i = 0; i < adlar.size(); ++i) {
         const sistem::Tur buTur = i + 1 < adlar.size() ? sistem::Tur::Klasor : tur;
         std::filesystem::path ad = adlar[i];
         const bool sorulan = i + 1 == adlar.size() && yol / ad == tam; // and it isn't there
-        if (var && (sorulan || !sistem::Var(yol / ad, buTur))) {
+        if (bulundu_ && (sorulan || !sistem::Var(yol / ad, buTur))) {
             const auto bulunan = Bul({yol, buTur}, ad);
-            var = bulunan.has_value();
+            bulundu_ = bulunan.has_value();
             ad = bulunan.value_or(ad);
         }
         yol /= ad;

@@ -34,6 +34,9 @@ class AdArama {
     /// stands may be there all the same, in another spelling.
     bool Tam() const { return tam_; }
 
+    /// Whether what the last `Coz` gave is there. Otherwise it stands as the path had it.
+    bool Bulundu() const { return bulundu_; }
+
     /// How many folders have been listed so far.
     std::size_t Listelenen() const { return listelenen_; }
 
@@ -56,6 +59,7 @@ class AdArama {
     std::optional<Anahtar> izlenen_; // what it watches
     std::size_t listelenen_ = 0;
     bool tam_ = true;
+    bool bulundu_ = false;
 };
 
 } // namespace velora

@@ -210,6 +210,7 @@ AdListesi::Anahtar AdListesi::AnahtarYap(Okuyan harfler) {
 /// it by eights. No byte asks for a branch: thousands of names in no order would have it guessed wrong.
 std::optional<AdListesi::Anahtar> AdListesi::HizliAnahtar(const Yer& ad) const {
     constexpr std::size_t kParca = 4;
+    constexpr std::uint64_t kHarfBitleri = 0xC0; // each letter has one of them
     if (sizeof(AdHarfi) > 1 || ad.uzunluk > kParca * kSekizli || harfler_.size() - ad.bas < kParca * kSekizli)
         return {};
     std::array<std::uint64_t, kParca> parcalar{};
@@ -220,6 +221,12 @@ std::optional<AdListesi::Anahtar> AdListesi::HizliAnahtar(const Yer& ad) const {
         const std::uint64_t baytlari =
             SekizAl(harfler_.data() + ad.bas + i * kSekizli) &
             IlkBaytlar(static_cast<std::ptrdiff_t>(ad.uzunluk) - static_cast<std::ptrdiff_t>(i * kSekizli));
+        // Of names of days the first part has no letters, and the last one none that matters.
+        const std::uint64_t onemli = i + 1 < kParca ? Hepsinde(kHarfBitleri) : kUstBitler;
+        if ((ilkler | (baytlari & onemli)) == 0) {
+            parcalar[i] = baytlari;
+            continue;
+        }
         const std::uint64_t ilk = Esitler(baytlari, 0xC3);
         const std::uint64_t devam = ilk >> 8U | ilkler << 56U;
         ilkler = ilk;
@@ -248,9 +255,7 @@ void AdListesi::BastanEkle(const AdListesi& baska, std::size_t adet) {
         Ekle({baska.Bakis(baska.gelenler_[i]), baska.gelenler_[i].no});
 }
 
-void AdListesi::Sirala() {
-    if (adlar_.size() == gelenler_.size())
-        return;
+void AdListesi::Diz() {
     okunanSira_ = kYok;
     adlar_.clear();
     adlar_.reserve(gelenler_.size());

@@ -19,7 +19,10 @@ class AdListesi {
 
     /// Puts the names into the order of `AdSirasi`. Of equal ones the one that stands so on the disk comes
     /// first. Whatever asks for a name by its place, or for its place, comes behind it.
-    void Sirala();
+    void Sirala() {
+        if (adlar_.size() != gelenler_.size())
+            Diz();
+    }
 
     std::size_t Sayi() const { return gelenler_.size(); }
     /// In the form of the program's own names (`AdDuzelt`). It lasts until another one is asked for.
@@ -83,6 +86,7 @@ class AdListesi {
         return sistem::DiskAdi(harfler_).substr(yer.bas, yer.uzunluk);
     }
     sistem::DiskAdi Bakis(const Ad& ad) const { return Bakis(gelenler_[ad.gelen]); }
+    void Diz();
     template <class Okuyan>
     static Anahtar AnahtarYap(Okuyan harfler);
     std::optional<Anahtar> HizliAnahtar(const Yer& ad) const;

@@ -137,7 +137,8 @@ std::optional<std::string> Dosyalar::Oku(const Metin& yol) const {
 KlasorOkumasi Dosyalar::KlasorAc(const Metin& klasor) const {
     KlasorOkumasi okuma(*this, klasor);
     Sessiz([&] {
-        if (const auto p = Cevir(DosyaIsi::Listele, klasor))
+        // Of many years most halls have no folder: a system takes its time to say so.
+        if (const auto p = Cevir(DosyaIsi::Listele, klasor); p && arama_.Bulundu())
             okuma.Ac(*p);
     });
     return okuma;
