@@ -16,8 +16,8 @@ void KlasorOkumasi::Ac(const std::filesystem::path& klasor) {
     sinir_ = dosyalar_->bellek_->Sinir();
     const auto bellek = dosyalar_->bellek_->Al(klasor);
     auto listelenen = dosyalar_->onden_ ? dosyalar_->onden_->Al(klasor) : std::nullopt;
-    // Who watches a folder must have begun before its listing.
-    if (listelenen && !bellek->Izleniyor()) {
+    // Who watches a folder must have begun before its listing. One that failed may do better now.
+    if (listelenen && listelenen->acik->Tam() && !bellek->Izleniyor()) {
         acik_ = bellek->Al(std::move(*listelenen));
         bellek_ = bellek;
         return;

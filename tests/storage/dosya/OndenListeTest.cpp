@@ -8,7 +8,6 @@
 
 #include "destek/YasliBellek.h"
 #include "storage/DosyaAgaci.h"
-#include "storage/Sayi.h"
 #include "storage/dosya/OndenListe.h"
 
 namespace velora {

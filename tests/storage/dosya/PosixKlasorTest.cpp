@@ -1,6 +1,8 @@
+#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -14,13 +16,14 @@
 #include "destek/YasliBellek.h"
 #include "storage/DosyaAgaci.h"
 #include "storage/dosya/OkumaBellegi.h"
+#include "storage/dosya/OndenListe.h"
 
 namespace {
 
 // What the listing of a folder fails with; 0: it works.
-int acmaHatasi = 0;
-int okumaHatasi = 0;
-int hatasizOge = 0; // so many entries come before that
+std::atomic<int> acmaHatasi = 0;
+std::atomic<int> okumaHatasi = 0;
+std::atomic<int> hatasizOge = 0; // so many entries come before that
 
 template <class Cagri>
 Cagri* Asil(const char* ad) {
@@ -198,7 +201,7 @@ TEST(PosixKlasor, A_listing_that_failed_is_neither_believed_nor_kept) {
     kok.Koy(u"SALON.DAT", "x");
     std::filesystem::last_write_time(kok.Kok(),
                                      std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
-    for (int* hata : {&acmaHatasi, &okumaHatasi}) {
+    for (std::atomic<int>* hata : {&acmaHatasi, &okumaHatasi}) {
         *hata = EIO;
         EXPECT_EQ(Durumu(kok, u"Salon.dat"), Okunus::Okunamadi) << "it may lie there in another spelling";
         *hata = 0;
@@ -229,6 +232,24 @@ TEST(PosixKlasor, A_folder_known_by_its_names_that_cannot_be_opened_gives_its_fi
     EXPECT_FALSE(okuma.Oku(19));
     acmaHatasi = 0;
     EXPECT_EQ(okuma.Oku(19), "29");
+}
+
+TEST(PosixKlasor, A_listing_ahead_that_failed_is_made_anew_when_its_folder_is_opened) {
+    const DosyaAgaci kok;
+    std::vector<Metin> klasorler;
+    for (std::size_t i = 0; i < Dosyalar::Onden::kEnAz; ++i) {
+        kok.Koy(SayiMetni(static_cast<int>(i)) + u"/dosya", std::to_string(i));
+        klasorler.push_back(kok.TamYol(SayiMetni(static_cast<int>(i))));
+    }
+    for (std::atomic<int>* hata : {&acmaHatasi, &okumaHatasi}) {
+        *hata = EMFILE;
+        const Dosyalar::Onden onden(kok.dosyalar, klasorler);
+        for (int i = 0; i < 2000 && kok.dosyalar.Ondekiler()->Hazir() < OndenListe::kEnCokOnde; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        *hata = 0;
+        for (std::size_t i = 0; i < OndenListe::kEnCokOnde; ++i)
+            EXPECT_EQ(kok.dosyalar.KlasorAc(klasorler[i]).Sayi(), 1U) << i;
+    }
 }
 
 TEST(PosixKlasor, Where_nobody_may_list_a_name_has_no_other_spelling) {
