@@ -149,6 +149,21 @@ TEST(OndenListe, After_a_change_from_here_all_is_listed_again) {
     }
 }
 
+TEST(OndenListe, A_change_from_here_while_a_folder_is_being_listed_has_it_listed_again) {
+    constexpr int kUzun = 2000;
+    const DosyaAgaci kok;
+    for (int i = 0; i < kUzun; ++i)
+        kok.Koy(u"uzun/" + SayiMetni(i), "");
+    for (int tur = 0; tur < 30; ++tur) {
+        const Yol ilk(ListelenenKlasor(kok.Yol(u"uzun")).adlar.GelenAd(0)); // the listing has soon passed it
+        OndenListe onden({kok.Yol(u"uzun")});
+        std::this_thread::sleep_for(std::chrono::microseconds(30 * tur));
+        std::filesystem::remove(kok.Yol(u"uzun") / ilk);
+        onden.Birak();
+        EXPECT_FALSE(AdKumesi(onden.Al(kok.Yol(u"uzun"))->adlar).contains(ilk.native())) << tur;
+    }
+}
+
 TEST(OndenListe, May_be_given_up_at_any_time_also_before_its_first_folder_and_with_none) {
     const KlasorAgaci kok;
     for (std::size_t alinan = 0; alinan < 40; ++alinan) {
