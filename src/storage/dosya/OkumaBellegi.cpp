@@ -5,8 +5,17 @@
 
 namespace velora {
 
+namespace {
+
+/// Paths come here in one form only: to compare them part by part would cost more than all the rest.
+bool Bunun(const KlasorBellegi& bellek, const std::filesystem::path& klasor) {
+    return bellek.Klasor().native() == klasor.native();
+}
+
+} // namespace
+
 std::shared_ptr<KlasorBellegi> OkumaBellegi::Al(const std::filesystem::path& klasor) {
-    const auto yer = std::ranges::find(klasorler_, klasor, [](const auto& b) { return b->Klasor(); });
+    const auto yer = std::ranges::find_if(klasorler_, [&](const auto& b) { return Bunun(*b, klasor); });
     if (yer != klasorler_.end() && yer->use_count() == 1) {
         std::rotate(yer, yer + 1, klasorler_.end());
         if (!klasorler_.back()->Izleniyor())
@@ -30,7 +39,7 @@ std::unique_ptr<sistem::Gozcu> OkumaBellegi::GozcuBul() {
 }
 
 bool OkumaBellegi::Var(const std::filesystem::path& klasor) const {
-    return std::ranges::any_of(klasorler_, [&](const auto& bellek) { return bellek->Klasor() == klasor; });
+    return std::ranges::any_of(klasorler_, [&](const auto& bellek) { return Bunun(*bellek, klasor); });
 }
 
 void OkumaBellegi::Okundu(const std::shared_ptr<KlasorBellegi>& bellek) {
@@ -46,7 +55,7 @@ void OkumaBellegi::Okundu(const std::shared_ptr<KlasorBellegi>& bellek) {
 void OkumaBellegi::Unut(const std::filesystem::path& dosya) {
     const std::filesystem::path klasor = dosya.parent_path();
     for (const auto& bellek : klasorler_)
-        if (bellek->Klasor() == klasor)
+        if (Bunun(*bellek, klasor))
             bellek->Unut(dosya.filename().native());
 }
 

@@ -101,8 +101,8 @@ OndenListe::~OndenListe() {
 std::optional<ListelenenKlasor> OndenListe::Al(const std::filesystem::path& klasor) {
     std::unique_lock tutan(ic_->kilit);
     const auto ilk = ic_->yuvalar.begin() + static_cast<std::ptrdiff_t>(ic_->sira);
-    const auto yuva =
-        std::find_if(ilk, ic_->yuvalar.end(), [&](const Ic::Yuva& y) { return y.klasor == klasor; });
+    const auto yuva = std::find_if(ilk, ic_->yuvalar.end(),
+                                   [&](const Ic::Yuva& y) { return y.klasor.native() == klasor.native(); });
     if (yuva == ic_->yuvalar.end())
         return {};
     ic_->Ilerle(static_cast<std::size_t>(yuva - ic_->yuvalar.begin()));
