@@ -28,6 +28,15 @@ constexpr std::array<MetinBakis, FormArama::kOlcutSayisi> kOlcutAdlari{u"Adı So
 
 constexpr int kSozlesmeNo = 5;
 
+/// The folders of all halls of a year, then of the next.
+std::vector<Metin> AramaKlasorleri(const Program& program, const FormTablo& tablo) {
+    std::vector<Metin> klasorler;
+    for (const Metin& yil : tablo.Sene.ogeler)
+        for (const Metin& salon : tablo.Salon.ogeler)
+            klasorler.push_back(program.agac.YilKlasoru(salon, yil));
+    return klasorler;
+}
+
 } // namespace
 
 /// A criterion as it is held against the values of thousands of files.
@@ -116,10 +125,7 @@ void FormArama::Ara() {
                      VeriAgaci::GunYolu(klasor, adlar[j])});
         }
     };
-    std::vector<Metin> klasorler; // of all halls of a year, then of the next
-    for (const Metin& sene : tablo->Sene.ogeler)
-        for (std::size_t i = 0; i < okumalar.size(); ++i)
-            klasorler.push_back(program_.agac.YilKlasoru(tablo->Salon.ogeler[i], sene));
+    const std::vector<Metin> klasorler = AramaKlasorleri(program_, *tablo);
     const Dosyalar::Onden onden(program_.dosyalar, klasorler);
     for (std::size_t i = 0; i < klasorler.size(); ++i) {
         const std::size_t salon = i % okumalar.size();
