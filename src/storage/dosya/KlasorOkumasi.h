@@ -14,9 +14,9 @@ namespace velora {
 
 class Dosyalar;
 
-/// A folder that is read: the names that stood there when it was opened, and the bytes of each file as they
-/// are when they are asked for, or were when the folder was opened. What was read before, whoever did it, and
-/// hasn't changed since comes from memory.
+/// A folder that is read: the names that stood there when it was opened, or a moment before
+/// (`Dosyalar::Onden`), and the bytes of each file as they are when they are asked for, or were when the
+/// folder was opened. What was read before, whoever did it, and hasn't changed since comes from memory.
 ///
 /// It may stand while events run, and while others read and write the same folder. What is opened by
 /// `Dosyalar` must not outlive it.
