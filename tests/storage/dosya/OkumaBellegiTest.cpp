@@ -313,8 +313,26 @@ TEST(IzlenenBellek, So_many_changes_that_the_system_loses_count_have_all_asked_a
     for (int i = 0; i < 12'000; ++i)
         for (const MetinBakis ad : {u"11", u"12"}) // equal changes in a row would count as one
             kok.YerindeYaz(ad, std::to_string(i));
-    EXPECT_EQ(kok.Oku(), 2U);
+    kok.YerindeYaz(u"13", "unseen"); // the system tells of none any more
+    EXPECT_EQ(kok.Oku(), 3U);
     EXPECT_EQ(kok.Oku(), 0U);
+}
+
+TEST(IzlenenBellek, A_folder_that_nobody_watches_any_more_is_asked_about_again) {
+    const BellekAgaci kok;
+    const std::filesystem::path yol = kok.Yol(u"salon/yıl");
+    KlasorBellegi bellek(yol);
+    bellek.Izlet(std::make_unique<sistem::Gozcu>());
+    sistem::Klasor acik(yol);
+    bellek.Tazele([&]() -> sistem::Klasor& { return acik; });
+    ASSERT_EQ(bellek.Adlar().Sayi(), 20U);
+    ASSERT_TRUE(bellek.Sakla(0, "içerik 10", {}, std::chrono::system_clock::now() + std::chrono::hours(1)));
+    std::optional<sistem::Kimlik> simdi;
+    ASSERT_EQ(bellek.Hatirla(acik, 0, simdi), "içerik 10");
+    EXPECT_EQ(bellek.Bilinen(0), "içerik 10");
+    bellek.Izlet(nullptr);
+    EXPECT_FALSE(bellek.Bilinen(0));
+    EXPECT_EQ(bellek.Hatirla(acik, 0, simdi), "içerik 10");
 }
 
 TEST(IzlenenBellek, More_folders_than_are_watched_are_all_read_right) {
