@@ -33,6 +33,7 @@ struct OndenListe::Ic {
     std::condition_variable haber;
     std::size_t sira = 0; ///< the first that may still be taken
     bool bitti = false;
+    std::chrono::milliseconds enCokYas{};
     std::thread yardimci;
 
     /// One that nobody has begun with, of the next few. Null: there is none.
@@ -77,7 +78,9 @@ struct OndenListe::Ic {
     }
 };
 
-OndenListe::OndenListe(std::vector<std::filesystem::path> klasorler) : ic_(std::make_unique<Ic>()) {
+OndenListe::OndenListe(std::vector<std::filesystem::path> klasorler, std::chrono::milliseconds enCokYas)
+    : ic_(std::make_unique<Ic>()) {
+    ic_->enCokYas = enCokYas;
     ic_->yuvalar.reserve(klasorler.size());
     for (auto& klasor : klasorler)
         ic_->yuvalar.push_back({.klasor = std::move(klasor)});
@@ -106,7 +109,7 @@ std::optional<ListelenenKlasor> OndenListe::Al(const std::filesystem::path& klas
     if (yuva == ic_->yuvalar.end())
         return {};
     ic_->Ilerle(static_cast<std::size_t>(yuva - ic_->yuvalar.begin()));
-    if (yuva->hal == Ic::Hal::Bitti && Ic::Saat::now() - yuva->an > kEnCokYas)
+    if (yuva->hal == Ic::Hal::Bitti && Ic::Saat::now() - yuva->an > ic_->enCokYas)
         yuva->hal = Ic::Hal::Bos;
     while (yuva->hal != Ic::Hal::Bitti) {
         // Rather than to wait for the other one, the next is begun with.
@@ -132,7 +135,12 @@ void OndenListe::Birak() {
 }
 
 std::size_t OndenListe::Hazir() const {
-    const std::lock_guard tutan(ic_->kilit);
+    std::unique_lock tutan(ic_->kilit);
+    ic_->haber.wait(tutan, [this] {
+        return ic_->Siradaki() == nullptr && std::ranges::none_of(ic_->yuvalar, [](const Ic::Yuva& y) {
+                   return y.hal == Ic::Hal::Suruyor;
+               });
+    });
     return static_cast<std::size_t>(
         std::ranges::count(ic_->yuvalar, true, [](const Ic::Yuva& y) { return y.liste.has_value(); }));
 }

@@ -35,7 +35,8 @@ class OndenListe {
     static constexpr std::chrono::milliseconds kEnCokYas{1000};
 
     /// Where no thread can be had, all is listed by who reads.
-    explicit OndenListe(std::vector<std::filesystem::path> klasorler);
+    explicit OndenListe(std::vector<std::filesystem::path> klasorler,
+                        std::chrono::milliseconds enCokYas = kEnCokYas);
     OndenListe(const OndenListe&) = delete;
     OndenListe& operator=(const OndenListe&) = delete;
     /// Waits for the listing that is under way.
@@ -49,7 +50,7 @@ class OndenListe {
     /// again.
     void Birak();
 
-    /// For tests: how many stand listed ahead.
+    /// For tests: how many stand listed ahead, once the thread has nothing left to do.
     std::size_t Hazir() const;
 
   private:

@@ -2,7 +2,7 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <thread>
+#include <semaphore>
 
 #include <gtest/gtest.h>
 
@@ -25,6 +25,11 @@ std::atomic<int> acmaHatasi = 0;
 std::atomic<int> okumaHatasi = 0;
 std::atomic<int> hatasizOge = 0; // so many entries come before that
 
+// The next listing stands still behind its first entry, with all the names of a short folder taken.
+std::atomic<bool> dursun = false;
+std::binary_semaphore durdu{0};
+std::binary_semaphore surdur{0};
+
 template <class Cagri>
 Cagri* Asil(const char* ad) {
     return reinterpret_cast<Cagri*>(::dlsym(RTLD_NEXT, ad));
@@ -44,8 +49,14 @@ extern "C" DIR* opendir(const char* yol) {
 
 extern "C" dirent* readdir(DIR* akis) {
     static const auto asil = Asil<dirent*(DIR*)>("readdir");
-    if (okumaHatasi == 0 || hatasizOge-- > 0)
-        return asil(akis);
+    if (okumaHatasi == 0 || hatasizOge-- > 0) {
+        dirent* const oge = asil(akis);
+        if (dursun.exchange(false)) {
+            durdu.release();
+            surdur.acquire();
+        }
+        return oge;
+    }
     errno = okumaHatasi;
     return nullptr;
 }
@@ -244,12 +255,27 @@ TEST(PosixKlasor, A_listing_ahead_that_failed_is_made_anew_when_its_folder_is_op
     for (std::atomic<int>* hata : {&acmaHatasi, &okumaHatasi}) {
         *hata = EMFILE;
         const Dosyalar::Onden onden(kok.dosyalar, klasorler);
-        for (int i = 0; i < 2000 && kok.dosyalar.Ondekiler()->Hazir() < OndenListe::kEnCokOnde; ++i)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        ASSERT_EQ(kok.dosyalar.Ondekiler()->Hazir(), OndenListe::kEnCokOnde);
         *hata = 0;
         for (std::size_t i = 0; i < OndenListe::kEnCokOnde; ++i)
             EXPECT_EQ(kok.dosyalar.KlasorAc(klasorler[i]).Sayi(), 1U) << i;
     }
+}
+
+TEST(PosixKlasor, A_change_from_here_in_the_middle_of_a_listing_ahead_has_the_folder_listed_again) {
+    const DosyaAgaci kok;
+    kok.Koy(u"k/kalan", "");
+    kok.Koy(u"k/giden", "");
+    dursun = true;
+    OndenListe onden({kok.Yol(u"k")});
+    durdu.acquire();
+    std::filesystem::remove(kok.Yol(u"k/giden"));
+    onden.Birak();
+    surdur.release();
+    const auto klasor = onden.Al(kok.Yol(u"k"));
+    ASSERT_TRUE(klasor);
+    ASSERT_EQ(klasor->adlar.Sayi(), 1U);
+    EXPECT_EQ(klasor->adlar.GelenAd(0), "kalan");
 }
 
 TEST(PosixKlasor, Where_nobody_may_list_a_name_has_no_other_spelling) {
